@@ -1,0 +1,17 @@
+# Everything that comes from outside, in one place; ./run and ./test install it.
+find_package(PkgConfig REQUIRED)
+find_package(LibXml2 REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc i18n)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg)
+find_package(Threads REQUIRED)
+
+pkg_check_modules(LIBAV REQUIRED IMPORTED_TARGET libavformat libavcodec libavutil libswscale
+                  libswresample)
+pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
+
+if(VELRA_TESTS)
+  find_package(GTest REQUIRED)
+endif()
+if(VELRA_BENCH)
+  find_package(benchmark REQUIRED)
+endif()
