@@ -1,0 +1,45 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace velra {
+
+/// The numbers that rules and traps name.
+enum ErrorNumber : int {
+  kInvalidArgument = 5,
+  kOverflow = 6,
+  kSubscriptOutOfRange = 9,
+  kDivisionByZero = 11,
+  kTypeMismatch = 13,
+  kFileNotFound = 53,
+  kFileAlreadyExists = 58,
+  kDiskFull = 61,
+  kPermissionDenied = 70,
+  kPathNotFound = 76,
+  kNoObject = 91,
+  kFormUnloaded = 364,
+  kDuplicateKey = 457,
+  kInvalidPicture = 481,
+};
+
+/// A failure that no rule expects. It is caught in one place at the top of the program, and where a
+/// rule names a trap; everywhere else it passes through.
+class RunTimeError : public std::runtime_error {
+ public:
+  RunTimeError(int number, const std::string& description);
+
+  int number() const { return number_; }
+  std::string description() const { return what(); }
+
+ private:
+  int number_;
+};
+
+/// Raises the error with its usual description.
+[[noreturn]] void raise(ErrorNumber number);
+
+/// The same, with what it is about behind the usual description.
+[[noreturn]] void raise(ErrorNumber number, const std::string& about);
+
+}  // namespace velra
