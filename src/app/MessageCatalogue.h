@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+enum class InterfaceLanguage { Default, Italian };
+
+/// The language of the interface for a locale name such as "it_IT.UTF-8": Italian for any Italian
+/// locale, the default for all others.
+InterfaceLanguage interfaceLanguage(const std::string& locale);
+
+/// The locale that the environment asks for, in the order LC_ALL, LC_MESSAGES, LANG.
+std::string environmentLocale();
+
+/// The numbered texts of the interface, ids 1000 to 1177.
+class MessageCatalogue {
+ public:
+  explicit MessageCatalogue(InterfaceLanguage language) : language_(language) {}
+
+  /// The text of an id in the language; the default text where that language has none; "" for an id
+  /// that the catalogue does not hold.
+  std::string text(int id) const;
+
+  bool holds(int id) const;
+
+ private:
+  InterfaceLanguage language_;
+};
+
+}  // namespace velra

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velra {
+
+/// True for an existing file that is no folder.
+bool bFileExists(const std::string& path);
+bool bFolderExists(const std::string& path);
+
+/// What tells one state of a file from another.
+struct FileStamp {
+  std::uint64_t size = 0;
+  std::int64_t modified = 0;  // nanoseconds
+  std::uint64_t inode = 0;
+  bool exists = false;
+
+  bool operator==(const FileStamp&) const = default;
+};
+FileStamp fileStamp(const std::string& path);
+
+/// The names in a folder that match a pattern of the form "folder/*.xml", plain files alone, sorted
+/// by their bytes. A folder that cannot be listed gives none.
+std::vector<std::string> colListFiles(const std::string& pattern, int attribute = 0);
+
+/// The bytes of a regular file, or one sentence that tells why not.
+struct FileBytes {
+  std::string bytes;
+  std::string reason;  // empty on success
+};
+/// Refuses folders, pipes and devices, empty files and files above the limit.
+FileBytes readFile(const std::string& path, std::uint64_t limit = 1'000'000'000);
+
+/// Writes a file in place, whole: room is reserved first, then one write from the start, then the
+/// rest is cut off; on any failure the old bytes and the old length are put back. Makes the file
+/// when there is none. Returns the failure's description, "" on success. What is written reaches
+/// the disk at the next syncFolder or syncFile.
+std::string writeFileInPlace(const std::string& path, std::string_view bytes);
+
+/// Asks the system to bring what was written to the disk; the failure's description or "".
+std::string syncFile(const std::string& path);
+std::string syncFolder(const std::string& folder);
+
+/// Writes a new file beside the old one and puts it in its place, so that a crash leaves one or the
+/// other. For settings, never for objects. The failure's description or "".
+std::string replaceFile(const std::string& path, std::string_view bytes);
+
+/// The failure's description, "" on success.
+std::string makeFolder(const std::string& path);
+std::string deleteFile(const std::string& path);
+
+/// Raise a run-time error on failure. Moving refuses an existing destination, copying replaces it.
+void MoveFileTo(const std::string& source, const std::string& destination);
+void CopyFileTo(const std::string& source, const std::string& destination);
+
+/// The system's folder for temporary files, with a separator at its end.
+std::string strTempPath();
+
+/// One sentence for an error number of the system.
+std::string systemReason(int error);
+
+}  // namespace velra

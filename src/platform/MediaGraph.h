@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velra {
+
+/// Pixels of one picture: rows from the top, four bytes a pixel in the order blue, green, red, 255.
+struct PictureFrame {
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint8_t> pixels;
+};
+
+/// A movie that plays: the operations that the expression tool needs and no others. Called on the
+/// window's thread; no call waits longer than a bounded open. Time 0 is the first picture of the
+/// movie. After `setCurrentPosition(t)` the picture is the last one that starts at or before t, and
+/// t is read back bit for bit.
+class MediaGraph {
+ public:
+  virtual ~MediaGraph() = default;
+
+  /// Opens the movie. "" on success, else one sentence that tells why not.
+  virtual std::string RenderFile(const std::string& path) = 0;
+
+  virtual void Run() = 0;
+  virtual void Pause() = 0;
+  virtual void Stop() = 0;
+
+  /// Seconds from the first picture to the end of the last; 0 when unknown.
+  virtual double Duration() const = 0;
+  virtual double CurrentPosition() const = 0;
+  virtual void setCurrentPosition(double seconds) = 0;
+
+  /// Seconds; 0 when unknown (a file without pictures).
+  virtual double AvgTimePerFrame() const = 0;
+  virtual int videoWidth() const = 0;
+  virtual int videoHeight() const = 0;
+
+  /// The picture that is ready now, without waiting; null before the first.
+  virtual std::shared_ptr<const PictureFrame> picture() const = 0;
+
+  /// Called from any thread when the picture changed, the end was reached or playing failed. The
+  /// receiver hands it over to the window's thread. Cleared before the graph goes.
+  enum class Notice { PictureChanged, EndReached, Failed };
+  virtual void setNotify(std::function<void(Notice)> notify) = 0;
+};
+
+/// Makes a graph over the machine's decoders and sound.
+std::unique_ptr<MediaGraph> makeMediaGraph();
+
+}  // namespace velra

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+/// The length of a movie in seconds, from its first picture to the end of its last; 0 for any
+/// failure.
+double dMovieDuration(const std::string& path);
+
+}  // namespace velra

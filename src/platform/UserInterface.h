@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace velra {
+
+/// The kinds of a message box with one button.
+enum class BoxKind { Plain, Exclamation, Critical };
+
+enum class Answer { Yes, No, Cancel };
+
+/// While an object of this kind lives, the window shows that work is going on and takes no
+/// commands.
+class BusySign {
+ public:
+  virtual ~BusySign() = default;
+};
+
+/// Boxes, dialogs and the beep: the one door through which the rules speak to the person. The
+/// windows stand behind it, or a script in tests. All calls wait for the answer.
+class UserInterface {
+ public:
+  virtual ~UserInterface() = default;
+
+  /// A box with the program's title and an OK button.
+  virtual void messageBox(const std::string& text, BoxKind kind = BoxKind::Plain) = 0;
+
+  /// A box with OK and Cancel; callers of today look at neither.
+  virtual bool askOkCancel(const std::string& text) = 0;
+
+  /// A box with Yes and No; closing it counts as No.
+  virtual bool askYesNo(const std::string& text) = 0;
+
+  /// A box with Yes, No and Cancel; closing it counts as Cancel.
+  virtual Answer askYesNoCancel(const std::string& text) = 0;
+
+  /// The text that the person typed; "" for Cancel.
+  virtual std::string inputBox(const std::string& prompt, const std::string& title,
+                               const std::string& proposed = {}) = 0;
+
+  /// The path of a file to open, as bytes; nothing for Cancel. `filter` holds pairs of a
+  /// description and a pattern list, all separated by "|", as the catalogue of commands has them.
+  virtual std::optional<std::string> openFileDialog(const std::string& title,
+                                                    const std::string& filter) = 0;
+
+  /// The path of a file to write; nothing for Cancel. Asks before an existing file is chosen.
+  virtual std::optional<std::string> saveFileDialog(const std::string& title,
+                                                    const std::string& filter,
+                                                    const std::string& proposed) = 0;
+
+  virtual void beep() = 0;
+
+  /// Shows the busy cursor until the sign is released.
+  [[nodiscard]] virtual std::unique_ptr<BusySign> showBusy() = 0;
+};
+
+}  // namespace velra

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+/// The per-user store: texts by section and key in a text file, written whole and at once.
+class UserSettings {
+ public:
+  explicit UserSettings(std::string path);
+
+  /// `$XDG_CONFIG_HOME/velra/velra.ini`, by default below `~/.config`.
+  static std::string defaultPath();
+
+  /// The text of a key, or the default when it is missing.
+  std::string read(const std::string& section, const std::string& key,
+                   const std::string& defaultText) const;
+
+  /// Sets a text. A store that cannot be written keeps what it had, without a word: losing a
+  /// window's place is no reason to disturb.
+  void write(const std::string& section, const std::string& key, const std::string& text);
+
+ private:
+  std::string path_;
+};
+
+}  // namespace velra

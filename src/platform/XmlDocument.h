@@ -1,0 +1,90 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct _xmlDoc;
+struct _xmlNode;
+struct _xmlAttr;
+
+namespace velra {
+
+struct XmlAttribute {
+  std::string nodeName;  // with its prefix
+  std::string baseName;  // without
+  std::string value;
+};
+
+/// A look at a node of an XmlDocument; valid as long as the document. An empty node answers every
+/// question with nothing, so that look-ups chain without tests.
+class XmlNode {
+ public:
+  XmlNode() = default;
+  explicit XmlNode(_xmlNode* node) : node_(node) {}
+
+  explicit operator bool() const { return node_ != nullptr; }
+
+  bool isElement() const;
+  /// Comments and processing instructions hold no text of the document, blanks never do.
+  bool isText() const;
+  bool isComment() const;
+
+  /// The name with its prefix, as the file has it.
+  std::string nodeName() const;
+  /// The name behind the last colon.
+  std::string_view baseName() const;
+  std::string_view prefix() const;
+
+  /// The text of the node and of all below it, in document order. Bounded: entity references expand
+  /// to at most 10 MB in all.
+  std::string text() const;
+
+  std::vector<XmlAttribute> attributes() const;
+  /// The value of the attribute whose whole name is the given one; "" when there is none.
+  std::string attribute(std::string_view nodeName) const;
+  bool hasAttribute(std::string_view nodeName) const;
+
+  XmlNode firstChild() const;
+  XmlNode nextSibling() const;
+  XmlNode firstElement() const;
+  XmlNode nextElement() const;
+
+ private:
+  _xmlNode* node_ = nullptr;
+};
+
+/// A parsed XML file. Text nodes of white space alone are not part of it. Files are read and parsed
+/// as docs/file-formats.md tells: no network, bounded entities, validation where there is a
+/// document type.
+class XmlDocument {
+ public:
+  XmlDocument() = default;
+  XmlDocument(XmlDocument&&) noexcept = default;
+  XmlDocument& operator=(XmlDocument&&) noexcept = default;
+  ~XmlDocument();
+
+  /// Replaces the content by the file's. On failure the document is empty and `reason` has one line
+  /// that tells why.
+  bool load(const std::string& path);
+  bool parse(std::string_view bytes, const std::string& path);
+
+  const std::string& reason() const { return reason_; }
+
+  /// Empty when nothing was loaded.
+  XmlNode documentElement() const;
+
+  /// The document with an empty root: all that stands outside the root, the root's name and its
+  /// attributes. "" for an empty document.
+  std::string shellText() const;
+
+ private:
+  struct Free {
+    void operator()(_xmlDoc* document) const;
+  };
+  std::unique_ptr<_xmlDoc, Free> document_;
+  std::string reason_;
+};
+
+}  // namespace velra

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+#include "protocol/ObjectForm.h"
+
+namespace velra {
+
+class DescribedObject;
+class Expression;
+
+/// The two trees of the main window.
+enum class TreeId { tvwMainTree, tvwExpression };
+
+/// The main window as objects and forms see it.
+class MainWindow : public FormOwner {
+ public:
+  virtual std::string strStatusBarText() const = 0;
+  virtual void setStrStatusBarText(const std::string& text) = 0;
+
+  /// Gives the object's nodes its present title.
+  virtual void UpdateNodeTitle(const DescribedObject& object) = 0;
+  /// Rebuilds a tree; the right one for the given Version, or empty.
+  virtual void ResetTree(TreeId tree, const std::shared_ptr<DescribedObject>& version) = 0;
+  /// Removes the first tree icon of that key.
+  virtual void RemoveIcon(const std::string& key) = 0;
+  /// Makes the tree icon of one video from its small picture.
+  virtual void AddSmallKeyFrame(const Expression& video) = 0;
+  virtual void UpdateSmallKeyFrames() = 0;
+};
+
+}  // namespace velra

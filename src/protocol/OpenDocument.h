@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "protocol/DescribedObject.h"
+
+namespace velra {
+
+class CloseLists;
+class DocumentSchemas;
+class ObjectRegistry;
+
+/// The open document, as all below its class see it: the registry of its objects and what they
+/// share.
+class OpenDocument : public virtual DescribedObject {
+ public:
+  /// Every registered object, in order of registration, the document itself included.
+  virtual ObjectRegistry& collObjects() = 0;
+
+  virtual CloseLists& collCloseListTypes() = 0;
+  virtual DocumentSchemas& schemas() = 0;
+
+  /// Position of the first object with an equal identifier, from 1; 0 when there is none. A
+  /// position that 16 bits cannot hold raises kOverflow: look-ups of the program's own take
+  /// `loadedObject`.
+  virtual std::int16_t iAlreadyLoaded(const std::string& guid) = 0;
+  /// The object that iAlreadyLoaded finds; null when there is none.
+  virtual ObjectRef loadedObject(const std::string& guid) = 0;
+
+  /// Takes an object out of the document and has all others forget it. Its file goes when the
+  /// document has been saved and closed. Clears the caller's reference.
+  virtual void RemoveObject(ObjectRef& removed) = 0;
+};
+
+}  // namespace velra

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "schema/FieldDeclaration.h"
+#include "values/Value.h"
+
+namespace velra {
+
+class ApplicationModule;
+class CloseLists;
+class SchemaElement;
+
+/// Told of every write to a field that it watches; an index over identifiers keeps itself true so.
+class ContentWatcher {
+ public:
+  virtual ~ContentWatcher() = default;
+  virtual void contentChanged(const SchemaElement& element) = 0;
+};
+
+/// One field of an object: what the schema says of it, its value and its flags.
+class SchemaElement {
+ public:
+  SchemaElement() = default;
+  explicit SchemaElement(std::shared_ptr<const FieldDeclaration> declaration);
+
+  bool bValid() const { return bValid_; }
+  bool bChanged() const { return bChanged_; }
+  bool bReadOnly() const { return declaration().bReadOnly; }
+  bool bIgnore() const { return declaration().bIgnore; }
+  const std::string& strComment() const { return declaration().strComment; }
+  const Value& vContent() const { return vContent_; }
+  const std::string& strName() const { return declaration().strName; }
+  const std::string& strLowerName() const { return declaration().strLowerName; }
+  const std::string& strCloseList() const { return declaration().strCloseList; }
+  velra::tyType tyType() const { return declaration().type; }
+
+  void setBValid(bool valid);
+  void setBChanged(bool changed);
+  void setBReadOnly(bool readOnly);
+  void setBIgnore(bool ignore);
+  void setStrComment(const std::string& comment);
+  void setVContent(Value content);
+  void setStrName(const std::string& name);
+  void setStrCloseList(const std::string& closeList);
+  void setTyType(velra::tyType type);
+
+  /// The type's name as the forms and the dialog of assigned fields show it.
+  std::string strType() const;
+
+  /// True for the types that a form or a text listing can show.
+  bool bIsHumanReadable() const;
+
+  /// Puts the default of the type into `vContent` and touches no flag; structural types keep what
+  /// they have. For a closed list the first item of the list in `lists`.
+  void Init(const ApplicationModule& app, const CloseLists& lists);
+
+  /// Null ends the watching. The watcher outlives the watch.
+  void watch(ContentWatcher* watcher) { watcher_ = watcher; }
+
+ private:
+  const FieldDeclaration& declaration() const;
+  FieldDeclaration& ownDeclaration();
+  void notify();
+
+  std::shared_ptr<const FieldDeclaration> declaration_;
+  Value vContent_;
+  ContentWatcher* watcher_ = nullptr;
+  bool bChanged_ = false;
+  bool bValid_ = false;
+};
+
+}  // namespace velra

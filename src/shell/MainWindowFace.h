@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "shell/MenuState.h"
+
+namespace velra {
+
+/// The pixels of the main window: what `frmMain` asks of them. It decides nothing.
+class MainWindowFace {
+ public:
+  virtual ~MainWindowFace() = default;
+
+  virtual void showStatusText(const std::string& text) = 0;
+  virtual void showMenuState(const MenuState& state) = 0;
+  /// Opens the Edit menu at the pointer, or at the current node when it came from the keyboard.
+  virtual void popUpEditMenu() = 0;
+  /// The tree icons changed: the trees paint themselves anew.
+  virtual void iconsChanged() = 0;
+  /// Closes the window, which ends the program.
+  virtual void closeWindow() = 0;
+};
+
+}  // namespace velra

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "protocol/DescribedObject.h"
+#include "protocol/MainWindow.h"
+#include "shell/MenuState.h"
+#include "shell/Tree.h"
+#include "shell/TreeIcons.h"
+
+namespace velra {
+
+class ApplicationModule;
+class AVDocument;
+class MainWindowFace;
+
+/// The mouse buttons of a press on a tree; the numbers are those of `iMainButton`.
+enum MouseButton : int { kNoButton = -1, kLeftButton = 1, kRightButton = 2 };
+
+/// The main window without its pixels: the two trees, their icons, and the commands of the menus.
+class frmMain : public MainWindow {
+ public:
+  explicit frmMain(ApplicationModule& app);
+  ~frmMain() override;
+
+  /// Set while the window exists; null without one, as in tests.
+  void setFace(MainWindowFace* face);
+
+  Tree& tree(TreeId id) { return id == TreeId::tvwMainTree ? tvwMainTree : tvwExpression; }
+  const TreeIcons& imlTreeIcons() const { return icons_; }
+  const MenuState& menuState() const { return menus_; }
+
+  // What objects and forms call.
+  std::string strStatusBarText() const override { return statusText_; }
+  void setStrStatusBarText(const std::string& text) override;
+  void UpdateNodeTitle(const DescribedObject& object) override;
+  void ResetTree(TreeId tree, const ObjectRef& version) override;
+  void RemoveIcon(const std::string& key) override;
+  void AddSmallKeyFrame(const Expression& video) override;
+  void UpdateSmallKeyFrames() override;
+
+  // The mouse and the keyboard on the trees.
+  /// A press of a button on a tree, before the click on a node that it may become.
+  void treeMouseDown(TreeId tree, MouseButton button);
+  /// A node was clicked, or became the current one by the keyboard (then as by the left button).
+  void nodeClicked(TreeId tree, TreeNode& node);
+  /// The release of the Delete key on a tree.
+  void DeleteNode(TreeId tree);
+
+  // The File menu.
+  void mnuFile_Click();
+  void ShowOpenDialog();
+  void OpenFile(const std::string& strFile);
+  void OpenDoc(const std::string& strDocGUID, bool bFileSystem);
+  void mnuFileSave();
+  void mnuFileSaveAs();
+  void mnuFileNew();
+  void ShowAVDocTitle();
+
+  // The Edit menu.
+  void ContexMenuManager(const DescribedObject& object, bool fromMainTree);
+  void mnuEditMetadata();
+  void mnuEditAttributes();
+  void mnuAddChild();
+  void AddMainExpr(const std::string& kind);
+
+  /// A click on an entry of the language menu; the numbers are those of `iLanguage`.
+  void setLanguage(std::int32_t language);
+
+  Tree tvwMainTree;    ///< the ladder of the document
+  Tree tvwExpression;  ///< the expressions of one Version
+
+ private:
+  TreeNode* selectedNode();
+  void applyMenus(const MenuState& state);
+  void AddAllSmallKeyFrames();
+  void ResetListImageExpression();
+  void BuildExprTree(const ObjectRef& version);
+  void CloseDocument(bool bNoPrompt, bool& goOn);
+  std::shared_ptr<AVDocument> NewDocument();
+  void SaveDocumentAs();
+  void MarkUnsavedMediaObjects();
+  void openWantedObject(const std::string& wanted, const std::string& failure, bool bFileSystem);
+  std::string openDocument(const std::string& path, bool bFileSystem);
+  void showOpenedDocument();
+  bool movieFits(const ObjectRef& media, const std::string& movie);
+  std::string askNewChild(const ObjectRef& parent);
+
+  ApplicationModule& app_;
+  MainWindowFace* face_ = nullptr;
+  TreeIcons icons_;
+  MenuState menus_;
+  std::string statusText_;
+  int iMainButton_ = kNoButton;
+  int iExprButton_ = kNoButton;
+  bool bFromMainTree_ = false;
+  std::shared_ptr<ObjectForm> frmAVDocForm_;
+};
+
+}  // namespace velra

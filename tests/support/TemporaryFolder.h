@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+
+#include "base/Paths.h"
+
+namespace velra::test {
+
+/// A new folder with a blank in its name, gone with everything in it at the end. The current folder
+/// is put back too.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() : before_(currentFolder()) {
+    std::string name = std::filesystem::temp_directory_path() / "velra test XXXXXX";
+    path_ = ::mkdtemp(name.data());
+  }
+  ~TemporaryFolder() {
+    changeCurrentFolder(before_);
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  const std::string& path() const { return path_; }
+  std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+  /// Writes a file, its folders included, and returns its path.
+  std::string write(const std::string& name, const std::string& bytes) const {
+    const std::filesystem::path file = path_ + "/" + name;
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << bytes;
+    return file;
+  }
+  std::string read(const std::string& name) const {
+    std::ifstream file(path_ + "/" + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  /// Every file below the folder with its bytes.
+  std::map<std::string, std::string> snapshot() const {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_)) {
+      if (!entry.is_regular_file()) continue;
+      const std::string name = std::filesystem::relative(entry.path(), path_);
+      files[name] = read(name);
+    }
+    return files;
+  }
+
+ private:
+  std::string before_;
+  std::string path_;
+};
+
+}  // namespace velra::test
