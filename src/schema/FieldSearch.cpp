@@ -1,0 +1,56 @@
+#include <string>
+
+#include "base/Arithmetic.h"
+#include "base/Text.h"
+#include "schema/SEColl.h"
+
+namespace velra {
+
+namespace {
+
+// Finds one text in many values; the text is lowered once.
+class bTextMatches {
+ public:
+  bTextMatches(const std::string& text, bool matchCase)
+      : text_(matchCase ? text : toLower(text)), matchCase_(matchCase) {}
+
+  bool operator()(const std::string& value) const {
+    // An empty text is found in every value that is not empty itself.
+    if (value.empty()) return false;
+    if (matchCase_) return value.find(text_) != std::string::npos;
+    return toLower(value).find(text_) != std::string::npos;
+  }
+
+ private:
+  std::string text_;
+  bool matchCase_;
+};
+
+long hitsIn(const SchemaElement& element, const bTextMatches& matches) {
+  long hits = 0;
+  if (element.tyType() == tyType::String) {
+    hits += matches(toText(element.vContent())) ? 1 : 0;
+  } else if (element.tyType() == tyType::SetOfStrings) {
+    if (const StringList* list = asList(element.vContent())) {
+      for (const std::string& item : *list) hits += matches(item) ? 1 : 0;
+    }
+  } else if (element.tyType() == tyType::WordList) {
+    if (const auto words = asWords(element.vContent())) {
+      for (const WordItem& word : *words) hits += matches(word.strTxt) ? 1 : 0;
+    }
+  }
+  return hits;
+}
+
+}  // namespace
+
+std::int16_t SEColl::iSearchText(const std::string& strText, bool bMatchCase) const {
+  const bTextMatches matches(strText, bMatchCase);
+  long hits = 0;
+  for (const SchemaElement& element : elements_) {
+    if (element.bValid()) hits += hitsIn(element, matches);
+  }
+  return toInt16(static_cast<double>(hits));
+}
+
+}  // namespace velra

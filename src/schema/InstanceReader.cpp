@@ -1,0 +1,131 @@
+#include "schema/InstanceReader.h"
+
+#include <optional>
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "platform/XmlDocument.h"
+#include "schema/SchemaElement.h"
+#include "schema/SchemaFile.h"
+
+namespace velra {
+
+namespace {
+
+double seconds(const std::string& milliseconds) {
+  const std::optional<double> value = toNumber(milliseconds);
+  if (!value) raise(kTypeMismatch, milliseconds);
+  return *value / 1000;
+}
+
+struct Times {
+  std::optional<double> start;
+  std::optional<double> end;
+  bool complete() const { return start && end; }
+};
+
+Times timesOf(const XmlNode& node) {
+  Times times;
+  if (node.hasAttribute("start")) times.start = seconds(node.attribute("start"));
+  if (node.hasAttribute("end")) times.end = seconds(node.attribute("end"));
+  return times;
+}
+
+void readText(const XmlNode& node, SchemaElement& element) {
+  std::string text = node.text();
+  const bool usable = !text.empty();
+  element.setVContent(std::move(text));
+  if (usable) element.setBValid(true);
+}
+
+void readDate(const XmlNode& node, SchemaElement& element) {
+  const auto date = Date::fromIsoText(node.text());
+  if (!date) return;
+  element.setVContent(*date);
+  element.setBValid(true);
+}
+
+void readBool(const XmlNode& node, SchemaElement& element) {
+  const std::string text = node.text();
+  if (text != "false" && text != "true") return;
+  element.setVContent(text == "true");
+  element.setBValid(true);
+}
+
+void readSet(const XmlNode& node, SchemaElement& element) {
+  StringList list;
+  for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
+    list.push_back(item.text());
+  }
+  const bool usable = !list.empty();
+  element.setVContent(std::move(list));
+  if (usable) element.setBValid(true);
+}
+
+void readChunk(const XmlNode& node, SchemaElement& element) {
+  auto chunk = std::make_shared<Chunk>();
+  const Times times = timesOf(node);
+  chunk->dStart = times.start.value_or(0);
+  chunk->dend = times.end.value_or(0);
+  chunk->strFile = node.text();
+  element.setVContent(std::move(chunk));
+  element.setBValid(times.complete());
+}
+
+void readWords(const XmlNode& node, SchemaElement& element) {
+  auto words = std::make_shared<WordColl>();
+  for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
+    const Times times = timesOf(item);
+    if (times.complete()) words->Add("", "", *times.start, *times.end, item.text());
+  }
+  const bool usable = !words->empty();
+  element.setVContent(std::move(words));
+  if (usable) element.setBValid(true);
+}
+
+void readValue(const XmlNode& node, SchemaElement& element) {
+  switch (element.tyType()) {
+    case tyType::String:
+      return readText(node, element);
+    case tyType::Date:
+      return readDate(node, element);
+    case tyType::Bool:
+      return readBool(node, element);
+    case tyType::SetOfStrings:
+    case tyType::SetOfGUIDs:
+      return readSet(node, element);
+    case tyType::ChunkTime:
+      return readChunk(node, element);
+    case tyType::WordList:
+      return readWords(node, element);
+    default:
+      element.setVContent(node.text());
+      element.setBValid(true);
+  }
+}
+
+void readElement(const XmlNode& node, SchemaElement& element) {
+  readValue(node, element);
+  element.setBChanged(false);
+  if (!element.bValid()) element.setVContent({});
+}
+
+}  // namespace
+
+std::string strReadInstance(const ApplicationModule& app, const XmlDocument& domDoc,
+                            const std::string& strClassName, const ClassDeclaration& declaration,
+                            std::vector<SchemaElement>& elements) {
+  const XmlNode root = domDoc.documentElement();
+  if (root.baseName() != strClassName) return strClassName + ": " + app.LoadResString(1090);
+  for (XmlNode node = root.firstElement(); node; node = node.nextElement()) {
+    const auto named = node.prefix().empty() ? declaration.offsets.find(node.baseName())
+                                             : declaration.offsets.find(node.nodeName());
+    if (named == declaration.offsets.end()) continue;
+    for (const std::size_t offset : named->second) readElement(node, elements[offset]);
+  }
+  return {};
+}
+
+}  // namespace velra

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+namespace velra {
+
+class SchemaElement;
+class XmlWriter;
+
+/// Adds one element for each assigned field to the root, in the order of the fields.
+/// kInvalidArgument for a value that XML cannot hold.
+void WriteInstance(const std::vector<SchemaElement>& elements, XmlWriter& domDoc);
+
+}  // namespace velra
