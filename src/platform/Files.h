@@ -24,7 +24,7 @@ FileStamp fileStamp(const std::string& path);
 
 /// The names in a folder that match a pattern of the form "folder/*.xml", plain files alone, sorted
 /// by their bytes. A folder that cannot be listed gives none.
-std::vector<std::string> colListFiles(const std::string& pattern, int attribute = 0);
+std::vector<std::string> colListFiles(const std::string& pattern);
 
 /// The bytes of a regular file, or one sentence that tells why not.
 struct FileBytes {
