@@ -1,0 +1,31 @@
+#include "forms/FieldValues.h"
+
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+
+namespace velra {
+
+Date toDate(const Value& value) {
+  if (const auto* date = std::get_if<Date>(&value)) return *date;
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    if (const auto date = Date::fromUserText(*text)) return *date;
+  }
+  raise(kTypeMismatch);
+}
+
+bool toBoolean(const Value& value) {
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth;
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    if (equalIgnoringAsciiCase(*text, "true")) return true;
+    if (equalIgnoringAsciiCase(*text, "false")) return false;
+  }
+  return toReal(value) != 0;
+}
+
+const StringList& toCollection(const Value& value) {
+  const StringList* list = asList(value);
+  if (!list) raise(kNoObject);
+  return *list;
+}
+
+}  // namespace velra

@@ -1,0 +1,68 @@
+#include "forms/FormCommit.h"
+
+#include <utility>
+
+#include "forms/FieldValues.h"
+#include "forms/FormFields.h"
+#include "schema/SEColl.h"
+
+namespace velra {
+
+namespace {
+
+bool differsFromNumber(const Value& stored, std::int16_t held) {
+  // True is no number that a check box can hold.
+  if (const auto* truth = std::get_if<bool>(&stored)) return *truth || held != 0;
+  if (std::holds_alternative<std::string>(stored)) return true;
+  return toReal(stored) != held;
+}
+
+StringList stringsOf(const SetOfRows& rows) {
+  StringList strings;
+  strings.reserve(static_cast<std::size_t>(rows.Count()));
+  for (std::int16_t row = 1; row <= rows.Count(); ++row) strings.push_back(rows.rowText(row));
+  return strings;
+}
+
+}  // namespace
+
+bool differs(const Value& stored, const Value& held) {
+  if (const auto* text = std::get_if<std::string>(&held)) {
+    if (isEmpty(stored)) return !text->empty();
+    const auto* storedText = std::get_if<std::string>(&stored);
+    return !storedText || *storedText != *text;
+  }
+  if (const auto* number = std::get_if<std::int16_t>(&held)) {
+    return differsFromNumber(stored, *number);
+  }
+  return stored != held;
+}
+
+void commitSet(SchemaElement& field, const StringList& strings) {
+  if (toCollection(field.vContent()) != strings) field.setBChanged(true);
+  // A field that an earlier edit has changed is made anew too.
+  if (!field.bChanged()) return;
+  field.setVContent({});
+  field.setBValid(false);
+  if (strings.empty()) return;
+  field.setBValid(true);
+  field.setVContent(strings);
+}
+
+void commitForm(const FormFields& form, SEColl& secol, SpecialFields* special,
+                std::string_view titleField, const std::function<void()>& titleChanged) {
+  for (const FieldBox& box : form.colControls()) {
+    SchemaElement& field = secol.Item(box.Tag);
+    if (field.bReadOnly() || !field.bValid()) continue;
+    if (special && special->commitField(box, field)) continue;
+    if (box.rows) {
+      commitSet(field, stringsOf(*box.rows));
+    } else if (differs(field.vContent(), box.value)) {
+      field.setBChanged(true);
+      field.setVContent(box.value);
+      if (field.strName() == titleField) titleChanged();
+    }
+  }
+}
+
+}  // namespace velra
