@@ -44,7 +44,9 @@ int reserve(const FileHandle& file, std::string_view bytes, std::size_t oldSize)
     return 0;
   }
   if (errno != EOPNOTSUPP && errno != ENOSYS) return errno;
-  return writeAt(file, bytes.substr(oldSize), oldSize);
+  const int error = writeAt(file, bytes.substr(oldSize), oldSize);
+  if (error) setLength(file, oldSize);
+  return error;
 }
 
 /// One write over the old bytes, so that the file is whole at nearly every moment: a shorter
@@ -65,7 +67,8 @@ int replaceContent(const FileHandle& file, std::string_view bytes) {
   int error = readAll(file, static_cast<std::size_t>(status.st_size), old);
   if (error) return error;
   error = reserve(file, bytes, old.size());
-  if (!error) error = overwrite(file, bytes, old.size());
+  if (error) return error;
+  error = overwrite(file, bytes, old.size());
   if (error) {
     // Putting back can fail like the write itself; there is nothing left to do then.
     writeAt(file, old, 0);

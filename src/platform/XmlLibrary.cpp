@@ -122,6 +122,7 @@ Document parseValidated(xmlParserCtxt& context, std::string_view bytes) {
   Document document = parseOnce(context, bytes, 0);
   if (!document || !document->intSubset) return document;
   document.reset();
+  static_cast<Session*>(context._private)->reason.clear();
   document = parseOnce(context, bytes, XML_PARSE_DTDVALID);
   if (document && !context.valid) document.reset();
   return document;

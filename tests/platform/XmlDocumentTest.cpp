@@ -1,0 +1,211 @@
+#include "platform/XmlDocument.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Text.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra {
+namespace {
+
+using test::TemporaryFolder;
+
+struct BadFile {
+  const char* name;
+  std::string bytes;
+  const char* reason;  // a piece of it
+};
+
+std::string nested(std::size_t levels) {
+  std::string text;
+  for (std::size_t i = 0; i < levels; ++i) text += "<a>";
+  for (std::size_t i = 0; i < levels; ++i) text += "</a>";
+  return text;
+}
+
+/// Each entity stands for ten of the one before.
+std::string laughs() {
+  std::string text = "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY l0 'ha'>";
+  for (int i = 1; i < 10; ++i) {
+    text += "<!ENTITY l" + std::to_string(i) + " '";
+    for (int k = 0; k < 10; ++k) text += "&l" + std::to_string(i - 1) + ";";
+    text += "'>";
+  }
+  return text + "]><a>&l9;</a>";
+}
+
+std::vector<BadFile> badFiles() {
+  return {
+      {"empty.xml", "", "empty"},
+      {"not-xml.xml", "film", "Line 1"},
+      {"truncated.xml", "<a>\n<b>text", "Line 2"},
+      {"mismatched-tags.xml", "<a>\n<b>\n</a>",
+       "Line 3: Opening and ending tag mismatch: b line 2"},
+      {"two-roots.xml", "<a/><b/>", "Extra content"},
+      {"attribute-twice.xml", "<a b='1' b='2'/>", "redefined"},
+      {"bare-ampersand.xml", "<a>this & that</a>", "Line 1"},
+      {"unknown-entity.xml", "<a>&e;</a>", "Entity 'e' not defined"},
+      {"zero-byte.xml", std::string("<a>x\0y</a>", 10), "Line 1"},
+      {"control-character.xml", "<a>\x01</a>", "Line 1"},
+      {"not-utf8.xml", "<a>caf\xE9</a>", "UTF-8"},
+      {"unknown-encoding.xml", "<?xml version='1.0' encoding='klingon'?><a/>", "encoding"},
+      {"too-deep.xml", nested(100'000), "depth"},
+      {"laughs.xml", laughs(), "entities expand too far"},
+      {"invalid-by-type.xml", "<!DOCTYPE a [<!ELEMENT a EMPTY>]>\n<a><b/></a>", "Line 2"},
+      {"type-elsewhere.xml", "<!DOCTYPE a SYSTEM '/etc/other.dtd'>\n<a/>", "not read"},
+      {"type-above.xml", "<!DOCTYPE a SYSTEM '../beside.dtd'>\n<a/>", "not read"},
+      {"type-in-network.xml", "<!DOCTYPE a SYSTEM 'http://localhost/beside.dtd'>\n<a/>",
+       "not read"},
+      {"type-missing.xml", "<!DOCTYPE a SYSTEM 'missing.dtd'>\n<a/>", "missing.dtd"},
+  };
+}
+
+TEST(XmlDocument, RefusesBadFilesWithOneLine) {
+  const TemporaryFolder folder;
+  folder.write("beside.dtd", "<!ELEMENT a EMPTY>");
+  for (const BadFile& bad : badFiles()) {
+    XmlDocument document;
+    EXPECT_FALSE(document.load(folder.write(bad.name, bad.bytes))) << bad.name;
+    EXPECT_NE(document.reason().find(bad.reason), std::string::npos)
+        << bad.name << ": " << document.reason();
+    EXPECT_EQ(document.reason().find('\n'), std::string::npos) << bad.name;
+    EXPECT_FALSE(document.documentElement()) << bad.name;
+    EXPECT_EQ(document.shellText(), "") << bad.name;
+    EXPECT_TRUE(document.load(folder.write("good.xml", "<a/>"))) << "after " << bad.name;
+    EXPECT_EQ(document.reason(), "");
+  }
+}
+
+TEST(XmlDocument, RefusesWhatIsNoFile) {
+  const TemporaryFolder folder;
+  XmlDocument document;
+  EXPECT_FALSE(document.load(folder / "missing.xml"));
+  EXPECT_NE(document.reason().find("No such file"), std::string::npos);
+  EXPECT_FALSE(document.load(folder.path()));
+  EXPECT_NE(document.reason().find("directory"), std::string::npos);
+  folder.write("a b.xml", "<a/>");
+  EXPECT_FALSE(document.load(folder / "a%20b.xml")) << "names are bytes";
+}
+
+TEST(XmlDocument, ReadsEncodings) {
+  const std::string e = "\xC3\xA9";
+  struct Case {
+    const char* what;
+    std::string bytes;
+  } cases[] = {
+      {"plain", "<a>" + e + "</a>"},
+      {"latin 1", "<?xml version='1.0' encoding='ISO-8859-1'?><a>\xE9</a>"},
+      {"mark against declaration",
+       "\xEF\xBB\xBF<?xml version='1.0' encoding='ISO-8859-1'?><a>" + e + "</a>"},
+      {"UTF-16", std::string("\xFF\xFE<\0a\0>\0\xE9\0<\0/\0a\0>\0", 18)},
+  };
+  for (const Case& one : cases) {
+    XmlDocument document;
+    EXPECT_TRUE(document.parse(one.bytes, "")) << one.what << ": " << document.reason();
+    EXPECT_EQ(document.documentElement().text(), e) << one.what;
+  }
+}
+
+TEST(XmlDocument, ValidatesOnlyByATypeBesideTheFile) {
+  const TemporaryFolder folder;
+  folder.write("beside.dtd", "<!ELEMENT a (#PCDATA)><!ENTITY e 'word'>");
+  XmlDocument document;
+  for (const std::string& name : {std::string("beside.dtd"), std::string("./beside.dtd"),
+                                  replaceAll(folder / "beside.dtd", " ", "%20")}) {
+    const std::string text = "<!DOCTYPE a SYSTEM \"" + name + "\"><a>one &e;</a>";
+    EXPECT_TRUE(document.load(folder.write("film.xml", text))) << document.reason();
+    EXPECT_EQ(document.documentElement().text(), "one word");
+  }
+}
+
+TEST(XmlDocument, DrawsNoOtherFileIntoItself) {
+  const TemporaryFolder folder;
+  folder.write("secret.txt", "secret");
+  XmlDocument document;
+  const std::string text =
+      "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY e SYSTEM 'secret.txt'>]><a>&e;</a>";
+  if (document.load(folder.write("film.xml", text))) {
+    EXPECT_EQ(document.documentElement().text(), "");
+  }
+}
+
+TEST(XmlDocument, BoundsTheTextOfEntities) {
+  std::string text =
+      "<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY e '" + std::string(100'000, 'x') + "'>]><a>start ";
+  for (int i = 0; i < 1000; ++i) text += "&e;";
+  XmlDocument document;
+  ASSERT_TRUE(document.parse(text + " end</a>", "")) << document.reason();
+  const std::string found = document.documentElement().text();
+  EXPECT_EQ(found.substr(0, 7), "start x");
+  EXPECT_LE(found.size(), 10'000'100U);
+}
+
+TEST(XmlDocument, DropsBlanksBetweenElementsAlone) {
+  struct Case {
+    const char* bytes;
+    const char* text;
+    int children;
+  } cases[] = {
+      {"<a>\n  <b/>\n  <c/>\n</a>", "", 2},
+      {"<a> </a>", "", 0},
+      {"<a><![CDATA[ ]]></a>", " ", 1},
+      {"<a>one <b>two</b> three</a>", "one two three", 3},
+      {"<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY e 'x'>]><a>&e; &e;</a>", "x x", 3},
+      {"<a>one<!-- no --><?no no?>two<![CDATA[ & ]]>three</a>", "onetwo & three", 6},
+  };
+  for (const Case& one : cases) {
+    XmlDocument document;
+    ASSERT_TRUE(document.parse(one.bytes, "")) << one.bytes << document.reason();
+    EXPECT_EQ(document.documentElement().text(), one.text) << one.bytes;
+    int children = 0;
+    for (XmlNode at = document.documentElement().firstChild(); at; at = at.nextSibling())
+      ++children;
+    EXPECT_EQ(children, one.children) << one.bytes;
+  }
+}
+
+TEST(XmlDocument, TellsNamesWithAndWithoutPrefix) {
+  XmlDocument document;
+  ASSERT_TRUE(document.parse("<x:a xmlns:x='urn:x' x:b='1' y:c='2' d='3'><y:e/><f/>t</x:a>", ""));
+  const XmlNode root = document.documentElement();
+  EXPECT_EQ(root.nodeName(), "x:a");
+  EXPECT_EQ(root.baseName(), "a");
+  EXPECT_EQ(root.prefix(), "x");
+  std::string seen;
+  for (const XmlAttribute& at : root.attributes()) {
+    seen += at.nodeName + "|" + at.baseName + "=" + at.value + " ";
+    EXPECT_EQ(root.attribute(at.nodeName), at.nodeName == "xmlns:x" ? "" : at.value);
+  }
+  EXPECT_EQ(seen, "xmlns:x|x=urn:x x:b|b=1 y:c|c=2 d|d=3 ");
+  EXPECT_FALSE(root.hasAttribute("b"));
+  EXPECT_EQ(root.firstElement().nodeName(), "y:e") << "nothing declares y";
+  EXPECT_EQ(root.firstElement().baseName(), "e");
+  EXPECT_EQ(root.firstElement().prefix(), "y");
+  EXPECT_EQ(root.firstElement().nextElement().nodeName(), "f");
+  EXPECT_FALSE(root.firstElement().nextElement().nextElement());
+  EXPECT_EQ(XmlNode().firstChild().nextSibling().text(), "");
+}
+
+TEST(XmlDocument, ShellHoldsAllButTheContent) {
+  struct Case {
+    const char* bytes;
+    const char* shell;
+  } cases[] = {
+      {"<a>text<b/></a>", "<a/>\n"},
+      {"<?xml version='1.0' encoding='ISO-8859-1'?><a b='1'>\xE9</a>",
+       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a b=\"1\"/>\n"},
+      {"<!-- one --><?two 2?><a xmlns='urn:a' xmlns:x='urn:x' x:y='z'><b/></a><!-- three -->",
+       "<!-- one -->\n<?two 2?>\n<a xmlns=\"urn:a\" xmlns:x=\"urn:x\" x:y=\"z\"/>\n<!-- three "
+       "-->\n"},
+  };
+  for (const Case& one : cases) {
+    XmlDocument document;
+    ASSERT_TRUE(document.parse(one.bytes, ""));
+    const std::string before = document.documentElement().text();
+    EXPECT_EQ(document.shellText(), one.shell);
+    EXPECT_EQ(document.documentElement().text(), before) << "the content is still there";
+  }
+}
+
+}  // namespace
+}  // namespace velra
