@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace velra {
+
+/// The filter of a file dialog in the toolkit's form: from pairs of a description and a list of
+/// patterns, "Films (*.avi;*.mpg)|*.avi;*.mpg|", to "Films (*.avi *.mpg)". Pairs are joined by
+/// ";;"; "*.*" means every file, with a point in its name or without.
+QString fileDialogFilter(const std::string& pairs);
+
+}  // namespace velra

@@ -1,0 +1,131 @@
+#include "widgets/QtUserInterface.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+
+#include "widgets/BusyCursor.h"
+#include "widgets/FileFilters.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/QtText.h"
+
+namespace velra {
+
+namespace {
+
+QMessageBox::Icon iconOf(BoxKind kind) {
+  switch (kind) {
+    case BoxKind::Exclamation:
+      return QMessageBox::Warning;
+    case BoxKind::Critical:
+      return QMessageBox::Critical;
+    case BoxKind::Plain:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+void nameParts(QInputDialog& dialog) {
+  static_cast<void>(dialog.sizeHint());  // makes the parts, which come late
+  dialog.setObjectName(QStringLiteral("inputBox"));
+  dialog.findChild<QLineEdit*>()->setObjectName(QStringLiteral("txtInput"));
+  dialog.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
+  nameButtons(*dialog.findChild<QDialogButtonBox*>());
+}
+
+}  // namespace
+
+void QtUserInterface::setMainWindow(QWidget* window) {
+  mainWindow_ = window;
+}
+
+QWidget* QtUserInterface::owner() const {
+  QWidget* modal = QApplication::activeModalWidget();
+  return modal ? modal : mainWindow_.data();
+}
+
+void QtUserInterface::messageBox(const std::string& text, BoxKind kind) {
+  const QuestionCursor cursor;
+  showMessageBox(owner(), iconOf(kind), toQString(text), QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool QtUserInterface::askOkCancel(const std::string& text) {
+  const QuestionCursor cursor;
+  return showMessageBox(owner(), QMessageBox::NoIcon, toQString(text),
+                        QMessageBox::Ok | QMessageBox::Cancel,
+                        QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+bool QtUserInterface::askYesNo(const std::string& text) {
+  const QuestionCursor cursor;
+  return showMessageBox(owner(), QMessageBox::Question, toQString(text),
+                        QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+Answer QtUserInterface::askYesNoCancel(const std::string& text) {
+  const QuestionCursor cursor;
+  switch (showMessageBox(owner(), QMessageBox::Question, toQString(text),
+                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                         QMessageBox::Cancel)) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    default:
+      return Answer::Cancel;
+  }
+}
+
+std::string QtUserInterface::inputBox(const std::string& prompt, const std::string& title,
+                                      const std::string& proposed) {
+  const QuestionCursor cursor;
+  QInputDialog dialog(owner());
+  dialog.setWindowTitle(toQString(title));
+  dialog.setLabelText(toQString(prompt));
+  dialog.setTextValue(toQString(proposed));
+  nameParts(dialog);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return fromQString(dialog.textValue());
+}
+
+std::optional<std::string> QtUserInterface::chosenFile(QFileDialog& dialog) {
+  const QuestionCursor cursor;
+  dialog.setObjectName(QStringLiteral("dlgCommonDialog"));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  const QString file = dialog.selectedFiles().constFirst();
+  folder_ = QFileInfo(file).absolutePath();
+  return pathFromQString(file);
+}
+
+std::optional<std::string> QtUserInterface::openFileDialog(const std::string& title,
+                                                           const std::string& filter) {
+  QFileDialog dialog(owner(), toQString(title), folder_, fileDialogFilter(filter));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return chosenFile(dialog);
+}
+
+std::optional<std::string> QtUserInterface::saveFileDialog(const std::string& title,
+                                                           const std::string& filter,
+                                                           const std::string& proposed) {
+  const QFileInfo wanted(pathToQString(proposed));
+  QFileDialog dialog(owner(), toQString(title), wanted.absolutePath(), fileDialogFilter(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("xml"));
+  dialog.selectFile(wanted.fileName());
+  return chosenFile(dialog);
+}
+
+void QtUserInterface::beep() {
+  QApplication::beep();
+}
+
+std::unique_ptr<BusySign> QtUserInterface::showBusy() {
+  return std::make_unique<BusyCursor>();
+}
+
+}  // namespace velra
