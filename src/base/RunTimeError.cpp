@@ -16,6 +16,8 @@ const char* usualDescription(ErrorNumber number) {
       return "Division by zero";
     case kTypeMismatch:
       return "A value is of the wrong type";
+    case kOutOfStack:
+      return "The objects are nested too deep";
     case kFileNotFound:
       return "File not found";
     case kFileAlreadyExists:

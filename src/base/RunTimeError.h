@@ -12,6 +12,7 @@ enum ErrorNumber : int {
   kSubscriptOutOfRange = 9,
   kDivisionByZero = 11,
   kTypeMismatch = 13,
+  kOutOfStack = 28,
   kFileNotFound = 53,
   kFileAlreadyExists = 58,
   kDiskFull = 61,

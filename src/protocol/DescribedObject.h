@@ -17,6 +17,24 @@ class DescribedObject;
 using ObjectRef = std::shared_ptr<DescribedObject>;
 using ObjectList = std::vector<ObjectRef>;
 
+/// Told when an object's identifier may have changed; the registry of the document stands behind
+/// it.
+class IdentifierListener {
+ public:
+  virtual ~IdentifierListener() = default;
+  virtual void identifierChanged(const DescribedObject& object) = 0;
+};
+
+/// Takes the references that an object holds.
+class ReferenceVisitor {
+ public:
+  virtual ~ReferenceVisitor() = default;
+  /// An identifier in one of its fields.
+  virtual void identifier(const std::string& guid) = 0;
+  /// An object that it holds below or beside itself.
+  virtual void object(const DescribedObject& object) = 0;
+};
+
 /// What all described objects share. Classes are told apart by `className`. A `MediaObject` takes
 /// part for a file that is no object file; members that it does not have answer with nothing.
 class DescribedObject : public std::enable_shared_from_this<DescribedObject> {
@@ -66,8 +84,16 @@ class DescribedObject : public std::enable_shared_from_this<DescribedObject> {
   virtual void RenameAllRelativesGUID(const std::string& oldGUID, const std::string& newGUID) = 0;
   /// Forgets another object.
   virtual void RemoveReferenceObj(DescribedObject& removed) = 0;
-  /// True when this object must wait in an ordered save.
+  /// True when this object must wait in an ordered save: one of those that it waits for has
+  /// changed.
   virtual bool bReferedStillToBeSaved() const = 0;
+  virtual ObjectList waitsFor() const = 0;
+
+  /// All that RenameAllRelativesGUID and RemoveReferenceObj would look at.
+  virtual void visitReferences(ReferenceVisitor& visitor) const = 0;
+
+  /// Null ends the listening.
+  virtual void setIdentifierListener(IdentifierListener* listener) = 0;
 
   /// This object and everything below it, children first. Empty when the object cannot list what is
   /// below it; else the object itself is the last.

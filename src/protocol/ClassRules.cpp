@@ -1,0 +1,37 @@
+#include "protocol/ClassRules.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velra {
+
+namespace {
+
+const std::array<ClassRules, 7>& table() {
+  static const std::array<ClassRules, 7> kTable{{
+      {"AVDocument", "AVDocGUID", "Title", "expressedby", "Version", "", ""},
+      {"Version", "VersionGUID", "VersionTitle", "manifestedby", "Media", "", ""},
+      {"Media", "MediaGUID", "Format", "availableas", "Storage", "", ""},
+      {"Storage", "StorageGUID", "Collocation", "", "", "", ""},
+      {"Video", "VideoGUID", "Title", "", "", "partofvideo", "followedbyvideo"},
+      {"Audio", "AudioGUID", "Title", "", "", "partofaudio", "followedbyaudio"},
+      {"Transcript", "TranscriptGUID", "Title", "", "", "partoftranscript", "followedbytranscript"},
+  }};
+  return kTable;
+}
+
+}  // namespace
+
+const ClassRules* findClassRules(std::string_view className) {
+  const auto at = std::find_if(table().begin(), table().end(), [&](const ClassRules& rules) {
+    return rules.className == className;
+  });
+  return at == table().end() ? nullptr : &*at;
+}
+
+bool isExpressionClass(std::string_view className) {
+  const ClassRules* rules = findClassRules(className);
+  return rules && !rules->partOfField.empty();
+}
+
+}  // namespace velra

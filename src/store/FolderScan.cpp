@@ -1,0 +1,160 @@
+#include "store/FolderScan.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "platform/XmlDocument.h"
+#include "protocol/ClassRules.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SchemaFile.h"
+
+namespace velra {
+
+namespace {
+
+std::string relationKey(FolderScan::Relation relation, const std::string& className,
+                        const std::string& path) {
+  return (relation == FolderScan::Relation::Own ? "own|" : "part|") + className + "|" + path;
+}
+
+// The text of a relation field, assigned or not; "" for a field that holds no text.
+std::string relationText(const SEColl& secol, std::string_view lowerName) {
+  const SchemaElement* field = secol.relationField(lowerName);
+  const auto* text = field ? std::get_if<std::string>(&field->vContent()) : nullptr;
+  return text ? *text : std::string();
+}
+
+void noteRelations(const SEColl& secol, const ClassRules& rules, ScannedFile& file) {
+  file.ownRelatives.clear();
+  if (!rules.relationField.empty()) {
+    const SchemaElement* field = secol.relationField(rules.relationField);
+    const StringList* list = field && field->bValid() ? asList(field->vContent()) : nullptr;
+    for (const std::string& guid : list ? *list : StringList{}) {
+      file.ownRelatives.push_back(strAbsolutePath(guid));
+    }
+  }
+  if (rules.partOfField.empty()) return;
+  const std::string version = relationText(secol, kVersionGuidField);
+  if (!version.empty()) file.ownRelatives.push_back(strAbsolutePath(version));
+  const std::string parent = relationText(secol, rules.partOfField);
+  file.partOf = parent.empty() ? std::string() : strAbsolutePath(parent);
+}
+
+void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocument& parsed,
+                const ClassRules& rules, ScannedFile& file) {
+  LoadedFields fields;
+  fields.secol = std::make_unique<SEColl>(app, document.schemas(), document.collCloseListTypes());
+  try {
+    file.message =
+        fields.secol->strLoadParsed(fields.domDoc, parsed, fields.domSchema, rules.className);
+  } catch (const RunTimeError& error) {
+    // It is due when an object is made of the file, if that ever happens.
+    file.error = error;
+    return;
+  }
+  if (!file.message.empty()) return;
+  noteRelations(*fields.secol, rules, file);
+  file.fields = std::move(fields);
+}
+
+}  // namespace
+
+void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
+  std::vector<ScannedFile> before = std::exchange(files_, {});
+  for (std::string& name : colListFiles(folder_ + "*.xml")) {
+    ScannedFile file;
+    file.name = std::move(name);
+    files_.push_back(std::move(file));
+  }
+  takeOver(before);
+  for (ScannedFile& file : files_) {
+    const ObjectRef loaded = document.loadedObject(folder_ + file.name);
+    if (!loaded) {
+      read(app, document, file);
+      continue;
+    }
+    file = ScannedFile{file.name, {}, true, loaded->className(), {}, {}, {}, {}, {}, {}};
+    const ClassRules* rules = findClassRules(loaded->className());
+    if (rules) noteRelations(loaded->secol(), *rules, file);
+  }
+  index();
+}
+
+void FolderScan::takeOver(std::vector<ScannedFile>& before) {
+  std::unordered_map<std::string_view, ScannedFile*> known;
+  for (ScannedFile& file : before) known.emplace(file.name, &file);
+  for (ScannedFile& file : files_) {
+    const auto at = known.find(file.name);
+    if (at != known.end()) file = std::move(*at->second);
+  }
+}
+
+void FolderScan::read(ApplicationModule& app, OpenDocument& document, ScannedFile& file) {
+  const std::string path = folder_ + file.name;
+  const FileStamp stamp = fileStamp(path);
+  if (file.known && file.stamp == stamp && stamp.exists) return;
+  ScannedFile fresh;
+  fresh.name = std::move(file.name);
+  fresh.stamp = stamp;
+  fresh.known = true;
+  XmlDocument parsed;
+  if (parsed.load(path)) {
+    fresh.className = parsed.documentElement().baseName();
+    const ClassRules* rules = findClassRules(fresh.className);
+    if (rules) readFields(app, document, parsed, *rules, fresh);
+  } else {
+    fresh.reason = parsed.reason();
+  }
+  file = std::move(fresh);
+}
+
+void FolderScan::index() {
+  byName_.clear();
+  byRelation_.clear();
+  unreadable_.clear();
+  for (std::size_t i = 0; i < files_.size(); ++i) {
+    const ScannedFile& file = files_[i];
+    byName_.emplace(file.name, i);
+    if (!file.readable()) unreadable_.push_back(i);
+    for (const std::string& path : file.ownRelatives) {
+      byRelation_[relationKey(Relation::Own, file.className, path)].push_back(i);
+    }
+    if (!file.partOf.empty()) {
+      byRelation_[relationKey(Relation::PartOf, file.className, file.partOf)].push_back(i);
+    }
+  }
+}
+
+std::vector<std::size_t> FolderScan::relevant(Relation relation,
+                                              const std::vector<std::string>& classes,
+                                              const std::string& guid) const {
+  std::vector<std::size_t> offsets = unreadable_;
+  const std::string path = strAbsolutePath(guid);
+  for (const std::string& className : classes) {
+    const auto found = byRelation_.find(relationKey(relation, className, path));
+    if (found == byRelation_.end()) continue;
+    offsets.insert(offsets.end(), found->second.begin(), found->second.end());
+  }
+  std::sort(offsets.begin(), offsets.end());
+  offsets.erase(std::unique(offsets.begin(), offsets.end()), offsets.end());
+  return offsets;
+}
+
+std::optional<LoadedFields> FolderScan::takeFields(const std::string& name,
+                                                   const std::string& className) {
+  const auto at = byName_.find(name);
+  if (at == byName_.end()) return std::nullopt;
+  ScannedFile& file = files_[at->second];
+  if (file.className != className || !file.fields) return std::nullopt;
+  file.known = false;  // its object answers from now on; without one it is read again
+  return std::exchange(file.fields, std::nullopt);
+}
+
+void FolderScan::endOpening() {
+  for (ScannedFile& file : files_) file.fields.reset();
+  byRelation_.clear();
+}
+
+}  // namespace velra

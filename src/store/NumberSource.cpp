@@ -1,0 +1,90 @@
+#include "store/NumberSource.h"
+
+#include <charconv>
+#include <utility>
+
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "platform/Files.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kHighestNumber = 32767;
+
+// The number between prefix and suffix of a path; 0 when there is none.
+int numberIn(const std::string& key, const std::string& prefix, const std::string& suffix) {
+  if (key.size() <= prefix.size() + suffix.size()) return 0;
+  if (!key.starts_with(prefix) || !key.ends_with(suffix)) return 0;
+  const char* first = key.data() + prefix.size();
+  const char* last = key.data() + key.size() - suffix.size();
+  int number = 0;
+  const auto [end, error] = std::from_chars(first, last, number);
+  return error == std::errc() && end == last && *first != '0' ? number : 0;
+}
+
+}  // namespace
+
+NumberSource::Listing::Listing(NumberSource& numbers, const std::string& folder)
+    : numbers_(numbers) {
+  numbers_.families_.clear();
+  numbers_.listedFolder_ = withSeparator(strAbsolutePath(folder));
+  for (const std::string& name : colListFiles(numbers_.listedFolder_ + "*")) {
+    numbers_.listedNames_.insert(name);
+  }
+}
+
+NumberSource::Listing::~Listing() {
+  numbers_.families_.clear();
+  numbers_.listedFolder_.clear();
+  numbers_.listedNames_.clear();
+}
+
+bool NumberSource::fileTaken(const std::string& path) const {
+  if (!listedFolder_.empty() && path.starts_with(listedFolder_)) {
+    return listedNames_.contains(path.substr(listedFolder_.size()));
+  }
+  return bFileExists(path);
+}
+
+std::string NumberSource::takeFromGaps(ObjectRegistry& objects, Family& family,
+                                       const std::string& prefix, const std::string& suffix) {
+  for (auto gap = family.gaps.begin(); gap != family.gaps.end();) {
+    std::string path = prefix + std::to_string(*gap) + suffix;
+    if (objects.find(path)) {
+      gap = family.gaps.erase(gap);
+    } else if (fileTaken(path)) {
+      // Within a listing files neither come nor go, so the gap is closed for good.
+      gap = listedFolder_.empty() ? std::next(gap) : family.gaps.erase(gap);
+    } else {
+      return path;
+    }
+  }
+  return {};
+}
+
+std::string NumberSource::take(ObjectRegistry& objects, const std::string& prefix,
+                               const std::string& suffix) {
+  Family& family = families_[{prefix, suffix}];
+  if (family.key.empty()) family.key = strAbsolutePath(prefix);
+  std::string path = takeFromGaps(objects, family, prefix, suffix);
+  if (!path.empty()) return path;
+  for (; family.frontier <= kHighestNumber; ++family.frontier) {
+    path = prefix + std::to_string(family.frontier) + suffix;
+    if (objects.find(path)) continue;
+    if (!fileTaken(path)) return path;
+    if (listedFolder_.empty()) family.gaps.insert(family.frontier);
+  }
+  raise(kOverflow);
+}
+
+void NumberSource::freed(const std::string& key) {
+  for (auto& [name, family] : families_) {
+    const int number = numberIn(key, family.key, name.second);
+    if (number > 0 && number < family.frontier) family.gaps.insert(number);
+  }
+}
+
+}  // namespace velra

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+/// What a search found: the class of an object and its identifier.
+struct ObjRecord {
+  std::string strType;
+  std::string strGUID;
+};
+
+}  // namespace velra

@@ -1,0 +1,132 @@
+#include "store/ObjectRegistry.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+
+namespace velra {
+
+ObjectRegistry::~ObjectRegistry() {
+  clear();
+}
+
+void ObjectRegistry::Add(const ObjectRef& object) {
+  rekeyAfterFolderChange();
+  if (places_.contains(object.get())) return;
+  const Place place{next_++, strAbsolutePath(object->strGUID())};
+  objects_.emplace_hint(objects_.end(), place.number, object);
+  byKey_.emplace(place.key, place.number);
+  places_.emplace(object.get(), place);
+  object->setIdentifierListener(this);
+}
+
+bool ObjectRegistry::Remove(const DescribedObject& object) {
+  const auto at = places_.find(&object);
+  if (at == places_.end()) return false;
+  const Place place = at->second;
+  places_.erase(at);
+  unindex(place);
+  const auto entry = objects_.find(place.number);
+  const ObjectRef kept = entry->second;  // its end must not meet a half-changed list
+  objects_.erase(entry);
+  kept->setIdentifierListener(nullptr);
+  tellFreed(place.key);
+  return true;
+}
+
+ObjectRef ObjectRegistry::Item(std::size_t position) const {
+  if (position < 1 || position > objects_.size()) raise(kSubscriptOutOfRange);
+  return std::next(objects_.begin(), static_cast<std::ptrdiff_t>(position) - 1)->second;
+}
+
+ObjectList ObjectRegistry::all() const {
+  ObjectList list;
+  list.reserve(objects_.size());
+  for (const auto& [number, object] : objects_) list.push_back(object);
+  return list;
+}
+
+const ObjectRef* ObjectRegistry::firstWithKey(const std::string& key, std::uint64_t& number) const {
+  const auto [first, last] = byKey_.equal_range(key);
+  if (first == last) return nullptr;
+  number = first->second;
+  for (auto at = first; at != last; ++at) number = std::min(number, at->second);
+  return &objects_.at(number);
+}
+
+ObjectRef ObjectRegistry::find(const std::string& guid) {
+  rekeyAfterFolderChange();
+  std::uint64_t number = 0;
+  const ObjectRef* found = firstWithKey(strAbsolutePath(guid), number);
+  return found ? *found : nullptr;
+}
+
+std::size_t ObjectRegistry::positionOf(const std::string& guid) {
+  rekeyAfterFolderChange();
+  std::uint64_t number = 0;
+  if (!firstWithKey(strAbsolutePath(guid), number)) return 0;
+  const auto entry = objects_.find(number);
+  return static_cast<std::size_t>(std::distance(objects_.begin(), entry)) + 1;
+}
+
+void ObjectRegistry::identifierChanged(const DescribedObject& object) {
+  const auto at = places_.find(&object);
+  if (at == places_.end()) return;
+  std::string key = strAbsolutePath(object.strGUID());
+  if (key == at->second.key) return;
+  unindex(at->second);
+  byKey_.emplace(key, at->second.number);
+  const std::string old = std::exchange(at->second.key, std::move(key));
+  tellFreed(old);
+}
+
+void ObjectRegistry::tellFreed(const std::string& key) const {
+  if (freedListener_) freedListener_(key);
+}
+
+void ObjectRegistry::unindex(const Place& place) {
+  const auto [first, last] = byKey_.equal_range(place.key);
+  for (auto at = first; at != last; ++at) {
+    if (at->second != place.number) continue;
+    byKey_.erase(at);
+    return;
+  }
+}
+
+void ObjectRegistry::rekeyAfterFolderChange() {
+  if (folderGeneration_ == currentFolderGeneration()) return;
+  folderGeneration_ = currentFolderGeneration();
+  byKey_.clear();
+  for (auto& [object, place] : places_) {
+    place.key = strAbsolutePath(object->strGUID());
+    byKey_.emplace(place.key, place.number);
+  }
+}
+
+void ObjectRegistry::clear() {
+  for (const auto& [number, object] : objects_) object->setIdentifierListener(nullptr);
+  places_.clear();
+  byKey_.clear();
+  // An object may take others with it, and none of them may meet a list in the middle of its end.
+  Sequence gone;
+  gone.swap(objects_);
+}
+
+bool ObjectRegistry::checkConsistency() const {
+  if (places_.size() != objects_.size() || byKey_.size() != objects_.size()) return false;
+  for (const auto& [number, object] : objects_) {
+    const auto place = places_.find(object.get());
+    if (place == places_.end() || place->second.number != number) return false;
+    const bool fresh = folderGeneration_ == currentFolderGeneration();
+    if (fresh && place->second.key != strAbsolutePath(object->strGUID())) return false;
+    const auto [first, last] = byKey_.equal_range(place->second.key);
+    bool indexed = false;
+    for (auto at = first; at != last; ++at) indexed = indexed || at->second == number;
+    if (!indexed) return false;
+  }
+  return true;
+}
+
+}  // namespace velra

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <unordered_map>
+#include <utility>
+
+#include "protocol/DescribedObject.h"
+
+namespace velra {
+
+/// The objects of a document in the order of their registration, found by identifier at once:
+/// beside each stands the normal form of its path. The answers are those of a walk over all objects
+/// that makes two paths absolute for each comparison.
+class ObjectRegistry : private IdentifierListener {
+ public:
+  using Sequence = std::map<std::uint64_t, ObjectRef>;
+
+  ObjectRegistry() = default;
+  ObjectRegistry(const ObjectRegistry&) = delete;
+  ObjectRegistry& operator=(const ObjectRegistry&) = delete;
+  ~ObjectRegistry() override;
+
+  /// Appends an object; one that is there already stays where it is.
+  void Add(const ObjectRef& object);
+
+  /// Takes an object out, by identity; false when it is not there.
+  bool Remove(const DescribedObject& object);
+
+  std::size_t Count() const { return objects_.size(); }
+
+  /// By position from 1; kSubscriptOutOfRange. A walk: the program's own ways take the object.
+  ObjectRef Item(std::size_t position) const;
+
+  /// A copy of the list, for walks that may change it.
+  ObjectList all() const;
+
+  /// In order of registration, each with a number that grows along it.
+  const Sequence& sequence() const { return objects_; }
+
+  /// The first object whose identifier is the same path; null when there is none.
+  ObjectRef find(const std::string& guid);
+
+  /// Its position from 1; 0 when there is none.
+  std::size_t positionOf(const std::string& guid);
+
+  /// Called with the normal form of every identifier that goes out of use.
+  void setFreedListener(std::function<void(const std::string&)> listener) {
+    freedListener_ = std::move(listener);
+  }
+
+  void clear();
+
+  /// True when the index gives what the objects say of themselves; for tests.
+  bool checkConsistency() const;
+
+ private:
+  struct Place {
+    std::uint64_t number = 0;
+    std::string key;  // normal form of the identifier
+  };
+
+  void identifierChanged(const DescribedObject& object) override;
+  void rekeyAfterFolderChange();
+  void unindex(const Place& place);
+  void tellFreed(const std::string& key) const;
+  const ObjectRef* firstWithKey(const std::string& key, std::uint64_t& number) const;
+
+  Sequence objects_;
+  std::unordered_map<const DescribedObject*, Place> places_;
+  std::unordered_multimap<std::string, std::uint64_t> byKey_;
+  std::uint64_t next_ = 1;
+  std::function<void(const std::string&)> freedListener_;
+  unsigned folderGeneration_ = 0;
+};
+
+}  // namespace velra
