@@ -55,9 +55,9 @@ class ApplicationModule {
   /// Says once for each name, until a document is opened or created, that it was not found.
   void WarnNotFoundOnce(const std::string& name);
 
-  /// Reads a value of the machine-wide store: text as it stands up to its first zero character, a
-  /// 32-bit number as decimal text. False with an empty text when it is absent; true with the text
-  /// left alone for any other kind of value.
+  /// Reads a value of the machine-wide store: text as it stands, at most 1024 bytes of it and up to
+  /// its first zero character, a 32-bit number as decimal text. False with an empty text when it is
+  /// absent; true with the text left alone for any other kind of value.
   bool bRegRead(std::string_view subKey, std::string_view name, std::string& text) const;
 
   /// Writes a text; a store that cannot be written is left without a word.
@@ -67,7 +67,8 @@ class ApplicationModule {
   std::string strThematicKeywordsPath() const;
 
   /// True when all four values are there and the port is numeric; else what could be read is in
-  /// `settings` and the rest is as it was.
+  /// `settings`, a missing text is "", and the port is as it was. kOverflow for a port that does
+  /// not fit into 16 bits.
   bool bReadConnectionSettings(ConnectionSettings& settings) const;
   void WriteConnectionSettings(const ConnectionSettings& settings);
 };

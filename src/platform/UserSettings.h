@@ -2,9 +2,12 @@
 
 #include <string>
 
+#include "platform/SettingsFile.h"
+
 namespace velra {
 
-/// The per-user store: texts by section and key in a text file, written whole and at once.
+/// The per-user store: texts by section and key in a text file, written whole and at once. The
+/// folders above it are made when something is first written.
 class UserSettings {
  public:
   explicit UserSettings(std::string path);
@@ -22,6 +25,7 @@ class UserSettings {
 
  private:
   std::string path_;
+  mutable SettingsFile file_;  // reads the file again when it has changed
 };
 
 }  // namespace velra

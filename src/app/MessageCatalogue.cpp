@@ -1,0 +1,45 @@
+#include "app/MessageCatalogue.h"
+
+#include <cstdlib>
+
+#include "app/MessageTable.h"
+#include "base/Text.h"
+
+namespace velra {
+namespace {
+
+const Message* findMessage(int id) {
+  const auto rows = id < 1100 ? messagesFrom1000() : messagesFrom1100();
+  const int position = id - rows.front().id;
+  if (position < 0 || position >= static_cast<int>(rows.size())) return nullptr;
+  return &rows[static_cast<std::size_t>(position)];
+}
+
+}  // namespace
+
+InterfaceLanguage interfaceLanguage(const std::string& locale) {
+  const std::string language = asciiLower(locale.substr(0, locale.find_first_of("_-.@")));
+  return language == "it" || language == "ita" ? InterfaceLanguage::Italian
+                                               : InterfaceLanguage::Default;
+}
+
+std::string environmentLocale() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(name);
+    if (value && *value) return value;
+  }
+  return {};
+}
+
+std::string MessageCatalogue::text(int id) const {
+  const Message* message = findMessage(id);
+  if (!message) return {};
+  const bool italian = language_ == InterfaceLanguage::Italian && message->italian;
+  return italian ? message->italian : message->text;
+}
+
+bool MessageCatalogue::holds(int id) const {
+  return findMessage(id) != nullptr;
+}
+
+}  // namespace velra
