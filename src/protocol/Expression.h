@@ -61,10 +61,15 @@ class Expression : public virtual DescribedObject {
   /// What a Video alone has. The other classes answer with 0 or an empty picture and ignore writes.
   virtual double dFrameRate() const = 0;
   virtual void setDFrameRate(double framesPerSecond) = 0;
+  /// The key-frame picture as an object of the document; null when there is none.
+  virtual ObjectRef objKeyframeObject() const = 0;
   virtual Picture picKeyFrame() const = 0;
   virtual Picture picKeyFrameSmall() const = 0;
   virtual double dGetKeyFrameTime() const = 0;
   virtual void SetKeyFrameTime(double seconds) = 0;
+  /// Brings the key-frame picture to its new place: a picture that no saved object points at yet is
+  /// moved, another one copied.
+  virtual void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to) = 0;
 };
 
 }  // namespace velra

@@ -31,6 +31,8 @@ class OpenDocument : public virtual DescribedObject {
   /// Takes an object out of the document and has all others forget it. Its file goes when the
   /// document has been saved and closed. Clears the caller's reference.
   virtual void RemoveObject(ObjectRef& removed) = 0;
+  /// The same for many, in order.
+  virtual void RemoveObjects(const ObjectList& removed) = 0;
 };
 
 }  // namespace velra

@@ -56,6 +56,13 @@ void SchemaElement::setVContent(Value content) {
   notify();
 }
 
+void SchemaElement::changeList(const std::function<void(StringList&)>& change) {
+  StringList* list = asList(vContent_);
+  if (!list) return;
+  change(*list);
+  notify();
+}
+
 void SchemaElement::setBReadOnly(bool readOnly) {
   ownDeclaration().bReadOnly = readOnly;
 }

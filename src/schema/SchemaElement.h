@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -42,6 +43,8 @@ class SchemaElement {
   void setBIgnore(bool ignore);
   void setStrComment(const std::string& comment);
   void setVContent(Value content);
+  /// Changes the set in the field where it stands; nothing happens when it holds none.
+  void changeList(const std::function<void(StringList&)>& change);
   void setStrName(const std::string& name);
   void setStrCloseList(const std::string& closeList);
   void setTyType(velra::tyType type);
@@ -56,8 +59,12 @@ class SchemaElement {
   /// they have. For a closed list the first item of the list in `lists`.
   void Init(const ApplicationModule& app, const CloseLists& lists);
 
-  /// Null ends the watching. The watcher outlives the watch.
+  /// The watcher outlives the watch, or ends it.
   void watch(ContentWatcher* watcher) { watcher_ = watcher; }
+  /// Ends the watch if it is the given watcher's.
+  void stopWatching(const ContentWatcher* watcher) {
+    if (watcher_ == watcher) watcher_ = nullptr;
+  }
 
  private:
   const FieldDeclaration& declaration() const;

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "objects/LadderObject.h"
+#include "protocol/OpenDocument.h"
+#include "schema/CloseList.h"
+#include "schema/SchemaFile.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+/// The open document: the top of the ladder, the registry of every object that was loaded for it,
+/// and what drives opening and saving.
+class AVDocument : public LadderObject, public OpenDocument {
+ public:
+  explicit AVDocument(ApplicationModule& app);
+  ~AVDocument() override;
+
+  ObjectRegistry& collObjects() override { return collObjects_; }
+  CloseLists& collCloseListTypes() override { return collCloseListTypes_; }
+  DocumentSchemas& schemas() override { return schemas_; }
+  std::int16_t iAlreadyLoaded(const std::string& guid) override;
+  ObjectRef loadedObject(const std::string& guid) override { return collObjects_.find(guid); }
+
+  std::string strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
+                      const std::shared_ptr<IOManager>& io) override;
+
+  /// Saves what has changed, the document last. False after a box that tells of the failure.
+  bool bSave() override;
+
+  /// Saves everything under a new path: every object gets a new identifier in the new data folder
+  /// and every reference to it follows. The document is to be closed and opened anew afterwards.
+  bool bSaveAs(const std::string& strAVDocPathName);
+
+  /// Shows the form of the first object with the identifier; none found: nothing.
+  void ShowObjectForm(const std::string& guid, FormOwner& owner);
+
+  /// A run-time error of the form's load is shown in a box and the program goes on; a form that
+  /// closed itself while loading has said why.
+  void ShowForm(FormOwner& owner) override;
+
+  void RemoveObject(ObjectRef& removed) override;
+  void RemoveObjects(const ObjectList& removed) override;
+
+  /// Identifiers of the files of objects that were removed since the document was opened.
+  const std::vector<std::string>& colObjRemoved() const { return colObjRemoved_; }
+
+ protected:
+  OpenDocument& document() const override;
+  void registerSelf() override;
+  void initFields() override;
+  void adopt(DescribedObject& child) override;
+
+ private:
+  bool bSaveAllObjects();
+  bool bRenamedAndSaved(const std::string& strAVDocPathName);
+  bool bSaveAllObjectsAs(const std::string& strAVDocPathName);
+  void noteRemoved(const ObjectRef& removed);
+  void markRemovedFiles();
+
+  CloseLists collCloseListTypes_;
+  DocumentSchemas schemas_;
+  std::vector<std::string> colObjRemoved_;
+  ObjectRegistry collObjects_;  // last: its objects go first
+};
+
+}  // namespace velra

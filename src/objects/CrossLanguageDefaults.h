@@ -1,0 +1,12 @@
+#pragma once
+
+namespace velra {
+
+class ApplicationModule;
+class SEColl;
+
+/// Gives the thematic fields of a new document the first entries of the vocabulary. Without a
+/// vocabulary kNoObject, with an empty one kSubscriptOutOfRange.
+void InitCrossLanguageFields(const ApplicationModule& app, SEColl& fields);
+
+}  // namespace velra

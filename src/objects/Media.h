@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_set>
+
+#include "objects/LadderObject.h"
+
+namespace velra {
+
+class Version;
+
+/// A manifestation of a Version, in practice one format.
+class Media : public LadderObject {
+ public:
+  explicit Media(ApplicationModule& app);
+  ~Media() override;
+
+  std::shared_ptr<Version> objParent() const { return objParent_.lock(); }
+  void setObjParent(const std::shared_ptr<Version>& parent) { objParent_ = parent; }
+
+ protected:
+  std::string openChild(const ObjectRef& child, const std::string& guid,
+                        const std::shared_ptr<ObjectForm>& form) override;
+  void adopt(DescribedObject& child) override;
+  /// Two Storages with one Collocation cannot be opened in one Media: kDuplicateKey.
+  void attach(const ObjectRef& child) override;
+
+ private:
+  std::weak_ptr<Version> objParent_;
+  std::unordered_set<std::string> openedCollocations_;
+};
+
+}  // namespace velra

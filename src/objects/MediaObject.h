@@ -1,0 +1,88 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "protocol/DescribedObject.h"
+#include "schema/SchemaElement.h"
+
+namespace velra {
+
+class ApplicationModule;
+
+/// A file that is no object file: the movie of a Storage or the key-frame picture of a Video. Its
+/// identifier is a field of its owner.
+class MediaObject : public virtual DescribedObject, private ContentWatcher {
+ public:
+  explicit MediaObject(ApplicationModule& app) : app_(app) {}
+  ~MediaObject() override;
+
+  /// Makes one and registers it with the open document, if there is one.
+  static std::shared_ptr<MediaObject> create(ApplicationModule& app);
+
+  /// Binds it to a Storage or a Video.
+  void strInit(const ObjectRef& objOwner);
+
+  /// The file's extension without the point; it names new files.
+  const std::string& strTypeOfObject() const { return strTypeOfObject_; }
+  void setStrTypeOfObject(const std::string& type) { strTypeOfObject_ = type; }
+  ObjectRef objOwner() const { return objOwner_.lock(); }
+  const std::string& strSchemaPath() const { return strSchemaPath_; }
+
+  /// True while a new file exists which no saved object points at.
+  void setBChanged(bool changed) { bChanged_ = changed; }
+
+  const std::string& className() const override;
+  std::shared_ptr<IOManager> io() const override { return io_; }
+  SEColl& secol() const override;
+  std::string strGUID() const override;
+  void setStrGUID(const std::string& guid) override;
+  std::string strTitle() const override { return strGUID(); }
+  void setStrTitle(const std::string&) override {}
+  void strInitGUID(const std::string&) override {}
+  void setStrSchemaPath(const std::string& path) override { strSchemaPath_ = path; }
+  bool bChanged() const override { return bChanged_; }
+  std::int16_t iNumValidElem() const override { return 0; }
+  void ShowForm(FormOwner&) override {}
+  void EditAttributesForm(FormOwner&) override {}
+  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
+                         const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
+                      const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
+                           const std::string&, const std::shared_ptr<ObjectForm>&,
+                           const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  bool bSave() override;
+  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
+  void RemoveReferenceObj(DescribedObject&) override {}
+  bool bReferedStillToBeSaved() const override { return false; }
+  ObjectList waitsFor() const override { return {}; }
+  void visitReferences(ReferenceVisitor&) const override {}
+  void setIdentifierListener(IdentifierListener* listener) override { listener_ = listener; }
+  ObjectList colSelSubTree() override { return {shared_from_this()}; }
+  std::string strRemoveAllChilds() override { return {}; }
+  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  const ObjectList& colChilds() const override;
+
+ private:
+  SchemaElement* ownerField() const;
+  void contentChanged(const SchemaElement& element) override;
+
+  ApplicationModule& app_;
+  std::shared_ptr<IOManager> io_;
+  std::weak_ptr<DescribedObject> objOwner_;
+  bool ownedByVideo_ = false;
+  bool bChanged_ = false;
+  std::string strTypeOfObject_;
+  std::string strSchemaPath_;
+  std::string lastGUID_;  // what the owner said last; its file must still be found when it has gone
+  IdentifierListener* listener_ = nullptr;
+};
+
+}  // namespace velra

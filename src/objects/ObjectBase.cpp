@@ -1,0 +1,224 @@
+#include "objects/ObjectBase.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "protocol/MainWindow.h"
+#include "protocol/ObjectFactory.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SEColl.h"
+#include "schema/SchemaFile.h"
+#include "store/IOManager.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+namespace {
+
+const ClassRules& rulesOf(std::string_view className) {
+  const ClassRules* rules = findClassRules(className);
+  if (!rules) raise(kTypeMismatch, std::string(className));
+  return *rules;
+}
+
+// The text of the first assigned field of the name; "" when there is none.
+std::string assignedText(const SEColl& fields, const std::string& name) {
+  for (const SchemaElement& element : fields) {
+    if (element.bValid() && element.strName() == name) return toText(element.vContent());
+  }
+  return {};
+}
+
+}  // namespace
+
+ObjectBase::ObjectBase(ApplicationModule& app, std::string_view className)
+    : app_(app), rules_(rulesOf(className)) {}
+
+ObjectBase::~ObjectBase() = default;
+
+SEColl& ObjectBase::secol() const {
+  if (!secol_) raise(kNoObject);
+  return *secol_;
+}
+
+std::string ObjectBase::strGUID() const {
+  return secol_ ? assignedText(*secol_, rules_.identityField) : std::string();
+}
+
+std::string ObjectBase::strTitle() const {
+  return secol_ ? assignedText(*secol_, rules_.titleField) : std::string();
+}
+
+void ObjectBase::setStrGUID(const std::string& guid) {
+  setTextField(rules_.identityField, guid);
+}
+
+void ObjectBase::setStrTitle(const std::string& title) {
+  setTextField(rules_.titleField, title);
+}
+
+void ObjectBase::setTextField(const std::string& name, const std::string& text) {
+  SchemaElement* field = secol().field(name);
+  if (!field || toText(field->vContent()) == text) return;
+  field->setVContent(text);
+  field->setBChanged(true);
+  field->setBValid(true);
+}
+
+void ObjectBase::strInitGUID(const std::string& guid) {
+  SchemaElement* field = secol().field(rules_.identityField);
+  if (!field) return;
+  field->setVContent(guid);
+  field->setBChanged(false);
+  field->setBValid(true);
+}
+
+void ObjectBase::setStrSchemaPath(const std::string& path) {
+  domDoc_.setSchemaPath(path);
+}
+
+bool ObjectBase::bChanged() const {
+  return secol_ && secol_->bChanged();
+}
+
+std::int16_t ObjectBase::iNumValidElem() const {
+  return secol().iNumValid();
+}
+
+void ObjectBase::ShowForm(FormOwner& owner) {
+  if (!objForm_) raise(kNoObject);
+  const auto kept = shared_from_this();  // the form may remove its object
+  const std::shared_ptr<ObjectForm> form = objForm_;
+  form->Show(owner);
+}
+
+void ObjectBase::EditAttributesForm(FormOwner& owner) {
+  if (objForm_) objForm_->Unload();
+  app_.objectFactory->showSchemaDialog(owner, secol());
+}
+
+std::string ObjectBase::loadFields(const std::string& guid) {
+  if (auto loaded = io_->takeLoadedFields(guid, rules_.className)) {
+    secol_ = std::move(loaded->secol);
+    domDoc_ = std::move(loaded->domDoc);
+    domSchema_ = std::move(loaded->domSchema);
+    return {};
+  }
+  auto fields =
+      std::make_unique<SEColl>(app_, document().schemas(), document().collCloseListTypes());
+  const std::string message = fields->strLoad(domDoc_, guid, domSchema_, *io_, rules_.className);
+  if (message.empty()) secol_ = std::move(fields);
+  return message;
+}
+
+std::string ObjectBase::strLoadXML(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
+                                   const std::shared_ptr<IOManager>& io) {
+  io_ = io;
+  std::string message = loadFields(guid);
+  if (!message.empty()) return message;
+  if (io_->bFileSystem()) strInitGUID(guid);
+  bindForm(form);
+  registerSelf();
+  afterLoad();
+  return {};
+}
+
+std::string ObjectBase::strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
+                                const std::shared_ptr<IOManager>& io) {
+  std::string message = strLoadXML(guid, form, io);
+  if (!message.empty()) return message;
+  if (app_.gMainForm) {
+    app_.gMainForm->setStrStatusBarText(app_.LoadResString(1136) + " " +
+                                        std::to_string(document().collObjects().Count()) + " (" +
+                                        strTitle() + ")");
+  }
+  openBelow();
+  return {};
+}
+
+std::string ObjectBase::strInitAsNew(const std::string& guid, const std::string& schemaPath,
+                                     const std::string& prefix, const std::string& title,
+                                     const std::shared_ptr<ObjectForm>& form,
+                                     const std::shared_ptr<IOManager>& io) {
+  io_ = io;
+  secol_ = std::make_unique<SEColl>(app_, document().schemas(), document().collCloseListTypes());
+  std::string message =
+      secol_->strInitAsNew(domDoc_, strGUID(), domSchema_, schemaPath, prefix, rules_.className);
+  if (!message.empty()) return message;
+  initFields();
+  setStrTitle(title);
+  bindForm(form);
+  registerSelf();
+  setStrGUID(guid);
+  afterInit();
+  return {};
+}
+
+void ObjectBase::bindForm(const std::shared_ptr<ObjectForm>& form) {
+  objForm_ = form;
+  if (objForm_) objForm_->setObject(shared_from_this());
+  watchIdentity();
+}
+
+// The registry keeps the normal form of the identifier, so it must hear of every change.
+void ObjectBase::watchIdentity() {
+  for (SchemaElement& element : *secol_) {
+    if (element.strName() == rules_.identityField) element.watch(this);
+  }
+}
+
+void ObjectBase::contentChanged(const SchemaElement&) {
+  if (listener_) listener_->identifierChanged(*this);
+}
+
+void ObjectBase::registerSelf() {
+  if (app_.gAVDoc) app_.gAVDoc->collObjects().Add(shared_from_this());
+}
+
+OpenDocument& ObjectBase::document() const {
+  if (!app_.gAVDoc) raise(kNoObject);
+  return *app_.gAVDoc;
+}
+
+// An object that never loaded has nothing to write.
+bool ObjectBase::bSave() {
+  return !secol_ || secol_->bSave(domDoc_, strGUID(), *io_);
+}
+
+bool ObjectBase::bReferedStillToBeSaved() const {
+  const ObjectList others = waitsFor();
+  return std::any_of(others.begin(), others.end(),
+                     [](const ObjectRef& other) { return other->bChanged(); });
+}
+
+ObjectList ObjectBase::colSelSubTree() {
+  return {shared_from_this()};
+}
+
+std::string ObjectBase::strRemoveAllChilds() {
+  return {};
+}
+
+const ObjectList& ObjectBase::colChilds() const {
+  static const ObjectList kNone;
+  return kNone;
+}
+
+std::string ObjectBase::schemaPrefix() const {
+  return domSchema_ ? domSchema_->rootPrefix() : std::string();
+}
+
+std::string ObjectBase::relationText(std::string_view lowerName) const {
+  const SchemaElement* field = secol().relationField(lowerName);
+  const auto* text = field ? std::get_if<std::string>(&field->vContent()) : nullptr;
+  return text ? *text : std::string();
+}
+
+const StringList* ObjectBase::relationList(std::string_view lowerName) const {
+  const SchemaElement* field = secol().relationField(lowerName);
+  return field && field->bValid() ? asList(field->vContent()) : nullptr;
+}
+
+}  // namespace velra

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "protocol/ClassRules.h"
+#include "protocol/DescribedObject.h"
+#include "schema/InstanceDocument.h"
+#include "schema/SchemaElement.h"
+
+namespace velra {
+
+class ApplicationModule;
+class CloseLists;
+class DocumentSchemas;
+class OpenDocument;
+class SchemaFile;
+
+/// What the seven described classes do alike: their fields, their file and their form. The small
+/// virtual steps are what the classes do of their own.
+class ObjectBase : public virtual DescribedObject, private ContentWatcher {
+ public:
+  ~ObjectBase() override;
+
+  const std::string& className() const override { return rules_.className; }
+  std::shared_ptr<IOManager> io() const override { return io_; }
+  SEColl& secol() const override;
+
+  std::string strGUID() const override;
+  void setStrGUID(const std::string& guid) override;
+  std::string strTitle() const override;
+  void setStrTitle(const std::string& title) override;
+  void strInitGUID(const std::string& guid) override;
+  void setStrSchemaPath(const std::string& path) override;
+  bool bChanged() const override;
+  std::int16_t iNumValidElem() const override;
+
+  void ShowForm(FormOwner& owner) override;
+  void EditAttributesForm(FormOwner& owner) override;
+
+  std::string strLoadXML(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
+                         const std::shared_ptr<IOManager>& io) override;
+  std::string strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
+                      const std::shared_ptr<IOManager>& io) override;
+  std::string strInitAsNew(const std::string& guid, const std::string& schemaPath,
+                           const std::string& prefix, const std::string& title,
+                           const std::shared_ptr<ObjectForm>& form,
+                           const std::shared_ptr<IOManager>& io) override;
+  bool bSave() override;
+
+  bool bReferedStillToBeSaved() const override;
+  ObjectList waitsFor() const override { return {}; }
+  void visitReferences(ReferenceVisitor&) const override {}
+  void setIdentifierListener(IdentifierListener* listener) override { listener_ = listener; }
+
+  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
+  void RemoveReferenceObj(DescribedObject&) override {}
+  ObjectList colSelSubTree() override;
+  std::string strRemoveAllChilds() override;
+  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  const ObjectList& colChilds() const override;
+
+ protected:
+  ObjectBase(ApplicationModule& app, std::string_view className);
+
+  /// Where a text field is set: what happens when the value is there already differs by class.
+  virtual void setTextField(const std::string& name, const std::string& text);
+
+  /// The class's own steps: after the fields of a new object stand, after the object is registered
+  /// and bound to its form by a load, after a new one has its identifier, and after a load by
+  /// `strOpen` has been reported.
+  virtual void initFields() {}
+  virtual void afterLoad() {}
+  virtual void afterInit() {}
+  virtual void openBelow() {}
+
+  /// The document whose schema and registry this object uses: the open one; kNoObject without one.
+  virtual OpenDocument& document() const;
+  /// Joins the registry of the open document, if there is one.
+  virtual void registerSelf();
+
+  const ClassRules& rules() const { return rules_; }
+  ApplicationModule& app() const { return app_; }
+  InstanceDocument& domDoc() { return domDoc_; }
+  const std::shared_ptr<const SchemaFile>& domSchema() const { return domSchema_; }
+
+  /// The prefix that new objects below this one are made with.
+  std::string schemaPrefix() const;
+
+  /// The text of a relation field, assigned or not; "" for a field that is absent or holds no text.
+  std::string relationText(std::string_view lowerName) const;
+  /// The set in a relation field; null when it is absent or not assigned.
+  const StringList* relationList(std::string_view lowerName) const;
+
+ private:
+  std::string loadFields(const std::string& guid);
+  void bindForm(const std::shared_ptr<ObjectForm>& form);
+  void watchIdentity();
+  void contentChanged(const SchemaElement& element) override;
+
+  ApplicationModule& app_;
+  const ClassRules& rules_;
+  std::shared_ptr<IOManager> io_;
+  std::unique_ptr<SEColl> secol_;
+  InstanceDocument domDoc_;
+  std::shared_ptr<const SchemaFile> domSchema_;
+  std::shared_ptr<ObjectForm> objForm_;
+  IdentifierListener* listener_ = nullptr;
+};
+
+}  // namespace velra

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace velra {
+
+class ApplicationModule;
+class DescribedObject;
+class ObjectRegistry;
+
+/// Saves every changed object but the document after those that it waits for. The rule walks all
+/// objects from the last to the first, again and again, and saves what need not wait; this does so
+/// in one go, in the same order and with the same numbers on the status line. False when an object
+/// could not be saved, or when objects wait for one another in a ring.
+bool bSaveInDependencyOrder(ApplicationModule& app, const ObjectRegistry& objects,
+                            const DescribedObject& document);
+
+}  // namespace velra

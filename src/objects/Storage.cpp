@@ -1,0 +1,34 @@
+#include "objects/Storage.h"
+
+#include "app/ApplicationModule.h"
+#include "objects/Media.h"
+#include "objects/MediaObject.h"
+#include "protocol/OpenDocument.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+Storage::Storage(ApplicationModule& app) : ObjectBase(app, "Storage") {}
+
+Storage::~Storage() = default;
+
+void Storage::makeMediaObject() {
+  objMediaObject_ = MediaObject::create(app());
+  objMediaObject_->strInit(shared_from_this());
+}
+
+void Storage::setBIsSelected(bool selected) {
+  if (selected) {
+    for (const auto& [number, object] : document().collObjects().sequence()) {
+      if (auto* storage = dynamic_cast<Storage*>(object.get())) storage->bIsSelected_ = false;
+    }
+  }
+  bIsSelected_ = selected;
+}
+
+// The Collocation is the title of a Storage.
+std::string Storage::strGetCollocation() const {
+  return strTitle();
+}
+
+}  // namespace velra
