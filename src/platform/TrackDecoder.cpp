@@ -1,0 +1,51 @@
+#include "platform/TrackDecoder.h"
+
+#include "platform/MovieInput.h"
+
+namespace velra {
+
+std::string TrackDecoder::open(const AVStream& stream) {
+  const AVCodec* decoder = avcodec_find_decoder(stream.codecpar->codec_id);
+  if (decoder == nullptr) return "No decoder is known for it.";
+  codec_.reset(avcodec_alloc_context3(decoder));
+  packet_.reset(av_packet_alloc());
+  avcodec_parameters_to_context(codec_.get(), stream.codecpar);
+  codec_->pkt_timebase = stream.time_base;
+  codec_->thread_count = 2;
+  draining_ = false;
+  if (avcodec_open2(codec_.get(), decoder, nullptr) < 0) return "The decoder refuses it.";
+  return {};
+}
+
+void TrackDecoder::flush() {
+  avcodec_flush_buffers(codec_.get());
+  draining_ = false;
+}
+
+AvFrame TrackDecoder::next(MovieInput& input) {
+  AvFrame frame(av_frame_alloc());
+  for (;;) {
+    const int error = avcodec_receive_frame(codec_.get(), frame.get());
+    if (error == 0) return frame;
+    if (error == AVERROR_EOF || input.cancelled()) return nullptr;
+    if (error == AVERROR(EAGAIN)) feed(input);
+    // Any other error is a damaged picture: the next one may be good.
+  }
+}
+
+void TrackDecoder::feed(MovieInput& input) {
+  while (!draining_) {
+    if (!input.read(*packet_)) {
+      draining_ = true;
+      avcodec_send_packet(codec_.get(), nullptr);
+      return;
+    }
+    // An empty packet repeats the picture before it; the decoder would take it for the end.
+    if (packet_->size == 0) continue;
+    avcodec_send_packet(codec_.get(), packet_.get());
+    av_packet_unref(packet_.get());
+    return;
+  }
+}
+
+}  // namespace velra

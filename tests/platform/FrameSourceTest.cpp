@@ -1,0 +1,122 @@
+#include "platform/FrameSource.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "platform/NumberedMovie.h"
+#include "platform/PictureConverter.h"
+
+namespace velra {
+namespace {
+
+using test::NumberedMovie;
+
+class Pictures : public ::testing::TestWithParam<NumberedMovie> {
+ protected:
+  void SetUp() override { ASSERT_EQ(source_.open(movie().path()), ""); }
+
+  const NumberedMovie& movie() const { return GetParam(); }
+
+  int numberAt(double seconds) {
+    const auto picture = source_.at(seconds);
+    if (!picture) return -2;
+    return test::numberIn(*converter_.convert(*picture->frame));
+  }
+
+  int randomNumber() {
+    return std::uniform_int_distribution<int>(0, movie().pictures - 1)(random_);
+  }
+
+  FrameSource source_;
+  PictureConverter converter_;
+  std::mt19937 random_{1895};
+};
+
+TEST_P(Pictures, AreThoseWhoseSpanHoldsTheTime) {
+  std::uniform_real_distribution<double> inside(0.0, 0.9);
+  for (int i = 0; i < 150; ++i) {
+    const int k = randomNumber();
+    const double t = (k + inside(random_)) * movie().frameTime();
+    ASSERT_EQ(numberAt(t), k) << "at " << t;
+  }
+}
+
+TEST_P(Pictures, BeginAtTheirBoundHoweverItWasComputed) {
+  for (int i = 0; i < 100; ++i) {
+    const int k = randomNumber();
+    const double bound = k / movie().rate();
+    ASSERT_EQ(numberAt(bound), k);
+    ASSERT_EQ(numberAt(std::round(bound * 1000) / 1000), k) << "in milliseconds";
+    ASSERT_EQ(numberAt(bound - 0.0022), std::max(0, k - 1)) << "before " << bound;
+  }
+}
+
+TEST_P(Pictures, FollowEachOtherInBothDirections) {
+  const double frame = source_.frameTime();
+  EXPECT_NEAR(frame, movie().frameTime(), 1e-9);
+  double position = 0;
+  for (int k = 0; k < movie().pictures; ++k, position += frame) ASSERT_EQ(numberAt(position), k);
+  for (int k = movie().pictures - 1; k >= 0; --k) {
+    position -= frame;
+    ASSERT_EQ(numberAt(position), k);
+  }
+}
+
+TEST_P(Pictures, EndWithTheFirstAndTheLast) {
+  const int last = movie().pictures - 1;
+  EXPECT_EQ(numberAt(source_.duration() + 100), last);
+  EXPECT_EQ(numberAt(-5), 0);
+  EXPECT_EQ(numberAt(source_.duration() - 0.0022), last);
+  EXPECT_EQ(numberAt(0), 0);
+  EXPECT_EQ(source_.after(*source_.at(source_.duration())), nullptr);
+}
+
+TEST_P(Pictures, LastUntilTheEndOfTheLastOne) {
+  EXPECT_NEAR(source_.duration(), movie().pictures * movie().frameTime(), 0.002);
+}
+
+TEST_P(Pictures, ComeFromTheCacheWhenSteppedBack) {
+  const bool eachIsKey = movie().name == std::string("mjpeg-23976.avi");
+  const int k = movie().pictures - 1;
+  numberAt(k * movie().frameTime());
+  const int before = source_.seeks();
+  for (int back = 0; back < 12; ++back) numberAt((k - back) * movie().frameTime());
+  EXPECT_LE(source_.seeks() - before, eachIsKey ? 12 : 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(Movies, Pictures, ::testing::ValuesIn(test::numberedMovies()),
+                         [](const auto& movie) {
+                           std::string name = movie.param.name;
+                           for (char& c : name) c = std::isalnum(c) != 0 ? c : '_';
+                           return name;
+                         });
+
+TEST(FrameSource, TakesAnEmptyPacketForThePictureBefore) {
+  FrameSource source;
+  PictureConverter converter;
+  ASSERT_EQ(source.open(test::moviePath("repeated-25.avi")), "");
+  const int numbers[] = {0, 0, 1, 2};
+  for (int k = 0; k < 4; ++k) {
+    EXPECT_EQ(test::numberIn(*converter.convert(*source.at(k / 25.0)->frame)), numbers[k]);
+  }
+  EXPECT_NEAR(source.duration(), 51 / 25.0, 1e-6);
+}
+
+TEST(FrameSource, ShowsTheColoursOfTheMovie) {
+  FrameSource source;
+  PictureConverter converter;
+  ASSERT_EQ(source.open(test::moviePath("h264-b-23976.mp4")), "");
+  const auto picture = converter.convert(*source.at(0)->frame);
+  const int expected[4][3] = {{0, 0, 254}, {0, 255, 0}, {255, 0, 0}, {128, 128, 128}};
+  for (int colour = 0; colour < 4; ++colour) {
+    for (int channel = 0; channel < 3; ++channel) {
+      const int at = (104 * 160 + 20 + 40 * colour) * 4 + channel;
+      EXPECT_NEAR(picture->pixels[static_cast<std::size_t>(at)], expected[colour][channel], 8);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace velra
