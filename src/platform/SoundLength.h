@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+/// The length in seconds of the sound of a file, for files without pictures; 0 for any failure.
+double soundLength(const std::string& path);
+
+}  // namespace velra
