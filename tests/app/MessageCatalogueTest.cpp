@@ -1,0 +1,108 @@
+#include "app/MessageCatalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <vector>
+
+#include "app/MessageTable.h"
+#include "base/Text.h"
+
+namespace velra {
+namespace {
+
+const MessageCatalogue kDefault(InterfaceLanguage::Default);
+const MessageCatalogue kItalian(InterfaceLanguage::Italian);
+
+TEST(MessageCatalogue, HoldsEveryIdOnceAndInOrder) {
+  int next = 1000;
+  for (const auto rows : {messagesFrom1000(), messagesFrom1100()}) {
+    for (const Message& row : rows) EXPECT_EQ(row.id, next++);
+  }
+  EXPECT_EQ(next, 1178);
+  for (const int id : {0, -1, 20, 21, 999, 1178, 40'000}) {
+    EXPECT_FALSE(kDefault.holds(id)) << id;
+    EXPECT_EQ(kDefault.text(id), "") << id;
+  }
+}
+
+TEST(MessageCatalogue, KeepsTheTellingRows) {
+  const struct {
+    int id;
+    const char* text;
+    const char* italian;
+  } rows[] = {
+      {1003, "Sen&d to", "&Invia a"},
+      {1039, "&About ", "&Informazioni su "},
+      {1044, "Paste", "Paste"},
+      {1032, "&Cascade", "&Cascade"},
+      {1051, " TreeView:", " Albero:"},
+      {1092, "non trovato", "not found"},
+      {1093, "xxx", "xxx"},
+      {1094, "Errore nella creazione della directory:", "Unable to create directory:"},
+      {1117, "Add Main T&ranscipt...", "Aggiungi &trascrizione principale..."},
+      {1138, "Are you sure you want elminate the object", "Eliminare davvero l'oggetto"},
+      {1147, "Error during ThematicKeywords.xml loading ",
+       "Errore nel caricamento di ThematicKeywords.xml "},
+      {1177, "Keyframe updated.", "Fotogramma chiave aggiornato."},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(kDefault.text(row.id), row.text);
+    EXPECT_EQ(kItalian.text(row.id), row.italian);
+  }
+}
+
+/// Those who join texts depend on blanks and colons, windows on the marks of access keys.
+TEST(MessageCatalogue, TranslationsKeepTheShapeOfTheirText) {
+  const std::set<int> untranslated = {1032, 1033, 1034, 1044, 1045, 1046, 1047, 1048, 1049, 1050};
+  for (const auto rows : {messagesFrom1000(), messagesFrom1100()}) {
+    for (const Message& row : rows) {
+      ASSERT_EQ(row.italian == nullptr, untranslated.contains(row.id)) << row.id;
+      const std::string text = row.text;
+      const std::string italian = kItalian.text(row.id);
+      EXPECT_TRUE(isUtf8(text) && isUtf8(italian)) << row.id;
+      EXPECT_EQ(text.front() == ' ', italian.front() == ' ') << row.id;
+      EXPECT_EQ(text.back() == ' ', italian.back() == ' ') << row.id;
+      EXPECT_EQ(text.back() == ':', italian.back() == ':') << row.id;
+      EXPECT_EQ(text.ends_with("..."), italian.ends_with("...")) << row.id;
+      EXPECT_EQ(std::count(text.begin(), text.end(), '&'),
+                std::count(italian.begin(), italian.end(), '&'))
+          << row.id;
+    }
+  }
+}
+
+TEST(MessageCatalogue, ItalianAccessKeysDifferWithinAMenu) {
+  const std::vector<std::vector<int>> menus = {
+      {1000, 1009, 1017, 1028, 1030, 1036},
+      {1001, 1002, 1003, 1004, 1005, 1006, 1007, 1008, 1080, 1130, 1135},
+      {1010, 1011, 1012, 1013, 1014, 1015, 1016, 1084, 1085, 1105, 1115},
+      {1111, 1116, 1117},
+      {1018, 1019, 1020, 1021, 1022, 1023, 1024, 1025, 1026, 1027},
+      {1031, 1032, 1033, 1034, 1035},
+      {1037, 1038, 1039},
+  };
+  for (const auto& menu : menus) {
+    std::set<int> keys;
+    for (const int id : menu) {
+      const std::string text = kItalian.text(id);
+      const std::size_t mark = text.find('&');
+      if (mark == std::string::npos) continue;
+      EXPECT_TRUE(keys.insert(std::tolower(text.at(mark + 1))).second) << id << " " << text;
+    }
+  }
+}
+
+TEST(MessageCatalogue, ItalianIsForItalianLocalesAlone) {
+  for (const char* locale : {"it", "it_IT", "it_IT.UTF-8", "it_CH@euro", "IT_it", "it-IT"}) {
+    EXPECT_EQ(interfaceLanguage(locale), InterfaceLanguage::Italian) << locale;
+  }
+  for (const char* locale : {"", "C", "C.UTF-8", "en_IT", "de_DE", "iteration", "i"}) {
+    EXPECT_EQ(interfaceLanguage(locale), InterfaceLanguage::Default) << locale;
+  }
+}
+
+}  // namespace
+}  // namespace velra
