@@ -1,0 +1,17 @@
+#pragma once
+
+#include "expressions/ExpressionBase.h"
+
+namespace velra {
+
+/// The sound expression of a Version: the rules of all expressions and nothing besides.
+class Audio : public ExpressionBase {
+ public:
+  explicit Audio(ApplicationModule& app);
+  ~Audio() override;
+
+  /// Nothing sets it.
+  bool bTranscriptOpen() const { return false; }
+};
+
+}  // namespace velra

@@ -1,0 +1,183 @@
+#include "expressions/ExpressionBase.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "objects/Version.h"
+#include "platform/UserInterface.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SEColl.h"
+#include "store/IOManager.h"
+#include "store/SubTreeRemoval.h"
+
+namespace velra {
+
+namespace {
+
+constexpr std::string_view kTimeField = "Time";
+constexpr const char* kVersionField = "VersionGUID";
+// The identifier in a field; "" where a schema gave the field a type that holds none.
+std::string guidIn(const SchemaElement& field) {
+  const auto* text = std::get_if<std::string>(&field.vContent());
+  return text ? *text : std::string();
+}
+
+constexpr int kPartOfMessage = 1088;
+constexpr int kFollowedByMessage = 1089;
+
+}  // namespace
+
+ExpressionBase::ExpressionBase(ApplicationModule& app, std::string_view className,
+                               std::vector<std::string> renamedFields)
+    : ObjectBase(app, className), renamedFields_(std::move(renamedFields)) {}
+
+ExpressionBase::~ExpressionBase() = default;
+
+void ExpressionBase::setTextField(const std::string& name, const std::string& text) {
+  SchemaElement* field = secol().field(name);
+  if (!field) return;
+  if (toText(field->vContent()) != text) {
+    field->setVContent(text);
+    field->setBChanged(true);
+  }
+  field->setBValid(true);
+}
+
+std::string ExpressionBase::typedText(const std::string& lowerName, int messageId) const {
+  const SchemaElement* field = secol().relationField(lowerName);
+  if (!field) return {};
+  if (field->tyType() != tyType::String) {
+    app().ui.messageBox(app().LoadResString(messageId));
+    return {};
+  }
+  return field->bValid() ? toText(field->vContent()) : std::string();
+}
+
+std::string ExpressionBase::strVersionGUID() const {
+  const SchemaElement* field = secol().field(kVersionField);
+  return field && field->bValid() ? toText(field->vContent()) : std::string();
+}
+
+void ExpressionBase::setStrVersionGUID(const std::string& guid) {
+  setTextField(kVersionField, guid);
+  SchemaElement* field = secol().field(kVersionField);
+  if (field && guid.empty()) field->setBValid(false);
+}
+
+std::string ExpressionBase::strGetPartOf() const {
+  return typedText(rules().partOfField, kPartOfMessage);
+}
+
+std::string ExpressionBase::strFollowedBy() const {
+  return typedText(rules().followedByField, kFollowedByMessage);
+}
+
+bool ExpressionBase::bCheckIfOwnRelative(const std::string& ofClass,
+                                         const std::string& guid) const {
+  return ofClass == "Version" && io()->bGUIDComp(relationText(kVersionGuidField), guid);
+}
+
+bool ExpressionBase::bCheckIfSubExpression(const std::string& ofClass,
+                                           const std::string& guid) const {
+  return ofClass == className() && io()->bGUIDComp(relationText(rules().partOfField), guid);
+}
+
+std::shared_ptr<Chunk> ExpressionBase::ckGetChunk() const {
+  const SchemaElement* field = secol().field(kTimeField);
+  return field && field->bValid() ? asChunk(field->vContent()) : nullptr;
+}
+
+void ExpressionBase::SetChunk(double dStart, double dend) {
+  SchemaElement* field = secol().field(kTimeField);
+  if (!field) return;
+  auto chunk = std::make_shared<Chunk>();
+  chunk->dStart = dStart;
+  chunk->dend = dend;
+  field->setVContent(std::move(chunk));
+  field->setBValid(true);
+  field->setBChanged(true);
+}
+
+std::string ExpressionBase::strGetMediaObjectPath() const {
+  const auto version = std::dynamic_pointer_cast<Version>(verVersion());
+  return version ? version->strGetMediaObjectPath() : std::string();
+}
+
+void ExpressionBase::OpenTranscript() {
+  const auto version = std::dynamic_pointer_cast<Version>(verVersion());
+  if (!version) raise(kNoObject);
+  objTranscript_ = version->trMainTranscript();
+}
+
+ObjectList ExpressionBase::waitsFor() const {
+  ObjectList others;
+  for (const ObjectRef& other :
+       {ObjectRef(objMainExpr()), ObjectRef(objFollowedBy()), verVersion()}) {
+    if (other) others.push_back(other);
+  }
+  return others;
+}
+
+void ExpressionBase::visitReferences(ReferenceVisitor& visitor) const {
+  for (const SchemaElement& field : secol()) {
+    if (!field.bValid()) continue;
+    const bool single = std::find(renamedFields_.begin(), renamedFields_.end(),
+                                  field.strLowerName()) != renamedFields_.end();
+    if (single) visitor.identifier(guidIn(field));
+    if (field.strLowerName() != "manifestedby") continue;
+    if (const StringList* list = asList(field.vContent())) {
+      for (const std::string& guid : *list) visitor.identifier(guid);
+    }
+  }
+  for (const ExpressionRef& segment : colSubExpressions_) visitor.object(*segment);
+  if (const auto next = objFollowedBy()) visitor.object(*next);
+}
+
+void ExpressionBase::RenameAllRelativesGUID(const std::string& oldGUID,
+                                            const std::string& newGUID) {
+  renameManifestations(oldGUID, newGUID);
+  for (SchemaElement& field : secol()) {
+    const bool single = std::find(renamedFields_.begin(), renamedFields_.end(),
+                                  field.strLowerName()) != renamedFields_.end();
+    if (!single || !field.bValid() || !io()->bGUIDComp(guidIn(field), oldGUID)) continue;
+    field.setVContent(newGUID);
+    field.setBChanged(true);
+  }
+}
+
+void ExpressionBase::renameManifestations(const std::string& oldGUID, const std::string& newGUID) {
+  for (SchemaElement& field : secol()) {
+    if (field.strLowerName() != "manifestedby" || !field.bValid()) continue;
+    const StringList* members = asList(field.vContent());
+    if (!members) continue;
+    const auto at = std::find_if(members->begin(), members->end(), [&](const std::string& member) {
+      return io()->bGUIDComp(member, oldGUID);
+    });
+    if (at == members->end()) continue;
+    const auto offset = at - members->begin();
+    field.changeList([&](StringList& list) {
+      list.erase(list.begin() + offset);
+      list.push_back(newGUID);
+    });
+    field.setBChanged(true);
+  }
+}
+
+ObjectList ExpressionBase::colSelSubTree() {
+  ObjectList subTree;
+  for (const ExpressionRef& segment : colSubExpressions_) {
+    const ObjectList below = segment->colSelSubTree();
+    if (below.empty()) return {};
+    subTree.insert(subTree.end(), below.begin(), below.end());
+  }
+  subTree.push_back(shared_from_this());
+  return subTree;
+}
+
+std::string ExpressionBase::strRemoveAllChilds() {
+  return strRemoveAllBelow(*this, document());
+}
+
+}  // namespace velra

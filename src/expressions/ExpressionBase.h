@@ -1,0 +1,99 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "objects/ObjectBase.h"
+#include "protocol/Expression.h"
+
+namespace velra {
+
+/// The rules that Video, Audio and Transcript share. What is a class's own are the small virtual
+/// steps and the names of its fields.
+class ExpressionBase : public ObjectBase, public Expression {
+ public:
+  ExpressionRef objMainExpr() const override { return objMainExpr_.lock(); }
+  void setObjMainExpr(const ExpressionRef& parent) override { objMainExpr_ = parent; }
+  ExpressionRef objFollowedBy() const override { return objFollowedBy_.lock(); }
+  void setObjFollowedBy(const ExpressionRef& next) override { objFollowedBy_ = next; }
+  ObjectRef verVersion() const override { return verVersion_.lock(); }
+  void setVerVersion(const ObjectRef& version) override { verVersion_ = version; }
+
+  const ExpressionList& colSubExpressions() const override { return colSubExpressions_; }
+  void OpenSubExpressions() override;
+  void AddSubExpression(const std::string& title, double dStart, double dend) override;
+  void RemoveSubExpressionByIndex(std::size_t position) override;
+  void RemoveSubExpressionByPointer(const ExpressionRef& segment) override;
+
+  std::string strVersionGUID() const override;
+  void setStrVersionGUID(const std::string& guid) override;
+  std::string strGetPartOf() const override;
+  std::string strFollowedBy() const override;
+  bool bCheckIfSubExpression(const std::string& ofClass, const std::string& guid) const override;
+  bool bCheckIfOwnRelative(const std::string& ofClass, const std::string& guid) const override;
+
+  std::shared_ptr<Chunk> ckGetChunk() const override;
+  void SetChunk(double dStart, double dend) override;
+  std::string strGetMediaObjectPath() const override;
+
+  void OpenTranscript() override;
+  bool bHasTranscript() const override { return objTranscript() != nullptr; }
+  ExpressionRef objTranscript() const override { return objTranscript_.lock(); }
+  std::shared_ptr<WordColl> WordList() const override { return nullptr; }
+
+  double dFrameRate() const override { return 0; }
+  void setDFrameRate(double) override {}
+  ObjectRef objKeyframeObject() const override { return nullptr; }
+  Picture picKeyFrame() const override { return {}; }
+  Picture picKeyFrameSmall() const override { return {}; }
+  double dGetKeyFrameTime() const override { return -1; }
+  void SetKeyFrameTime(double) override {}
+  void UpdateLocationKeyFrameObject(const std::string&, const std::string&) override {}
+
+  ObjectList waitsFor() const override;
+  void visitReferences(ReferenceVisitor& visitor) const override;
+  void RenameAllRelativesGUID(const std::string& oldGUID, const std::string& newGUID) override;
+  void RemoveReferenceObj(DescribedObject& removed) override;
+  ObjectList colSelSubTree() override;
+  std::string strRemoveAllChilds() override;
+
+ protected:
+  ExpressionBase(ApplicationModule& app, std::string_view className,
+                 std::vector<std::string> renamedFields);
+  ~ExpressionBase() override;
+
+  void setTextField(const std::string& name, const std::string& text) override;
+  void openBelow() override { OpenSubExpressions(); }
+  void afterInit() override { colSubExpressions_.clear(); }
+
+  /// The class's own steps for a new segment: before it joins the tree, and at the end.
+  virtual void prepareSegment(ExpressionBase&) {}
+  virtual void finishSegment(ExpressionBase&) {}
+
+  /// A relation field that must be of a type: its text, "" when it is not assigned; a field of
+  /// another type shows the message and counts as empty.
+  std::string typedText(const std::string& lowerName, int messageId) const;
+
+ private:
+  std::shared_ptr<ExpressionBase> makeSegment(const std::string& title);
+  void linkIntoChain(ExpressionBase& segment, double dStart, double dend);
+  ExpressionRef siblingBefore(double time) const;
+  ExpressionRef siblingAfter(double time) const;
+  void LinkFollowers();
+  void SetPartOf(const std::string& guid);
+  void SetFollowedBy(const std::string& guid);
+  void ClearPartOf(const std::string& guid);
+  void renameManifestations(const std::string& oldGUID, const std::string& newGUID);
+  void forgetExpression(DescribedObject& removed);
+  void removeSegment(const ExpressionRef& segment);
+
+  const std::vector<std::string> renamedFields_;  // lower-cased
+  ExpressionList colSubExpressions_;
+  std::weak_ptr<Expression> objMainExpr_;
+  std::weak_ptr<Expression> objFollowedBy_;
+  std::weak_ptr<DescribedObject> verVersion_;
+  std::weak_ptr<Expression> objTranscript_;
+};
+
+}  // namespace velra

@@ -1,0 +1,128 @@
+#include "expressions/KeyFrame.h"
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "expressions/Video.h"
+#include "objects/MediaObject.h"
+#include "platform/Files.h"
+#include "platform/FrameGrabber.h"
+#include "platform/UserInterface.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SEColl.h"
+#include "store/IOManager.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+namespace {
+
+constexpr std::string_view kField = "Keyframe";
+
+// The small picture: 750 by 1000 twips at 15 twips a pixel.
+constexpr int kSmallWidth = 50;
+constexpr int kSmallHeight = 67;
+
+SchemaElement* assignedField(SEColl& fields) {
+  for (SchemaElement& field : fields) {
+    if (field.bValid() && field.strName() == kField) return &field;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+double middleOf(const Chunk& chunk) {
+  return (chunk.dend - chunk.dStart) / 2 + chunk.dStart;
+}
+
+double KeyFrame::dGetKeyFrameTime() const {
+  const SchemaElement* field = assignedField(video_.secol());
+  const auto chunk = field ? asChunk(field->vContent()) : nullptr;
+  if (!chunk) return -1;
+  if (chunk->dStart >= 0) return chunk->dStart;
+  const auto span = video_.ckGetChunk();
+  if (!span) raise(kNoObject);
+  return middleOf(*span);
+}
+
+void KeyFrame::SetKeyFrameTime(double seconds) {
+  SchemaElement* field = video_.secol().field(kField);
+  if (!field) return;
+  auto chunk = field->bValid() ? asChunk(field->vContent()) : nullptr;
+  if (!chunk) {
+    chunk = std::make_shared<Chunk>();
+    field->setVContent(chunk);
+  }
+  if (chunk->dStart != seconds) {
+    chunk->dStart = seconds;
+    field->setBChanged(true);
+  }
+  field->setBValid(true);
+}
+
+void KeyFrame::InitKeyFrameFile() {
+  SchemaElement* field = assignedField(video_.secol());
+  const auto chunk = field ? asChunk(field->vContent()) : nullptr;
+  if (!chunk) return;
+  objKeyframeObject_ = MediaObject::create(app_);
+  objKeyframeObject_->strInit(video_.shared_from_this());
+  if (!objKeyframeObject_->strGUID().empty()) return;
+  const std::string temporary = makeBitmap();
+  if (!temporary.empty()) placeBitmap(temporary, *chunk);
+  field->setBChanged(true);
+}
+
+void KeyFrame::placeBitmap(const std::string& temporary, Chunk& chunk) {
+  objKeyframeObject_->setStrTypeOfObject(strExtension(temporary));
+  objKeyframeObject_->setBChanged(true);
+  IOManager& io = *video_.io();
+  if (!io.bFileSystem()) return;
+  chunk.strFile = io.strCreateGUID(app_.gAVDoc->collObjects(), objKeyframeObject_->className(),
+                                   objKeyframeObject_->strTypeOfObject(), app_.gAVDoc->strGUID());
+  UpdateLocationKeyFrameObject(temporary, chunk.strFile);
+}
+
+std::string KeyFrame::makeBitmap() const {
+  const std::string movie = video_.strGetMediaObjectPath();
+  if (movie.empty()) return {};
+  if (!bFileExists(movie)) {
+    app_.WarnNotFoundOnce(movie);
+    return {};
+  }
+  std::string target = strTempPath() + strMakeGUIDText() + ".bmp";
+  try {
+    grabFrame(movie, dGetKeyFrameTime(), movieSize(movie), target);
+  } catch (const RunTimeError& error) {
+    // A damaged movie costs the picture, not the segment; one sentence for each movie is enough.
+    if (app_.gNotFound.insert(movie).second) {
+      app_.ui.messageBox(error.description(), BoxKind::Exclamation);
+    }
+    return {};
+  }
+  return target;
+}
+
+void KeyFrame::CreateKeyFrameIcons() {
+  if (!video_.objMainExpr()) return;
+  if (!objKeyframeObject_) raise(kNoObject);
+  const std::string path = video_.io()->bFileSystem() ? objKeyframeObject_->strGUID() : "";
+  picKeyFrame_ = {};
+  picKeyFrameSmall_ = {};
+  if (path.empty()) return;
+  checkBitmap(path);
+  // Absolute, since it is drawn at a time when another folder may be the current one.
+  picKeyFrame_.path = strAbsolutePath(path);
+  picKeyFrameSmall_ = {picKeyFrame_.path, kSmallWidth, kSmallHeight};
+}
+
+void KeyFrame::UpdateLocationKeyFrameObject(const std::string& from, const std::string& to) {
+  if (!objKeyframeObject_) raise(kNoObject);
+  if (objKeyframeObject_->bChanged()) {
+    video_.io()->MoveObject(from, to);
+  } else {
+    video_.io()->CopyObject(from, to);
+  }
+}
+
+}  // namespace velra

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "values/Chunk.h"
+#include "values/Picture.h"
+
+namespace velra {
+
+class ApplicationModule;
+class IOManager;
+class MediaObject;
+class Video;
+
+/// The key frame of a video segment: its time and its picture, which is a bitmap beside the object.
+class KeyFrame {
+ public:
+  KeyFrame(ApplicationModule& app, Video& video) : app_(app), video_(video) {}
+
+  const std::shared_ptr<MediaObject>& objKeyframeObject() const { return objKeyframeObject_; }
+  const Picture& picKeyFrame() const { return picKeyFrame_; }
+  const Picture& picKeyFrameSmall() const { return picKeyFrameSmall_; }
+
+  /// Seconds; -1 when the field is not assigned, the middle of the span when no time was chosen.
+  double dGetKeyFrameTime() const;
+  void SetKeyFrameTime(double seconds);
+
+  /// Makes the object of the picture, and the picture itself from the movie if there is none yet.
+  void InitKeyFrameFile();
+
+  /// Takes up the picture. kFileNotFound or kInvalidPicture for a bad one.
+  void CreateKeyFrameIcons();
+
+  void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to);
+
+ private:
+  std::string makeBitmap() const;
+  void placeBitmap(const std::string& temporary, Chunk& chunk);
+
+  ApplicationModule& app_;
+  Video& video_;
+  std::shared_ptr<MediaObject> objKeyframeObject_;
+  Picture picKeyFrame_;
+  Picture picKeyFrameSmall_;
+};
+
+/// The middle of a span, in seconds.
+double middleOf(const Chunk& chunk);
+
+}  // namespace velra

@@ -1,0 +1,192 @@
+// The tree of segments of an expression: opening, adding, linking, removing.
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "expressions/ExpressionBase.h"
+#include "platform/UserInterface.h"
+#include "protocol/ObjectFactory.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SEColl.h"
+#include "store/IOManager.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+void ExpressionBase::OpenSubExpressions() {
+  colSubExpressions_ = io()->colScanForExpressions(shared_from_this());
+  LinkFollowers();
+}
+
+// Each child that another child names as its follower becomes that; where two have one identifier,
+// the later one counts.
+void ExpressionBase::LinkFollowers() {
+  std::unordered_map<std::string, ExpressionRef> byPath;
+  for (const ExpressionRef& segment : colSubExpressions_) {
+    if (!segment) raise(kNoObject);
+    byPath[strAbsolutePath(segment->strGUID())] = segment;
+  }
+  for (const ExpressionRef& segment : colSubExpressions_) {
+    const auto next = byPath.find(strAbsolutePath(segment->strFollowedBy()));
+    if (next != byPath.end()) segment->setObjFollowedBy(next->second);
+  }
+}
+
+std::shared_ptr<ExpressionBase> ExpressionBase::makeSegment(const std::string& title) {
+  const auto segment =
+      std::dynamic_pointer_cast<ExpressionBase>(app().objectFactory->createExpression(className()));
+  const std::string guid =
+      io()->strCreateGUID(document().collObjects(), *segment, document().strGUID());
+  const std::string message =
+      segment->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
+                            app().objectFactory->createForm(className()), io());
+  if (message.empty()) return segment;
+  app().ui.messageBox(message);
+  return nullptr;
+}
+
+void ExpressionBase::AddSubExpression(const std::string& title, double dStart, double dend) {
+  const std::shared_ptr<ExpressionBase> segment = makeSegment(title);
+  if (!segment) return;
+  segment->SetPartOf(strGUID());
+  linkIntoChain(*segment, dStart, dend);
+  segment->SetChunk(dStart, dend);
+  prepareSegment(*segment);
+  segment->setObjMainExpr(std::dynamic_pointer_cast<Expression>(shared_from_this()));
+  segment->setVerVersion(verVersion());
+  colSubExpressions_.push_back(segment);
+  finishSegment(*segment);
+  segment->OpenSubExpressions();
+}
+
+void ExpressionBase::linkIntoChain(ExpressionBase& segment, double dStart, double dend) {
+  const auto self = std::dynamic_pointer_cast<Expression>(segment.shared_from_this());
+  const auto before = std::dynamic_pointer_cast<ExpressionBase>(siblingBefore(dStart));
+  const ExpressionRef after = siblingAfter(dend);
+  if (before) {
+    before->SetFollowedBy(segment.strGUID());
+    before->setObjFollowedBy(self);
+  }
+  if (after) {
+    segment.SetFollowedBy(after->strGUID());
+    segment.setObjFollowedBy(after);
+  }
+}
+
+namespace {
+
+// The rule of the walk over siblings: the nearest counts, but one at distance 0 leaves the place
+// open to any later candidate.
+class Nearest {
+ public:
+  void consider(const ExpressionRef& sibling, double distance) {
+    if (distance < 0 || (best_ != 0 && distance >= best_)) return;
+    best_ = distance;
+    sibling_ = sibling;
+  }
+  const ExpressionRef& sibling() const { return sibling_; }
+
+ private:
+  double best_ = 0;
+  ExpressionRef sibling_;
+};
+
+const Chunk& chunkOf(const std::shared_ptr<Chunk>& chunk) {
+  if (!chunk) raise(kNoObject);
+  return *chunk;
+}
+
+}  // namespace
+
+ExpressionRef ExpressionBase::siblingBefore(double time) const {
+  Nearest nearest;
+  for (const ExpressionRef& sibling : colSubExpressions_) {
+    const auto chunk = sibling->ckGetChunk();
+    nearest.consider(sibling, time - chunkOf(chunk).dend);
+  }
+  return nearest.sibling();
+}
+
+ExpressionRef ExpressionBase::siblingAfter(double time) const {
+  Nearest nearest;
+  for (const ExpressionRef& sibling : colSubExpressions_) {
+    const auto chunk = sibling->ckGetChunk();
+    nearest.consider(sibling, chunkOf(chunk).dStart - time);
+  }
+  return nearest.sibling();
+}
+
+void ExpressionBase::SetPartOf(const std::string& guid) {
+  SchemaElement* field = secol().relationField(rules().partOfField);
+  if (!field) return;
+  field->setVContent(guid);
+  field->setBChanged(true);
+  field->setBValid(true);
+}
+
+void ExpressionBase::SetFollowedBy(const std::string& guid) {
+  SchemaElement* field = secol().relationField(rules().followedByField);
+  if (!field) return;
+  if (!guid.empty()) field->setVContent(guid);
+  field->setBChanged(true);
+  field->setBValid(!guid.empty());
+}
+
+void ExpressionBase::ClearPartOf(const std::string& guid) {
+  SchemaElement* field = secol().relationField(rules().partOfField);
+  if (!field || !io()->bGUIDComp(relationText(rules().partOfField), guid)) return;
+  field->setBValid(false);
+  field->setBChanged(true);
+}
+
+void ExpressionBase::RemoveReferenceObj(DescribedObject& removed) {
+  if (removed.className() == className()) {
+    forgetExpression(removed);
+  } else if (removed.className() == "Version") {
+    if (io()->bGUIDComp(strVersionGUID(), removed.strGUID())) setStrVersionGUID("");
+  }
+}
+
+void ExpressionBase::forgetExpression(DescribedObject& removed) {
+  const auto next = objFollowedBy();
+  if (next && static_cast<const DescribedObject*>(next.get()) == &removed) {
+    // The chain closes over the gap.
+    SetFollowedBy(next->strFollowedBy());
+    setObjFollowedBy(next->objFollowedBy());
+    return;
+  }
+  const auto at = std::find_if(colSubExpressions_.begin(), colSubExpressions_.end(),
+                               [&](const ExpressionRef& segment) {
+                                 return static_cast<DescribedObject*>(segment.get()) == &removed;
+                               });
+  if (at != colSubExpressions_.end()) colSubExpressions_.erase(at);
+  ClearPartOf(removed.strGUID());
+}
+
+void ExpressionBase::removeSegment(const ExpressionRef& segment) {
+  const std::string message = segment->strRemoveAllChilds();
+  if (!message.empty()) {
+    app().ui.messageBox(message);
+    return;
+  }
+  ObjectRef object = segment;
+  document().RemoveObject(object);
+}
+
+void ExpressionBase::RemoveSubExpressionByIndex(std::size_t position) {
+  if (position < 1 || position > colSubExpressions_.size()) raise(kSubscriptOutOfRange);
+  const ExpressionRef segment = colSubExpressions_[position - 1];
+  removeSegment(segment);
+}
+
+void ExpressionBase::RemoveSubExpressionByPointer(const ExpressionRef& segment) {
+  if (!segment) raise(kNoObject);
+  const ExpressionRef kept = segment;
+  removeSegment(kept);
+}
+
+}  // namespace velra

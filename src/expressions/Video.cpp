@@ -1,0 +1,106 @@
+#include "expressions/Video.h"
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "expressions/Audio.h"
+#include "objects/AVDocument.h"
+#include "objects/MediaObject.h"
+#include "platform/UserInterface.h"
+#include "protocol/ObjectFactory.h"
+#include "schema/SEColl.h"
+
+namespace velra {
+
+namespace {
+
+constexpr std::string_view kFrameRateField = "FrameRate";
+constexpr int kHasAudioMessage = 1088;
+constexpr int kWrongClassMessage = 1090;
+
+Video& asVideo(ExpressionBase& segment) {
+  auto* video = dynamic_cast<Video*>(&segment);
+  if (!video) raise(kTypeMismatch);
+  return *video;
+}
+
+}  // namespace
+
+Video::Video(ApplicationModule& app)
+    : ExpressionBase(
+          app, "Video",
+          {"hasvideotranscript", "hasaudio", "versionguid", "followedbyvideo", "partofvideo"}),
+      keyFrame_(app, *this) {}
+
+Video::~Video() = default;
+
+double Video::dFrameRate() const {
+  const SchemaElement* field = secol().field(kFrameRateField);
+  return field && field->bValid() ? toReal(field->vContent()) : 0;
+}
+
+void Video::setDFrameRate(double framesPerSecond) {
+  SchemaElement* field = secol().field(kFrameRateField);
+  if (!field) return;
+  if (isEmpty(field->vContent()) || toReal(field->vContent()) != framesPerSecond) {
+    field->setVContent(framesPerSecond);
+    field->setBChanged(true);
+  }
+  field->setBValid(true);
+}
+
+ObjectRef Video::objKeyframeObject() const {
+  return keyFrame_.objKeyframeObject();
+}
+
+void Video::chooseKeyFrameTime() {
+  const auto span = ckGetChunk();
+  if (!span) raise(kNoObject);
+  SetKeyFrameTime(middleOf(*span));
+}
+
+// Only a segment has a key frame; its parent is known before it is read.
+void Video::afterLoad() {
+  if (!objMainExpr()) return;
+  if (dGetKeyFrameTime() < 0) chooseKeyFrameTime();
+  InitKeyFrameFile();
+}
+
+void Video::openBelow() {
+  ExpressionBase::openBelow();
+  CreateKeyFrameIcons();
+}
+
+void Video::prepareSegment(ExpressionBase& segment) {
+  asVideo(segment).chooseKeyFrameTime();
+}
+
+void Video::finishSegment(ExpressionBase& segment) {
+  Video& video = asVideo(segment);
+  video.InitKeyFrameFile();
+  video.CreateKeyFrameIcons();
+}
+
+void Video::OpenAudio() {
+  const std::string guid = typedText("hasaudio", kHasAudioMessage);
+  if (guid.empty()) return;
+  if (const ObjectRef loaded = document().loadedObject(guid)) {
+    const auto audio = std::dynamic_pointer_cast<Audio>(loaded);
+    if (audio) {
+      objAudio_ = audio;
+    } else {
+      app().ui.messageBox("Audio: " + app().LoadResString(kWrongClassMessage));
+    }
+    return;
+  }
+  objAudio_.reset();
+  const auto audio =
+      std::dynamic_pointer_cast<Audio>(app().objectFactory->createExpression("Audio"));
+  const std::string message = audio->strOpen(guid, app().objectFactory->createForm("Audio"), io());
+  if (message.empty()) {
+    objAudio_ = audio;
+  } else {
+    app().ui.messageBox(message, BoxKind::Exclamation);
+  }
+}
+
+}  // namespace velra

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "expressions/ExpressionBase.h"
+#include "expressions/KeyFrame.h"
+
+namespace velra {
+
+class Audio;
+class AVDocument;
+
+/// The expression that a movie's pictures carry: frame rate, key frame, and the link to an Audio.
+class Video : public ExpressionBase {
+ public:
+  explicit Video(ApplicationModule& app);
+  ~Video() override;
+
+  std::shared_ptr<AVDocument> objParent() const { return objParent_.lock(); }
+  void setObjParent(const std::shared_ptr<AVDocument>& parent) { objParent_ = parent; }
+
+  /// The Audio that OpenAudio has opened; null before.
+  std::shared_ptr<Audio> objAudio() const { return objAudio_.lock(); }
+  bool bHasAudio() const { return objAudio() != nullptr; }
+  /// Opens the Audio that the field names. What fails is shown.
+  void OpenAudio();
+
+  /// Frames per second; 0 when it is not assigned.
+  double dFrameRate() const override;
+  void setDFrameRate(double framesPerSecond) override;
+
+  ObjectRef objKeyframeObject() const override;
+  Picture picKeyFrame() const override { return keyFrame_.picKeyFrame(); }
+  Picture picKeyFrameSmall() const override { return keyFrame_.picKeyFrameSmall(); }
+  double dGetKeyFrameTime() const override { return keyFrame_.dGetKeyFrameTime(); }
+  void SetKeyFrameTime(double seconds) override { keyFrame_.SetKeyFrameTime(seconds); }
+  void InitKeyFrameFile() { keyFrame_.InitKeyFrameFile(); }
+  void CreateKeyFrameIcons() { keyFrame_.CreateKeyFrameIcons(); }
+  void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to) override {
+    keyFrame_.UpdateLocationKeyFrameObject(from, to);
+  }
+
+ protected:
+  void afterLoad() override;
+  void openBelow() override;
+  void prepareSegment(ExpressionBase& segment) override;
+  void finishSegment(ExpressionBase& segment) override;
+
+ private:
+  void chooseKeyFrameTime();
+
+  std::weak_ptr<AVDocument> objParent_;
+  std::weak_ptr<Audio> objAudio_;  // the registry holds it
+  KeyFrame keyFrame_;
+};
+
+}  // namespace velra
