@@ -1,0 +1,122 @@
+#include "tool/AdvancedSlider.h"
+
+#include "base/Arithmetic.h"
+#include "base/RunTimeError.h"
+#include "tool/PropertyBag.h"
+
+namespace velra {
+
+namespace {
+
+constexpr std::int32_t kWhite = 16777215;
+constexpr double kDefaultLargeChange = 0.05;
+
+// Both ends of the selection are stored under one key that nobody reads: a stored selection does
+// not come back.
+constexpr const char* kSelectionWriteKey = "dMiRangeSelectedax";
+
+}  // namespace
+
+void AdvancedSlider::changed(std::string_view property) const {
+  if (events.PropertyChanged) events.PropertyChanged(property);
+}
+
+void AdvancedSlider::setRangeColor(std::int32_t colour) {
+  RangeColor_ = colour;
+  BlinkLine_.colour = colour;
+  for (Mark& mark : marks_) mark.colour = colour;
+  changed("RangeColor");
+  repaint();
+}
+
+void AdvancedSlider::setStartRangeColor(std::int32_t colour) {
+  StartRangeColor_ = colour;
+  changed("StartRangeColor");
+}
+
+void AdvancedSlider::setDMin(double seconds) {
+  dMin_ = seconds;
+  changed("dMin");
+}
+
+void AdvancedSlider::setDMax(double seconds) {
+  dMax_ = seconds;
+  changed("dMax");
+}
+
+void AdvancedSlider::setDPosition(double seconds) {
+  dPosition_ = seconds;
+  if (dPosition_ > dMax_) dPosition_ = dMax_;
+  if (dPosition_ < dMin_) dPosition_ = dMin_;
+  Slider1_.value = toInt32(Slider::kMin + (Slider::kMax - Slider::kMin) * share(dPosition_));
+  changed("dPosition");
+  if (events.ThumbMoved) events.ThumbMoved();
+}
+
+void AdvancedSlider::setDLargeChange(double seconds) {
+  const double span = dMax_ - dMin_;
+  dLargeChange_ = span < seconds ? span : seconds;
+  if (span == 0) raise(kDivisionByZero);
+  Slider1_.largeChange = toInt32(dLargeChange_ / span * (Slider::kMax - Slider::kMin));
+  changed("dLargeChange");
+}
+
+void AdvancedSlider::setEnabled(bool enabled) {
+  Slider1_.enabled = enabled;
+  changed("Enabled");
+  repaint();
+}
+
+void AdvancedSlider::setIRangeSelectedStart(std::int16_t index) {
+  iRangeSelectedStart_ = index;
+  iRangeSelectedEnd_ = index;
+  colour();
+  redraw();
+  changed("iRangeSelectedStart");
+}
+
+void AdvancedSlider::setIRangeSelectedEnd(std::int16_t index) {
+  if (iRangeSelectedStart_ == -1) return;
+  iRangeSelectedEnd_ = index;
+  redraw();
+  changed("iRangeSelectedEnd");
+}
+
+void AdvancedSlider::ReadProperties(const PropertyBag& bag) {
+  setRangeColor(bag.read("RangeColor", kWhite));
+  setStartRangeColor(bag.read("StartRangeColor", kWhite));
+  setDMin(bag.read("dMin", 0.0));
+  setDMax(bag.read("dMax", 1.0));
+  setIRangeSelectedStart(toInt16(bag.read("iRangeSelectedStart", std::int32_t{-1})));
+  setIRangeSelectedEnd(toInt16(bag.read("iRangeSelectedEnd", std::int32_t{-1})));
+  setDPosition(bag.read("dPosition", dMin_));
+  setDLargeChange(bag.read("dLargeChange", kDefaultLargeChange));
+  setEnabled(bag.read("Enabled", true));
+}
+
+void AdvancedSlider::WriteProperties(PropertyBag& bag) const {
+  constexpr std::int32_t kNone = -1;
+  bag.WriteProperty("RangeColor", RangeColor_, kWhite);
+  bag.WriteProperty("StartRangeColor", StartRangeColor_, kWhite);
+  bag.WriteProperty("dMin", dMin_, 0.0);
+  bag.WriteProperty("dMax", dMax_, 1.0);
+  bag.WriteProperty(kSelectionWriteKey, std::int32_t{iRangeSelectedStart_}, kNone);
+  bag.WriteProperty(kSelectionWriteKey, std::int32_t{iRangeSelectedEnd_}, kNone);
+  bag.WriteProperty("dPosition", dPosition_, dMin_);
+  bag.WriteProperty("dLargeChange", dLargeChange_, kDefaultLargeChange);
+  bag.WriteProperty("Enabled", Enabled(), true);
+}
+
+void AdvancedSlider::UserMovesThumb(std::int32_t value) {
+  if (!Enabled()) return;
+  constexpr double kSteps = Slider::kMax - Slider::kMin;
+  Slider1_.value = value < Slider::kMin   ? Slider::kMin
+                   : value > Slider::kMax ? Slider::kMax
+                                          : value;
+  dPosition_ = (Slider1_.value - Slider::kMin) / kSteps * (dMax_ - dMin_) + dMin_;
+  changed("dPosition");
+  if (events.ThumbMoved) events.ThumbMoved();
+  if (events.Scroll) events.Scroll();
+}
+
+}  // namespace velra

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "values/Range.h"
+
+namespace velra {
+
+class PropertyBag;
+
+/// What the person does on the timeline, and what its pixels must follow. Unset functions are not
+/// called.
+struct AdvancedSliderEvents {
+  std::function<void(std::int16_t)> DblClick;
+  std::function<void(std::int16_t)> Click;
+  std::function<void()> Scroll;
+  std::function<void(std::string_view)> PropertyChanged;  ///< a setter ran; its property's name
+  std::function<void()> Repaint;                          ///< marks or blink line look different
+  std::function<void()> ThumbMoved;
+  std::function<void(bool)> RunBlinkTimer;  ///< 500 ms between ticks
+};
+
+/// The timeline of a movie: a slider for the position, and above it one bracket for each segment.
+/// It knows nothing of expressions. Range k belongs to element k of the owner's list. Times are
+/// seconds, places and widths twips, colours 0x00bbggrr; indexes count from 1, and -1 means none.
+/// A span of no length raises kDivisionByZero wherever a time becomes a place.
+class AdvancedSlider {
+ public:
+  /// The slider below the marks; its whole numbers are the thumb's own.
+  struct Slider {
+    static constexpr std::int32_t kMin = 0;
+    static constexpr std::int32_t kMax = 5000;
+    double left = 0;
+    double width = 0;
+    std::int32_t value = 0;
+    std::int32_t largeChange = 0;
+    bool enabled = false;
+  };
+
+  /// How one range is drawn: a bracket over its span, and the caption as tool tip.
+  struct Mark {
+    std::string caption;
+    double left = 0;
+    double width = 0;
+    int borderWidth = kPlainBorder;
+    std::int32_t colour = 0;
+  };
+
+  struct BlinkLine {
+    bool visible = false;
+    double x = 0;
+    std::int32_t colour = 0;
+  };
+
+  static constexpr int kPlainBorder = 4;
+  static constexpr int kSelectedBorder = 6;
+  static constexpr int kShiftArgument = 1;  // Shift alone, in the argument of the mouse
+
+  AdvancedSliderEvents events;
+
+  // Properties.
+  std::int32_t RangeColor() const { return RangeColor_; }
+  void setRangeColor(std::int32_t colour);
+  std::int32_t StartRangeColor() const { return StartRangeColor_; }
+  void setStartRangeColor(std::int32_t colour);
+  double dMin() const { return dMin_; }
+  void setDMin(double seconds);
+  double dMax() const { return dMax_; }
+  void setDMax(double seconds);
+  double dPosition() const { return dPosition_; }
+  /// Clamps to the span and moves the thumb; raises no event.
+  void setDPosition(double seconds);
+  double dLargeChange() const { return dLargeChange_; }
+  void setDLargeChange(double seconds);
+  bool Enabled() const { return Slider1_.enabled; }
+  void setEnabled(bool enabled);
+  std::int16_t iRangeSelectedStart() const { return iRangeSelectedStart_; }
+  void setIRangeSelectedStart(std::int16_t index);
+  std::int16_t iRangeSelectedEnd() const { return iRangeSelectedEnd_; }
+  void setIRangeSelectedEnd(std::int16_t index);
+
+  void ReadProperties(const PropertyBag& bag);
+  void WriteProperties(PropertyBag& bag) const;
+
+  // Ranges.
+  /// Index of the new range; 0 when it ends before it begins. A range that begins before the span
+  /// shrinks to its end, one that ends behind it is cut.
+  std::int16_t iAddRange(double dBegin, double dend, const std::string& caption);
+  /// Leaves the selection's numbers as they are and redraws nothing: the owner does.
+  void RemoveSelectedRanges();
+  /// Takes back the range added last, whose segment could not be made.
+  void takeBackLastRange();
+  /// A bad index is ignored; the bounds are not clamped.
+  void UpdateRange(std::int16_t index, double dBegin, double dend);
+  /// The indexes of the selected ranges in rising order. A selection index that no range has any
+  /// more raises kSubscriptOutOfRange.
+  std::vector<std::int16_t> colSelectedIndexes() const;
+  std::int16_t Count() const;
+  const RangeSet& colRanges() const { return colRanges_; }
+
+  // The blink line.
+  void PutBlinkLine(double seconds);
+  void RemoveBlinkLine();
+  void BlinkTick();
+
+  /// Lays everything out anew.
+  void Refresh();
+  void Resize(double widthTwips);
+
+  // The mouse and the keyboard.
+  void MouseDown(std::int16_t index, int shift);
+  void DoubleClick(std::int16_t index);
+  void UserMovesThumb(std::int32_t value);
+
+  // For the face.
+  const Slider& slider() const { return Slider1_; }
+  const std::vector<Mark>& marks() const { return marks_; }
+  const BlinkLine& blinkLine() const { return BlinkLine_; }
+  /// The range drawn at a place, the topmost first; 0 for none. A mark too narrow to be hit answers
+  /// over `slack` twips on both sides.
+  std::int16_t iRangeAt(double x, double slack) const;
+  /// The range whose begin comes next in time after (or before) the one at the selection's end; 0
+  /// for none. Without a selection the first (or last).
+  std::int16_t iNeighbour(bool forward) const;
+
+ private:
+  double share(double seconds) const;
+  double x(double seconds) const;
+  void place(std::size_t index);
+  void placeBlinkLine();
+  void redraw();
+  void highlight();
+  void colour();
+  bool isSelected(const Range& range) const;
+  void changed(std::string_view property) const;
+  void repaint() const;
+
+  std::int32_t RangeColor_ = 0xFFFFFF;
+  std::int32_t StartRangeColor_ = 0xFFFFFF;
+  double dMin_ = 0;
+  double dMax_ = 1;
+  double dPosition_ = 0;
+  double dLargeChange_ = 0;
+  double dBlinkTime_ = 0;
+  std::int16_t iRangeSelectedStart_ = -1;
+  std::int16_t iRangeSelectedEnd_ = -1;
+  Slider Slider1_;
+  BlinkLine BlinkLine_;
+  RangeSet colRanges_;
+  std::vector<Mark> marks_;  // one for each range, at the same place
+};
+
+}  // namespace velra

@@ -1,0 +1,101 @@
+// Layout, scrolling and the mouse of the strip.
+#include "tool/Framelist.h"
+
+#include <algorithm>
+
+#include "base/Arithmetic.h"
+
+namespace velra {
+
+namespace {
+
+constexpr double kPanelMargin = 100;
+
+}  // namespace
+
+void Framelist::layOut() {
+  for (const auto& image : colImages_) place(*image);
+  if (iSelectedStart_ != -1) {
+    hideSquares();
+    showStretch(iSelectedStart_, iSelectedEnd_);
+    colour();
+  }
+  sizeScrollBar();
+  repaint();
+}
+
+void Framelist::sizeScrollBar() {
+  const double panelWidth = Count() * static_cast<double>(iCellX_) + kPanelMargin;
+  HScroll1_.largeChange = iCellX_;
+  HScroll1_.smallChange = toInt16(ImageX_ / 4.0);
+  HScroll1_.max = toInt16(panelWidth - width_);
+  HScroll1_.visible = width_ < panelWidth;
+  Scroll(HScroll1_.value);
+}
+
+void Framelist::Refresh() {
+  layOut();
+}
+
+void Framelist::Resize(double widthTwips) {
+  width_ = widthTwips;
+  Refresh();
+}
+
+void Framelist::Scroll(std::int16_t value) {
+  const std::int16_t highest = std::max<std::int16_t>(HScroll1_.max, 0);
+  HScroll1_.value = std::clamp<std::int16_t>(value, 0, highest);
+  repaint();
+}
+
+void Framelist::ScrollTo(std::int16_t position) {
+  const double left = at(position)->left;
+  const double right = left + iCellX_;
+  double value = HScroll1_.value;
+  if (right > value + width_) value = right - width_;
+  if (left < value) value = left;
+  Scroll(toInt16(std::clamp(value, 0.0, 32767.0)));
+}
+
+void Framelist::MouseDown(std::int16_t position, int shift) {
+  const bool extend = shift == kShiftArgument;
+  if (extend && iSelectedStart_ == -1) return;
+  iSelectedEnd_ = position;
+  if (!extend) iSelectedStart_ = position;
+  hideSquares();
+  showStretch(iSelectedStart_, iSelectedEnd_);
+  colour();
+  repaint();
+  if (events.Click) events.Click(iSelectedStart_, at(iSelectedStart_)->tag);
+}
+
+void Framelist::DoubleClick(std::int16_t position) {
+  const std::int16_t tag = at(position)->tag;
+  MouseDown(position, 0);
+  if (events.DblClick) events.DblClick(position, tag);
+}
+
+std::int16_t Framelist::iImageAt(double x, double y) const {
+  if (y < kMargin || y >= kMargin + ImageY_) return 0;
+  for (std::int16_t i = Count(); i >= 1; --i) {
+    const double left = at(i)->left + kMargin;
+    if (x >= left && x < left + ImageX_) return i;
+  }
+  return 0;
+}
+
+std::int16_t Framelist::iNeighbour(bool forward) const {
+  const bool selected = iSelectedEnd_ >= 1 && iSelectedEnd_ <= Count();
+  std::int16_t best = 0;
+  for (std::int16_t i = 1; i <= Count(); ++i) {
+    const int step = forward ? 1 : -1;
+    const auto ahead = [&](std::int16_t a, std::int16_t b) {
+      return step * (at(b)->tag - at(a)->tag) > 0;
+    };
+    if (selected && !ahead(iSelectedEnd_, i)) continue;
+    if (best == 0 || ahead(i, best)) best = i;
+  }
+  return best;
+}
+
+}  // namespace velra

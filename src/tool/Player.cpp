@@ -1,0 +1,165 @@
+#include "tool/Player.h"
+
+#include <utility>
+#include <vector>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "platform/Files.h"
+#include "platform/UserInterface.h"
+#include "tool/AdvancedSlider.h"
+#include "tool/ToolFace.h"
+#include "tool/TranscriptView.h"
+#include "values/TimeCode.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kNoItemSelected = 1091;
+
+double numberOf(const std::string& text) {
+  const auto number = toNumber(text);
+  if (!number) raise(kTypeMismatch, text);
+  return *number;
+}
+
+}  // namespace
+
+Player::Player(ExpressionRef obj, Parts parts) : obj_(std::move(obj)), parts_(std::move(parts)) {}
+
+MediaGraph& Player::objMediaControl() const {
+  if (!objMediaControl_) raise(kNoObject);
+  return *objMediaControl_;
+}
+
+Chunk& Player::ckChunk() const {
+  if (!ckChunk_) raise(kNoObject);
+  return *ckChunk_;
+}
+
+bool Player::LoadMovie(const std::string& path) {
+  bPlaying_ = false;
+  if (path.empty()) {
+    parts_.app.ui.messageBox(parts_.app.LoadResString(kNoItemSelected));
+    ckChunk_ = obj_->ckGetChunk();
+    return true;
+  }
+  if (!bFileExists(path)) return refuse("The movie file was not found.", path);
+  auto graph = parts_.makeGraph();
+  const std::string reason = graph->RenderFile(path);
+  if (!reason.empty()) return refuse(reason, path);
+  objMediaControl_ = std::move(graph);
+  measureFrameRate();
+  takeSpan();
+  return true;
+}
+
+bool Player::refuse(const std::string& reason, const std::string& path) {
+  parts_.app.ui.messageBox(reason + "\n" + path, BoxKind::Exclamation);
+  return false;
+}
+
+void Player::measureFrameRate() {
+  const double frame = objMediaControl_->AvgTimePerFrame();
+  if (frame <= 0) return;
+  dFrameRate_ = 1 / frame;
+  if (obj_->className() == "Video" && obj_->dFrameRate() != dFrameRate_) {
+    obj_->setDFrameRate(dFrameRate_);
+  }
+}
+
+void Player::takeSpan() {
+  ckChunk_ = obj_->ckGetChunk();
+  if (!ckChunk_) return;
+  const double duration = objMediaControl_->Duration();
+  // 0 is no length but an unknown one, and says nothing about the stored end.
+  if (duration > 0 && ckChunk_->dStart + duration < ckChunk_->dend) ckChunk_->dend = duration;
+  if (ckChunk_->dend >= 0 && ckChunk_->dStart >= 0) showStart();
+}
+
+void Player::showStart() {
+  objMediaControl_->setCurrentPosition(ckChunk_->dStart);
+  objMediaControl_->Pause();
+  bPlaying_ = false;
+  parts_.face.showTimeCode(TimeToText(CurrentPosition()));
+  parts_.transcript.UpdateTranscriptText(CurrentPosition(), true);
+}
+
+void Player::ClosePlayer() try {
+  bPlaying_ = false;
+  parts_.face.runPendingEvents();
+  if (objMediaControl_) {
+    objMediaControl_->Stop();
+    parts_.face.runTimer1(false);
+    objMediaControl_->setNotify({});
+  }
+  objMediaControl_.reset();
+} catch (const RunTimeError&) {
+  // The form closes whatever the movie says.
+}
+
+void Player::SeekTo(double seconds) {
+  MediaGraph& movie = objMediaControl();
+  parts_.advsld.setDPosition(seconds);
+  movie.setCurrentPosition(seconds);
+  movie.Pause();
+  parts_.transcript.UpdateTranscriptText(movie.CurrentPosition(), true);
+  parts_.face.showTimeCode(TimeToText(movie.CurrentPosition()));
+  bPlaying_ = false;
+}
+
+void Player::cmdPlay() {
+  if (!objMediaControl_) return;
+  objMediaControl_->Run();
+  bPlaying_ = true;
+  parts_.face.runTimer1(true);
+}
+
+void Player::cmdPause() {
+  if (!objMediaControl_) return;
+  objMediaControl_->Pause();
+  bPlaying_ = false;
+}
+
+void Player::cmdStop() {
+  if (!objMediaControl_) return;
+  objMediaControl_->Stop();
+  parts_.face.runTimer1(false);
+}
+
+void Player::cmdForward() {
+  if (!objMediaControl_) return;
+  // Only the very bound stops: a position already behind the end steps on.
+  const double position = CurrentPosition();
+  if (position != ckChunk().dend) SeekTo(position + objMediaControl_->AvgTimePerFrame());
+}
+
+void Player::cmdRewind() {
+  if (!objMediaControl_) return;
+  const double position = CurrentPosition();
+  if (position != ckChunk().dStart) SeekTo(position - objMediaControl_->AvgTimePerFrame());
+}
+
+void Player::Timer1() {
+  const double position = CurrentPosition();
+  parts_.advsld.setDPosition(position);
+  parts_.transcript.UpdateTranscriptText(position, false);
+  parts_.face.showTimeCode(TimeToText(CurrentPosition()));
+}
+
+std::string Player::TimeToText(double seconds) const {
+  return timeCodeText(SplitTimeCode(seconds, dFrameRate_));
+}
+
+double Player::TextToTime(const std::string& text) const {
+  const std::vector<std::string> fields = split(text, ':');
+  if (fields.size() != TimeCode().size()) raise(kSubscriptOutOfRange, text);
+  const double seconds =
+      numberOf(fields[0]) * 3600 + numberOf(fields[1]) * 60 + numberOf(fields[2]);
+  if (dFrameRate_ == 0) raise(kDivisionByZero);
+  return seconds + numberOf(fields[3]) / dFrameRate_;
+}
+
+}  // namespace velra

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <unordered_map>
+
+#include "protocol/Expression.h"
+
+namespace velra {
+
+/// The children of an expression in order of time, as `objFollowedBy` links them. Made for one call
+/// and never kept, since the children change; each child is read once, so that a walk is linear. A
+/// chain that runs into itself ends there.
+class SegmentChain {
+ public:
+  explicit SegmentChain(const ExpressionList& children);
+
+  /// From the head (the first child that none is followed by) to the end. Empty without a head.
+  ExpressionList forward() const;
+  /// From the tail (the first child that nothing follows) back to the start. Of two children with
+  /// the same follower the first is its predecessor. Empty without a tail.
+  ExpressionList backward() const;
+
+  /// The child's place from 1 in the list; 0 when it is none of the children.
+  std::int16_t listPosition(const ExpressionRef& child) const;
+
+ private:
+  struct Entry {
+    std::size_t position = 0;
+    ExpressionRef predecessor;
+  };
+
+  void linkPredecessors(const ExpressionList& children);
+
+  std::unordered_map<const Expression*, Entry> entries_;
+  ExpressionRef head_;
+  ExpressionRef tail_;
+};
+
+/// Places in order of time from 1, for the children that the chain reaches from its head.
+class ChainPositions {
+ public:
+  explicit ChainPositions(const ExpressionList& children);
+
+  /// 0 when the chain does not reach the child.
+  std::int16_t iChainPosition(const ExpressionRef& child) const;
+
+ private:
+  std::unordered_map<const Expression*, std::int16_t> places_;
+};
+
+}  // namespace velra

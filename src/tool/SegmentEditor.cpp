@@ -1,0 +1,192 @@
+#include "tool/SegmentEditor.h"
+
+#include <utility>
+#include <vector>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "platform/UserInterface.h"
+#include "protocol/MainWindow.h"
+#include "tool/AdvancedSlider.h"
+#include "tool/Framelist.h"
+#include "tool/Player.h"
+#include "tool/RangeDialog.h"
+#include "tool/SegmentChain.h"
+#include "tool/SegmentTests.h"
+#include "tool/ToolFace.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kAskRemove = 1101;
+constexpr int kNotValidInterval = 1102;
+constexpr int kTitlePrompt = 1103;
+constexpr int kTitleBoxTitle = 1104;
+constexpr int kBoundsOverlap = 1120;
+constexpr int kAskMerge = 1150;
+constexpr int kAskKeyFrame = 1176;
+constexpr int kKeyFrameUpdated = 1177;
+constexpr double kPagesOfTheTimeline = 100;
+
+}  // namespace
+
+SegmentEditor::SegmentEditor(ExpressionRef obj, Parts parts)
+    : obj_(std::move(obj)), parts_(parts) {}
+
+bool SegmentEditor::isVideo() const {
+  return obj_->className() == "Video";
+}
+
+void SegmentEditor::tell(int message) {
+  parts_.app.ui.messageBox(parts_.app.LoadResString(message));
+}
+
+bool SegmentEditor::hasSelection() const {
+  return parts_.advsld.iRangeSelectedStart() != -1;
+}
+
+ExpressionRef SegmentEditor::child(std::int16_t position) const {
+  const ExpressionList& children = obj_->colSubExpressions();
+  if (position < 1 || static_cast<std::size_t>(position) > children.size()) {
+    raise(kSubscriptOutOfRange);
+  }
+  return children[static_cast<std::size_t>(position) - 1];
+}
+
+std::string SegmentEditor::caption(const std::string& title, double start, double end) const {
+  return "'" + title + "': From " + parts_.player.TimeToText(start) + " To " +
+         parts_.player.TimeToText(end);
+}
+
+void SegmentEditor::resetTree() {
+  if (parts_.app.gMainForm) {
+    parts_.app.gMainForm->ResetTree(TreeId::tvwExpression, obj_->verVersion());
+  }
+}
+
+void SegmentEditor::LoadSegments() {
+  AdvancedSlider& advsld = parts_.advsld;
+  if (!parts_.player.hasMovie()) return advsld.setEnabled(false);
+  const Chunk& span = parts_.player.ckChunk();
+  advsld.setDMin(span.dStart);
+  advsld.setDMax(span.dend);
+  advsld.setDLargeChange((advsld.dMax() - advsld.dMin()) / kPagesOfTheTimeline);
+  const ExpressionList& children = obj_->colSubExpressions();
+  const ChainPositions places(children);
+  for (const ExpressionRef& segment : children) {
+    const auto times = spanOf(*segment);
+    const std::string text = caption(segment->strTitle(), times->dStart, times->dend);
+    advsld.iAddRange(times->dStart, times->dend, text);
+    if (segment->className() == "Video") {
+      parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment), text);
+    }
+  }
+}
+
+void SegmentEditor::CreateSegment(double start, double end) {
+  const std::string title = parts_.app.ui.inputBox(parts_.app.LoadResString(kTitlePrompt),
+                                                   parts_.app.LoadResString(kTitleBoxTitle));
+  if (!title.empty()) addSegment(title, start, end);
+}
+
+void SegmentEditor::addSegment(const std::string& title, double start, double end) {
+  const std::string text = caption(title, start, end);
+  const std::int16_t position = parts_.advsld.iAddRange(start, end, text);
+  const std::size_t before = obj_->colSubExpressions().size();
+  obj_->AddSubExpression(title, start, end);
+  const bool made = obj_->colSubExpressions().size() > before;
+  if (!made && position > 0) {
+    // Its message has been shown; a range without a segment would put the lists out of step.
+    parts_.advsld.takeBackLastRange();
+  } else if (made && isVideo()) {
+    addPicture(position, text);
+  }
+  resetTree();
+}
+
+void SegmentEditor::addPicture(std::int16_t position, const std::string& segmentCaption) {
+  const ExpressionRef segment = child(position);
+  const ChainPositions places(obj_->colSubExpressions());
+  parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment),
+                              segmentCaption);
+  if (parts_.app.gMainForm) parts_.app.gMainForm->AddSmallKeyFrame(*segment);
+}
+
+bool SegmentEditor::askBounds(double start, double end) {
+  parts_.dialog.SetTime(start, end, parts_.player.dFrameRate());
+  parts_.face.showRangeDialog(parts_.dialog);
+  return !parts_.dialog.bCancel();
+}
+
+void SegmentEditor::NewSegmentByDialog() {
+  if (!parts_.player.hasMovie()) return;
+  const double position = parts_.player.CurrentPosition();
+  if (!askBounds(position, position)) return;
+  const double start = parts_.dialog.dGetStartTime();
+  double end = parts_.dialog.dGetEndTime();
+  if (end > parts_.player.Duration()) end = parts_.player.Duration();
+  if (end < start) return tell(kNotValidInterval);
+  if (!bBoundsAreFree(obj_->colSubExpressions(), start, end)) return tell(kBoundsOverlap);
+  CreateSegment(start, end);
+}
+
+void SegmentEditor::ModifySelectedSegment() {
+  if (!parts_.player.hasMovie() || !hasSelection()) return;
+  const std::int16_t position = parts_.advsld.iRangeSelectedStart();
+  const ExpressionRef segment = child(position);
+  const auto span = spanOf(*segment);
+  if (!askBounds(span->dStart, span->dend)) return;
+  const double start = parts_.dialog.dGetStartTime();
+  double end = parts_.dialog.dGetEndTime();
+  if (end > parts_.player.Duration()) end = parts_.player.Duration();
+  if (end < start) return tell(kNotValidInterval);
+  setBounds(segment, position, start, end);
+}
+
+void SegmentEditor::setBounds(const ExpressionRef& segment, std::int16_t position, double start,
+                              double end) {
+  segment->SetChunk(start, end);
+  parts_.advsld.UpdateRange(position, start, end);
+}
+
+void SegmentEditor::ConfirmRemoveSegments() {
+  if (!hasSelection()) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskRemove))) return;
+  RemoveSelectedSegments();
+  resetTree();
+}
+
+void SegmentEditor::RemoveSelectedSegments() {
+  if (!hasSelection()) return;
+  ExpressionList selected;
+  for (const std::int16_t index : parts_.advsld.colSelectedIndexes()) {
+    selected.push_back(child(index));
+  }
+  for (const ExpressionRef& segment : selected) obj_->RemoveSubExpressionByPointer(segment);
+  parts_.advsld.RemoveSelectedRanges();
+  parts_.Framelist1.RemoveSelected();
+}
+
+void SegmentEditor::MergeSelectedSegments() {
+  if (!hasSelection()) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskMerge))) return;
+  const std::int16_t a = parts_.advsld.iRangeSelectedStart();
+  const std::int16_t b = parts_.advsld.iRangeSelectedEnd();
+  // Positions in the list decide here, not times.
+  const double start = spanOf(*child(a < b ? a : b))->dStart;
+  const double end = spanOf(*child(a < b ? b : a))->dend;
+  const std::string title = child(a)->strTitle();
+  RemoveSelectedSegments();
+  addSegment(title, start, end);
+}
+
+void SegmentEditor::ChangeKeyFrame() {
+  if (!isVideo()) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskKeyFrame))) return;
+  obj_->SetKeyFrameTime(parts_.player.CurrentPosition());
+  if (parts_.app.gMainForm) parts_.app.gMainForm->UpdateSmallKeyFrames();
+  tell(kKeyFrameUpdated);
+}
+
+}  // namespace velra
