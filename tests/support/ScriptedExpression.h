@@ -1,0 +1,153 @@
+#pragma once
+
+#include <cmath>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/RunTimeError.h"
+#include "protocol/Expression.h"
+
+namespace velra::test {
+
+/// An expression in memory without fields and files. It links its chain as the real ones do for
+/// segments that do not overlap.
+class ScriptedExpression : public Expression {
+ public:
+  explicit ScriptedExpression(std::string className) : className_(std::move(className)) {}
+
+  std::string title;
+  std::string movie;
+  std::shared_ptr<Chunk> span;
+  std::shared_ptr<WordColl> words;
+  ExpressionRef transcript;  // null: the Version has none
+  ExpressionRef follower;
+  std::weak_ptr<Expression> parent;
+  ExpressionList children;
+  double frameRate = 0;
+  double keyFrameTime = -1;
+  bool refusesNewSegments = false;  // as when a new object cannot be initialised
+  std::vector<std::string> shownOver;
+
+  static std::shared_ptr<ScriptedExpression> make(const std::string& className, double start,
+                                                  double end) {
+    auto made = std::make_shared<ScriptedExpression>(className);
+    made->SetChunk(start, end);
+    return made;
+  }
+  std::shared_ptr<ScriptedExpression> child(std::size_t position) const {
+    return std::dynamic_pointer_cast<ScriptedExpression>(children.at(position - 1));
+  }
+
+  // Expression.
+  ExpressionRef objMainExpr() const override { return parent.lock(); }
+  void setObjMainExpr(const ExpressionRef& main) override { parent = main; }
+  ExpressionRef objFollowedBy() const override { return follower; }
+  void setObjFollowedBy(const ExpressionRef& next) override { follower = next; }
+  ObjectRef verVersion() const override { return nullptr; }
+  void setVerVersion(const ObjectRef&) override {}
+  const ExpressionList& colSubExpressions() const override { return children; }
+  void OpenSubExpressions() override {}
+
+  void AddSubExpression(const std::string& newTitle, double dStart, double dend) override {
+    if (refusesNewSegments) return;
+    const auto added = make(className_, dStart, dend);
+    added->title = newTitle;
+    added->parent = shared_from_expression();
+    if (const ExpressionRef before = nearest(dStart, true)) before->setObjFollowedBy(added);
+    added->follower = nearest(dend, false);
+    children.push_back(added);
+  }
+  void RemoveSubExpressionByPointer(const ExpressionRef& segment) override {
+    for (const ExpressionRef& other : children) {
+      if (other->objFollowedBy() == segment) other->setObjFollowedBy(segment->objFollowedBy());
+    }
+    std::erase(children, ExpressionRef(segment));
+  }
+  void RemoveSubExpressionByIndex(std::size_t position) override {
+    RemoveSubExpressionByPointer(children.at(position - 1));
+  }
+  std::string strVersionGUID() const override { return {}; }
+  void setStrVersionGUID(const std::string&) override {}
+  std::string strGetPartOf() const override { return {}; }
+  std::string strFollowedBy() const override { return {}; }
+  bool bCheckIfSubExpression(const std::string&, const std::string&) const override {
+    return false;
+  }
+  std::shared_ptr<Chunk> ckGetChunk() const override { return span; }
+  void SetChunk(double dStart, double dend) override {
+    span = std::make_shared<Chunk>();
+    span->dStart = dStart;
+    span->dend = dend;
+  }
+  std::string strGetMediaObjectPath() const override { return movie; }
+  void OpenTranscript() override {}
+  bool bHasTranscript() const override { return transcript != nullptr; }
+  ExpressionRef objTranscript() const override { return transcript; }
+  std::shared_ptr<WordColl> WordList() const override { return words; }
+  double dFrameRate() const override { return frameRate; }
+  void setDFrameRate(double framesPerSecond) override { frameRate = framesPerSecond; }
+  Picture picKeyFrame() const override { return {}; }
+  Picture picKeyFrameSmall() const override { return {}; }
+  double dGetKeyFrameTime() const override { return keyFrameTime; }
+  void SetKeyFrameTime(double seconds) override { keyFrameTime = seconds; }
+
+  // DescribedObject.
+  const std::string& className() const override { return className_; }
+  std::shared_ptr<IOManager> io() const override { return nullptr; }
+  SEColl& secol() const override { raise(kNoObject); }
+  std::string strGUID() const override { return title; }
+  void setStrGUID(const std::string&) override {}
+  std::string strTitle() const override { return title; }
+  void setStrTitle(const std::string& text) override { title = text; }
+  void strInitGUID(const std::string&) override {}
+  void setStrSchemaPath(const std::string&) override {}
+  bool bChanged() const override { return false; }
+  std::int16_t iNumValidElem() const override { return 0; }
+  void ShowForm(FormOwner&) override { shownOver.push_back(title); }
+  void EditAttributesForm(FormOwner&) override {}
+  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
+                         const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
+                      const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
+                           const std::string&, const std::shared_ptr<ObjectForm>&,
+                           const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  bool bSave() override { return true; }
+  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
+  void RemoveReferenceObj(DescribedObject&) override {}
+  bool bReferedStillToBeSaved() const override { return false; }
+  ObjectList colSelSubTree() override { return {}; }
+  std::string strRemoveAllChilds() override { return {}; }
+  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  const ObjectList& colChilds() const override { return none_; }
+
+ private:
+  ExpressionRef shared_from_expression() {
+    return std::dynamic_pointer_cast<Expression>(shared_from_this());
+  }
+  /// The child that ends nearest before a time, or begins nearest after it.
+  ExpressionRef nearest(double time, bool before) const {
+    ExpressionRef best;
+    double distance = INFINITY;
+    for (const ExpressionRef& other : children) {
+      const auto times = other->ckGetChunk();
+      const double gap = before ? time - times->dend : times->dStart - time;
+      if (gap < 0 || gap >= distance) continue;
+      best = other;
+      distance = gap;
+    }
+    return best;
+  }
+
+  std::string className_;
+  ObjectList none_;
+};
+
+}  // namespace velra::test

@@ -1,0 +1,143 @@
+#include "tool/Player.h"
+
+#include "base/RunTimeError.h"
+#include "tool/ToolFixture.h"
+
+namespace velra::test {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class PlayerTest : public ToolTest {};
+
+TEST_F(PlayerTest, aMovieOpensAtTheStartOfTheSpan) {
+  use("Video", 10, 20);
+  ASSERT_TRUE(open());
+  EXPECT_EQ(movie.takeCalls(), (Calls{"RenderFile", "seek", "Pause"}));
+  EXPECT_EQ(face.timeCode, "00:00:10:00");
+  EXPECT_EQ(obj->frameRate, 25);
+  EXPECT_EQ(tool->advsld.dMin(), 10);
+  EXPECT_EQ(tool->advsld.dMax(), 20);
+  EXPECT_EQ(tool->advsld.dLargeChange(), 0.1);
+  EXPECT_TRUE(tool->advsld.Enabled());
+}
+
+TEST_F(PlayerTest, onlyAVideoKeepsTheFrameRate) {
+  use("Audio");
+  ASSERT_TRUE(open());
+  EXPECT_EQ(obj->frameRate, 0);
+  EXPECT_EQ(tool->player.dFrameRate(), 25);
+  movie.frameLength = 0;
+  use("Video");
+  ASSERT_TRUE(open());
+  EXPECT_EQ(tool->player.dFrameRate(), 0);
+  tool->player.SeekTo(12.9);
+  EXPECT_EQ(face.timeCode, "00:00:12:00");
+}
+
+TEST_F(PlayerTest, anEndBehindTheMovieIsCutToItsLength) {
+  struct Case {
+    double start, end, kept;
+  };
+  for (const Case& row :
+       {Case{0, 100, 100}, Case{0, 101, 100}, Case{50, 150, 150}, Case{50, 151, 100}}) {
+    use("Video", row.start, row.end);
+    ASSERT_TRUE(open());
+    EXPECT_EQ(obj->span->dend, row.kept) << row.end;
+  }
+  movie.duration = 0;  // unknown
+  use("Video", 0, 60);
+  ASSERT_TRUE(open());
+  EXPECT_EQ(obj->span->dend, 60);
+}
+
+TEST_F(PlayerTest, aNegativeBoundLeavesThePositionAlone) {
+  use("Audio", -5, 20);
+  movie.position = 7;
+  ASSERT_TRUE(open());
+  EXPECT_EQ(movie.takeCalls(), Calls{"RenderFile"});
+  EXPECT_EQ(face.timeCode, "00:00:00:00");
+}
+
+TEST_F(PlayerTest, noPathMeansNoMovie) {
+  use("Audio");
+  obj->movie.clear();
+  tool = std::make_unique<ExpressionTool>(
+      obj, app, [this] { return std::make_unique<ScriptedMediaGraph>(movie); }, dialog, face);
+  ASSERT_TRUE(tool->LoadMovie());
+  tool->LoadSegments();
+  EXPECT_EQ(ui.takeShown(), plain(1091));
+  EXPECT_FALSE(tool->player.hasMovie());
+  EXPECT_FALSE(tool->advsld.Enabled());
+  tool->player.cmdPlay();
+  tool->player.cmdForward();
+  tool->segments.SelectSegmentPoint();
+  tool->segments.NewSegmentByDialog();
+  tool->segments.MoveToNextBound();
+  EXPECT_TRUE(movie.calls.empty());
+  EXPECT_TRUE(ui.shown.empty());
+}
+
+TEST_F(PlayerTest, aMovieThatCannotBePlayedOpensNoForm) {
+  use("Video");
+  movie.refusal = "No picture in it.";
+  EXPECT_FALSE(open());
+  EXPECT_EQ(ui.takeShown(), Calls{"exclamation: No picture in it.\n" + obj->movie});
+  EXPECT_EQ(movie.opened, 0);
+  obj->movie = folder / "absent.avi";
+  EXPECT_FALSE(open());
+  EXPECT_EQ(ui.takeShown(), Calls{"exclamation: The movie file was not found.\n" + obj->movie});
+}
+
+TEST_F(PlayerTest, stepsMoveOneFrameAndStopOnlyAtTheVeryBounds) {
+  use("Video", 10, 20);
+  ASSERT_TRUE(open());
+  tool->player.cmdRewind();
+  EXPECT_EQ(movie.position, 10);
+  tool->player.cmdForward();
+  EXPECT_EQ(movie.position, 10.04);
+  tool->player.SeekTo(20);
+  tool->player.cmdForward();
+  EXPECT_EQ(movie.position, 20);
+  tool->player.SeekTo(21);
+  tool->player.cmdForward();
+  EXPECT_EQ(movie.position, 21.04) << "behind the end it steps on";
+  EXPECT_EQ(tool->advsld.dPosition(), 20) << "only the slider clamps";
+}
+
+TEST_F(PlayerTest, theTickFollowsTheMovieAndAJumpPausesIt) {
+  use("Video");
+  ASSERT_TRUE(open());
+  tool->player.cmdPlay();
+  EXPECT_TRUE(face.timer && tool->player.bPlaying());
+  movie.pass(3.2);
+  tool->player.Timer1();
+  EXPECT_EQ(face.timeCode, "00:00:03:05");
+  EXPECT_EQ(tool->advsld.dPosition(), 3.2);
+  tool->player.cmdForward();
+  EXPECT_FALSE(movie.running || tool->player.bPlaying());
+  EXPECT_TRUE(face.timer) << "a jump leaves the timer alone";
+  tool->player.cmdStop();
+  EXPECT_FALSE(face.timer);
+  tool->player.cmdPlay();
+  EXPECT_EQ(movie.position, 3.24) << "it goes on where it stopped";
+  tool->player.ClosePlayer();
+  EXPECT_EQ(movie.opened, 0);
+  EXPECT_FALSE(face.timer);
+}
+
+TEST_F(PlayerTest, textsBecomeTimes) {
+  use("Video");
+  ASSERT_TRUE(open());
+  EXPECT_EQ(tool->player.TimeToText(3599.5), "00:59:59:12");
+  EXPECT_DOUBLE_EQ(tool->player.TextToTime("00:59:59:12"), 3599.48);
+  EXPECT_THROW(tool->player.TextToTime("00:59:59"), RunTimeError);
+  EXPECT_THROW(tool->player.TextToTime("00:59:xx:00"), RunTimeError);
+  EXPECT_THROW(tool->player.TimeToText(36000), RunTimeError);
+  movie.frameLength = 0;
+  ASSERT_TRUE(open());
+  EXPECT_THROW(tool->player.TextToTime("00:00:01:00"), RunTimeError);
+}
+
+}  // namespace
+}  // namespace velra::test

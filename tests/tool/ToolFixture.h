@@ -1,0 +1,126 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/ApplicationModule.h"
+#include "platform/MachineSettings.h"
+#include "platform/UserSettings.h"
+#include "protocol/MainWindow.h"
+#include "support/ScriptedExpression.h"
+#include "support/ScriptedMediaGraph.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TemporaryFolder.h"
+#include "tool/ExpressionTool.h"
+#include "tool/RangeDialog.h"
+#include "tool/ToolFace.h"
+
+namespace velra::test {
+
+/// A window of the tool that only remembers.
+class RecordingFace : public ToolFace {
+ public:
+  std::string timeCode = "00:00:00:00";
+  bool swapped = false;
+  bool timer = false;
+  bool blinker = false;
+  std::string transcript;
+  /// What the person does in the dialog; the default closes it by its close box.
+  std::function<void(RangeDialog&)> inDialog = [](RangeDialog&) {};
+
+  void showTimeCode(const std::string& text) override { timeCode = text; }
+  void swapTimeCodeColours(bool isSwapped) override { swapped = isSwapped; }
+  void runTimer1(bool on) override { timer = on; }
+  void runBlinkerTimer(bool on) override { blinker = on; }
+  void showTranscript(const std::string& text) override { transcript = text; }
+  void appendTranscript(const std::string& text) override { transcript += text; }
+  void showRangeDialog(RangeDialog& dialog) override { inDialog(dialog); }
+  void runPendingEvents() override {}
+};
+
+/// A main window that notes what the tool tells it.
+class RecordingMainWindow : public MainWindow {
+ public:
+  std::vector<std::string> calls;
+
+  std::string strStatusBarText() const override { return {}; }
+  void setStrStatusBarText(const std::string&) override {}
+  void UpdateNodeTitle(const DescribedObject&) override {}
+  void ResetTree(TreeId tree, const ObjectRef&) override {
+    calls.emplace_back(tree == TreeId::tvwExpression ? "ResetTree" : "ResetTree left");
+  }
+  void RemoveIcon(const std::string&) override {}
+  void AddSmallKeyFrame(const Expression& video) override {
+    calls.push_back("AddSmallKeyFrame " + video.strTitle());
+  }
+  void UpdateSmallKeyFrames() override { calls.emplace_back("UpdateSmallKeyFrames"); }
+};
+
+/// A tool over a scripted movie of 100 seconds at 25 frames a second, and an expression over all of
+/// it. `open` opens the tool as its form does.
+class ToolTest : public ::testing::Test {
+ protected:
+  ToolTest() { app.gMainForm = &mainWindow; }
+
+  void use(const std::string& className, double start = 0, double end = 100) {
+    obj = ScriptedExpression::make(className, start, end);
+    obj->title = "Main";
+    obj->movie = folder.write("movie.avi", "RIFF");
+  }
+  void add(const std::string& title, double start, double end) {
+    obj->AddSubExpression(title, start, end);
+  }
+  bool open() {
+    tool = std::make_unique<ExpressionTool>(
+        obj, app, [this] { return std::make_unique<ScriptedMediaGraph>(movie); }, dialog, face);
+    tool->onLeaveFor = [this](const ExpressionRef& next) { leftFor.push_back(next->strTitle()); };
+    tool->Framelist1.Resize(9000);
+    tool->advsld.Resize(10400);
+    tool->OpenTranscriptView();
+    if (!tool->LoadMovie()) return false;
+    tool->LoadSegments();
+    ui.takeShown();
+    return true;
+  }
+  /// The person types two times in the dialog and presses OK.
+  void typeInDialog(const std::vector<std::string>& fields) {
+    face.inDialog = [fields](RangeDialog& shown) {
+      for (std::size_t i = 0; i < fields.size(); ++i) {
+        shown.Change(static_cast<RangeDialog::Field>(i), fields[i]);
+      }
+      shown.OKButton();
+    };
+  }
+  std::vector<std::string> spans() const {
+    std::vector<std::string> all;
+    for (const ExpressionRef& segment : obj->children) {
+      const auto times = segment->ckGetChunk();
+      all.push_back(segment->strTitle() + " " + std::to_string(std::lround(times->dStart)) + "-" +
+                    std::to_string(std::lround(times->dend)));
+    }
+    return all;
+  }
+  std::vector<std::string> plain(int message) const {
+    return {"plain: " + app.LoadResString(message)};
+  }
+
+  TemporaryFolder folder;
+  ScriptedUserInterface ui;
+  MachineSettings machine{folder / "machine.conf"};
+  UserSettings user{folder / "user.conf"};
+  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machine, user};
+  RecordingMainWindow mainWindow;
+  MovieScript movie;
+  RangeDialog dialog;
+  RecordingFace face;
+  std::shared_ptr<ScriptedExpression> obj;
+  std::vector<std::string> leftFor;
+  std::unique_ptr<ExpressionTool> tool;
+};
+
+}  // namespace velra::test
