@@ -126,6 +126,9 @@ class ScriptedExpression : public Expression {
   ObjectList colSelSubTree() override { return {}; }
   std::string strRemoveAllChilds() override { return {}; }
   bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  ObjectList waitsFor() const override { return {}; }
+  void visitReferences(ReferenceVisitor&) const override {}
+  void setIdentifierListener(IdentifierListener*) override {}
   const ObjectList& colChilds() const override { return none_; }
 
  private:

@@ -89,7 +89,9 @@ TEST_F(SegmentEditorTest, eachPathHasItsOwnRules) {
     }
     const Texts all = spans();
     EXPECT_EQ(all.size(), asksTitle ? 2u : 1u);
-    if (rule.made) EXPECT_EQ(all.back(), rule.made);
+    if (rule.made) {
+      EXPECT_EQ(all.back(), rule.made);
+    }
     EXPECT_EQ(tool->advsld.Count(), static_cast<int>(all.size()));
   }
 }

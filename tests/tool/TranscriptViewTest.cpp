@@ -84,12 +84,12 @@ TEST_F(TranscriptViewTest, sortedOrNotItGivesWhatThePlainRuleGives) {
   std::mt19937 random(7);
   for (const bool sorted : {true, false}) {
     std::vector<double> starts;
-    for (int i = 0; i < 200; ++i) starts.push_back(random() % 100 / 2.0);
+    for (int i = 0; i < 200; ++i) starts.push_back(static_cast<double>(random() % 100) / 2);
     if (sorted) std::sort(starts.begin(), starts.end());
     speak(starts);
     PlainTranscript plain(*obj->words);
     for (int i = 0; i < 300; ++i) {
-      const double at = random() % 200 / 4.0;
+      const double at = static_cast<double>(random() % 200) / 4;
       const bool restart = random() % 4 == 0;
       view.UpdateTranscriptText(at, restart);
       plain.update(at, restart);
