@@ -91,6 +91,8 @@ class ScriptedExpression : public Expression {
   Picture picKeyFrameSmall() const override { return {}; }
   double dGetKeyFrameTime() const override { return keyFrameTime; }
   void SetKeyFrameTime(double seconds) override { keyFrameTime = seconds; }
+  ObjectRef objKeyframeObject() const override { return nullptr; }
+  void UpdateLocationKeyFrameObject(const std::string&, const std::string&) override {}
 
   // DescribedObject.
   const std::string& className() const override { return className_; }
