@@ -76,7 +76,7 @@ std::string replaceAll(std::string text, std::string_view from, std::string_view
 
 std::optional<double> toNumber(std::string_view text) {
   std::string_view digits = trimmed(text);
-  if (!digits.empty() && digits.front() == '+') digits.remove_prefix(1);
+  if (digits.starts_with('+') && !digits.starts_with("+-")) digits.remove_prefix(1);
   double value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   const bool whole = end == digits.data() + digits.size() && !digits.empty();
