@@ -10,15 +10,31 @@ namespace velra {
 
 namespace {
 
-// The tolerance before a frame's start, in seconds; never more than a quarter of a frame.
-double tolerance(double rate) {
-  return std::min(0.001, 0.25 / rate);
+// The tolerance around a frame's start, in seconds; never more than a quarter of a frame.
+double tolerance(double most, double rate) {
+  return std::min(most, 0.25 / rate);
+}
+
+// True when a time stands where a label of its second begins, as times made from labels do.
+bool beginsLabel(double seconds, double rate) {
+  const double frames = (seconds - std::floor(seconds)) * rate;
+  return std::abs(frames - std::round(frames)) < 1e-6;
+}
+
+// The start of the frame that a time means. Labels count from the full second and frames from the
+// start of the movie: at rates such as 30000/1001 a label may change within the half millisecond by
+// which a stored start can be too late.
+double frameStart(double seconds, double rate) {
+  const double next = std::ceil(seconds * rate) / rate;
+  if (next > seconds && next - seconds < tolerance(0.001, rate)) return next;
+  const double start = std::floor(seconds * rate) / rate;
+  const bool rounded = seconds - start < tolerance(0.000501, rate) && !beginsLabel(seconds, rate);
+  return rounded ? start : seconds;
 }
 
 double atFrame(double seconds, double rate) {
   if (rate <= 0) return seconds;
-  const double next = std::ceil(seconds * rate) / rate;
-  const double time = next > seconds && next - seconds < tolerance(rate) ? next : seconds;
+  const double time = frameStart(seconds, rate);
   // A frame that starts on a full second must not fall short of it by the last bits.
   const double second = std::round(time);
   return std::abs(time - second) < 1e-6 ? second : time;
