@@ -1,0 +1,121 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/ApplicationModule.h"
+#include "platform/MachineSettings.h"
+#include "platform/UserSettings.h"
+#include "protocol/DescribedObject.h"
+#include "protocol/MainWindow.h"
+#include "schema/CloseList.h"
+#include "schema/SEColl.h"
+#include "schema/SchemaFile.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra::test {
+
+/// The program's global state with scripted answers and empty stores.
+struct FormsApplication {
+  TemporaryFolder folder;
+  ScriptedUserInterface ui;
+  MachineSettings machineSettings{folder / "machine.ini"};
+  UserSettings userSettings{folder / "user.ini"};
+  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machineSettings,
+                        userSettings};
+};
+
+/// Notes for which objects new titles were shown.
+class TitleWindow : public MainWindow {
+ public:
+  std::vector<std::string> titles;
+
+  std::string strStatusBarText() const override { return {}; }
+  void setStrStatusBarText(const std::string&) override {}
+  void UpdateNodeTitle(const DescribedObject& object) override {
+    titles.push_back(object.strTitle());
+  }
+  void ResetTree(TreeId, const ObjectRef&) override {}
+  void RemoveIcon(const std::string&) override {}
+  void AddSmallKeyFrame(const Expression&) override {}
+  void UpdateSmallKeyFrames() override {}
+};
+
+/// An object of a class with whatever fields a test gives it; nothing else works.
+class FormObject : public DescribedObject {
+ public:
+  FormObject(ApplicationModule& app, std::string className, std::string titleField = {})
+      : className_(std::move(className)),
+        titleField_(std::move(titleField)),
+        schemas_(app),
+        secol_(app, schemas_, closeLists) {}
+
+  CloseLists closeLists;
+
+  /// An assigned, unchanged field.
+  SchemaElement& add(tyType type, const std::string& name, Value content,
+                     const std::string& closeList = {}) {
+    return secol_.Add(type, closeList, name, std::move(content), "About " + name, false, false,
+                      false, true);
+  }
+
+  const std::string& className() const override { return className_; }
+  std::shared_ptr<IOManager> io() const override { return nullptr; }
+  SEColl& secol() const override { return secol_; }
+  std::string strGUID() const override { return {}; }
+  void setStrGUID(const std::string&) override {}
+  std::string strTitle() const override {
+    const SchemaElement* title = secol_.field(titleField_);
+    return title ? toText(title->vContent()) : std::string();
+  }
+  void setStrTitle(const std::string&) override {}
+  void strInitGUID(const std::string&) override {}
+  void setStrSchemaPath(const std::string&) override {}
+  bool bChanged() const override { return secol_.bChanged(); }
+  std::int16_t iNumValidElem() const override { return secol_.iNumValid(); }
+  void ShowForm(FormOwner&) override {}
+  void EditAttributesForm(FormOwner&) override {}
+  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
+                         const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
+                      const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
+                           const std::string&, const std::shared_ptr<ObjectForm>&,
+                           const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  bool bSave() override { return true; }
+  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
+  void RemoveReferenceObj(DescribedObject&) override {}
+  bool bReferedStillToBeSaved() const override { return false; }
+  ObjectList colSelSubTree() override { return {}; }
+  std::string strRemoveAllChilds() override { return {}; }
+  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  const ObjectList& colChilds() const override { return children_; }
+
+ private:
+  std::string className_;
+  std::string titleField_;
+  DocumentSchemas schemas_;
+  mutable SEColl secol_;
+  ObjectList children_;
+};
+
+/// Text fields "Field1", "Field2"... of a class.
+inline std::shared_ptr<FormObject> objectOfTexts(ApplicationModule& app, int fields,
+                                                 const std::string& className = "Media") {
+  auto object = std::make_shared<FormObject>(app, className, "Field1");
+  for (int i = 1; i <= fields; ++i) {
+    object->add(tyType::String, "Field" + std::to_string(i), "text " + std::to_string(i));
+  }
+  return object;
+}
+
+}  // namespace velra::test
