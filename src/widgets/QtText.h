@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QString>
+#include <QTextDocument>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,17 @@ inline QString toQString(std::string_view text) {
 
 inline std::string fromQString(const QString& text) {
   return text.toStdString();
+}
+
+/// For a tool tip, which would take some texts for HTML.
+inline QString plainToolTip(std::string_view text) {
+  const QString plain = toQString(text);
+  return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain;
+}
+
+/// For a window's title, in which "[*]" would be taken for the place of a mark.
+inline QString windowTitleText(std::string_view text) {
+  return toQString(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
 inline QString pathToQString(const std::string& path) {

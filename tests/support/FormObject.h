@@ -95,6 +95,9 @@ class FormObject : public DescribedObject {
   void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
   void RemoveReferenceObj(DescribedObject&) override {}
   bool bReferedStillToBeSaved() const override { return false; }
+  ObjectList waitsFor() const override { return {}; }
+  void visitReferences(ReferenceVisitor&) const override {}
+  void setIdentifierListener(IdentifierListener*) override {}
   ObjectList colSelSubTree() override { return {}; }
   std::string strRemoveAllChilds() override { return {}; }
   bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
