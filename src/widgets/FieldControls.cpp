@@ -1,0 +1,133 @@
+#include "widgets/FieldControls.h"
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "forms/FieldBox.h"
+#include "forms/FormFields.h"
+#include "forms/FormLayout.h"
+#include "widgets/ListBox.h"
+#include "widgets/PlainTextBox.h"
+#include "widgets/QtText.h"
+#include "widgets/SetOfRowsWidget.h"
+#include "widgets/Twips.h"
+
+namespace velra {
+
+namespace {
+
+using namespace form_layout;
+
+/// A date edit that leaves the wheel to the form.
+class DateBox : public QDateEdit {
+ public:
+  using QDateEdit::QDateEdit;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+QWidget* makeText(FieldBox& box, QWidget* frame) {
+  auto* text = new PlainTextBox(frame);
+  text->setPlainText(toQString(toText(box.value)));
+  text->setLocked(box.bReadOnly);
+  QObject::connect(text, &QPlainTextEdit::textChanged, text,
+                   [text, &box] { box.value = fromQString(text->enteredText()); });
+  return text;
+}
+
+QWidget* makeCheck(FieldBox& box, QWidget* frame) {
+  auto* check = new QCheckBox(frame);
+  check->setChecked(box.value == Value(std::int16_t{1}));
+  check->setEnabled(!box.bReadOnly);
+  QObject::connect(check, &QCheckBox::clicked, check, [&box](bool checked) {
+    box.value = static_cast<std::int16_t>(checked ? 1 : 0);
+  });
+  return check;
+}
+
+QWidget* makeDate(FieldBox& box, QWidget* frame) {
+  auto* picker = new DateBox(frame);
+  picker->setCalendarPopup(true);
+  picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+  picker->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+  if (const auto* date = std::get_if<Date>(&box.value)) {
+    picker->setDate(QDate(date->year, date->month, date->day));
+  }
+  picker->setEnabled(!box.bReadOnly);
+  QObject::connect(picker, &QDateEdit::dateChanged, picker, [&box](QDate date) {
+    box.value = Date{date.year(), date.month(), date.day()};
+  });
+  return picker;
+}
+
+QWidget* makeList(FieldBox& box, SpecialFields* special, QWidget* frame) {
+  auto* list = new ListBox(frame);
+  list->setEnabled(!box.bReadOnly);
+  list->setAccessibleDescription(toQString(box.strComment.empty() ? box.strName : box.strComment));
+  const auto show = [list, &box] { list->showItems(box.items, toText(box.value)); };
+  show();
+  box.onChange = show;
+  QObject::connect(list, &QComboBox::textActivated, list, [&box, special](const QString& chosen) {
+    box.value = fromQString(chosen);
+    if (special) special->Combo1_Click(box);
+  });
+  return list;
+}
+
+QWidget* makeControl(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
+                     QWidget* frame) {
+  switch (box.family) {
+    case ControlFamily::Text1:
+      return makeText(box, frame);
+    case ControlFamily::Check1:
+      return makeCheck(box, frame);
+    case ControlFamily::Combo1:
+      return makeList(box, special, frame);
+    case ControlFamily::DTPicker1:
+      return makeDate(box, frame);
+    case ControlFamily::ctlSetOfString1:
+    case ControlFamily::ctlSetOfStringCL1:
+      return new SetOfRowsWidget(*box.rows, app, toQString(box.strName), frame);
+  }
+  return nullptr;
+}
+
+/// Below the frame's title, in the frame.
+void placeControl(QWidget& control, ControlFamily family, const QGroupBox& frame) {
+  const int top = frame.fontMetrics().height() + 1;
+  int width = pixelsFromTwips(kControlWidth);
+  int height = std::min(pixelsFromTwips(kControlHeight), frame.height() - top - 3);
+  if (family == ControlFamily::DTPicker1) {
+    width = std::max(pixelsFromTwips(kDateWidth), control.sizeHint().width());
+    height = std::max(pixelsFromTwips(kDateHeight), control.sizeHint().height());
+  } else if (family == ControlFamily::Combo1) {
+    height = control.sizeHint().height();
+  }
+  control.setGeometry(pixelsFromTwips(kControlLeft), top, width, height);
+}
+
+}  // namespace
+
+QGroupBox* makeFieldFrame(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
+                          QWidget* panel) {
+  auto* frame = new QGroupBox(toQString(box.strName), panel);
+  frame->setObjectName(toQString(box.frameName()));
+  // Boxes of several sets stand in the same place: the one on top hides those below.
+  frame->setAutoFillBackground(true);
+  frame->setGeometry(0, pixelsFromTwips(slotTop(box.slot())), pixelsFromTwips(kFrameWidth),
+                     pixelsFromTwips(kFrameHeight));
+  QWidget* control = makeControl(box, special, app, frame);
+  control->setObjectName(toQString(box.controlName()));
+  control->setAccessibleName(toQString(box.strName));
+  placeControl(*control, box.family, *frame);
+  for (QWidget* widget : {static_cast<QWidget*>(frame), control}) {
+    widget->setToolTip(plainToolTip(box.strComment));
+  }
+  return frame;
+}
+
+}  // namespace velra

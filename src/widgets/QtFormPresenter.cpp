@@ -1,0 +1,40 @@
+#include "widgets/QtFormPresenter.h"
+
+#include <QApplication>
+#include <QDialog>
+
+#include "protocol/ObjectForm.h"
+#include "widgets/MetadataFormWindow.h"
+#include "widgets/SchemaDialogWindow.h"
+
+namespace velra {
+
+void QtFormPresenter::setMainWindow(QWidget* window) {
+  mainWindow_ = window;
+}
+
+void QtFormPresenter::showForm(FormOwner& owner, LoadedForm& form) {
+  MetadataFormWindow window(app_, form, windowOf(owner));
+  showModally(window);
+}
+
+void QtFormPresenter::showSchemaDialog(FormOwner& owner, AVDocSchemaDialog& dialog) {
+  SchemaDialogWindow window(app_, dialog, windowOf(owner));
+  showModally(window);
+}
+
+QWidget* QtFormPresenter::windowOf(FormOwner& owner) const {
+  if (auto* widget = dynamic_cast<QWidget*>(&owner)) return widget->window();
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  return mainWindow_;
+}
+
+void QtFormPresenter::showModally(QDialog& window) {
+  const auto remembered = sizes_.find(window.objectName());
+  if (remembered != sizes_.end()) window.resize(remembered->second);
+  window.exec();
+  sizes_[window.objectName()] = window.size();
+}
+
+}  // namespace velra

@@ -1,0 +1,187 @@
+#include "widgets/SetOfRowsWidget.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "app/ApplicationModule.h"
+#include "forms/SetOfRows.h"
+#include "forms/ctlSetOfStringCL.h"
+#include "widgets/ListBox.h"
+#include "widgets/QtText.h"
+#include "widgets/Twips.h"
+#include "widgets/XmlText.h"
+
+namespace velra {
+
+namespace {
+
+// Twips.
+constexpr int kRowPitch = 400;
+constexpr int kRowHeight = 300;
+constexpr int kTickWidth = 255;
+constexpr int kTextWidth = 4000;
+constexpr int kPanelStart = 100;
+constexpr int kPanelNarrower = 1600;
+constexpr int kBarFromRight = 1500;
+
+QString plainCaption(const ApplicationModule& app, int id) {
+  return toQString(app.LoadResString(id)).remove(u'&');
+}
+
+}  // namespace
+
+SetOfRowsWidget::SetOfRowsWidget(SetOfRows& rows, const ApplicationModule& app,
+                                 const QString& label, QWidget* parent)
+    : QWidget(parent),
+      rows_(rows),
+      hasLists_(dynamic_cast<ctlSetOfStringCL*>(&rows) != nullptr),
+      label_(label),
+      Picture2_(new QWidget(this)),
+      Picture1_(new QWidget(Picture2_)),
+      VScroll1_(new QScrollBar(Qt::Vertical, this)) {
+  Picture2_->setObjectName(QStringLiteral("Picture2"));
+  Picture1_->setObjectName(QStringLiteral("Picture1"));
+  VScroll1_->setObjectName(QStringLiteral("VScroll1"));
+  VScroll1_->setAccessibleName(label_);
+  VScroll1_->setSingleStep(kRowPitch);
+  connect(VScroll1_, &QScrollBar::valueChanged, this, [this](int value) { scrollTo(-value); });
+  makeButtons(app);
+  rows_.onChange = [this] { showRows(); };
+  showRows();
+}
+
+SetOfRowsWidget::~SetOfRowsWidget() {
+  rows_.onChange = nullptr;
+}
+
+void SetOfRowsWidget::makeButtons(const ApplicationModule& app) {
+  const auto make = [&](const char* name, int captionId) {
+    auto* button = new QPushButton(plainCaption(app, captionId), this);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(button->text() + u' ' + label_);
+    button->setAutoDefault(false);
+    return button;
+  };
+  Command1_ = make("Command1", 1004);
+  Command2_ = make("Command2", 1005);
+  connect(Command1_, &QPushButton::clicked, this, [this] { addClicked(); });
+  connect(Command2_, &QPushButton::clicked, this, [this] { rows_.Command2_Click(); });
+}
+
+void SetOfRowsWidget::addClicked() {
+  rows_.Command1_Click();
+  VScroll1_->setValue(VScroll1_->maximum());
+  if (!widgets_.empty()) widgets_.back().value->setFocus(Qt::OtherFocusReason);
+}
+
+void SetOfRowsWidget::showRows() {
+  const auto count = static_cast<std::size_t>(rows_.Count());
+  while (widgets_.size() > count) {
+    delete widgets_.back().value;
+    delete widgets_.back().Check1;
+    widgets_.pop_back();
+  }
+  while (widgets_.size() < count) addRowWidgets(static_cast<std::int16_t>(widgets_.size() + 1));
+  for (std::int16_t row = 1; row <= rows_.Count(); ++row) showRow(row);
+  Command1_->setEnabled(rows_.Enabled());
+  Command2_->setEnabled(rows_.Enabled());
+  updateScrollRange();
+}
+
+void SetOfRowsWidget::addRowWidgets(std::int16_t row) {
+  Row widgets;
+  const QString name = label_ + u' ' + QString::number(row);
+  const int top = pixelsFromTwips((row - 1) * kRowPitch);
+  widgets.Check1 = new QCheckBox(Picture1_);
+  widgets.Check1->setObjectName(QStringLiteral("Check1_%1").arg(row));
+  widgets.Check1->setAccessibleName(name);
+  widgets.Check1->setGeometry(0, top, pixelsFromTwips(kTickWidth), pixelsFromTwips(kRowHeight));
+  connect(widgets.Check1, &QCheckBox::clicked, this,
+          [this, row](bool ticked) { rows_.tickRow(row, ticked); });
+  widgets.value = hasLists_ ? makeList(row) : makeText(row);
+  widgets.value->setAccessibleName(name);
+  widgets.value->setGeometry(pixelsFromTwips(kTickWidth), top, pixelsFromTwips(kTextWidth),
+                             pixelsFromTwips(kRowHeight));
+  widgets.Check1->show();
+  widgets.value->show();
+  widgets_.push_back(widgets);
+}
+
+QWidget* SetOfRowsWidget::makeText(std::int16_t row) {
+  auto* text = new QLineEdit(Picture1_);
+  text->setObjectName(QStringLiteral("Text1_%1").arg(row));
+  text->setValidator(new XmlTextValidator(text));
+  connect(text, &QLineEdit::textEdited, this,
+          [this, row](const QString& edited) { rows_.editRow(row, fromQString(edited)); });
+  return text;
+}
+
+QWidget* SetOfRowsWidget::makeList(std::int16_t row) {
+  auto* list = new ListBox(Picture1_);
+  list->setObjectName(QStringLiteral("Combo1_%1").arg(row));
+  list->setAccessibleDescription(label_ + u' ' + QString::number(row));
+  connect(list, &QComboBox::textActivated, this,
+          [this, row](const QString& chosen) { rows_.editRow(row, fromQString(chosen)); });
+  return list;
+}
+
+void SetOfRowsWidget::showRow(std::int16_t row) {
+  const Row& widgets = widgets_[static_cast<std::size_t>(row) - 1];
+  widgets.Check1->setChecked(rows_.isTicked(row));
+  widgets.Check1->setEnabled(rows_.Enabled());
+  widgets.value->setEnabled(rows_.Enabled());
+  if (auto* list = dynamic_cast<ListBox*>(widgets.value)) {
+    list->showItems(rows_.choices(), rows_.rowText(row));
+  } else if (auto* text = qobject_cast<QLineEdit*>(widgets.value)) {
+    const QString shown = toQString(rows_.rowText(row));
+    if (text->text() != shown) text->setText(shown);
+  }
+}
+
+void SetOfRowsWidget::updateScrollRange() {
+  const int panelHeight = rows_.Count() * kRowPitch;
+  Picture1_->setGeometry(pixelsFromTwips(kPanelStart), pixelsFromTwips(kPanelStart),
+                         width() - pixelsFromTwips(kPanelNarrower), pixelsFromTwips(panelHeight));
+  const int overhang = panelHeight - twipsFromPixels(Picture2_->height());
+  VScroll1_->setRange(0, std::max(0, overhang));
+  VScroll1_->setPageStep(twipsFromPixels(Picture2_->height()));
+  VScroll1_->setVisible(overhang > 0);
+  if (VScroll1_->value() > 0) scrollTo(-VScroll1_->value());
+}
+
+void SetOfRowsWidget::scrollTo(int top) {
+  Picture1_->move(Picture1_->x(), pixelsFromTwips(top));
+}
+
+void SetOfRowsWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int barWidth = VScroll1_->sizeHint().width();
+  const int barLeft = width() - pixelsFromTwips(kBarFromRight);
+  VScroll1_->setGeometry(barLeft, 0, barWidth, height());
+  Picture2_->setGeometry(0, 0, barLeft, height());
+  const int stripLeft = barLeft + barWidth;
+  const int buttonWidth = width() - stripLeft - 6;
+  const int buttonHeight = std::min(Command1_->sizeHint().height(), height() / 2 - 2);
+  const auto place = [&](QPushButton& button, int centre) {
+    button.setGeometry(stripLeft + 3, centre - buttonHeight / 2, buttonWidth, buttonHeight);
+  };
+  place(*Command1_, height() / 4);
+  place(*Command2_, height() * 3 / 4);
+  updateScrollRange();
+}
+
+void SetOfRowsWidget::wheelEvent(QWheelEvent* event) {
+  // Rows that can move do so first; then the wheel is the form's.
+  const int before = VScroll1_->value();
+  if (VScroll1_->isVisible() && event->angleDelta().y() != 0) {
+    VScroll1_->setValue(before + (event->angleDelta().y() > 0 ? -kRowPitch : kRowPitch));
+  }
+  event->setAccepted(VScroll1_->value() != before);
+}
+
+}  // namespace velra

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <vector>
+
+class QCheckBox;
+class QPushButton;
+class QScrollBar;
+
+namespace velra {
+
+class ApplicationModule;
+class SetOfRows;
+
+/// The face of the two set-of-strings controls: rows of a tick (`Check1_i`) and a text (`Text1_i`)
+/// or a drop-down list (`Combo1_i`), with the buttons `Command1` and `Command2` at the side.
+class SetOfRowsWidget : public QWidget {
+ public:
+  /// `label` names the field to people who hear the form. The rows must outlive the widget.
+  SetOfRowsWidget(SetOfRows& rows, const ApplicationModule& app, const QString& label,
+                  QWidget* parent);
+  ~SetOfRowsWidget() override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  struct Row {
+    QCheckBox* Check1 = nullptr;
+    QWidget* value = nullptr;  // Text1 or Combo1
+  };
+
+  void makeButtons(const ApplicationModule& app);
+  void showRows();
+  void addRowWidgets(std::int16_t row);
+  QWidget* makeText(std::int16_t row);
+  QWidget* makeList(std::int16_t row);
+  void showRow(std::int16_t row);
+  void addClicked();
+  void updateScrollRange();
+  void scrollTo(int top);
+
+  SetOfRows& rows_;
+  bool hasLists_;
+  QString label_;
+  QWidget* Picture2_;
+  QWidget* Picture1_;
+  QScrollBar* VScroll1_;
+  QPushButton* Command1_ = nullptr;
+  QPushButton* Command2_ = nullptr;
+  std::vector<Row> widgets_;
+};
+
+}  // namespace velra
