@@ -14,6 +14,7 @@ namespace velra {
 
 class ApplicationModule;
 class AVDocument;
+class IOManager;
 class MainWindowFace;
 
 /// The mouse buttons of a press on a tree; the numbers are those of `iMainButton`.
@@ -73,20 +74,32 @@ class frmMain : public MainWindow {
   Tree tvwExpression;  ///< the expressions of one Version
 
  private:
+  std::shared_ptr<AVDocument> avDocument() const;
+  std::shared_ptr<ObjectForm> frmAVDocFormInstance();
+
   TreeNode* selectedNode();
+  void leftClick(TreeId tree, const ObjectRef& object);
   void applyMenus(const MenuState& state);
+  void BuildExprTree(const ObjectRef& version);
   void AddAllSmallKeyFrames();
   void ResetListImageExpression();
-  void BuildExprTree(const ObjectRef& version);
+
   void CloseDocument(bool bNoPrompt, bool& goOn);
-  std::shared_ptr<AVDocument> NewDocument();
-  void SaveDocumentAs();
+  bool saveQuestionAnswered();
   void MarkUnsavedMediaObjects();
-  void openWantedObject(const std::string& wanted, const std::string& failure, bool bFileSystem);
-  std::string openDocument(const std::string& path, bool bFileSystem);
+  std::shared_ptr<AVDocument> NewDocument();
+  std::string openDocument(const std::string& path, const std::shared_ptr<IOManager>& io);
+  void openOrFindDocument(const std::string& path, const std::shared_ptr<IOManager>& io);
+  void openWithWantedObject(const std::string& wanted, const std::string& document,
+                            const std::shared_ptr<IOManager>& io);
   void showOpenedDocument();
-  bool movieFits(const ObjectRef& media, const std::string& movie);
-  std::string askNewChild(const ObjectRef& parent);
+  void SaveDocumentAs();
+  std::string GetFileName(const std::string& proposed);
+
+  std::string askNewChild(const DescribedObject& parent);
+  std::string askMovie();
+  bool movieFits(const DescribedObject& media, const std::string& movie);
+  void showTreesWithout(TreeId tree, bool wasVersion);
 
   ApplicationModule& app_;
   MainWindowFace* face_ = nullptr;

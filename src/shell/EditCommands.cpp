@@ -1,0 +1,200 @@
+// The Edit menu of the main window and the Delete key on its trees.
+#include <algorithm>
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "objects/AVDocument.h"
+#include "objects/LadderObject.h"
+#include "objects/Version.h"
+#include "platform/Files.h"
+#include "platform/MovieProbe.h"
+#include "platform/UserInterface.h"
+#include "protocol/ClassRules.h"
+#include "shell/MainWindowFace.h"
+#include "shell/frmMain.h"
+#include "store/IOManager.h"
+
+namespace velra {
+
+namespace {
+
+constexpr const char* kMovieFilter =
+    "Video Files (*.avi;*.mpeg;*.mpg;*.asf)|*.avi;*.mpeg;*.mpg;*.asf|";
+
+// A movie may be shorter than its Version by this many seconds, and longer by any.
+constexpr double kShorterBy = 1.0;
+
+struct MainExpressionTexts {
+  const char* kind;
+  int prompt;
+  int title;
+};
+constexpr MainExpressionTexts kMainExpressions[] = {
+    {"Video", 1122, 1123}, {"Audio", 1124, 1125}, {"Transcript", 1126, 1127}};
+
+MenuState withAddEntries(MenuState menus, bool addChild, bool addMainExpr) {
+  menus.mnuAddChild = addChild;
+  menus.mnuAddMainExpr = addMainExpr;
+  return menus;
+}
+
+MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fromMainTree) {
+  const std::string& className = object.className();
+  if (className == "AVDocument" || className == "Media") return withAddEntries(menus, true, false);
+  if (className == "Storage" || isExpressionClass(className)) {
+    return withAddEntries(menus, false, false);
+  }
+  const auto* version = dynamic_cast<const Version*>(&object);
+  if (!version) return menus;
+  if (fromMainTree) return withAddEntries(menus, true, false);
+  MenuState open = withAddEntries(menus, false, true);
+  open.mnuAddMainVideo = !version->vdMainVideo();
+  open.mnuAddMainAudio = !version->auMainAudio();
+  open.mnuAddMainTranscript = !version->trMainTranscript();
+  return open;
+}
+
+std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
+  for (const auto& [number, object] : objects.sequence()) {
+    const auto version = std::dynamic_pointer_cast<Version>(object);
+    if (!version) continue;
+    const ObjectList& children = version->colChilds();
+    const bool holds = std::any_of(children.begin(), children.end(),
+                                   [&](const ObjectRef& child) { return child.get() == &media; });
+    if (holds) return version;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void frmMain::ContexMenuManager(const DescribedObject& object, bool fromMainTree) {
+  applyMenus(menusOf(menus_, object, fromMainTree));
+}
+
+TreeNode* frmMain::selectedNode() {
+  return (bFromMainTree_ ? tvwMainTree : tvwExpression).selected();
+}
+
+void frmMain::mnuEditMetadata() {
+  const TreeNode* node = selectedNode();
+  if (!tvwMainTree.root() || !node) return;
+  const ObjectRef object = node->Tag;
+  object->ShowForm(*this);
+}
+
+void frmMain::mnuEditAttributes() {
+  const TreeNode* node = selectedNode();
+  if (!tvwMainTree.root() || !node) return;
+  const ObjectRef object = node->Tag;
+  object->EditAttributesForm(*this);
+}
+
+std::string frmMain::askNewChild(const DescribedObject& parent) {
+  const std::string& className = parent.className();
+  if (className == "AVDocument") {
+    return app_.ui.inputBox(app_.LoadResString(1106), app_.LoadResString(1107));
+  }
+  if (className == "Version") {
+    return app_.ui.inputBox(app_.LoadResString(1108), app_.LoadResString(1109));
+  }
+  if (className == "Media") return askMovie();
+  app_.ui.beep();
+  return {};
+}
+
+std::string frmMain::askMovie() {
+  if (!app_.gAVDoc->io()->bFileSystem()) return {};
+  const auto chosen = app_.ui.openFileDialog(app_.LoadResString(1110), kMovieFilter);
+  if (!chosen) return {};
+  // File dialogs may leave another folder as the current one.
+  changeCurrentFolder(folderOf(app_.gAVDoc->strGUID()));
+  return bFileExists(*chosen) ? *chosen : std::string();
+}
+
+bool frmMain::movieFits(const DescribedObject& media, const std::string& movie) {
+  const double duration = dMovieDuration(movie);
+  if (duration == 0) {
+    app_.ui.messageBox(app_.LoadResString(1113));
+    return false;
+  }
+  const auto version = versionHolding(app_.gAVDoc->collObjects(), media);
+  if (!version) return true;
+  if (version->dDuration() == 0) {
+    version->setDDuration(duration);
+  } else if (version->dDuration() - duration > kShorterBy) {
+    app_.ui.messageBox(app_.LoadResString(1114));
+    return false;
+  }
+  return true;
+}
+
+void frmMain::mnuAddChild() {
+  const TreeNode* node = tvwMainTree.selected();
+  if (!tvwMainTree.root() || !node) return;
+  const ObjectRef object = node->Tag;
+  const std::string answer = askNewChild(*object);
+  if (answer.empty()) return;
+  if (object->className() == "Media" && !movieFits(*object, answer)) return;
+  const auto parent = std::dynamic_pointer_cast<LadderObject>(object);
+  if (!parent) return;
+  parent->AddChild(answer);
+  ResetTree(TreeId::tvwMainTree, nullptr);
+  tvwMainTree.ExpandToObject(*object);
+}
+
+void frmMain::AddMainExpr(const std::string& kind) {
+  const TreeNode* node = tvwExpression.selected();
+  if (!tvwMainTree.root() || !node) return;
+  const auto version = std::dynamic_pointer_cast<Version>(node->Tag);
+  if (!version) return;
+  const std::string path = version->strGetMediaObjectPath();
+  if (path.empty()) {
+    app_.ui.messageBox(app_.LoadResString(1112));
+    return;
+  }
+  std::string name;
+  for (const MainExpressionTexts& texts : kMainExpressions) {
+    if (kind != texts.kind) continue;
+    name = app_.ui.inputBox(app_.LoadResString(texts.prompt), app_.LoadResString(texts.title));
+  }
+  if (name.empty()) return;
+  const double duration = dMovieDuration(path);
+  version->AddMainExpression(name, kind, 0, duration);
+  version->setDDuration(duration);
+  ResetTree(TreeId::tvwExpression, version);
+}
+
+void frmMain::DeleteNode(TreeId id) {
+  const TreeNode* node = tree(id).selected();
+  if (!node || node->Tag->className() == "AVDocument") return;
+  const bool confirmed = app_.ui.askYesNo(app_.LoadResString(1138) + " " + node->Text + " " +
+                                          app_.LoadResString(1139));
+  if (!confirmed) return;
+  ObjectRef object = node->Tag;
+  const bool wasVersion = object->className() == "Version";
+  {
+    const auto busy = app_.ui.showBusy();
+    const std::string message = object->strRemoveAllChilds();
+    if (!message.empty()) {
+      app_.ui.messageBox(message);
+      return;
+    }
+    RemoveIcon(object->strGUID());
+    app_.gAVDoc->RemoveObject(object);
+  }
+  showTreesWithout(id, wasVersion);
+}
+
+void frmMain::showTreesWithout(TreeId id, bool wasVersion) {
+  if (id == TreeId::tvwExpression && !wasVersion) {
+    const ObjectRef version = tvwExpression.root()->Tag;
+    ResetTree(TreeId::tvwExpression, version);
+    return;
+  }
+  ResetTree(TreeId::tvwMainTree, nullptr);
+  ResetTree(TreeId::tvwExpression, nullptr);
+}
+
+}  // namespace velra

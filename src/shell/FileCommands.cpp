@@ -1,0 +1,215 @@
+// The File menu of the main window: the only code that replaces the open document.
+#include <algorithm>
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "objects/AVDocument.h"
+#include "platform/UserInterface.h"
+#include "protocol/ObjectFactory.h"
+#include "shell/LinkFile.h"
+#include "shell/frmMain.h"
+#include "store/IOManager.h"
+
+namespace velra {
+
+namespace {
+
+constexpr const char* kUnsavedTitle = "AVDocument";  // of a document that was never saved
+
+}  // namespace
+
+void frmMain::mnuFile_Click() {
+  MenuState menus = menus_;
+  const std::shared_ptr<IOManager> io = app_.gAVDoc ? app_.gAVDoc->io() : nullptr;
+  menus.mnuExportToDB = io && io->bFileSystem();
+  menus.mnuImportToFS = io && !io->bFileSystem();
+  applyMenus(menus);
+}
+
+void frmMain::ShowOpenDialog() {
+  const auto file =
+      app_.ui.openFileDialog("Open", "XML Files (*.xml)|*.xml|All Files Files (*.*)|*.*");
+  if (file && !file->empty()) OpenFile(*file);
+}
+
+void frmMain::OpenFile(const std::string& strFile) {
+  if (toLower(strExtension(strFile)) == "xml") {
+    OpenDoc(strFile, true);
+    return;
+  }
+  const std::string link = strReadFirstLine(app_, strFile);
+  if (!link.empty()) {
+    OpenDoc(link, false);
+  } else {
+    app_.ui.messageBox(app_.LoadResString(1159) + ": " + strFile, BoxKind::Exclamation);
+  }
+}
+
+void frmMain::OpenDoc(const std::string& strDocGUID, bool bFileSystem) {
+  if (app_.gAVDoc) {
+    bool goOn = false;
+    CloseDocument(false, goOn);
+    if (!goOn) return;
+  }
+  app_.gAVDoc = std::make_shared<AVDocument>(app_);
+  app_.gNotFound.clear();
+  const auto io = std::make_shared<IOManager>(app_);
+  io->setBFileSystem(bFileSystem);
+  if (!bFileSystem && !io->bConnectToDM()) {
+    app_.gAVDoc.reset();
+    return;
+  }
+  try {
+    changeCurrentFolder(folderOf(strDocGUID));
+    openOrFindDocument(strDocGUID, io);
+  } catch (const RunTimeError& error) {
+    app_.ui.messageBox(error.description(), BoxKind::Exclamation);
+    app_.gAVDoc.reset();
+    frmAVDocForm_.reset();
+  }
+}
+
+std::string frmMain::openDocument(const std::string& path, const std::shared_ptr<IOManager>& io) {
+  const auto busy = app_.ui.showBusy();
+  return app_.gAVDoc->strOpen(path, frmAVDocFormInstance(), io);
+}
+
+void frmMain::openOrFindDocument(const std::string& path, const std::shared_ptr<IOManager>& io) {
+  const std::string message = openDocument(path, io);
+  if (message.empty()) {
+    showOpenedDocument();
+    return;
+  }
+  // The file may be an object of a document.
+  const std::string document = io->strRetrieveAVDocGUIDFromGUID(path);
+  if (document.empty()) {
+    app_.ui.messageBox(message, BoxKind::Exclamation);
+  } else {
+    openWithWantedObject(path, document, io);
+  }
+}
+
+void frmMain::openWithWantedObject(const std::string& wanted, const std::string& document,
+                                   const std::shared_ptr<IOManager>& io) {
+  changeCurrentFolder(folderOf(document));
+  app_.gAVDoc = std::make_shared<AVDocument>(app_);
+  const std::string message = openDocument(document, io);
+  avDocument()->ShowObjectForm(wanted, *this);
+  if (message.empty()) {
+    showOpenedDocument();
+  } else {
+    app_.ui.messageBox(message, BoxKind::Exclamation);
+  }
+}
+
+// Icons come before the nodes that refer to them.
+void frmMain::showOpenedDocument() {
+  AddAllSmallKeyFrames();
+  ShowAVDocTitle();
+}
+
+bool frmMain::saveQuestionAnswered() {
+  const auto answer =
+      app_.ui.askYesNoCancel(app_.LoadResString(1098) + " " + app_.gAVDoc->strTitle() + "?");
+  if (answer == Answer::Yes) {
+    const auto busy = app_.ui.showBusy();
+    app_.gAVDoc->bSave();
+  }
+  return answer != Answer::Cancel;
+}
+
+void frmMain::CloseDocument(bool bNoPrompt, bool& goOn) {
+  const auto& objects = app_.gAVDoc->collObjects().sequence();
+  const bool changed = std::any_of(objects.begin(), objects.end(),
+                                   [](const auto& entry) { return entry.second->bChanged(); });
+  goOn = !changed || bNoPrompt || saveQuestionAnswered();
+  if (!goOn) return;
+  tvwMainTree.clear();
+  tvwExpression.clear();
+  MarkUnsavedMediaObjects();
+  app_.gAVDoc.reset();
+  ResetListImageExpression();
+}
+
+// Pictures that no saved object points at go with the document.
+void frmMain::MarkUnsavedMediaObjects() {
+  for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
+    if (object->className() != "MediaObject" || !object->bChanged()) continue;
+    app_.gAVDoc->io()->RemoveGUID(object->strGUID());
+  }
+}
+
+void frmMain::mnuFileNew() {
+  if (app_.gAVDoc) {
+    bool goOn = false;
+    CloseDocument(false, goOn);
+    if (!goOn) return;
+  }
+  app_.gAVDoc = NewDocument();
+  app_.gNotFound.clear();
+  ShowAVDocTitle();
+}
+
+std::shared_ptr<AVDocument> frmMain::NewDocument() {
+  const auto document = std::make_shared<AVDocument>(app_);
+  frmAVDocForm_ = app_.objectFactory->createForm("AVDocument");
+  const auto io = std::make_shared<IOManager>(app_);
+  const std::string guid = io->strCreateGUID(document->collObjects(), *document, "AVDocument.xml");
+  const std::string schemaPath = app_.strXSDPath();
+  if (schemaPath.empty()) {
+    app_.ui.messageBox(app_.LoadResString(1133));
+    return nullptr;
+  }
+  const std::string message =
+      document->strInitAsNew(guid, schemaPath, "xsd", kUnsavedTitle, frmAVDocForm_, io);
+  if (message.empty()) return document;
+  app_.ui.messageBox(message);
+  return nullptr;
+}
+
+void frmMain::mnuFileSave() {
+  if (!app_.gAVDoc) return;
+  if (app_.gAVDoc->strTitle() == kUnsavedTitle) {
+    SaveDocumentAs();
+    return;
+  }
+  const auto busy = app_.ui.showBusy();
+  app_.gAVDoc->bSave();
+}
+
+void frmMain::mnuFileSaveAs() {
+  if (app_.gAVDoc) SaveDocumentAs();
+}
+
+std::string frmMain::GetFileName(const std::string& proposed) {
+  return app_.ui.saveFileDialog("Save As", "All Files (*.xml)|*.xml", proposed).value_or("");
+}
+
+void frmMain::SaveDocumentAs() {
+  std::string folder;
+  const std::string base = strSplitPath(app_.gAVDoc->strGUID(), folder);
+  const std::string path = GetFileName(folder + base);
+  if (path.empty()) return;
+  app_.gAVDoc->setStrTitle(strSplitPath(path, folder));
+  {
+    const auto busy = app_.ui.showBusy();
+    if (!avDocument()->bSaveAs(path)) return;
+  }
+  bool goOn = false;
+  CloseDocument(true, goOn);
+  app_.gAVDoc = std::make_shared<AVDocument>(app_);
+  app_.gNotFound.clear();
+  const std::string message = openDocument(path, std::make_shared<IOManager>(app_));
+  AddAllSmallKeyFrames();
+  if (message.empty()) {
+    ShowAVDocTitle();
+  } else {
+    app_.ui.messageBox(message, BoxKind::Exclamation);
+    app_.gAVDoc.reset();
+  }
+}
+
+}  // namespace velra

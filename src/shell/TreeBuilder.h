@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+
+#include "protocol/DescribedObject.h"
+#include "shell/Tree.h"
+
+namespace velra {
+
+class TreeIcons;
+class Version;
+
+/// The left tree: the document, its Versions, their Media and Storages.
+std::unique_ptr<TreeNode> BuildMainTree(const ObjectRef& document);
+
+/// The right tree: a Version, its main expressions and their segments in the order of time. The
+/// icon of each segment must be in the list: kInvalidArgument.
+std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
+                                        const TreeIcons& icons);
+
+}  // namespace velra
