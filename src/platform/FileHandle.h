@@ -3,7 +3,6 @@
 #include <cstddef>
 
 #include <string>
-#include <string_view>
 #include <utility>
 
 namespace velra {
@@ -29,8 +28,5 @@ class FileHandle {
 
 /// Everything in an open file from its start, up to `size` bytes. 0 or the system's error.
 int readAll(const FileHandle& file, std::size_t size, std::string& bytes);
-
-/// writeFileInPlace with the system's error number; 0 on success.
-int writeInPlace(const std::string& path, std::string_view bytes);
 
 }  // namespace velra

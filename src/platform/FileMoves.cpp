@@ -1,3 +1,5 @@
+#include "platform/Files.h"
+
 #include <fcntl.h>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -10,7 +12,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/FileHandle.h"
-#include "platform/Files.h"
+#include "platform/WriteInPlace.h"
 
 namespace velra {
 namespace {

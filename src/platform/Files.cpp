@@ -13,6 +13,7 @@
 
 #include "base/Paths.h"
 #include "platform/FileHandle.h"
+#include "platform/WriteInPlace.h"
 
 namespace velra {
 namespace {

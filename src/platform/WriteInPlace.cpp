@@ -1,3 +1,5 @@
+#include "platform/WriteInPlace.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/XmlLibrary.h"
+#include "platform/XmlText.h"
 
 namespace velra {
 

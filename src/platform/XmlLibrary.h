@@ -43,7 +43,4 @@ inline std::string_view viewOf(const xmlChar* text) {
 /// A name with its prefix, as files write it.
 std::string qualifiedName(const xmlNs* space, const xmlChar* name);
 
-/// The text of a list of nodes and of all below them; see XmlNode::text.
-std::string textOf(const xmlNode* first);
-
 }  // namespace velra::xml

@@ -1,3 +1,5 @@
+#include "platform/XmlText.h"
+
 #include <libxml/entities.h>
 
 #include "platform/XmlLibrary.h"

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "base/Text.h"
+#include "platform/XmlWriter.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {
@@ -204,6 +207,29 @@ TEST(XmlDocument, ShellHoldsAllButTheContent) {
     const std::string before = document.documentElement().text();
     EXPECT_EQ(document.shellText(), one.shell);
     EXPECT_EQ(document.documentElement().text(), before) << "the content is still there";
+  }
+}
+
+/// Whatever the bytes are, reading ends, and what was read can be written again.
+TEST(XmlDocument, SurvivesDamagedBytes) {
+  const std::string good =
+      "<?xml version='1.0'?><!DOCTYPE a [<!ELEMENT a ANY><!ENTITY e '<b>x</b>'><!ENTITY f '&e;'>]>"
+      "<a xmlns:x='urn:x' x:y='&f;'> &e; &f;<![CDATA[ ]]><x:b c='d'/><!-- c --><?p i?></a><!--z-->";
+  std::mt19937 random(7);
+  for (int i = 0; i < 5000; ++i) {
+    std::string bytes = good;
+    for (auto changes = 1 + random() % 3; changes > 0; --changes) {
+      bytes[random() % bytes.size()] = good[random() % good.size()];
+    }
+    if (random() % 4 == 0) bytes.resize(random() % bytes.size());
+    XmlDocument document;
+    if (!document.parse(bytes, "")) {
+      ASSERT_NE(document.reason(), "") << bytes;
+      continue;
+    }
+    document.documentElement().text();
+    document.documentElement().attributes();
+    ASSERT_NO_THROW(XmlWriter(document.shellText()).bytes()) << bytes;
   }
 }
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velra {
+
+/// writeFileInPlace with the system's error number; 0 on success.
+int writeInPlace(const std::string& path, std::string_view bytes);
+
+}  // namespace velra
