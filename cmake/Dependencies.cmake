@@ -11,6 +11,7 @@ pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
 
 if(VELRA_TESTS)
   find_package(GTest REQUIRED)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
 if(VELRA_BENCH)
   find_package(benchmark REQUIRED)

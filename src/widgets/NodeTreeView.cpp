@@ -1,0 +1,86 @@
+#include "widgets/NodeTreeView.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+
+#include "widgets/TreeIconPainter.h"
+#include "widgets/TreeModel.h"
+
+namespace velra {
+
+NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), model_(model) {
+  setHeaderHidden(true);
+  setUniformRowHeights(true);  // a row costs nothing until it is seen
+  setIconSize(TreeIconPainter::iconSize());
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  header()->setStretchLastSection(false);
+  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  setModel(&model);
+  connect(&model, &TreeModel::expandRequested, this, &QTreeView::expand);
+}
+
+void NodeTreeView::click(const QModelIndex& index, MouseButton button) {
+  Q_EMIT pressed(button);
+  if (TreeNode* node = model_.node(index)) Q_EMIT nodeClicked(*node);
+}
+
+// The arrow that opens and closes a node belongs to the tree itself.
+bool NodeTreeView::isOnNode(const QPoint& position) const {
+  const QModelIndex index = indexAt(position);
+  return index.isValid() && position.x() >= visualRect(index).left();
+}
+
+void NodeTreeView::mousePressEvent(QMouseEvent* event) {
+  QTreeView::mousePressEvent(event);
+  if (event->button() != Qt::LeftButton) return;
+  const QPoint position = event->position().toPoint();
+  click(isOnNode(position) ? indexAt(position) : QModelIndex(), kLeftButton);
+}
+
+void NodeTreeView::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  QModelIndex index;
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    if (!selectedIndexes().isEmpty()) index = selectedIndexes().constFirst();
+    scrollTo(index);
+    menuPosition_ = viewport()->mapToGlobal(visualRect(index).bottomLeft());
+  } else {
+    if (isOnNode(event->pos())) index = indexAt(event->pos());
+    menuPosition_ = event->globalPos();
+  }
+  click(index, kRightButton);
+}
+
+void NodeTreeView::keyPressEvent(QKeyEvent* event) {
+  const QModelIndex before = currentIndex();
+  QTreeView::keyPressEvent(event);
+  if (currentIndex() != before) click(currentIndex(), kLeftButton);
+}
+
+void NodeTreeView::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier &&
+      !event->isAutoRepeat()) {
+    Q_EMIT deleteReleased();
+    return;
+  }
+  QTreeView::keyReleaseEvent(event);
+}
+
+// Who comes by the Tab key finds a node selected, and not only a frame around one.
+void NodeTreeView::focusInEvent(QFocusEvent* event) {
+  QTreeView::focusInEvent(event);
+  const bool byTab =
+      event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (!byTab || !currentIndex().isValid() || !selectedIndexes().isEmpty()) return;
+  selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+  click(currentIndex(), kLeftButton);
+}
+
+void NodeTreeView::selectionChanged(const QItemSelection& selected,
+                                    const QItemSelection& deselected) {
+  QTreeView::selectionChanged(selected, deselected);
+  const QModelIndexList indexes = selectedIndexes();
+  model_.select(indexes.isEmpty() ? nullptr : model_.node(indexes.constFirst()));
+}
+
+}  // namespace velra

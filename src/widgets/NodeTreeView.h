@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QTreeView>
+
+#include "shell/frmMain.h"
+
+namespace velra {
+
+class TreeModel;
+
+/// One of the two trees of the main window. It tells of presses, clicks and keys, and keeps the
+/// selected node of the tree the one that is highlighted.
+class NodeTreeView : public QTreeView {
+  Q_OBJECT
+
+ public:
+  /// The model is not owned.
+  NodeTreeView(TreeModel& model, QWidget* parent);
+
+  /// Where a menu for the last click or the Menu key opens, in global coordinates.
+  QPoint menuPosition() const { return menuPosition_; }
+
+ Q_SIGNALS:
+  /// A press of a button, before the click on a node that it may become. The keyboard presses too:
+  /// the left button to make a node the current one, the right one for the menu.
+  void pressed(velra::MouseButton button);
+  void nodeClicked(velra::TreeNode& node);
+  void deleteReleased();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+ private:
+  void click(const QModelIndex& index, MouseButton button);
+  bool isOnNode(const QPoint& position) const;
+
+  TreeModel& model_;
+  QPoint menuPosition_;
+};
+
+}  // namespace velra

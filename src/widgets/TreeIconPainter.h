@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QCache>
+#include <QHash>
+#include <QIcon>
+#include <QSize>
+#include <QString>
+#include <string>
+
+namespace velra {
+
+class TreeIcons;
+struct Picture;
+
+/// The icons of the tree nodes by their keys: the named ones, and the key frames inside a red
+/// frame. A key frame's picture is read when it is first asked for, and a bounded number of them is
+/// kept.
+class TreeIconPainter {
+ public:
+  explicit TreeIconPainter(const TreeIcons& icons) : icons_(icons) {}
+
+  /// The size of every icon, in logical pixels.
+  static QSize iconSize() { return {32, 24}; }
+
+  QIcon icon(const std::string& key);
+
+  /// Forgets the pictures that were read; their files may have changed.
+  void forget() { keyFrames_.clear(); }
+
+ private:
+  static constexpr int kKeptKeyFrames = 512;
+
+  QIcon namedIcon(const std::string& key);
+  QIcon keyFrameIcon(const std::string& key, const Picture& picture);
+
+  const TreeIcons& icons_;
+  QHash<QString, QIcon> named_;
+  QCache<QString, QIcon> keyFrames_{kKeptKeyFrames};
+};
+
+}  // namespace velra
