@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QStatusBar>
+#include <QTimer>
+
+class QLabel;
+
+namespace velra {
+
+/// The three panels: text, date, time. The text is seen at once even while work keeps the window
+/// from its events; of texts that follow one another faster than anybody reads, only some are
+/// drawn, and the last one always.
+class MainStatusBar : public QStatusBar {
+  Q_OBJECT
+
+ public:
+  explicit MainStatusBar(QWidget* parent);
+
+  void showText(const QString& text);
+
+ private:
+  QLabel* addPanel(const char* name, const char* accessibleName, int stretch);
+  void drawText();
+  void updateClock();
+
+  QLabel* text_;
+  QLabel* date_;
+  QLabel* time_;
+  QString pending_;
+  QElapsedTimer sinceDrawn_;
+  QTimer later_;
+  QTimer clock_;
+};
+
+}  // namespace velra
