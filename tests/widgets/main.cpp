@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include "widgets/GuardedApplication.h"
 
 // The tests of the windows have an application, and no display.
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
+  velra::GuardedApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("velra"));
   QApplication::setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();

@@ -1,0 +1,41 @@
+#include "widgets/GuardedApplication.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "widgets/MessageBoxes.h"
+#include "widgets/QtText.h"
+
+namespace velra {
+
+void GuardedApplication::endAtOnce(const std::exception& failure) {
+  const std::string text = failure.what();
+  std::fprintf(stderr, "%s\n", text.c_str());
+  // The box runs events of its own, and what fails in them has nobody left to ask.
+  if (!std::exchange(ending_, true)) {
+    while (QGuiApplication::overrideCursor()) QGuiApplication::restoreOverrideCursor();
+    showMessageBox(QApplication::activeModalWidget(), QMessageBox::Critical, toQString(text),
+                   QMessageBox::Ok, QMessageBox::Ok);
+  }
+  std::_Exit(1);
+}
+
+void GuardedApplication::guarded(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& failure) {
+    endAtOnce(failure);
+  }
+}
+
+bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const std::exception& failure) {
+    endAtOnce(failure);
+  }
+}
+
+}  // namespace velra

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QApplication>
+#include <exception>
+#include <functional>
+
+namespace velra {
+
+/// The one place where failures that no rule expects end up: each event and the start run under its
+/// guard. Such a failure is printed on standard error, shown in a critical box, and ends the
+/// program with status 1 at that point. No step of the shutdown runs, since the document may be in
+/// any state: nothing of it is deleted or written.
+class GuardedApplication : public QApplication {
+  Q_OBJECT
+
+ public:
+  GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {}
+
+  /// Runs what is not an event under the same guard.
+  void guarded(const std::function<void()>& action);
+
+  bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  [[noreturn]] void endAtOnce(const std::exception& failure);
+
+  bool ending_ = false;
+};
+
+}  // namespace velra
