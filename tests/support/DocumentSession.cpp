@@ -1,0 +1,64 @@
+#include "support/DocumentSession.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Paths.h"
+#include "store/IOManager.h"
+#include "support/SmallSchema.h"
+
+namespace velra::test {
+
+DocumentSession::DocumentSession()
+    : app(ui, MessageCatalogue(InterfaceLanguage::Default), machine_, user_) {
+  app.gMainForm = &window;
+  app.objectFactory = &factory;
+  useSchema(kSmallSchema);
+}
+
+DocumentSession::~DocumentSession() {
+  close();
+}
+
+void DocumentSession::useSchema(const std::string& text) {
+  useSchemaFile(settings_.write("small.xsd", text));
+}
+
+void DocumentSession::useSchemaFile(const std::string& path) {
+  settings_.write("machine.ini", "[SOFTWARE\\Velra]\nXSDPath=" + path + "\n");
+}
+
+std::string DocumentSession::open(const std::string& path) {
+  app.gAVDoc = std::make_shared<AVDocument>(app);
+  factory.objects.push_back(app.gAVDoc);
+  changeCurrentFolder(folderOf(path));
+  return app.gAVDoc->strOpen(path, factory.createForm("AVDocument"),
+                             std::make_shared<IOManager>(app));
+}
+
+void DocumentSession::create() {
+  app.gAVDoc = std::make_shared<AVDocument>(app);
+  factory.objects.push_back(app.gAVDoc);
+  changeCurrentFolder(folder.path());
+  EXPECT_EQ(
+      app.gAVDoc->strInitAsNew(files.documentPath(), app.strXSDPath(), "xsd", "Film",
+                               factory.createForm("AVDocument"), std::make_shared<IOManager>(app)),
+      "");
+}
+
+std::shared_ptr<AVDocument> DocumentSession::document() const {
+  return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);
+}
+
+ObjectRef DocumentSession::object(const std::string& name) const {
+  return app.gAVDoc->loadedObject(files.path(name));
+}
+
+std::shared_ptr<Version> DocumentSession::version(const std::string& name) const {
+  return std::dynamic_pointer_cast<Version>(object(name));
+}
+
+ExpressionRef DocumentSession::expression(const std::string& name) const {
+  return std::dynamic_pointer_cast<Expression>(object(name));
+}
+
+}  // namespace velra::test

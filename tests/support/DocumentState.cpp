@@ -1,0 +1,80 @@
+#include "support/DocumentState.h"
+
+#include "base/Text.h"
+#include "objects/Version.h"
+#include "protocol/Expression.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SEColl.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra::test {
+
+namespace {
+
+std::string textOf(const Value& value) {
+  if (const StringList* list = asList(value)) {
+    std::string text = "{";
+    for (const std::string& member : *list) text += member + ";";
+    return text + "}";
+  }
+  if (const auto chunk = asChunk(value)) {
+    return numberText(chunk->dStart) + ".." + numberText(chunk->dend) + " " + chunk->strFile;
+  }
+  if (const auto words = asWords(value)) {
+    std::string text;
+    for (const WordItem& word : *words) text += numberText(word.dStart) + word.strTxt + " ";
+    return text;
+  }
+  return toText(value);
+}
+
+std::string fieldsOf(const SEColl& fields) {
+  std::string text;
+  for (const SchemaElement& field : fields) {
+    if (!field.bValid() && !field.bChanged()) continue;
+    text += " " + field.strName() + (field.bChanged() ? "*" : "") + (field.bValid() ? "=" : "!") +
+            textOf(field.vContent());
+  }
+  return text;
+}
+
+template <class Object>
+std::string identifierOf(const std::shared_ptr<Object>& object) {
+  return object ? object->strGUID() : "nothing";
+}
+
+std::string linksOf(const Expression& expression) {
+  std::string text = " main " + identifierOf(expression.objMainExpr()) + " next " +
+                     identifierOf(expression.objFollowedBy()) + " version " +
+                     identifierOf(expression.verVersion()) + " segments";
+  for (const ExpressionRef& segment : expression.colSubExpressions()) {
+    text += " " + identifierOf(segment);
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string stateOf(const DescribedObject& object) {
+  std::string text =
+      object.className() + " " + object.strGUID() + (object.bChanged() ? " changed" : "");
+  if (object.className() == "MediaObject") return text;
+  text += fieldsOf(object.secol()) + " children";
+  for (const ObjectRef& child : object.colChilds()) text += " " + child->strGUID();
+  if (const auto* version = dynamic_cast<const Version*>(&object)) {
+    text += " main expressions " + identifierOf(version->vdMainVideo()) + " " +
+            identifierOf(version->auMainAudio()) + " " + identifierOf(version->trMainTranscript());
+  }
+  const auto* expression = dynamic_cast<const Expression*>(&object);
+  return expression ? text + linksOf(*expression) : text;
+}
+
+std::vector<std::string> stateOf(OpenDocument& document) {
+  std::vector<std::string> states;
+  for (const auto& [number, object] : document.collObjects().sequence()) {
+    states.push_back(stateOf(*object));
+  }
+  return states;
+}
+
+}  // namespace velra::test

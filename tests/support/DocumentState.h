@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace velra {
+class DescribedObject;
+class OpenDocument;
+}  // namespace velra
+
+namespace velra::test {
+
+/// Class, identifier, fields with their flags, and the objects below and beside.
+std::string stateOf(const DescribedObject& object);
+
+/// That of every registered object, in order of registration.
+std::vector<std::string> stateOf(OpenDocument& document);
+
+}  // namespace velra::test

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "expressions/Audio.h"
+#include "expressions/Transcript.h"
+#include "expressions/Video.h"
+#include "objects/AVDocument.h"
+#include "objects/Media.h"
+#include "objects/Storage.h"
+#include "objects/Version.h"
+#include "protocol/ClassRules.h"
+#include "protocol/ObjectFactory.h"
+
+namespace velra::test {
+
+/// A form that shows nothing and remembers what was asked of it.
+class RecordingForm : public ObjectForm {
+ public:
+  std::weak_ptr<DescribedObject> object;
+  int shown = 0;
+  int unloaded = 0;
+
+  void setObject(const std::shared_ptr<DescribedObject>& owner) override { object = owner; }
+  void Show(FormOwner&) override { ++shown; }
+  void Unload() override { ++unloaded; }
+};
+
+/// Makes the real objects with recording forms, and can tell which of them still live.
+class PlainObjectFactory : public ObjectFactory {
+ public:
+  explicit PlainObjectFactory(ApplicationModule& app) : app_(app) {}
+
+  std::vector<std::weak_ptr<DescribedObject>> objects;
+  std::vector<std::weak_ptr<RecordingForm>> forms;
+  int schemaDialogs = 0;
+
+  ObjectRef createObject(const std::string& className) override {
+    if (ExpressionRef expression = createExpression(className)) return expression;
+    if (className == "AVDocument") return noted(std::make_shared<AVDocument>(app_));
+    if (className == "Version") return noted(std::make_shared<Version>(app_));
+    if (className == "Media") return noted(std::make_shared<Media>(app_));
+    if (className == "Storage") return noted(std::make_shared<Storage>(app_));
+    return nullptr;
+  }
+  ExpressionRef createExpression(const std::string& className) override {
+    if (className == "Video") return noted(std::make_shared<Video>(app_));
+    if (className == "Audio") return noted(std::make_shared<Audio>(app_));
+    if (className == "Transcript") return noted(std::make_shared<Transcript>(app_));
+    return nullptr;
+  }
+  std::shared_ptr<ObjectForm> createForm(const std::string& className) override {
+    if (!findClassRules(className)) return nullptr;
+    auto form = std::make_shared<RecordingForm>();
+    forms.push_back(form);
+    return form;
+  }
+  void showSchemaDialog(FormOwner&, SEColl&) override { ++schemaDialogs; }
+
+ private:
+  template <class Object>
+  std::shared_ptr<Object> noted(std::shared_ptr<Object> object) {
+    objects.push_back(object);
+    return object;
+  }
+
+  ApplicationModule& app_;
+};
+
+}  // namespace velra::test

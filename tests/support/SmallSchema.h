@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace velra::test {
+
+/// A schema of all seven classes with the fields that rules name, and with every value type on the
+/// document.
+extern const std::string kSmallSchema;
+
+}  // namespace velra::test
