@@ -34,6 +34,13 @@ void relocateKeyFrame(Expression& video, ObjectRegistry& objects, IOManager& io,
   video.UpdateLocationKeyFrameObject(oldGUID, newGUID);
 }
 
+Version& versionOf(const Storage& storage) {
+  const auto media = storage.objParent();
+  const auto version = media ? media->objParent() : nullptr;
+  if (!version) raise(kNoObject);
+  return *version;
+}
+
 }  // namespace
 
 AVDocument::AVDocument(ApplicationModule& app) : LadderObject(app, "AVDocument"), schemas_(app) {}
@@ -46,8 +53,9 @@ OpenDocument& AVDocument::document() const {
   return const_cast<AVDocument&>(*this);
 }
 
+// The registry is a part of the document: an entry that held it would keep both alive for ever.
 void AVDocument::registerSelf() {
-  collObjects_.Add(shared_from_this());
+  collObjects_.Add(ObjectRef(this, [](DescribedObject*) {}));
 }
 
 void AVDocument::initFields() {
@@ -179,7 +187,7 @@ void AVDocument::noteRemoved(const ObjectRef& removed) {
   }
   if (const auto* storage = dynamic_cast<const Storage*>(removed.get())) {
     // The Media has dropped it by now, so the Version sees what is left.
-    storage->objParent()->objParent()->ResetDuration();
+    versionOf(*storage).ResetDuration();
   }
   colObjRemoved_.push_back(guid);
 }
