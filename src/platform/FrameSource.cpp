@@ -60,6 +60,7 @@ std::string FrameSource::open(const std::string& path) {
   if (std::string reason = decoder_->open(*input_->stream()); !reason.empty()) return reason;
   if (!takeFirst()) return "No picture of it can be decoded.";
   setFrameTime();
+  input_->settle();
   return {};
 }
 

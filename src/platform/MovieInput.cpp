@@ -116,10 +116,11 @@ double MovieInput::claimedLength() const {
 
 bool MovieInput::read(AVPacket& packet) {
   for (int bad = 0; bad < kBadReads;) {
-    allow(kReadLimit);
+    if (!opening_) allow(kReadLimit);
     av_packet_unref(&packet);
+    if (interrupted(this) != 0) return false;
     const int error = av_read_frame(context_->format.get(), &packet);
-    if (error == AVERROR_EOF || error == AVERROR_EXIT || cancelled_) return false;
+    if (error == AVERROR_EOF || error == AVERROR_EXIT) return false;
     if (error < 0) {
       ++bad;
     } else if (packet.stream_index == index_) {

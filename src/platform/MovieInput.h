@@ -40,6 +40,9 @@ class MovieInput {
   /// The container's idea of the length in seconds; 0 when it has none. It may be wrong.
   double claimedLength() const;
 
+  /// Tells that the movie is taken: until then all reads together have `kOpenLimit`.
+  void settle() { opening_ = false; }
+
   /// Next packet of the chosen track; false at the end of the file or when it cannot be read on.
   bool read(AVPacket& packet);
 
@@ -67,6 +70,7 @@ class MovieInput {
   std::string path_;
   std::unique_ptr<Context> context_;
   int index_ = -1;
+  bool opening_ = true;
   std::chrono::steady_clock::time_point deadline_;
   std::atomic<bool> cancelled_{false};
 };
