@@ -1,0 +1,87 @@
+#include "platform/MovieGraph.h"
+
+#include <utility>
+
+#include "platform/FrameSource.h"
+#include "platform/MoviePlayer.h"
+#include "platform/SoundLength.h"
+#include "platform/SoundOut.h"
+
+namespace velra {
+
+MovieGraph::MovieGraph() = default;
+
+MovieGraph::~MovieGraph() = default;
+
+std::string MovieGraph::RenderFile(const std::string& path) {
+  player_.reset();
+  duration_ = frameTime_ = 0;
+  width_ = height_ = 0;
+  auto source = std::make_unique<FrameSource>();
+  std::string reason = source->open(path);
+  if (reason.empty()) {
+    renderPictures(path, std::move(source));
+  } else if (renderSound(path)) {
+    reason.clear();
+  }
+  return reason;
+}
+
+void MovieGraph::renderPictures(const std::string& path, std::unique_ptr<FrameSource> source) {
+  frameTime_ = source->frameTime();
+  width_ = source->size().width;
+  height_ = source->size().height;
+  PlayClock clock(std::make_unique<SoundOut>(path, source->origin()));
+  duration_ = source->duration();
+  player_ = std::make_unique<MoviePlayer>(std::move(source), std::move(clock), duration_,
+                                          [this](Notice notice) { tell(notice); });
+}
+
+bool MovieGraph::renderSound(const std::string& path) {
+  duration_ = soundLength(path);
+  if (duration_ <= 0) return false;
+  PlayClock clock(std::make_unique<SoundOut>(path, std::nullopt));
+  player_ = std::make_unique<MoviePlayer>(nullptr, std::move(clock), duration_,
+                                          [this](Notice notice) { tell(notice); });
+  return true;
+}
+
+void MovieGraph::Run() {
+  if (player_) player_->run();
+}
+
+void MovieGraph::Pause() {
+  if (player_) player_->halt();
+}
+
+void MovieGraph::Stop() {
+  if (player_) player_->halt();
+}
+
+double MovieGraph::CurrentPosition() const {
+  return player_ ? player_->position() : 0;
+}
+
+void MovieGraph::setCurrentPosition(double seconds) {
+  if (player_) player_->setPosition(seconds);
+}
+
+std::shared_ptr<const PictureFrame> MovieGraph::picture() const {
+  return player_ ? player_->picture() : nullptr;
+}
+
+void MovieGraph::setNotify(std::function<void(Notice)> notify) {
+  const std::lock_guard lock(notifyMutex_);
+  notify_ = std::move(notify);
+}
+
+void MovieGraph::tell(Notice notice) {
+  const std::lock_guard lock(notifyMutex_);
+  if (notify_) notify_(notice);
+}
+
+std::unique_ptr<MediaGraph> makeMediaGraph() {
+  return std::make_unique<MovieGraph>();
+}
+
+}  // namespace velra
