@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "objects/AVDocument.h"
+#include "platform/Files.h"
 #include "platform/UserInterface.h"
 #include "protocol/ObjectFactory.h"
 #include "shell/LinkFile.h"
@@ -18,6 +19,26 @@ namespace velra {
 namespace {
 
 constexpr const char* kUnsavedTitle = "AVDocument";  // of a document that was never saved
+
+// Relative identifiers start from the document's folder, which is found from the names alone: it
+// holds the data folder and the document beside it. "" for a file that lies in no data folder.
+std::string folderAboveData(const std::string& path) {
+  const std::string ending = "_files";
+  const std::string dataFolder = strAbsolutePath(folderOf(path));
+  if (!dataFolder.ends_with(ending)) return {};
+  const std::string document = dataFolder.substr(0, dataFolder.size() - ending.size()) + ".xml";
+  return bFileExists(document) ? folderOf(document) : std::string();
+}
+
+// The document of an object's file, with the file's own folder as the current one; where that gives
+// none, with the folder in which its document should lie.
+std::string documentOf(const std::string& path, IOManager& io) {
+  std::string document = io.strRetrieveAVDocGUIDFromGUID(path);
+  const std::string above = document.empty() ? folderAboveData(path) : std::string();
+  if (above.empty()) return document;
+  changeCurrentFolder(above);
+  return io.strRetrieveAVDocGUIDFromGUID(path);
+}
 
 }  // namespace
 
@@ -84,7 +105,7 @@ void frmMain::openOrFindDocument(const std::string& path, const std::shared_ptr<
     return;
   }
   // The file may be an object of a document.
-  const std::string document = io->strRetrieveAVDocGUIDFromGUID(path);
+  const std::string document = documentOf(path, *io);
   if (document.empty()) {
     app_.ui.messageBox(message, BoxKind::Exclamation);
   } else {

@@ -50,6 +50,12 @@ std::vector<std::string> classesWanted(const std::string& strWantedClass) {
 }  // namespace
 
 FolderScan& IOManager::scanOf(const std::string& folder) {
+  if (scanGeneration_ != currentFolderGeneration()) {
+    // Relative references mean other paths now.
+    scanGeneration_ = currentFolderGeneration();
+    scans_.clear();
+    fresh_.clear();
+  }
   const std::string key = withSeparator(strAbsolutePath(folder));
   FolderScan& scan = scans_.try_emplace(key, key).first->second;
   const bool fresh = openings_ > 0 && !fresh_.insert(key).second;
