@@ -1,0 +1,115 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/ApplicationModule.h"
+#include "forms/AVDocSchemaDialog.h"
+#include "forms/FormPresenter.h"
+#include "forms/LoadedForm.h"
+#include "objects/AVDocument.h"
+#include "objects/Version.h"
+#include "platform/MachineSettings.h"
+#include "platform/UserSettings.h"
+#include "shell/Factory.h"
+#include "shell/Start.h"
+#include "shell/frmMain.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra::test {
+
+/// A form of an expression that only remembers that it was shown.
+class QuietForm : public ObjectForm {
+ public:
+  explicit QuietForm(std::vector<std::string>& shown) : shown_(shown) {}
+  void setObject(const std::shared_ptr<DescribedObject>& object) override { object_ = object; }
+  void Show(FormOwner&) override {
+    if (const auto object = object_.lock()) shown_.push_back(object->strTitle());
+  }
+  void Unload() override {}
+
+ private:
+  std::vector<std::string>& shown_;
+  std::weak_ptr<DescribedObject> object_;
+};
+
+/// Shows each form by doing what the test has told it, then closes it.
+class ScriptedPresenter : public FormPresenter {
+ public:
+  std::vector<std::string> captions;
+  std::function<void(LoadedForm&)> whileShown;
+
+  void showForm(FormOwner&, LoadedForm& form) override {
+    captions.push_back(form.caption());
+    if (whileShown) whileShown(form);
+  }
+  void showSchemaDialog(FormOwner&, AVDocSchemaDialog& dialog) override {
+    dialog.CancelButton_Click();
+  }
+};
+
+/// The whole program without its windows, over a copy of the sample in a temporary folder.
+class Program {
+ public:
+  Program() {
+    const std::filesystem::path data = std::filesystem::path(VELRA_SOURCE_DIR) / "data";
+    for (const auto& entry : std::filesystem::directory_iterator(data / "sample")) {
+      const std::string name = entry.path().filename();
+      if (!name.starts_with("lighthouse")) continue;
+      std::filesystem::copy(entry.path(), folder / ("sample/" + name),
+                            std::filesystem::copy_options::recursive |
+                                std::filesystem::copy_options::overwrite_existing);
+    }
+    settings.write(ApplicationModule::kMachineSection, "XSDPath",
+                   std::string(data / "schema/velra.xsd"));
+    settings.write(ApplicationModule::kMachineSection, "ThematicKeywordsPath",
+                   std::string(data / "ThematicKeywords.xml"));
+    LoadThematicKeywords(app);
+  }
+  ~Program() { app.gAVDoc.reset(); }
+
+  std::string sample() const { return folder / "sample/lighthouse.xml"; }
+  std::shared_ptr<AVDocument> document() const {
+    return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);
+  }
+  std::shared_ptr<Version> version(std::size_t position) const {
+    return std::dynamic_pointer_cast<Version>(document()->colChilds().at(position - 1));
+  }
+  /// Clicks the node of an object with the left button.
+  void click(TreeId tree, const DescribedObject& object) {
+    mainForm.treeMouseDown(tree, kLeftButton);
+    mainForm.nodeClicked(tree, *mainForm.tree(tree).find(object));
+  }
+  /// The texts of a tree, each with two blanks for each level.
+  std::vector<std::string> texts(TreeId tree) {
+    std::vector<std::string> lines;
+    mainForm.tree(tree).walk([&](TreeNode& node) {
+      std::string indent;
+      for (const TreeNode* up = node.Parent; up; up = up->Parent) indent += "  ";
+      lines.push_back(indent + node.Text);
+      return true;
+    });
+    return lines;
+  }
+
+  TemporaryFolder folder;
+  ScriptedUserInterface ui;
+  ScriptedPresenter presenter;
+  std::vector<std::string> expressionForms;
+  MachineSettings settings{makeFolders(folder) / "machine.ini"};
+  UserSettings userSettings{folder / "user.ini"};
+  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), settings, userSettings};
+  Factory factory{app, presenter, [this] { return std::make_shared<QuietForm>(expressionForms); }};
+  frmMain mainForm{app};
+
+ private:
+  static const TemporaryFolder& makeFolders(const TemporaryFolder& folder) {
+    std::filesystem::create_directories(folder / "sample");
+    return folder;
+  }
+};
+
+}  // namespace velra::test
