@@ -5,14 +5,34 @@
 
 namespace velra {
 
+namespace {
+
+// https://www.w3.org/TR/xmlschema-1/#xsi_schemaLocation
+constexpr const char* kNamespace = "http://www.w3.org/2001/XMLSchema-instance";
+
+// True for a root that has the attribute already, as the writer of shells puts it.
+bool hasAttribute(const std::string& shell, const std::string& name, const std::string& value) {
+  return shell.find(" " + name + "=\"" + value + "\"") != std::string::npos;
+}
+
+}  // namespace
+
 InstanceDocument InstanceDocument::create(const std::string& rootName) {
-  return InstanceDocument(newShell(rootName, {}));
+  return InstanceDocument(std::make_shared<const std::string>(newShell(rootName, {})));
+}
+
+const std::string& InstanceDocument::shell() const {
+  static const std::string kNone;
+  return shell_ ? *shell_ : kNone;
 }
 
 void InstanceDocument::setSchemaPath(const std::string& schemaPath) {
-  // https://www.w3.org/TR/xmlschema-1/#xsi_schemaLocation
-  shell_ = withRootAttributes(shell_, {{"xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance"},
-                                       {"xsi:noNamespaceSchemaLocation", strFileName(schemaPath)}});
+  const std::string name = strFileName(schemaPath);
+  const bool there = hasAttribute(shell(), "xmlns:xsi", kNamespace) &&
+                     hasAttribute(shell(), "xsi:noNamespaceSchemaLocation", name);
+  if (there) return;
+  shell_ = std::make_shared<const std::string>(withRootAttributes(
+      shell(), {{"xmlns:xsi", kNamespace}, {"xsi:noNamespaceSchemaLocation", name}}));
 }
 
 }  // namespace velra

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace velra {
 
@@ -8,20 +10,23 @@ namespace velra {
 /// made anew from the fields at each save. So nothing of the file but the values is kept in memory.
 class InstanceDocument {
  public:
+  /// Shells are shared, since those of a class's objects are nearly always the same.
+  using Shell = std::shared_ptr<const std::string>;
+
   InstanceDocument() = default;
-  explicit InstanceDocument(std::string shell) : shell_(std::move(shell)) {}
+  explicit InstanceDocument(Shell shell) : shell_(std::move(shell)) {}
 
   /// A new document with an empty root and the two attributes that name its schema.
   static InstanceDocument create(const std::string& rootName);
 
-  bool empty() const { return shell_.empty(); }
-  const std::string& shell() const { return shell_; }
+  bool empty() const { return shell().empty(); }
+  const std::string& shell() const;
 
   /// Writes the schema's attributes on the root: the file name of the path, without its folder.
   void setSchemaPath(const std::string& schemaPath);
 
  private:
-  std::string shell_;
+  Shell shell_;
 };
 
 }  // namespace velra

@@ -128,7 +128,7 @@ std::string SEColl::strLoad(InstanceDocument& domDoc, const std::string& strPath
 std::string SEColl::strLoadParsed(InstanceDocument& domDoc, const XmlDocument& parsed,
                                   std::shared_ptr<const SchemaFile>& domSchema,
                                   const std::string& strClassName) {
-  domDoc = InstanceDocument(parsed.shellText());
+  domDoc = InstanceDocument(schemas_.shared(parsed.shellText()));
   domSchema = schemas_.file(schemas_.strXSDPath());
   if (!domSchema) return {};
   const std::string message = strLoadType(*domSchema, strClassName);

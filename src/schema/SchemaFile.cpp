@@ -44,6 +44,12 @@ std::string DocumentSchemas::strXSDPath() const {
   return holds_ > 0 ? heldPath_ : app_.strXSDPath();
 }
 
+std::shared_ptr<const std::string> DocumentSchemas::shared(std::string text) {
+  auto& known = texts_[text];
+  if (!known) known = std::make_shared<const std::string>(std::move(text));
+  return known;
+}
+
 std::shared_ptr<const SchemaFile> DocumentSchemas::file(const std::string& path) {
   if (path.empty()) return nullptr;
   const bool samePath = file_ && file_->path() == path;

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Files.h"
@@ -60,6 +61,9 @@ class DocumentSchemas {
   /// The path in the settings.
   std::string strXSDPath() const;
 
+  /// One copy of a text that many objects have.
+  std::shared_ptr<const std::string> shared(std::string text);
+
   /// While an object of this kind lives, settings and schema are not looked at again: an opening
   /// asks for them once and not for each object.
   class Hold {
@@ -76,6 +80,7 @@ class DocumentSchemas {
  private:
   const ApplicationModule& app_;
   std::shared_ptr<const SchemaFile> file_;
+  std::unordered_map<std::string, std::shared_ptr<const std::string>> texts_;
   int holds_ = 0;
   std::string heldPath_;
   bool held_ = false;  // file_ was looked at since the outermost hold began
