@@ -85,6 +85,7 @@ class Framelist {
   void DoubleClick(std::int16_t position);
 
   // For the face.
+  double width() const { return width_; }
   std::int16_t Count() const;
   const Image& image(std::int16_t position) const { return *at(position); }
   const ScrollBar& scrollBar() const { return HScroll1_; }
@@ -94,6 +95,8 @@ class Framelist {
   /// The picture next on the strip to the one at the selection's end; 0 for none. Without a
   /// selection the first (or last).
   std::int16_t iNeighbour(bool forward) const;
+  /// The first (or last) picture on the strip; 0 for none.
+  std::int16_t iImageAtEnd(bool last) const;
   /// Scrolls just so far that the picture is in view.
   void ScrollTo(std::int16_t position);
 

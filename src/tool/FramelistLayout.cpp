@@ -85,15 +85,21 @@ std::int16_t Framelist::iImageAt(double x, double y) const {
 }
 
 std::int16_t Framelist::iNeighbour(bool forward) const {
-  const bool selected = iSelectedEnd_ >= 1 && iSelectedEnd_ <= Count();
+  if (iSelectedEnd_ < 1 || iSelectedEnd_ > Count()) return iImageAtEnd(!forward);
+  const int step = forward ? 1 : -1;
+  const std::int16_t tag = at(iSelectedEnd_)->tag;
   std::int16_t best = 0;
   for (std::int16_t i = 1; i <= Count(); ++i) {
-    const int step = forward ? 1 : -1;
-    const auto ahead = [&](std::int16_t a, std::int16_t b) {
-      return step * (at(b)->tag - at(a)->tag) > 0;
-    };
-    if (selected && !ahead(iSelectedEnd_, i)) continue;
-    if (best == 0 || ahead(i, best)) best = i;
+    if (step * (at(i)->tag - tag) <= 0) continue;
+    if (best == 0 || step * (at(best)->tag - at(i)->tag) > 0) best = i;
+  }
+  return best;
+}
+
+std::int16_t Framelist::iImageAtEnd(bool last) const {
+  std::int16_t best = 0;
+  for (std::int16_t i = 1; i <= Count(); ++i) {
+    if (best == 0 || (at(i)->tag > at(best)->tag) == last) best = i;
   }
   return best;
 }

@@ -51,6 +51,7 @@ bool Player::LoadMovie(const std::string& path) {
   const std::string reason = graph->RenderFile(path);
   if (!reason.empty()) return refuse(reason, path);
   objMediaControl_ = std::move(graph);
+  parts_.face.movieOpens(*objMediaControl_);
   measureFrameRate();
   takeSpan();
   return true;
@@ -79,6 +80,11 @@ void Player::takeSpan() {
   if (ckChunk_->dend >= 0 && ckChunk_->dStart >= 0) showStart();
 }
 
+double Player::withinMovie(double seconds) const {
+  const double duration = objMediaControl().Duration();
+  return duration > 0 && seconds > duration ? duration : seconds;
+}
+
 void Player::showStart() {
   objMediaControl_->setCurrentPosition(ckChunk_->dStart);
   objMediaControl_->Pause();
@@ -93,7 +99,7 @@ void Player::ClosePlayer() try {
   if (objMediaControl_) {
     objMediaControl_->Stop();
     parts_.face.runTimer1(false);
-    objMediaControl_->setNotify({});
+    parts_.face.movieCloses();
   }
   objMediaControl_.reset();
 } catch (const RunTimeError&) {

@@ -55,7 +55,8 @@ class Player {
   /// The movie; kNoObject when there is none.
   MediaGraph& objMediaControl() const;
   double CurrentPosition() const { return objMediaControl().CurrentPosition(); }
-  double Duration() const { return objMediaControl().Duration(); }
+  /// The time, or the movie's end when that comes first. A movie of unknown length has no end.
+  double withinMovie(double seconds) const;
   /// The span of the object; kNoObject when it has none.
   Chunk& ckChunk() const;
   /// Frames per second; 0 while unknown.

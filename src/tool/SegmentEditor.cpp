@@ -124,8 +124,7 @@ void SegmentEditor::NewSegmentByDialog() {
   const double position = parts_.player.CurrentPosition();
   if (!askBounds(position, position)) return;
   const double start = parts_.dialog.dGetStartTime();
-  double end = parts_.dialog.dGetEndTime();
-  if (end > parts_.player.Duration()) end = parts_.player.Duration();
+  const double end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
   if (end < start) return tell(kNotValidInterval);
   if (!bBoundsAreFree(obj_->colSubExpressions(), start, end)) return tell(kBoundsOverlap);
   CreateSegment(start, end);
@@ -138,8 +137,7 @@ void SegmentEditor::ModifySelectedSegment() {
   const auto span = spanOf(*segment);
   if (!askBounds(span->dStart, span->dend)) return;
   const double start = parts_.dialog.dGetStartTime();
-  double end = parts_.dialog.dGetEndTime();
-  if (end > parts_.player.Duration()) end = parts_.player.Duration();
+  const double end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
   if (end < start) return tell(kNotValidInterval);
   setBounds(segment, position, start, end);
 }

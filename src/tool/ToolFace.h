@@ -4,6 +4,7 @@
 
 namespace velra {
 
+class MediaGraph;
 class RangeDialog;
 
 /// What the rules ask of the expression tool's window. It decides nothing. Timeline and strip tell
@@ -11,6 +12,10 @@ class RangeDialog;
 class ToolFace {
  public:
   virtual ~ToolFace() = default;
+
+  /// The movie whose pictures the window shows, from now until `movieCloses`.
+  virtual void movieOpens(MediaGraph& movie) = 0;
+  virtual void movieCloses() = 0;
 
   /// The text of `txtTime`, and whether its two colours have changed places.
   virtual void showTimeCode(const std::string& text) = 0;

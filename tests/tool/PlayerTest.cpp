@@ -123,7 +123,7 @@ TEST_F(PlayerTest, theTickFollowsTheMovieAndAJumpPausesIt) {
   EXPECT_EQ(movie.position, 3.24) << "it goes on where it stopped";
   tool->player.ClosePlayer();
   EXPECT_EQ(movie.opened, 0);
-  EXPECT_FALSE(face.timer);
+  EXPECT_FALSE(face.timer || face.showsMovie);
 }
 
 TEST_F(PlayerTest, textsBecomeTimes) {

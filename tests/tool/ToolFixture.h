@@ -33,6 +33,10 @@ class RecordingFace : public ToolFace {
   /// What the person does in the dialog; the default closes it by its close box.
   std::function<void(RangeDialog&)> inDialog = [](RangeDialog&) {};
 
+  bool showsMovie = false;
+
+  void movieOpens(MediaGraph&) override { showsMovie = true; }
+  void movieCloses() override { showsMovie = false; }
   void showTimeCode(const std::string& text) override { timeCode = text; }
   void swapTimeCodeColours(bool isSwapped) override { swapped = isSwapped; }
   void runTimer1(bool on) override { timer = on; }
