@@ -7,11 +7,13 @@
 
 #include "base/RunTimeError.h"
 #include "protocol/Expression.h"
+#include "protocol/ObjectForm.h"
+#include "schema/SEColl.h"
 
 namespace velra::test {
 
-/// An expression in memory without fields and files. It links its chain as the real ones do for
-/// segments that do not overlap.
+/// An expression in memory, with fields and a form only where a test gives it some. It links its
+/// chain as the real ones do for segments that do not overlap.
 class ScriptedExpression : public Expression {
  public:
   explicit ScriptedExpression(std::string className) : className_(std::move(className)) {}
@@ -26,8 +28,10 @@ class ScriptedExpression : public Expression {
   ExpressionList children;
   double frameRate = 0;
   double keyFrameTime = -1;
+  Picture keyFrame;
   bool refusesNewSegments = false;  // as when a new object cannot be initialised
-  std::vector<std::string> shownOver;
+  std::shared_ptr<SEColl> fields;
+  std::shared_ptr<ObjectForm> form;
 
   static std::shared_ptr<ScriptedExpression> make(const std::string& className, double start,
                                                   double end) {
@@ -87,7 +91,7 @@ class ScriptedExpression : public Expression {
   std::shared_ptr<WordColl> WordList() const override { return words; }
   double dFrameRate() const override { return frameRate; }
   void setDFrameRate(double framesPerSecond) override { frameRate = framesPerSecond; }
-  Picture picKeyFrame() const override { return {}; }
+  Picture picKeyFrame() const override { return keyFrame; }
   Picture picKeyFrameSmall() const override { return {}; }
   double dGetKeyFrameTime() const override { return keyFrameTime; }
   void SetKeyFrameTime(double seconds) override { keyFrameTime = seconds; }
@@ -97,16 +101,21 @@ class ScriptedExpression : public Expression {
   // DescribedObject.
   const std::string& className() const override { return className_; }
   std::shared_ptr<IOManager> io() const override { return nullptr; }
-  SEColl& secol() const override { raise(kNoObject); }
+  SEColl& secol() const override {
+    if (!fields) raise(kNoObject);
+    return *fields;
+  }
   std::string strGUID() const override { return title; }
   void setStrGUID(const std::string&) override {}
   std::string strTitle() const override { return title; }
   void setStrTitle(const std::string& text) override { title = text; }
   void strInitGUID(const std::string&) override {}
   void setStrSchemaPath(const std::string&) override {}
-  bool bChanged() const override { return false; }
-  std::int16_t iNumValidElem() const override { return 0; }
-  void ShowForm(FormOwner&) override { shownOver.push_back(title); }
+  bool bChanged() const override { return fields && fields->bChanged(); }
+  std::int16_t iNumValidElem() const override {
+    return fields ? fields->iNumValid() : std::int16_t{0};
+  }
+  void ShowForm(FormOwner& owner) override { form->Show(owner); }
   void EditAttributesForm(FormOwner&) override {}
   std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
                          const std::shared_ptr<IOManager>&) override {

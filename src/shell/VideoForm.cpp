@@ -1,0 +1,80 @@
+#include "shell/VideoForm.h"
+
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "forms/FormTabs.h"
+#include "protocol/MainWindow.h"
+#include "shell/LoadedVideoForm.h"
+#include "shell/VideoFormFace.h"
+
+namespace velra {
+
+namespace {
+
+/// Sets a pointer for as long as it lives, and puts the old value back, after an error too.
+template <class T>
+class Setting {
+ public:
+  Setting(T*& place, T* value) : place_(place), before_(std::exchange(place, value)) {}
+  ~Setting() { place_ = before_; }
+  Setting(const Setting&) = delete;
+  Setting& operator=(const Setting&) = delete;
+
+ private:
+  T*& place_;
+  T* before_;
+};
+
+}  // namespace
+
+VideoForm::VideoForm(VideoFormServices& services) : services_(services) {}
+
+VideoForm::~VideoForm() = default;
+
+void VideoForm::setObject(const std::shared_ptr<DescribedObject>& object) {
+  const auto expression = std::dynamic_pointer_cast<Expression>(object);
+  if (object && !expression) raise(kTypeMismatch);
+  obj_ = expression;
+}
+
+void VideoForm::Show(FormOwner& owner) {
+  if (loaded_) return;
+  const ExpressionRef obj = obj_.lock();
+  if (!obj) raise(kNoObject);
+  if (services_.wanted) {
+    *services_.wanted = {this, obj, &owner};
+    return;
+  }
+  // A walk through the tree is a loop, so that it may be as long as the person likes.
+  Wanted at{this, obj, &owner};
+  while (at.form) {
+    const ExpressionRef next = at.form->showOnce(*at.owner);
+    at = next ? formOf(next, owner) : Wanted{};
+  }
+}
+
+ExpressionRef VideoForm::showOnce(FormOwner& owner) {
+  if (!arrTabScroll_) arrTabScroll_ = std::make_unique<TabScroll>();
+  const std::unique_ptr<VideoFormFace> face = services_.faces.makeVideoForm(owner);
+  LoadedVideoForm form(services_, obj_.lock(), *arrTabScroll_, *face);
+  const Setting mark(loaded_, &form);
+  if (!form.Form_Load()) return nullptr;
+  face->showModally();
+  return form.next();
+}
+
+VideoForm::Wanted VideoForm::formOf(const ExpressionRef& obj, FormOwner& owner) {
+  Wanted found;
+  const Setting mark(services_.wanted, &found);
+  MainWindow* mainWindow = services_.app.gMainForm;
+  obj->ShowForm(mainWindow ? *mainWindow : owner);
+  return found;
+}
+
+void VideoForm::Unload() {
+  if (loaded_) loaded_->Unload();
+}
+
+}  // namespace velra
