@@ -1,3 +1,75 @@
-int main() {
-  return 0;
+#include <malloc.h>
+
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "platform/MachineSettings.h"
+#include "platform/UserSettings.h"
+#include "shell/Factory.h"
+#include "shell/Start.h"
+#include "shell/frmMain.h"
+#include "widgets/GuardedApplication.h"
+#include "widgets/MainFormWindow.h"
+#include "widgets/QtFormPresenter.h"
+#include "widgets/QtUserInterface.h"
+
+namespace {
+
+using namespace velra;
+
+// Opening a document takes and drops much memory again and again; giving it back to the system in
+// between costs more than the work itself.
+constexpr int kKeptMemory = 256 * 1024 * 1024;
+
+// The buttons of boxes and file dialogs speak the language of the interface.
+void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
+  if (language != InterfaceLanguage::Italian) return;
+  if (translator.load(QStringLiteral("qtbase_it"),
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&translator);
+  }
+}
+
+// The document goes while the windows that it may report to are still there.
+void releaseDocument(ApplicationModule& app, frmMain& rules) {
+  rules.tvwMainTree.clear();
+  rules.tvwExpression.clear();
+  app.gAVDoc.reset();
+}
+
+int run(const std::string& commandLine) {
+  const InterfaceLanguage language = interfaceLanguage(environmentLocale());
+  QTranslator translator;
+  translateToolkit(translator, language);
+
+  QtUserInterface ui;
+  MachineSettings machineSettings(MachineSettings::defaultPath());
+  UserSettings userSettings(UserSettings::defaultPath());
+  ApplicationModule app(ui, MessageCatalogue(language), machineSettings, userSettings);
+  QtFormPresenter presenter(app);
+  Factory factory(app, presenter, [] { return nullptr; });
+  frmMain rules(app);
+  MainFormWindow window(app, rules);
+  ui.setMainWindow(&window);
+  presenter.setMainWindow(&window);
+
+  Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
+  const int status = QCoreApplication::exec();
+  releaseDocument(app, rules);
+  return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  mallopt(M_TRIM_THRESHOLD, kKeptMemory);
+  const std::string startFolder = velra::currentFolder();
+  GuardedApplication application(argc, argv);
+  QCoreApplication::setApplicationName(QStringLiteral("velra"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
+  int status = 1;
+  application.guarded([&] { status = run(commandLineOf(argc - 1, argv + 1, startFolder)); });
+  return status;
 }

@@ -49,6 +49,7 @@ void MainStatusBar::showText(const QString& text) {
 
 void MainStatusBar::drawText() {
   text_->setText(pending_);
+  text_->setToolTip(pending_.toHtmlEscaped());  // whole, also in a narrow window
   text_->repaint();
   sinceDrawn_.start();
 }

@@ -18,6 +18,7 @@ constexpr int kCompanyProductPoints = 16;
 constexpr int kProductNamePoints = 30;
 constexpr int kPicturePixels = 96;
 constexpr int kMargin = 24;
+constexpr int kTextPixels = 360;
 
 QLabel* newLabel(QWidget* parent, const char* name, const QString& text, int points = 0) {
   auto* label = new QLabel(parent);
@@ -43,7 +44,7 @@ QLabel* newPicture(QWidget* parent) {
 }  // namespace
 
 SplashWindow::SplashWindow(const ApplicationModule& app, QWidget* owner)
-    : QWidget(owner, Qt::SplashScreen) {
+    : QWidget(owner, Qt::SplashScreen | Qt::WindowDoesNotAcceptFocus) {
   setObjectName(QStringLiteral("frmSplash"));
   setAttribute(Qt::WA_ShowWithoutActivating);
   const auto text = [&app](int id) { return toQString(app.LoadResString(id)); };
@@ -51,7 +52,10 @@ SplashWindow::SplashWindow(const ApplicationModule& app, QWidget* owner)
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setHorizontalSpacing(kMargin);
   grid->addWidget(newPicture(this), 0, 0, 4, 1, Qt::AlignTop);
-  grid->addWidget(newLabel(this, "lblCompanyProduct", text(1058), kCompanyProductPoints), 0, 1);
+  QLabel* companyProduct = newLabel(this, "lblCompanyProduct", text(1058), kCompanyProductPoints);
+  companyProduct->setWordWrap(true);
+  companyProduct->setMinimumWidth(kTextPixels);
+  grid->addWidget(companyProduct, 0, 1);
   grid->addWidget(
       newLabel(this, "lblProductName", QCoreApplication::applicationName(), kProductNamePoints), 1,
       1);

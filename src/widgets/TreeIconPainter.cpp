@@ -4,6 +4,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <functional>
 
 #include "shell/TreeIcons.h"
 #include "widgets/Icons.h"
@@ -20,43 +21,48 @@ QImage readPicture(const Picture& picture, const QSize& size) {
   return reader.read();
 }
 
+// One size for all, so that the texts of a level stand in one line; and the same picture for a
+// selected row, which a toolkit's tint would make unreadable.
+QIcon drawn(const std::function<void(QPainter&, const QRect&)>& draw) {
+  const qreal ratio = qGuiApp->devicePixelRatio();
+  QPixmap pixmap((QSizeF(TreeIconPainter::iconSize()) * ratio).toSize());
+  pixmap.setDevicePixelRatio(ratio);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  draw(painter, QRect(QPoint(), TreeIconPainter::iconSize()));
+  painter.end();
+  QIcon icon(pixmap);
+  icon.addPixmap(pixmap, QIcon::Selected);
+  return icon;
+}
+
 }  // namespace
 
 QIcon TreeIconPainter::icon(const std::string& key) {
-  if (const Picture* picture = icons_.keyFrame(key)) return keyFrameIcon(key, *picture);
-  return namedIcon(key);
+  const Picture* picture = icons_.keyFrame(key);
+  auto& kept = picture ? keyFrames_ : named_;
+  const QString name = toQString(key);
+  if (const QIcon* icon = kept.object(name)) return *icon;
+  const QIcon made = picture ? keyFrameIcon(*picture) : namedIcon(name);
+  kept.insert(name, new QIcon(made));
+  return made;
 }
 
-QIcon TreeIconPainter::namedIcon(const std::string& key) {
-  const QString name = toQString(key);
-  auto found = named_.find(name);
-  if (found == named_.end()) found = named_.insert(name, ownIcon(name));
-  return *found;
+QIcon TreeIconPainter::namedIcon(const QString& name) {
+  return drawn(
+      [&](QPainter& painter, const QRect& whole) { ownIcon(name).paint(&painter, whole); });
 }
 
-QIcon TreeIconPainter::keyFrameIcon(const std::string& key, const Picture& picture) {
-  const QString name = toQString(key);
-  if (const QIcon* kept = keyFrames_.object(name)) return *kept;
-
-  const qreal ratio = qGuiApp->devicePixelRatio();
-  const QSize pixels = (QSizeF(iconSize()) * ratio).toSize();
-  QPixmap pixmap(pixels);
-  pixmap.setDevicePixelRatio(ratio);
-  pixmap.fill(Qt::transparent);
-  {
-    QPainter painter(&pixmap);
-    const QRect whole(QPoint(), iconSize());
-    const QImage image = readPicture(picture, pixels);
+QIcon TreeIconPainter::keyFrameIcon(const Picture& picture) {
+  return drawn([&](QPainter& painter, const QRect& whole) {
+    const QImage image = readPicture(picture, whole.size() * qGuiApp->devicePixelRatio());
     if (image.isNull()) {
-      namedIcon("Video").paint(&painter, whole);
+      ownIcon(QStringLiteral("Video")).paint(&painter, whole);
     } else {
       painter.drawImage(whole, image);
     }
     QSvgRenderer(ownIconPath(QStringLiteral("RedFrame"))).render(&painter, whole);
-  }
-  QIcon made(pixmap);
-  keyFrames_.insert(name, new QIcon(made));
-  return made;
+  });
 }
 
 }  // namespace velra

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCache>
-#include <QHash>
 #include <QIcon>
 #include <QSize>
 #include <QString>
@@ -30,11 +29,11 @@ class TreeIconPainter {
  private:
   static constexpr int kKeptKeyFrames = 512;
 
-  QIcon namedIcon(const std::string& key);
-  QIcon keyFrameIcon(const std::string& key, const Picture& picture);
+  static QIcon namedIcon(const QString& name);
+  static QIcon keyFrameIcon(const Picture& picture);
 
   const TreeIcons& icons_;
-  QHash<QString, QIcon> named_;
+  QCache<QString, QIcon> named_;
   QCache<QString, QIcon> keyFrames_{kKeptKeyFrames};
 };
 

@@ -1,0 +1,28 @@
+#include "widgets/MainToolBar.h"
+
+#include <QAction>
+
+#include "platform/UserInterface.h"
+#include "widgets/Icons.h"
+#include "widgets/MainCommands.h"
+#include "widgets/MainFormWindow.h"
+
+namespace velra {
+
+MainToolBar::MainToolBar(MainFormWindow& window) : QToolBar(&window) {
+  setObjectName(QStringLiteral("tbToolBar"));
+  setMovable(false);
+  setContextMenuPolicy(Qt::PreventContextMenu);  // nothing brings a hidden bar back
+  for (const ToolButton& button : toolButtons()) {
+    const QString toolTip = window.text(button.toolTip);
+    QAction* action = addAction(ownIcon(QLatin1String(button.icon)), toolTip);
+    action->setToolTip(toolTip);
+    action->setObjectName(QStringLiteral("tbToolBar_") +
+                          QString(QLatin1String(button.key)).remove(QLatin1Char(' ')));
+    if (!button.literal) continue;
+    connect(action, &QAction::triggered, &window,
+            [&window, &button] { window.ui().messageBox(button.literal); });
+  }
+}
+
+}  // namespace velra

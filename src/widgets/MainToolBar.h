@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QToolBar>
+
+namespace velra {
+
+class MainFormWindow;
+
+/// The tool bar of the main window: a button for each row of its table, named "tbToolBar_" and its
+/// key without blanks.
+class MainToolBar : public QToolBar {
+  Q_OBJECT
+
+ public:
+  explicit MainToolBar(MainFormWindow& window);
+};
+
+}  // namespace velra
