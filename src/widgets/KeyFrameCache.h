@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QCache>
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+
+namespace velra {
+
+struct Picture;
+
+/// The pictures of the strip in the size in which they are painted, read from their files when they
+/// are first drawn. It keeps those drawn last, up to a bound in bytes.
+class KeyFrameCache {
+ public:
+  KeyFrameCache();
+
+  /// `size` in pixels of the screen. A null pixmap for no picture and for a file that cannot be
+  /// read.
+  QPixmap pixmap(const Picture& picture, const QSize& size);
+
+ private:
+  QCache<QString, QPixmap> pixmaps_;
+};
+
+}  // namespace velra

@@ -1,0 +1,181 @@
+#include "widgets/VideoFormWindow.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <utility>
+
+#include "forms/FormLayout.h"
+#include "shell/LoadedVideoForm.h"
+#include "widgets/GeneratedFormFace.h"
+#include "widgets/QtText.h"
+#include "widgets/RangeDialogWindow.h"
+#include "widgets/ShiftArgument.h"
+#include "widgets/ToolPanel.h"
+#include "widgets/Twips.h"
+#include "widgets/VideoPictureWidget.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kPositionInterval = 200;
+constexpr int kBlinkInterval = 500;
+constexpr int kRoomBelow = 120;          // pixels more than the tool needs, for the fields
+constexpr double kShareOfScreen = 0.94;  // the strip is wanted wide
+
+}  // namespace
+
+VideoFormWindow::VideoFormWindow(const ApplicationModule& app, QWidget* owner)
+    : QDialog(owner), app_(app) {
+  setObjectName(QStringLiteral("VideoForm"));
+  setModal(true);
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  makeTimers();
+}
+
+VideoFormWindow::~VideoFormWindow() = default;
+
+void VideoFormWindow::makeTimers() {
+  Timer1_.setInterval(kPositionInterval);
+  BlinkerTimer_.setInterval(kBlinkInterval);
+  connect(&Timer1_, &QTimer::timeout, this, [this] { form_->tool().player.Timer1(); });
+  connect(&BlinkerTimer_, &QTimer::timeout, this,
+          [this] { form_->tool().segments.BlinkerTimer(); });
+}
+
+void VideoFormWindow::build(LoadedVideoForm& form) {
+  form_ = &form;
+  setWindowTitle(windowTitleText(form.caption()));
+  generated_ = new GeneratedFormFace(
+      app_, {form.fields(), form.tabs(), form.arrTabScroll(), nullptr, form.framePasses()}, this);
+  panel_ = new ToolPanel(app_, form.tool(), this);
+  connect(generated_, &GeneratedFormFace::okClicked, this, [this] { form_->OKButt_Click(); });
+  connect(generated_, &GeneratedFormFace::cancelClicked, this,
+          [this] { form_->CancelButt_Click(); });
+  connect(generated_, &GeneratedFormFace::tabClicked, this, [this](int tab) { showTab(tab); });
+  generated_->hideAllBoxes();
+  watchKeys();
+  chooseSize();
+  panel_->focusFirst();
+}
+
+void VideoFormWindow::unbuild() {
+  Timer1_.stop();
+  BlinkerTimer_.stop();
+  delete std::exchange(panel_, nullptr);
+  delete std::exchange(generated_, nullptr);
+  form_ = nullptr;
+}
+
+void VideoFormWindow::chooseSize() {
+  const QSize least =
+      ToolPanel::leastSize() + QSize(0, pixelsFromTwips(form_layout::kAroundViewport));
+  setMinimumSize(least);
+  const QSize screenSize = screen()->availableSize() * kShareOfScreen;
+  resize(qMax(least.width(), screenSize.width()),
+         qBound(least.height(), screenSize.height(), least.height() + kRoomBelow));
+  placeParts();
+}
+
+void VideoFormWindow::watchKeys() {
+  installEventFilter(this);
+  for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(this);
+}
+
+void VideoFormWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (panel_) placeParts();
+}
+
+void VideoFormWindow::placeParts() {
+  generated_->setGeometry(rect());
+  panel_->setGeometry(0, pixelsFromTwips(form_layout::kTabsHeight), width(),
+                      height() - pixelsFromTwips(form_layout::kAroundViewport));
+  panel_->LayoutControls();
+}
+
+void VideoFormWindow::showTab(int tab) {
+  const bool own = form_->tabs().isOwnTab(tab);
+  panel_->setVisible(own);
+  if (own) panel_->raise();
+}
+
+void VideoFormWindow::showModally() {
+  QDialog::exec();
+}
+
+void VideoFormWindow::closeWindow() {
+  done(Accepted);
+}
+
+void VideoFormWindow::reject() {
+  form_->CancelButt_Click();
+}
+
+void VideoFormWindow::movieOpens(MediaGraph& movie) {
+  panel_->picture().showMovie(&movie);
+}
+
+void VideoFormWindow::movieCloses() {
+  panel_->picture().showMovie(nullptr);
+}
+
+void VideoFormWindow::showTimeCode(const std::string& text) {
+  panel_->showTimeCode(toQString(text));
+}
+
+void VideoFormWindow::swapTimeCodeColours(bool swapped) {
+  panel_->swapTimeCodeColours(swapped);
+}
+
+void VideoFormWindow::runTimer1(bool on) {
+  on ? Timer1_.start() : Timer1_.stop();
+}
+
+void VideoFormWindow::runBlinkerTimer(bool on) {
+  on ? BlinkerTimer_.start() : BlinkerTimer_.stop();
+}
+
+void VideoFormWindow::showTranscript(const std::string& text) {
+  panel_->showTranscript(toQString(text));
+}
+
+void VideoFormWindow::appendTranscript(const std::string& text) {
+  panel_->appendTranscript(toQString(text));
+}
+
+void VideoFormWindow::showRangeDialog(RangeDialog& dialog) {
+  RangeDialogWindow(dialog, this).exec();
+}
+
+void VideoFormWindow::runPendingEvents() {
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+bool VideoFormWindow::eventFilter(QObject* watched, QEvent* event) {
+  // A key that its control does not take is offered to the controls around it too: it counts once,
+  // where the focus is.
+  if (form_ && event->type() == QEvent::KeyRelease) {
+    const QWidget* focused = focusWidget();
+    if (watched == (focused ? focused : this)) Form_KeyUp(static_cast<QKeyEvent&>(*event));
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void VideoFormWindow::Form_KeyUp(const QKeyEvent& event) {
+  if (event.isAutoRepeat()) return;
+  const int shift = shiftArgument(event.modifiers());
+  if (event.key() == Qt::Key_Delete) form_->tool().Form_KeyUp(ExpressionTool::kDeleteKey, shift);
+  if (event.key() == Qt::Key_Escape) form_->tool().Form_KeyUp(ExpressionTool::kEscKey, shift);
+}
+
+void VideoFormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (event->key() == Qt::Key_Escape) return;
+  if (!isReturn) return QDialog::keyPressEvent(event);
+  if (auto* button = qobject_cast<QPushButton*>(focusWidget())) button->click();
+}
+
+}  // namespace velra

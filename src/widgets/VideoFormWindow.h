@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include "shell/VideoFormFace.h"
+
+namespace velra {
+
+class ApplicationModule;
+class GeneratedFormFace;
+class ToolPanel;
+
+/// The window of an expression's form: the tool on the first tab, the boxes of the fields on the
+/// others.
+class VideoFormWindow : public QDialog, public VideoFormFace {
+ public:
+  VideoFormWindow(const ApplicationModule& app, QWidget* owner);
+  ~VideoFormWindow() override;
+
+  // What the form asks.
+  void build(LoadedVideoForm& form) override;
+  void unbuild() override;
+  void showModally() override;
+  void closeWindow() override;
+
+  // What the tool asks.
+  void movieOpens(MediaGraph& movie) override;
+  void movieCloses() override;
+  void showTimeCode(const std::string& text) override;
+  void swapTimeCodeColours(bool swapped) override;
+  void runTimer1(bool on) override;
+  void runBlinkerTimer(bool on) override;
+  void showTranscript(const std::string& text) override;
+  void appendTranscript(const std::string& text) override;
+  void showRangeDialog(RangeDialog& dialog) override;
+  void runPendingEvents() override;
+
+  /// The close box does what Cancel does; Esc is a key of the tool.
+  void reject() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void makeTimers();
+  void watchKeys();
+  void chooseSize();
+  void placeParts();
+  void showTab(int tab);
+  void Form_KeyUp(const QKeyEvent& event);
+
+  const ApplicationModule& app_;
+  LoadedVideoForm* form_ = nullptr;
+  GeneratedFormFace* generated_ = nullptr;
+  ToolPanel* panel_ = nullptr;
+  QTimer Timer1_;
+  QTimer BlinkerTimer_;
+};
+
+}  // namespace velra
