@@ -4,6 +4,13 @@
 
 namespace velra {
 
+namespace {
+
+// Damaged pictures in a row after which a decoder is given up that has lost its way.
+constexpr int kBadPictures = 10'000;
+
+}  // namespace
+
 std::string TrackDecoder::open(const AVStream& stream) {
   const AVCodec* decoder = avcodec_find_decoder(stream.codecpar->codec_id);
   if (decoder == nullptr) return "No decoder is known for it.";
@@ -24,13 +31,17 @@ void TrackDecoder::flush() {
 
 AvFrame TrackDecoder::next(MovieInput& input) {
   AvFrame frame(av_frame_alloc());
-  for (;;) {
+  for (int bad = 0; bad < kBadPictures;) {
     const int error = avcodec_receive_frame(codec_.get(), frame.get());
     if (error == 0) return frame;
     if (error == AVERROR_EOF || input.cancelled()) return nullptr;
-    if (error == AVERROR(EAGAIN)) feed(input);
-    // Any other error is a damaged picture: the next one may be good.
+    if (error == AVERROR(EAGAIN)) {
+      feed(input);
+    } else {
+      ++bad;  // a damaged picture: the next one may be good
+    }
   }
+  return nullptr;
 }
 
 void TrackDecoder::feed(MovieInput& input) {
