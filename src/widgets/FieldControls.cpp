@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QGroupBox>
+#include <QStyleOptionGroupBox>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -96,17 +97,32 @@ QWidget* makeControl(FieldBox& box, SpecialFields* special, const ApplicationMod
   return nullptr;
 }
 
-/// Below the frame's title, in the frame.
-void placeControl(QWidget& control, ControlFamily family, const QGroupBox& frame) {
-  const int top = frame.fontMetrics().height() + 1;
+/// A box with a title whose inner place is known before it shows.
+class FieldFrame : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+  QRect inside() const {
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    return style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this);
+  }
+};
+
+/// As wide and high as the layout has it, if the frame's title leaves that much.
+void placeControl(QWidget& control, ControlFamily family, const FieldFrame& frame) {
+  const QRect inside = frame.inside();
   int width = pixelsFromTwips(kControlWidth);
-  int height = std::min(pixelsFromTwips(kControlHeight), frame.height() - top - 3);
+  int height = std::min(pixelsFromTwips(kControlHeight), inside.height());
   if (family == ControlFamily::DTPicker1) {
     width = std::max(pixelsFromTwips(kDateWidth), control.sizeHint().width());
     height = std::max(pixelsFromTwips(kDateHeight), control.sizeHint().height());
   } else if (family == ControlFamily::Combo1) {
     height = control.sizeHint().height();
+  } else if (family == ControlFamily::Text1) {
+    height -= 4;  // the frame's line stays in sight around it
   }
+  const int top = std::max(inside.top(), inside.top() + (inside.height() - height) / 2);
   control.setGeometry(pixelsFromTwips(kControlLeft), top, width, height);
 }
 
@@ -114,7 +130,7 @@ void placeControl(QWidget& control, ControlFamily family, const QGroupBox& frame
 
 QGroupBox* makeFieldFrame(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
                           QWidget* panel) {
-  auto* frame = new QGroupBox(toQString(box.strName), panel);
+  auto* frame = new FieldFrame(toQString(box.strName), panel);
   frame->setObjectName(toQString(box.frameName()));
   // Boxes of several sets stand in the same place: the one on top hides those below.
   frame->setAutoFillBackground(true);

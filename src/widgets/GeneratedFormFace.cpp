@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "app/ApplicationModule.h"
 #include "forms/FormFields.h"
@@ -137,14 +138,25 @@ void GeneratedFormFace::TabStrip1_Click(int tab) {
 }
 
 void GeneratedFormFace::focusFirstBox() {
-  for (auto frame = frames_.rbegin(); frame != frames_.rend(); ++frame) {
-    if ((*frame)->y() != pixelsFromTwips(form_layout::slotTop(0)) || (*frame)->isHidden()) continue;
-    for (QWidget* widget : (*frame)->findChildren<QWidget*>()) {
-      if (!widget->isEnabled() || !(widget->focusPolicy() & Qt::TabFocus)) continue;
-      widget->setFocus(Qt::TabFocusReason);
+  for (int slot = 0; slot < kBoxesOfATab; ++slot) {
+    if (QWidget* control = controlOnTop(slot)) {
+      control->setFocus(Qt::TabFocusReason);
       return;
     }
   }
+  OKButt_->setFocus(Qt::TabFocusReason);
+}
+
+QWidget* GeneratedFormFace::controlOnTop(int slot) const {
+  const int top = pixelsFromTwips(form_layout::slotTop(slot));
+  const auto frame = std::find_if(frames_.rbegin(), frames_.rend(), [top](const QGroupBox* each) {
+    return each->y() == top && !each->isHidden();
+  });
+  if (frame == frames_.rend()) return nullptr;
+  for (QWidget* widget : (*frame)->findChildren<QWidget*>()) {
+    if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus)) return widget;
+  }
+  return nullptr;
 }
 
 FormMetrics GeneratedFormFace::metrics(const QSize& inner) const {

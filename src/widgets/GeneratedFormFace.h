@@ -44,7 +44,7 @@ class GeneratedFormFace : public QWidget {
   void TabStrip1_Click(int tab);
   void hideAllBoxes();
 
-  /// Puts the focus on the box that stands first and on top.
+  /// Puts the focus on the first box that stands on top and can be edited, else on OK.
   void focusFirstBox();
 
  signals:
@@ -64,6 +64,8 @@ class GeneratedFormFace : public QWidget {
   void makeButtons(const ApplicationModule& app);
   void makeShortcuts();
   QPushButton* makeButton(const char* name, const QString& caption);
+  /// What can take the focus in the box that stands on top in a slot; null for nothing.
+  QWidget* controlOnTop(int slot) const;
   FormMetrics metrics(const QSize& inner) const;
   void Form_Controls_Resize();
   void restoreScroll();

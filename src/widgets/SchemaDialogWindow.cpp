@@ -17,6 +17,7 @@ namespace velra {
 namespace {
 
 constexpr int kTwelfths = 12;
+constexpr int kRowSpace = 6;  // pixels
 
 /// The menu's caption without its marks.
 QString titleFromCaption(const std::string& caption) {
@@ -71,6 +72,7 @@ void SchemaDialogWindow::fillList() {
   for (const AVDocSchemaDialog::Row& row : dialog_.rows()) {
     auto* item = new QTreeWidgetItem(ListView1_);
     item->setCheckState(0, row.ticked ? Qt::Checked : Qt::Unchecked);
+    item->setSizeHint(0, {0, ListView1_->fontMetrics().height() + kRowSpace});
     item->setData(0, Qt::AccessibleTextRole, toQString(row.strName));
     item->setText(1, toQString(row.strName));
     item->setText(2, toQString(row.strType));
