@@ -82,6 +82,7 @@ void SetOfRowsWidget::addClicked() {
 void SetOfRowsWidget::showRows() {
   const auto count = static_cast<std::size_t>(rows_.Count());
   while (widgets_.size() > count) {
+    delete widgets_.back().label;
     delete widgets_.back().value;
     delete widgets_.back().Check1;
     widgets_.pop_back();
@@ -107,6 +108,12 @@ void SetOfRowsWidget::addRowWidgets(std::int16_t row) {
   widgets.value->setAccessibleName(name);
   widgets.value->setGeometry(pixelsFromTwips(kTickWidth), top, pixelsFromTwips(kTextWidth),
                              pixelsFromTwips(kRowHeight));
+  if (hasLists_) {
+    // Only a label tells what a list is; its own name is the chosen text.
+    widgets.label = new QLabel(name, Picture1_);
+    widgets.label->setBuddy(widgets.value);
+    widgets.label->hide();
+  }
   widgets.Check1->show();
   widgets.value->show();
   widgets_.push_back(widgets);

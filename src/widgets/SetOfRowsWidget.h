@@ -5,6 +5,7 @@
 #include <vector>
 
 class QCheckBox;
+class QLabel;
 class QPushButton;
 class QScrollBar;
 
@@ -30,6 +31,7 @@ class SetOfRowsWidget : public QWidget {
   struct Row {
     QCheckBox* Check1 = nullptr;
     QWidget* value = nullptr;  // Text1 or Combo1
+    QLabel* label = nullptr;   // of a list: not seen, but read out
   };
 
   void makeButtons(const ApplicationModule& app);

@@ -1,0 +1,210 @@
+#include "widgets/FieldControls.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "vocabulary/NaroThematicKeywords.h"
+#include "widgets/AccessibilityWalk.h"
+#include "widgets/FormWindowTest.h"
+#include "widgets/XmlText.h"
+
+namespace velra {
+namespace {
+
+using test::FormWindowTest;
+
+class FieldControlsTest : public FormWindowTest {
+ protected:
+  /// The caller's list, with all its entries.
+  QStringList items(const QComboBox& list) {
+    QStringList texts;
+    const auto* view = qobject_cast<const QListView*>(list.view());
+    for (int i = 0; i < list.count(); ++i) {
+      if (!view->isRowHidden(i)) texts << list.itemText(i);
+    }
+    return texts;
+  }
+  void click(const char* name, QWidget* within = nullptr) {
+    QTest::mouseClick(&find<QPushButton>(name, within), Qt::LeftButton);
+  }
+  void tick(const char* name, QWidget* within = nullptr) {
+    QTest::keyClick(&find<QCheckBox>(name, within), Qt::Key_Space);
+  }
+};
+
+TEST_F(FieldControlsTest, ReadOnlyLooksDifferentByKind) {
+  object_->closeLists.Add({"Colours", {"red"}});
+  object_->add(tyType::String, "T", "a\tb");
+  object_->add(tyType::Bool, "B", true);
+  object_->add(tyType::Date, "D", Date{});
+  object_->add(tyType::CloseList, "C", "red", "Colours");
+  object_->add(tyType::SetOfStrings, "S", StringList{"x"});
+  for (SchemaElement& field : object_->secol()) field.setBReadOnly(true);
+  open();
+  auto& text = find<QPlainTextEdit>("Text1_1");
+  EXPECT_TRUE(text.isEnabled());
+  EXPECT_TRUE(text.isReadOnly());
+  QTest::keyClicks(&text, QStringLiteral("typed"));
+  QTest::keyClick(&text, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(text.textCursor().selectedText(), QStringLiteral("a\tb"));
+  for (const char* name : {"Check1_1", "DTPicker1_1", "Combo1_1"}) {
+    EXPECT_FALSE(find(name).isEnabled()) << name;
+  }
+  QWidget& set = find("ctlSetOfString1_1");
+  for (const char* name : {"Text1_1", "Check1_1", "Command1", "Command2"}) {
+    EXPECT_FALSE(find(name, &set).isEnabled()) << name;
+  }
+}
+
+TEST_F(FieldControlsTest, WhatIsEnteredReachesTheFields) {
+  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->add(tyType::String, "T", "old");
+  object_->add(tyType::Bool, "B", false);
+  object_->add(tyType::Date, "D", Date{2001, 1, 1});
+  object_->add(tyType::CloseList, "C", "red", "Colours");
+  open();
+  QTest::keyClick(&find("Text1_1"), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(&find("Text1_1"), QStringLiteral("new"));
+  tick("Check1_1");
+  find<QDateEdit>("DTPicker1_1").setDate(QDate(1999, 12, 31));
+  QTest::keyClick(&find("Combo1_1"), Qt::Key_Down);
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_EQ(stored(1), Value("new"));
+  EXPECT_EQ(stored(2), Value(std::int16_t{1}));
+  EXPECT_EQ(stored(3), Value(Date{1999, 12, 31}));
+  EXPECT_EQ(stored(4), Value("blue"));
+}
+
+TEST_F(FieldControlsTest, UntouchedTextsStayByteForByte) {
+  const std::string odd = "line\r\nhard\u00a0blank\u2028end";
+  object_->add(tyType::String, "T", odd);
+  object_->add(tyType::SetOfStrings, "S", StringList{odd, ""});
+  object_->add(tyType::Date, "D", Date{50, 1, 1});  // earlier than the picker can show
+  open();
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_FALSE(object_->bChanged());
+}
+
+TEST_F(FieldControlsTest, CharactersThatNoFileCanHoldStayOut) {
+  EXPECT_EQ(xmlText(QString::fromUtf16(u"a\u0001\tb\n\uFFFE\U0001F3A5")),
+            QString::fromUtf16(u"a\tb\n\U0001F3A5"));
+  EXPECT_EQ(xmlText(QString(QChar(0xD83C)) + u'x' + QChar(0xDFA5)), QStringLiteral("x"));
+  object_->add(tyType::String, "T", "");
+  object_->add(tyType::SetOfStrings, "S", StringList{""});
+  open();
+  QGuiApplication::clipboard()->setText(QString::fromUtf16(u"a\u0002\u00a0b\u000b"));
+  find<QPlainTextEdit>("Text1_1").paste();
+  find<QLineEdit>("Text1_1", &find("ctlSetOfString1_1")).paste();
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_EQ(stored(1), Value("a\u00a0b"));
+  EXPECT_EQ(stored(2), Value(StringList{"a\u00a0b"}));
+}
+
+TEST_F(FieldControlsTest, AValueOutsideItsListIsShownAndNotOffered) {
+  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->add(tyType::CloseList, "C", "green", "Colours");
+  open();
+  auto& list = find<QComboBox>("Combo1_1");
+  EXPECT_EQ(list.currentText(), QStringLiteral("green"));
+  EXPECT_EQ(items(list), (QStringList{"red", "blue"}));
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_EQ(list.currentText(), QStringLiteral("red"));
+  QTest::keyClick(&list, Qt::Key_Up);
+  EXPECT_EQ(list.currentText(), QStringLiteral("red"));
+}
+
+TEST_F(FieldControlsTest, RowsOfASet) {
+  object_->add(tyType::SetOfStrings, "S", StringList{"a", "b", "c", "d"});
+  open();
+  QWidget& set = find("ctlSetOfString1_1");
+  tick("Check1_1", &set);
+  tick("Check1_3", &set);
+  click("Command2", &set);
+  EXPECT_EQ(set.findChild<QWidget*>(QStringLiteral("Text1_3")), nullptr);
+  EXPECT_EQ(find<QLineEdit>("Text1_1", &set).text(), QStringLiteral("b"));
+  EXPECT_FALSE(find<QCheckBox>("Check1_1", &set).isChecked());
+  click("Command1", &set);
+  QWidget* added = &find("Text1_3", &set);
+  EXPECT_EQ(window_->focusWidget(), added);
+  QTest::keyClicks(added, QStringLiteral("new"));
+  QTest::keyClick(added, Qt::Key_Return);  // does not end the form
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_EQ(stored(1), Value(StringList{"b", "d", "new"}));
+}
+
+TEST_F(FieldControlsTest, ASetScrollsWhenItsRowsDoNotFit) {
+  object_->add(tyType::SetOfStrings, "S", StringList{});
+  open();
+  QWidget& set = find("ctlSetOfString1_1");
+  auto& bar = find<QScrollBar>("VScroll1", &set);
+  EXPECT_EQ(find("Picture1", &set).height(), 0);
+  EXPECT_FALSE(bar.isVisible());
+  for (int i = 0; i < 5; ++i) click("Command1", &set);
+  EXPECT_TRUE(bar.isVisible());
+  QWidget& last = find("Text1_5", &set);
+  QWidget& view = find("Picture2", &set);
+  EXPECT_TRUE(view.rect().contains(QRect(last.mapTo(&view, QPoint()), last.size())));
+}
+
+class CrossLanguageWindowTest : public FieldControlsTest {
+ protected:
+  CrossLanguageWindowTest() {
+    app_.objNaroThematicKeywords = std::make_shared<NaroThematicKeywords>();
+    const bool read = app_.objNaroThematicKeywords->bSetFromXMLFile(
+        app_, application_.folder.write("words.xml", R"(<NaroThematicKeywords>
+          <Theme English="Art" Italian="Arte"><Subtheme English="Dance" Italian="Danza">
+            <Keyword English="Ballet" Italian="Balletto"/><Keyword English="Tango"/>
+          </Subtheme></Theme>
+          <Theme English="War" Italian="Guerra"><Subtheme English="Peace" Italian="Pace">
+            <Keyword English="Treaty" Italian="Trattato"/></Subtheme></Theme>
+          </NaroThematicKeywords>)"));
+    EXPECT_TRUE(read);
+    app_.iLanguage = 1;
+    object_->add(tyType::String, "Themes", "Art");
+    object_->add(tyType::String, "Subthemes", "Dance");
+    object_->add(tyType::SetOfStrings, "ThematicKeywords", StringList{"Tango", "Ballet"});
+    open("AVDocument");
+  }
+};
+
+TEST_F(CrossLanguageWindowTest, NoPutsTheListBackYesRefillsTheOthers) {
+  auto& themes = find<QComboBox>("Combo1_1");
+  QTest::keyClick(&themes, Qt::Key_Down);
+  EXPECT_EQ(themes.currentText(), QStringLiteral("Arte"));
+  application_.ui.yesNo = {true};
+  QTest::keyClick(&themes, Qt::Key_Down);
+  EXPECT_EQ(application_.ui.shown.size(), 2u);
+  EXPECT_EQ(themes.currentText(), QStringLiteral("Guerra"));
+  EXPECT_EQ(items(find<QComboBox>("Combo1_2")), QStringList{"Pace"});
+  QWidget& set = find("ctlSetOfStringCL1");
+  EXPECT_EQ(set.findChild<QWidget*>(QStringLiteral("Combo1_1")), nullptr);
+  click("Command1", &set);
+  EXPECT_EQ(find<QComboBox>("Combo1_1", &set).currentText(), QStringLiteral("Trattato"));
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_EQ(stored(1), Value("War"));
+  EXPECT_EQ(stored(3), Value(StringList{"Treaty"}));
+}
+
+TEST_F(CrossLanguageWindowTest, RowsAreListsOverTheVocabulary) {
+  QWidget& set = find("ctlSetOfStringCL1");
+  auto& first = find<QComboBox>("Combo1_1", &set);
+  EXPECT_EQ(first.currentText(), QStringLiteral("Tango"));
+  EXPECT_EQ(items(first), (QStringList{"Balletto", "Tango"}));
+  QTest::keyClick(&first, Qt::Key_Up);
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_EQ(stored(3), Value(StringList{"Ballet", "Ballet"}));
+}
+
+TEST_F(CrossLanguageWindowTest, CanBeHeardAndFound) {
+  EXPECT_EQ(test::accessibilityFaults(*window_), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace velra

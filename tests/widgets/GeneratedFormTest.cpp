@@ -1,0 +1,170 @@
+#include "widgets/GeneratedFormFace.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+
+#include "widgets/AccessibilityWalk.h"
+#include "widgets/FormWindowTest.h"
+
+namespace velra {
+namespace {
+
+using test::FormWindowTest;
+
+class GeneratedFormTest : public FormWindowTest {};
+
+TEST_F(GeneratedFormTest, AnObjectWithoutFieldsHasOneEmptyTab) {
+  open();
+  auto& tabs = find<QTabBar>("TabStrip1");
+  EXPECT_EQ(tabs.count(), 1);
+  EXPECT_EQ(tabs.tabText(0), QStringLiteral("Set 1"));
+  EXPECT_TRUE(panel().findChildren<QGroupBox*>().isEmpty());
+  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
+  EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(GeneratedFormTest, AllSetsStandInTheSameSlotsUntilATabIsClicked) {
+  addTexts(12);
+  open();
+  EXPECT_EQ(find<QTabBar>("TabStrip1").tabText(1), QStringLiteral("Set 2"));
+  EXPECT_EQ(find("Frame1_11").geometry(), find("Frame1_1").geometry());
+  EXPECT_TRUE(find("Text1_1").isVisible());
+  const QPoint inFirstSlot = find("Frame1_1").geometry().center();
+  EXPECT_TRUE(find("Frame1_11").isAncestorOf(panel().childAt(inFirstSlot)));
+  EXPECT_EQ(window_->focusWidget(), &find("Text1_11"));  // the one that can be seen
+  clickTab(1);
+  EXPECT_TRUE(find("Text1_1").isVisible());
+  EXPECT_TRUE(find("Text1_10").isVisible());
+  EXPECT_FALSE(find("Text1_11").isVisible());
+  clickTab(2);
+  EXPECT_FALSE(find("Text1_1").isVisible());
+  EXPECT_TRUE(find("Text1_12").isVisible());
+}
+
+TEST_F(GeneratedFormTest, TabsKeepTheirScroll) {
+  addTexts(25);
+  open();
+  bar().setValue(2000);
+  EXPECT_EQ(panel().y(), -133);
+  clickTab(2);
+  EXPECT_EQ(panel().y(), 0);
+  EXPECT_EQ(bar().value(), 0);
+  bar().setValue(300);
+  clickTab(1);
+  EXPECT_EQ(panel().y(), -133);
+  EXPECT_EQ(bar().value(), 2000);
+  open();  // the same object's form, built anew
+  EXPECT_EQ(panel().y(), -133);
+}
+
+TEST_F(GeneratedFormTest, TheWheelStopsAtBothEnds) {
+  addTexts(10);
+  open();
+  wheel(panel(), -120);
+  EXPECT_EQ(bar().value(), 100);
+  EXPECT_EQ(panel().y(), -7);
+  wheel(panel(), 240);
+  wheel(panel(), 120);
+  EXPECT_EQ(bar().value(), 0);
+  for (int i = 0; i < 100; ++i) wheel(panel(), -120);
+  EXPECT_EQ(bar().value(), bar().maximum());
+  EXPECT_NEAR(panel().geometry().bottom() + 1, find("Picture2").height(), 1);  // rounded
+}
+
+TEST_F(GeneratedFormTest, TheWheelOverAControlMovesTheForm) {
+  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->add(tyType::CloseList, "Colour", "red", "Colours");
+  object_->add(tyType::Date, "Day", Date{2001, 1, 1});
+  addTexts(8);
+  open();
+  for (const char* name : {"Combo1_1", "DTPicker1_1", "Text1_1"}) {
+    bar().setValue(0);
+    find(name).setFocus();
+    wheel(*find("Picture1").childAt(find(name).mapTo(&panel(), QPoint(20, 8))), -120);
+    EXPECT_EQ(bar().value(), 100) << name;
+  }
+  form_->OKButt_Click();
+  EXPECT_EQ(stored(1), Value("red"));
+  EXPECT_EQ(stored(2), Value(Date{2001, 1, 1}));
+}
+
+TEST_F(GeneratedFormTest, BarsComeAndGoWithTheSize) {
+  addTexts(10);
+  open();
+  EXPECT_TRUE(bar().isVisible());
+  EXPECT_FALSE(find("HScroll1").isVisible());
+  bar().setValue(bar().maximum());
+  window_->resize(400, 1000);
+  EXPECT_FALSE(bar().isVisible());
+  EXPECT_EQ(panel().y() >= 0, true);
+  auto& across = find<QScrollBar>("HScroll1");
+  EXPECT_TRUE(across.isVisible());
+  across.setValue(across.maximum());
+  // The right edge of the boxes comes into view.
+  EXPECT_LE(find("Frame1_1").mapTo(window_.get(), QPoint(500, 0)).x(), window_->width());
+  const QRect before = find("Picture2").geometry();
+  window_->resize(10, 60);  // too small for anything
+  EXPECT_EQ(find("Picture2").geometry(), before);
+}
+
+TEST_F(GeneratedFormTest, TheKeyboardReachesEveryBox) {
+  addTexts(10);
+  open();
+  EXPECT_EQ(window_->focusWidget(), &find("Text1_1"));
+  for (int i = 1; i < 10; ++i) QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(window_->focusWidget(), &find("Text1_10"));
+  EXPECT_LT(panel().y(), 0);  // and shows it
+  const QRect box(find("Frame1_10").mapTo(&find("Picture2"), QPoint()), find("Frame1_10").size());
+  EXPECT_TRUE(find("Picture2").rect().contains(box));
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(window_->focusWidget(), &find("OKButt"));
+}
+
+TEST_F(GeneratedFormTest, KeysThatEndTheForm) {
+  struct Row {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    bool ends;
+    std::string stored;
+  };
+  const Row rows[] = {{Qt::Key_Return, Qt::NoModifier, false, "old"},
+                      {Qt::Key_Escape, Qt::NoModifier, true, "old"},
+                      {Qt::Key_Return, Qt::ControlModifier, true, "newold"}};
+  object_->add(tyType::String, "Format", "old");
+  for (const Row& row : rows) {
+    open();
+    QTest::keyClicks(window_->focusWidget(), QStringLiteral("new"));
+    QTest::keyClick(window_->focusWidget(), row.key, row.modifiers);
+    EXPECT_EQ(window_->isVisible(), !row.ends);
+    EXPECT_EQ(stored(1), Value(row.stored));
+  }
+}
+
+TEST_F(GeneratedFormTest, CaptionsAndToolTips) {
+  object_->add(tyType::String, "Format", "a [*] <b>title</b>").setStrComment("x <b>y</b>");
+  open();
+  EXPECT_EQ(window_->objectName(), QStringLiteral("MediaForm"));
+  EXPECT_EQ(window_->windowTitle(), QStringLiteral("a [*][*] <b>title</b>"));
+  EXPECT_EQ(find<QGroupBox>("Frame1_1").title(), QStringLiteral("Format"));
+  EXPECT_TRUE(find("Text1_1").toolTip().contains(QStringLiteral("&lt;b&gt;")));
+  EXPECT_EQ(find<QPushButton>("OKButt").text(), QStringLiteral("OK"));
+  EXPECT_EQ(find<QPushButton>("CancelButt").text(), QStringLiteral("Cancel"));
+}
+
+TEST_F(GeneratedFormTest, EveryControlCanBeHeardAndFound) {
+  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  for (int i = 0; i < 2; ++i) {
+    const std::string number = std::to_string(i);
+    object_->add(tyType::String, "Text" + number, "same");
+    object_->add(tyType::Bool, "Truth" + number, true);
+    object_->add(tyType::Date, "Day" + number, Date{});
+    object_->add(tyType::CloseList, "Colour" + number, "red", "Colours");
+    object_->add(tyType::SetOfStrings, "Set" + number, StringList{"same", "same"});
+  }
+  open();
+  clickTab(1);
+  EXPECT_EQ(test::accessibilityFaults(*window_), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace velra
