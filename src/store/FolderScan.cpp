@@ -157,4 +157,19 @@ void FolderScan::endOpening() {
   byRelation_.clear();
 }
 
+bool FolderScan::checkConsistency() const {
+  if (byName_.size() != files_.size()) return false;
+  for (std::size_t i = 0; i < files_.size(); ++i) {
+    const ScannedFile& file = files_[i];
+    const auto named = byName_.find(file.name);
+    if (named == byName_.end() || named->second != i) return false;
+    const bool reported = std::binary_search(unreadable_.begin(), unreadable_.end(), i);
+    if (reported == file.readable()) return false;
+    if (byRelation_.empty() || file.partOf.empty()) continue;
+    const auto found = relevant(Relation::PartOf, {file.className}, file.partOf);
+    if (!std::binary_search(found.begin(), found.end(), i)) return false;
+  }
+  return true;
+}
+
 }  // namespace velra

@@ -68,6 +68,10 @@ class FolderScan {
   /// Drops what was read ahead and nobody took.
   void endOpening();
 
+  /// True when each file is found by its name and by what it points at; for tests. The relations
+  /// are known while an opening lasts.
+  bool checkConsistency() const;
+
  private:
   void takeOver(std::vector<ScannedFile>& before);
   void read(ApplicationModule& app, OpenDocument& document, ScannedFile& file);

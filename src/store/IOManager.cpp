@@ -120,11 +120,26 @@ std::string IOManager::ExtractTypeFromURN(const std::string& strURN) {
 }
 
 void IOManager::MoveObject(const std::string& source, const std::string& destination) {
-  if (bFileSystem_) MoveFileTo(strAbsolutePath(source), strAbsolutePath(destination));
+  if (!bFileSystem_) return;
+  const std::string from = strAbsolutePath(source);
+  const std::string to = strAbsolutePath(destination);
+  MoveFileTo(from, to);
+  numbers_.fileWent(from);
+  numbers_.fileCame(to);
 }
 
 void IOManager::CopyObject(const std::string& source, const std::string& destination) {
-  if (bFileSystem_) CopyFileTo(strAbsolutePath(source), strAbsolutePath(destination));
+  if (!bFileSystem_) return;
+  const std::string to = strAbsolutePath(destination);
+  CopyFileTo(strAbsolutePath(source), to);
+  numbers_.fileCame(to);
+}
+
+bool IOManager::checkConsistency(ObjectRegistry& collObjects) const {
+  for (const auto& [folder, scan] : scans_) {
+    if (!scan.checkConsistency()) return false;
+  }
+  return numbers_.checkConsistency(collObjects);
 }
 
 IOManager::Opening::Opening(IOManager& io) : io_(io) {

@@ -105,6 +105,9 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
     NumberSource::Listing listing_;
   };
 
+  /// True when the indexes give what objects and files say; for tests.
+  bool checkConsistency(ObjectRegistry& collObjects) const;
+
   /// The fields of a file that a search has read already; nothing when it has to be read.
   std::optional<LoadedFields> takeLoadedFields(const std::string& strGUID,
                                                const std::string& className);

@@ -87,4 +87,26 @@ void NumberSource::freed(const std::string& key) {
   }
 }
 
+void NumberSource::fileCame(const std::string& path) {
+  if (listedFolder_.empty() || !path.starts_with(listedFolder_)) return;
+  listedNames_.insert(path.substr(listedFolder_.size()));
+}
+
+void NumberSource::fileWent(const std::string& path) {
+  if (listedFolder_.empty() || !path.starts_with(listedFolder_)) return;
+  listedNames_.erase(path.substr(listedFolder_.size()));
+  freed(path);
+}
+
+bool NumberSource::checkConsistency(ObjectRegistry& objects) const {
+  for (const auto& [name, family] : families_) {
+    for (int number = 1; number < family.frontier; ++number) {
+      const std::string path = name.first + std::to_string(number) + name.second;
+      const bool taken = objects.find(path) || (!listedFolder_.empty() && fileTaken(path));
+      if (!taken && !family.gaps.contains(number)) return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace velra

@@ -21,6 +21,13 @@ class NumberSource {
   /// To be told of every identifier (in its normal form) that went out of use.
   void freed(const std::string& key);
 
+  /// To be told of a file that came or went while a listing stands for the folder.
+  void fileCame(const std::string& path);
+  void fileWent(const std::string& path);
+
+  /// True when nothing is taken for used that is free; for tests.
+  bool checkConsistency(ObjectRegistry& objects) const;
+
   /// While an object of this kind lives, one listing of a folder answers whether a file exists
   /// there.
   class Listing {

@@ -100,8 +100,10 @@ void ObjectRegistry::rekeyAfterFolderChange() {
   folderGeneration_ = currentFolderGeneration();
   byKey_.clear();
   for (auto& [object, place] : places_) {
-    place.key = strAbsolutePath(object->strGUID());
-    byKey_.emplace(place.key, place.number);
+    std::string key = strAbsolutePath(object->strGUID());
+    byKey_.emplace(key, place.number);
+    key.swap(place.key);
+    if (key != place.key) tellFreed(key);
   }
 }
 
