@@ -6,14 +6,17 @@
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "platform/MachineSettings.h"
+#include "platform/MediaGraph.h"
 #include "platform/UserSettings.h"
 #include "shell/Factory.h"
 #include "shell/Start.h"
+#include "shell/VideoForm.h"
 #include "shell/frmMain.h"
 #include "widgets/GuardedApplication.h"
 #include "widgets/MainFormWindow.h"
 #include "widgets/QtFormPresenter.h"
 #include "widgets/QtUserInterface.h"
+#include "widgets/QtVideoForms.h"
 
 namespace {
 
@@ -49,7 +52,9 @@ int run(const std::string& commandLine) {
   UserSettings userSettings(UserSettings::defaultPath());
   ApplicationModule app(ui, MessageCatalogue(language), machineSettings, userSettings);
   QtFormPresenter presenter(app);
-  Factory factory(app, presenter, [] { return nullptr; });
+  QtVideoForms videoForms(app, [&](FormOwner& owner) { return presenter.windowOf(owner); });
+  VideoFormServices forExpressions{app, makeMediaGraph, videoForms};
+  Factory factory(app, presenter, [&] { return std::make_shared<VideoForm>(forExpressions); });
   frmMain rules(app);
   MainFormWindow window(app, rules);
   ui.setMainWindow(&window);
