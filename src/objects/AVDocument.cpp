@@ -153,7 +153,9 @@ bool AVDocument::bSaveAllObjectsAs(const std::string& strAVDocPathName) {
     }
     index.renamed(oldGUID, newGUID);
     auto* video = dynamic_cast<Expression*>(object.get());
-    if (video) relocateKeyFrame(*video, collObjects_, *io(), strAVDocPathName);
+    if (video && io()->bFileSystem()) {
+      relocateKeyFrame(*video, collObjects_, *io(), strAVDocPathName);
+    }
   }
   return bSaveInDependencyOrder(app(), collObjects_, *this);
 }
