@@ -1,4 +1,5 @@
 #include <string>
+#include <variant>
 
 #include "base/Arithmetic.h"
 #include "base/Text.h"
@@ -29,7 +30,9 @@ class bTextMatches {
 long hitsIn(const SchemaElement& element, const bTextMatches& matches) {
   long hits = 0;
   if (element.tyType() == tyType::String) {
-    hits += matches(toText(element.vContent())) ? 1 : 0;
+    const auto* text = std::get_if<std::string>(&element.vContent());
+    const bool hit = text ? matches(*text) : matches(toText(element.vContent()));
+    hits += hit ? 1 : 0;
   } else if (element.tyType() == tyType::SetOfStrings) {
     if (const StringList* list = asList(element.vContent())) {
       for (const std::string& item : *list) hits += matches(item) ? 1 : 0;
