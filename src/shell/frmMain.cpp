@@ -15,7 +15,7 @@
 
 namespace velra {
 
-frmMain::frmMain(ApplicationModule& app) : app_(app) {
+frmMain::frmMain(ApplicationModule& app) : app_(app), connectionDialog_(app) {
   app_.gMainForm = this;
   menus_.language = app_.iLanguage;
 }

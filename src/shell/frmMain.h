@@ -6,7 +6,9 @@
 
 #include "protocol/DescribedObject.h"
 #include "protocol/MainWindow.h"
+#include "shell/ConnectionDialog.h"
 #include "shell/MenuState.h"
+#include "shell/SearchDialog.h"
 #include "shell/Tree.h"
 #include "shell/TreeIcons.h"
 
@@ -14,6 +16,7 @@ namespace velra {
 
 class ApplicationModule;
 class AVDocument;
+class DialogPresenter;
 class IOManager;
 class MainWindowFace;
 
@@ -28,6 +31,8 @@ class frmMain : public MainWindow {
 
   /// Set while the window exists; null without one, as in tests.
   void setFace(MainWindowFace* face);
+  /// Shows the dialogs of the commands; without one these commands do nothing.
+  void setDialogPresenter(DialogPresenter* presenter) { dialogs_ = presenter; }
 
   Tree& tree(TreeId id) { return id == TreeId::tvwMainTree ? tvwMainTree : tvwExpression; }
   const TreeIcons& imlTreeIcons() const { return icons_; }
@@ -58,6 +63,9 @@ class frmMain : public MainWindow {
   void mnuFileSave();
   void mnuFileSaveAs();
   void mnuFileNew();
+  void mnuFileFind();
+  void mnuExportToDB();
+  void mnuImportToFS();
   void ShowAVDocTitle();
 
   // The Edit menu.
@@ -69,6 +77,8 @@ class frmMain : public MainWindow {
 
   /// A click on an entry of the language menu; the numbers are those of `iLanguage`.
   void setLanguage(std::int32_t language);
+
+  void mnuConnection();
 
   Tree tvwMainTree;    ///< the ladder of the document
   Tree tvwExpression;  ///< the expressions of one Version
@@ -95,6 +105,9 @@ class frmMain : public MainWindow {
   void showOpenedDocument();
   void SaveDocumentAs();
   std::string GetFileName(const std::string& proposed);
+  void transferObjects(bool toFileSystem);
+  void saveAndReopen(const std::string& path, bool bFileSystem);
+  void ShowConnectionDialog(ConnectionSettings& settings, bool& flag);
 
   std::string askNewChild(const DescribedObject& parent);
   std::string askMovie();
@@ -103,6 +116,9 @@ class frmMain : public MainWindow {
 
   ApplicationModule& app_;
   MainWindowFace* face_ = nullptr;
+  DialogPresenter* dialogs_ = nullptr;
+  SearchDialog searchDialog_;
+  ConnectionDialog connectionDialog_;
   TreeIcons icons_;
   MenuState menus_;
   std::string statusText_;

@@ -1,0 +1,64 @@
+#include "shell/SearchResultDialog.h"
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "platform/UserInterface.h"
+#include "protocol/Expression.h"
+#include "protocol/OpenDocument.h"
+#include "schema/SEColl.h"
+#include "shell/DialogPresenter.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+namespace {
+
+// As in the trees: a segment of a Video has the icon of its key frame.
+std::string smallIconOf(const DescribedObject& object) {
+  const auto* expression = dynamic_cast<const Expression*>(&object);
+  const bool hasKeyFrame = object.className() == "Video" && expression && expression->objMainExpr();
+  return hasKeyFrame ? object.strGUID() : object.className();
+}
+
+}  // namespace
+
+SearchResultDialog::SearchResultDialog(ApplicationModule& app, const TreeIcons& icons)
+    : app_(app), icons_(icons) {}
+
+void SearchResultDialog::ShowDialog(DialogPresenter& presenter, FormOwner& owner,
+                                    const std::string& text, bool matchCase, bool singleWord) {
+  strSearch_ = text;
+  bCase_ = matchCase;
+  bWord_ = singleWord;
+  fillRows();
+  presenter.showSearchResults(owner, *this);
+  rows_.clear();
+  onUnload = nullptr;
+}
+
+void SearchResultDialog::fillRows() {
+  if (!app_.gAVDoc) raise(kNoObject);
+  const auto busy = app_.ui.showBusy();
+  rows_.clear();
+  for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
+    if (object->className() == "MediaObject") continue;
+    const std::int16_t founds = object->secol().iSearchText(strSearch_, bCase_);
+    if (founds <= 0) continue;
+    rows_.push_back(
+        {object->className(), object->strTitle(), founds, smallIconOf(*object), object});
+  }
+}
+
+void SearchResultDialog::ListView1_Click(const std::vector<std::size_t>& selected) {
+  for (const std::size_t row : selected) {
+    if (row < 1 || row > rows_.size()) raise(kSubscriptOutOfRange);
+    const ObjectRef object = rows_[row - 1].Tag;
+    object->ShowForm(*this);
+  }
+}
+
+void SearchResultDialog::unload() {
+  if (onUnload) onUnload();
+}
+
+}  // namespace velra
