@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+namespace velra::bench {
+
+/// Movies of 1280 x 720, 25 pictures a second, 40 seconds, with sound.
+struct BenchMovies {
+  std::string groups15;  // MPEG-1, a key picture every 15
+  std::string keys250;   // MPEG-4 in AVI, a key picture every 250
+  std::string h264;      // MP4, B pictures, a key picture every 250
+  std::string noise;     // 20 MB of noise that calls itself a movie
+  bool made = false;
+};
+
+inline constexpr double kBenchSeconds = 40;
+inline constexpr double kBenchFrame = 0.04;
+
+BenchMovies makeBenchMovies(const std::string& folder);
+
+}  // namespace velra::bench

@@ -1,0 +1,55 @@
+#include "Measure.h"
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+
+namespace velra::bench {
+
+void Times::take(const std::function<void()>& action) {
+  const auto start = std::chrono::steady_clock::now();
+  action();
+  const std::chrono::duration<double, std::milli> spent = std::chrono::steady_clock::now() - start;
+  add(spent.count());
+}
+
+double Times::at(double share) const {
+  if (values_.empty()) return 0;
+  std::vector<double> sorted = values_;
+  std::sort(sorted.begin(), sorted.end());
+  const auto last = static_cast<double>(sorted.size() - 1);
+  return sorted[static_cast<std::size_t>(share * last + 0.5)];
+}
+
+bool report(const std::string& title, const std::vector<Measure>& measures) {
+  bool good = true;
+  std::printf("%s\n", title.c_str());
+  for (const Measure& measure : measures) {
+    std::printf("  %-52s %8.1f %-4s of %6.0f  %s\n", measure.name.c_str(), measure.value,
+                measure.unit.c_str(), measure.budget, measure.good() ? "good" : "OVER");
+    good = good && measure.good();
+  }
+  return good;
+}
+
+double residentMegabytes() {
+  std::ifstream file("/proc/self/statm");
+  double total = 0;
+  double resident = 0;
+  file >> total >> resident;
+  return resident * static_cast<double>(::sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+double processorSeconds() {
+  rusage usage{};
+  ::getrusage(RUSAGE_SELF, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+}  // namespace velra::bench

@@ -1,0 +1,182 @@
+#include "MediaBench.h"
+
+#include <atomic>
+#include <chrono>
+#include <random>
+#include <thread>
+
+#include "BenchMovies.h"
+#include "platform/FrameGrabber.h"
+#include "platform/FrameSource.h"
+#include "platform/MediaGraph.h"
+#include "platform/MovieProbe.h"
+#include "platform/PictureConverter.h"
+
+namespace velra::bench {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kSeeks = 80;
+constexpr int kSteps = 200;
+constexpr double kPlaySeconds = 10;
+
+class RandomTimes {
+ public:
+  double next() { return spread_(random_); }
+
+ private:
+  std::mt19937 random_{1895};
+  std::uniform_real_distribution<double> spread_{0.0, kBenchSeconds - 1};
+};
+
+/// A graph whose notices are counted.
+struct Watched {
+  std::unique_ptr<MediaGraph> graph = makeMediaGraph();
+  std::atomic<int> pictures{0};
+
+  explicit Watched(const std::string& path) {
+    graph->setNotify([this](MediaGraph::Notice notice) {
+      if (notice == MediaGraph::Notice::PictureChanged) ++pictures;
+    });
+    graph->RenderFile(path);
+    waitFor(1);
+  }
+  ~Watched() { graph->setNotify({}); }
+  Watched(const Watched&) = delete;
+  Watched& operator=(const Watched&) = delete;
+
+  void waitFor(int count) const {
+    const auto stop = Clock::now() + std::chrono::seconds(10);
+    while (pictures < count && Clock::now() < stop) {
+      std::this_thread::sleep_for(std::chrono::microseconds(200));
+    }
+  }
+};
+
+Measure seeks(const std::string& name, const std::string& path, double budget) {
+  FrameSource source;
+  PictureConverter converter;
+  source.open(path);
+  RandomTimes random;
+  Times times;
+  for (int i = 0; i < kSeeks; ++i) {
+    const double t = random.next();
+    times.take([&] { converter.convert(*source.at(t)->frame); });
+  }
+  return {"exact seek, " + name + ", p95", times.p95(), "ms", budget};
+}
+
+Measure steps(const std::string& name, const std::string& path, double step) {
+  FrameSource source;
+  PictureConverter converter;
+  source.open(path);
+  double t = kBenchSeconds / 2;
+  source.at(t);
+  Times times;
+  for (int i = 0; i < kSteps; ++i) {
+    t += step;
+    times.take([&] { converter.convert(*source.at(t)->frame); });
+  }
+  return {(step > 0 ? "step +1, " : "step -1, ") + name + ", p95", times.p95(), "ms", 25};
+}
+
+Measure opens(const std::string& name, const std::string& path) {
+  Times times;
+  for (int i = 0; i < 10; ++i) {
+    const auto graph = makeMediaGraph();
+    times.take([&] { graph->RenderFile(path); });
+  }
+  return {"open, " + name + ", p95", times.p95(), "ms", 300};
+}
+
+Measure refusals(const std::string& path) {
+  Times times;
+  for (int i = 0; i < 10; ++i) {
+    const auto graph = makeMediaGraph();
+    times.take([&] { graph->RenderFile(path); });
+  }
+  return {"refusal of 20 MB of noise, p95", times.p95(), "ms", 150};
+}
+
+Measure stills(const std::string& name, const std::string& path, const std::string& folder) {
+  RandomTimes random;
+  Times times;
+  for (int i = 0; i < 20; ++i) {
+    const double t = random.next();
+    times.take([&] { grabFrame(path, t, {1280, 720}, folder + "/still.bmp"); });
+  }
+  return {"still with a new opening, " + name + ", p95", times.p95(), "ms", 300};
+}
+
+void addPlayStarts(std::vector<Measure>& measures, const std::string& path) {
+  Watched movie(path);
+  RandomTimes random;
+  Times starts;
+  Times stops;
+  for (int i = 0; i < 20; ++i) {
+    const int before = movie.pictures;
+    const double t = random.next();
+    starts.take([&] {
+      movie.graph->setCurrentPosition(t);
+      movie.graph->Run();
+      movie.waitFor(before + 1);
+    });
+    movie.waitFor(before + 3);
+    stops.take([&] { movie.graph->Stop(); });
+  }
+  measures.push_back({"run to picture, p95", starts.p95(), "ms", 150});
+  measures.push_back({"stop, worst", stops.at(1), "ms", 50});
+}
+
+void addPlay(std::vector<Measure>& measures, const std::string& name, const std::string& path) {
+  const double memory = residentMegabytes();
+  Watched movie(path);
+  const int before = movie.pictures;
+  const double processor = processorSeconds();
+  const auto start = Clock::now();
+  movie.graph->setCurrentPosition(5);
+  movie.graph->Run();
+  while (movie.graph->CurrentPosition() < 5 + kPlaySeconds &&
+         Clock::now() < start + std::chrono::seconds(20)) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  movie.graph->Stop();
+  const double spent = std::chrono::duration<double>(Clock::now() - start).count();
+  const double used = (processorSeconds() - processor) / spent * 100;
+  const int expected = static_cast<int>((movie.graph->CurrentPosition() - 5) / kBenchFrame + 0.5);
+  const int missed = std::max(0, expected - (movie.pictures - before));
+  measures.push_back({"play, " + name + ", pictures missed", static_cast<double>(missed), "", 0});
+  measures.push_back({"play, " + name + ", of one core", used, "%", 20});
+  const double added = residentMegabytes() - memory;
+  measures.push_back({"play, " + name + ", memory added", added, "MB", 200});
+}
+
+}  // namespace
+
+std::vector<Measure> measureMedia(const std::string& folder) {
+  const BenchMovies movies = makeBenchMovies(folder);
+  if (!movies.made) return {};
+  std::vector<Measure> measures;
+  measures.push_back(seeks("key every 15", movies.groups15, 60));
+  measures.push_back(seeks("key every 250", movies.keys250, 350));
+  measures.push_back(seeks("h264", movies.h264, 350));
+  for (const double step : {kBenchFrame, -kBenchFrame}) {
+    measures.push_back(steps("key every 15", movies.groups15, step));
+    measures.push_back(steps("key every 250", movies.keys250, step));
+    measures.push_back(steps("h264", movies.h264, step));
+  }
+  measures.push_back(opens("key every 15", movies.groups15));
+  measures.push_back(opens("key every 250", movies.keys250));
+  measures.push_back(opens("h264", movies.h264));
+  measures.push_back(refusals(movies.noise));
+  measures.push_back(stills("key every 15", movies.groups15, folder));
+  measures.push_back(stills("h264", movies.h264, folder));
+  addPlayStarts(measures, movies.groups15);
+  addPlay(measures, "key every 15", movies.groups15);
+  addPlay(measures, "h264", movies.h264);
+  return measures;
+}
+
+}  // namespace velra::bench
