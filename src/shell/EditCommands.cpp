@@ -142,6 +142,7 @@ void frmMain::mnuAddChild() {
   parent->AddChild(answer);
   ResetTree(TreeId::tvwMainTree, nullptr);
   tvwMainTree.ExpandToObject(*object);
+  tvwMainTree.makeCurrent(*object);
 }
 
 void frmMain::AddMainExpr(const std::string& kind) {
@@ -164,6 +165,7 @@ void frmMain::AddMainExpr(const std::string& kind) {
   version->AddMainExpression(name, kind, 0, duration);
   version->setDDuration(duration);
   ResetTree(TreeId::tvwExpression, version);
+  tvwExpression.makeCurrent(*version);
 }
 
 void frmMain::DeleteNode(TreeId id) {

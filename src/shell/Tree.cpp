@@ -40,6 +40,13 @@ void Tree::ExpandToObject(const DescribedObject& object) {
   for (TreeNode* node = find(object); node; node = node->Parent) watcher_->nodeExpanded(*node);
 }
 
+void Tree::makeCurrent(const DescribedObject& object) {
+  TreeNode* node = find(object);
+  if (!node) return;
+  selected_ = node;
+  if (watcher_) watcher_->nodeMadeCurrent(*node);
+}
+
 void Tree::walk(const std::function<bool(TreeNode&)>& visit) const {
   for (TreeNode* node = root_.get(); node; node = nextNode(node)) {
     if (!visit(*node)) return;

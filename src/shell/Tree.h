@@ -29,6 +29,7 @@ class TreeWatcher {
   virtual void treeReset() = 0;
   virtual void nodeTextChanged(TreeNode& node) = 0;
   virtual void nodeExpanded(TreeNode& node) = 0;
+  virtual void nodeMadeCurrent(TreeNode& node) = 0;
 };
 
 /// Ordered nodes under at most one root, without pixels.
@@ -42,6 +43,8 @@ class Tree {
   /// The current node; null for none. A reset takes it back.
   TreeNode* selected() const { return selected_; }
   void select(TreeNode* node) { selected_ = node; }
+  /// Makes the object's first node the current one, in the view too.
+  void makeCurrent(const DescribedObject& object);
 
   void clear();
 

@@ -17,6 +17,10 @@ NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent
   header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   setModel(&model);
   connect(&model, &TreeModel::expandRequested, this, &QTreeView::expand);
+  connect(&model, &TreeModel::currentRequested, this, &QTreeView::setCurrentIndex);
+  // A document shows what it has, and not only that it is there.
+  connect(&model, &TreeModel::modelReset, this,
+          [this] { expand(model_.index(0, 0, QModelIndex())); });
 }
 
 void NodeTreeView::click(const QModelIndex& index, MouseButton button) {

@@ -88,4 +88,8 @@ void TreeModel::nodeExpanded(TreeNode& node) {
   Q_EMIT expandRequested(indexOf(node));
 }
 
+void TreeModel::nodeMadeCurrent(TreeNode& node) {
+  Q_EMIT currentRequested(indexOf(node));
+}
+
 }  // namespace velra

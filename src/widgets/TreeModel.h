@@ -38,9 +38,11 @@ class TreeModel : public QAbstractItemModel, public TreeWatcher {
   void treeReset() override;
   void nodeTextChanged(TreeNode& node) override;
   void nodeExpanded(TreeNode& node) override;
+  void nodeMadeCurrent(TreeNode& node) override;
 
  Q_SIGNALS:
   void expandRequested(const QModelIndex& index);
+  void currentRequested(const QModelIndex& index);
 
  private:
   Tree& tree_;

@@ -14,6 +14,7 @@ class Notes : public TreeWatcher {
   void treeReset() override { heard += ">"; }
   void nodeTextChanged(TreeNode& node) override { heard += "text " + node.Text + ";"; }
   void nodeExpanded(TreeNode& node) override { heard += "open " + node.Text + ";"; }
+  void nodeMadeCurrent(TreeNode& node) override { heard += "current " + node.Text + ";"; }
 };
 
 std::unique_ptr<TreeNode> node(const std::string& text) {
