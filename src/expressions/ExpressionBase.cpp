@@ -35,6 +35,17 @@ ExpressionBase::ExpressionBase(ApplicationModule& app, std::string_view classNam
 
 ExpressionBase::~ExpressionBase() = default;
 
+void ExpressionBase::setObjFollowedBy(const ExpressionRef& next) {
+  objFollowedBy_ = next;
+  tellReferences();
+}
+
+bool ExpressionBase::isReference(const SchemaElement& element) const {
+  const std::string& name = element.strLowerName();
+  return name == "manifestedby" ||
+         std::find(renamedFields_.begin(), renamedFields_.end(), name) != renamedFields_.end();
+}
+
 void ExpressionBase::setTextField(const std::string& name, const std::string& text) {
   SchemaElement* field = secol().field(name);
   if (!field) return;

@@ -16,7 +16,7 @@ class ExpressionBase : public ObjectBase, public Expression {
   ExpressionRef objMainExpr() const override { return objMainExpr_.lock(); }
   void setObjMainExpr(const ExpressionRef& parent) override { objMainExpr_ = parent; }
   ExpressionRef objFollowedBy() const override { return objFollowedBy_.lock(); }
-  void setObjFollowedBy(const ExpressionRef& next) override { objFollowedBy_ = next; }
+  void setObjFollowedBy(const ExpressionRef& next) override;
   ObjectRef verVersion() const override { return verVersion_.lock(); }
   void setVerVersion(const ObjectRef& version) override { verVersion_ = version; }
 
@@ -66,6 +66,7 @@ class ExpressionBase : public ObjectBase, public Expression {
   void setTextField(const std::string& name, const std::string& text) override;
   void openBelow() override { OpenSubExpressions(); }
   void afterInit() override { colSubExpressions_.clear(); }
+  bool isReference(const SchemaElement& element) const override;
 
   /// The class's own steps for a new segment: before it joins the tree, and at the end.
   virtual void prepareSegment(ExpressionBase&) {}

@@ -19,6 +19,7 @@ namespace velra {
 
 void ExpressionBase::OpenSubExpressions() {
   colSubExpressions_ = io()->colScanForExpressions(shared_from_this());
+  tellReferences();
   LinkFollowers();
 }
 
@@ -59,6 +60,7 @@ void ExpressionBase::AddSubExpression(const std::string& title, double dStart, d
   segment->setObjMainExpr(std::dynamic_pointer_cast<Expression>(shared_from_this()));
   segment->setVerVersion(verVersion());
   colSubExpressions_.push_back(segment);
+  tellReferences();
   finishSegment(*segment);
   segment->OpenSubExpressions();
 }
@@ -163,7 +165,10 @@ void ExpressionBase::forgetExpression(DescribedObject& removed) {
                                [&](const ExpressionRef& segment) {
                                  return static_cast<DescribedObject*>(segment.get()) == &removed;
                                });
-  if (at != colSubExpressions_.end()) colSubExpressions_.erase(at);
+  if (at != colSubExpressions_.end()) {
+    colSubExpressions_.erase(at);
+    tellReferences();
+  }
   ClearPartOf(removed.strGUID());
 }
 

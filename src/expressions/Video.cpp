@@ -65,6 +65,11 @@ void Video::afterLoad() {
   InitKeyFrameFile();
 }
 
+void Video::fieldChanged(const SchemaElement& element) {
+  const auto& picture = keyFrame_.objKeyframeObject();
+  if (picture && element.strName() == MediaObject::kVideoField) picture->ownerFieldChanged();
+}
+
 void Video::openBelow() {
   ExpressionBase::openBelow();
   CreateKeyFrameIcons();

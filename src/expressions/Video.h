@@ -43,6 +43,7 @@ class Video : public ExpressionBase {
 
  protected:
   void afterLoad() override;
+  void fieldChanged(const SchemaElement& element) override;
   void openBelow() override;
   void prepareSegment(ExpressionBase& segment) override;
   void finishSegment(ExpressionBase& segment) override;

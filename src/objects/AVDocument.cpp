@@ -93,7 +93,8 @@ void AVDocument::ShowObjectForm(const std::string& guid, FormOwner& owner) {
 
 bool AVDocument::bSaveAllObjects() {
   if (!io()->bFileSystem()) return false;
-  for (const auto& [number, object] : collObjects_.sequence()) {
+  // One without changes has nothing to write, so only the others are asked.
+  for (const ObjectRef& object : collObjects_.changedObjects()) {
     if (object.get() != this && !object->bSave()) return false;
   }
   return true;
@@ -141,17 +142,18 @@ bool AVDocument::bRenamedAndSaved(const std::string& strAVDocPathName) {
 bool AVDocument::bSaveAllObjectsAs(const std::string& strAVDocPathName) {
   const IOManager::Naming naming(*io(), strAVDocPathName);
   const std::string schemaPath = app().strXSDPath();
-  ReferenceIndex index(collObjects_);
+  ReferenceIndex& references = collObjects_.references();
+  ReferenceIndex::Batch batch(references);
   for (const ObjectRef& object : collObjects_.all()) {
     if (object.get() == this || object->className() == "MediaObject") continue;
     const std::string newGUID = io()->strCreateGUID(collObjects_, *object, strAVDocPathName);
     const std::string oldGUID = object->strGUID();
     object->setStrGUID(newGUID);
     object->setStrSchemaPath(schemaPath);
-    for (const ObjectRef& holder : index.holdersOf(oldGUID)) {
+    for (const ObjectRef& holder : references.holdersOf(oldGUID)) {
       holder->RenameAllRelativesGUID(oldGUID, newGUID);
     }
-    index.renamed(oldGUID, newGUID);
+    batch.renamed(oldGUID, newGUID);
     auto* video = dynamic_cast<Expression*>(object.get());
     if (video && io()->bFileSystem()) {
       relocateKeyFrame(*video, collObjects_, *io(), strAVDocPathName);
@@ -162,18 +164,22 @@ bool AVDocument::bSaveAllObjectsAs(const std::string& strAVDocPathName) {
 
 void AVDocument::RemoveObject(ObjectRef& removed) {
   const ObjectRef object = std::exchange(removed, nullptr);
-  for (const ObjectRef& other : collObjects_.all()) other->RemoveReferenceObj(*object);
+  for (const ObjectRef& holder : collObjects_.references().holdersOf(*object)) {
+    holder->RemoveReferenceObj(*object);
+  }
   noteRemoved(object);
 }
 
 void AVDocument::RemoveObjects(const ObjectList& removed) {
-  if (removed.empty()) return;
-  ReferenceIndex index(collObjects_);
+  ReferenceIndex& references = collObjects_.references();
+  ReferenceIndex::Batch batch(references);
   for (const ObjectRef& object : removed) {
-    for (const ObjectRef& holder : index.holdersOf(*object)) {
+    for (const ObjectRef& holder : references.holdersOf(*object)) {
       holder->RemoveReferenceObj(*object);
-      index.update(holder);
     }
+    const auto* expression = dynamic_cast<const Expression*>(object.get());
+    const auto next = expression ? expression->objFollowedBy() : nullptr;
+    if (next) batch.removed(*object, *next);
     noteRemoved(object);
   }
 }

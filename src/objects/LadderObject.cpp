@@ -61,6 +61,11 @@ std::string LadderObject::openChild(const ObjectRef& child, const std::string& g
   return child->strOpen(guid, form, io());
 }
 
+void LadderObject::attach(const ObjectRef& child) {
+  colChilds_.push_back(child);
+  tellReferences();
+}
+
 void LadderObject::AddChild(const std::string& title) {
   const ObjectRef child = app().objectFactory->createObject(rules().childClass);
   const std::string guid =
@@ -73,7 +78,7 @@ void LadderObject::AddChild(const std::string& title) {
     return;
   }
   addReference(guid);
-  colChilds_.push_back(child);
+  LadderObject::attach(child);
   adopt(*child);
 }
 
@@ -140,7 +145,9 @@ void LadderObject::RemoveReferenceObj(DescribedObject& removed) {
   removeReference(removed.strGUID());
   const auto at = std::find_if(colChilds_.begin(), colChilds_.end(),
                                [&](const ObjectRef& child) { return child.get() == &removed; });
-  if (at != colChilds_.end()) colChilds_.erase(at);
+  if (at == colChilds_.end()) return;
+  colChilds_.erase(at);
+  tellReferences();
 }
 
 ObjectList LadderObject::colSelSubTree() {

@@ -39,7 +39,7 @@ class LadderObject : public ObjectBase {
   /// Gives a child its way up; kTypeMismatch for a child of another class.
   virtual void adopt(DescribedObject& child) = 0;
   /// Puts a child that was opened behind the others.
-  virtual void attach(const ObjectRef& child) { colChilds_.push_back(child); }
+  virtual void attach(const ObjectRef& child);
   /// What a Version has besides its children.
   virtual void appendSubTrees(ObjectList&) {}
 

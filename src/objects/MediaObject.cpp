@@ -26,11 +26,7 @@ std::shared_ptr<MediaObject> MediaObject::create(ApplicationModule& app) {
   return object;
 }
 
-MediaObject::~MediaObject() {
-  const ObjectRef owner = objOwner_.lock();
-  if (!owner) return;
-  for (SchemaElement& element : owner->secol()) element.stopWatching(this);
-}
+MediaObject::~MediaObject() = default;
 
 const std::string& MediaObject::className() const {
   static const std::string kName = "MediaObject";
@@ -50,10 +46,6 @@ void MediaObject::strInit(const ObjectRef& objOwner) {
   io_ = objOwner->io();
   objOwner_ = objOwner;
   ownedByVideo_ = objOwner->className() == "Video";
-  const char* name = ownedByVideo_ ? "Keyframe" : "Collocation";
-  for (SchemaElement& element : objOwner->secol()) {
-    if (element.strName() == name) element.watch(this);
-  }
   const std::string guid = strGUID();
   lastGUID_ = guid;
   if (io_->bFileSystem() && !guid.empty()) strTypeOfObject_ = strExtension(guid);
@@ -63,7 +55,7 @@ void MediaObject::strInit(const ObjectRef& objOwner) {
 SchemaElement* MediaObject::ownerField() const {
   const ObjectRef owner = objOwner_.lock();
   if (!owner) return nullptr;
-  const char* name = ownedByVideo_ ? "Keyframe" : "Collocation";
+  const char* name = ownedByVideo_ ? kVideoField : kStorageField;
   for (SchemaElement& element : owner->secol()) {
     if (element.bValid() && element.strName() == name) return &element;
   }
@@ -88,9 +80,14 @@ void MediaObject::setStrGUID(const std::string& guid) {
   field->setBChanged(true);
 }
 
-void MediaObject::contentChanged(const SchemaElement&) {
+void MediaObject::ownerFieldChanged() {
   lastGUID_ = strGUID();
   if (listener_) listener_->identifierChanged(*this);
+}
+
+void MediaObject::setBChanged(bool changed) {
+  bChanged_ = changed;
+  if (changed && listener_) listener_->markedChanged(*this);
 }
 
 bool MediaObject::bSave() {

@@ -12,10 +12,15 @@ class ApplicationModule;
 
 /// A file that is no object file: the movie of a Storage or the key-frame picture of a Video. Its
 /// identifier is a field of its owner.
-class MediaObject : public virtual DescribedObject, private ContentWatcher {
+class MediaObject : public virtual DescribedObject {
  public:
   explicit MediaObject(ApplicationModule& app) : app_(app) {}
   ~MediaObject() override;
+
+  /// The field that it stands for; its owner tells of each write to it.
+  static constexpr const char* kStorageField = "Collocation";
+  static constexpr const char* kVideoField = "Keyframe";
+  void ownerFieldChanged();
 
   /// Makes one and registers it with the open document, if there is one.
   static std::shared_ptr<MediaObject> create(ApplicationModule& app);
@@ -30,7 +35,7 @@ class MediaObject : public virtual DescribedObject, private ContentWatcher {
   const std::string& strSchemaPath() const { return strSchemaPath_; }
 
   /// True while a new file exists which no saved object points at.
-  void setBChanged(bool changed) { bChanged_ = changed; }
+  void setBChanged(bool changed);
 
   const std::string& className() const override;
   std::shared_ptr<IOManager> io() const override { return io_; }
@@ -72,7 +77,6 @@ class MediaObject : public virtual DescribedObject, private ContentWatcher {
 
  private:
   SchemaElement* ownerField() const;
-  void contentChanged(const SchemaElement& element) override;
 
   ApplicationModule& app_;
   std::shared_ptr<IOManager> io_;

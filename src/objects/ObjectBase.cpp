@@ -159,18 +159,25 @@ std::string ObjectBase::strInitAsNew(const std::string& guid, const std::string&
 void ObjectBase::bindForm(const std::shared_ptr<ObjectForm>& form) {
   objForm_ = form;
   if (objForm_) objForm_->setObject(shared_from_this());
-  watchIdentity();
+  for (SchemaElement& element : *secol_) element.watch(this);
 }
 
-// The registry keeps the normal form of the identifier, so it must hear of every change.
-void ObjectBase::watchIdentity() {
-  for (SchemaElement& element : *secol_) {
-    if (element.strName() == rules_.identityField) element.watch(this);
-  }
+// The registry keeps identifiers, references and what is to be saved in indexes, so it must hear of
+// every write.
+void ObjectBase::contentChanged(const SchemaElement& element) {
+  fieldChanged(element);
+  if (!listener_) return;
+  if (element.bChanged()) listener_->markedChanged(*this);
+  if (element.strName() == rules_.identityField) listener_->identifierChanged(*this);
+  if (isReference(element)) listener_->referencesChanged(*this);
 }
 
-void ObjectBase::contentChanged(const SchemaElement&) {
-  if (listener_) listener_->identifierChanged(*this);
+bool ObjectBase::isReference(const SchemaElement& element) const {
+  return !rules_.relationField.empty() && element.strLowerName() == rules_.relationField;
+}
+
+void ObjectBase::tellReferences() const {
+  if (listener_) listener_->referencesChanged(*this);
 }
 
 void ObjectBase::registerSelf() {

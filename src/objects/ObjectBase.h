@@ -74,6 +74,14 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   virtual void afterInit() {}
   virtual void openBelow() {}
 
+  /// True for a field that holds identifiers of other objects.
+  virtual bool isReference(const SchemaElement& element) const;
+  /// A field was written; Storage and Video pass on what is about their MediaObject.
+  virtual void fieldChanged(const SchemaElement&) {}
+
+  /// To be called when the objects that this one holds have changed.
+  void tellReferences() const;
+
   /// The document whose schema and registry this object uses: the open one; kNoObject without one.
   virtual OpenDocument& document() const;
   /// Joins the registry of the open document, if there is one.
@@ -95,7 +103,6 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
  private:
   std::string loadFields(const std::string& guid);
   void bindForm(const std::shared_ptr<ObjectForm>& form);
-  void watchIdentity();
   void contentChanged(const SchemaElement& element) override;
 
   ApplicationModule& app_;

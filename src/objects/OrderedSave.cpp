@@ -43,11 +43,10 @@ class CountFrom {
   std::vector<int> sums_;
 };
 
-std::vector<Waiting> changedObjects(const ObjectRegistry& objects,
-                                    const DescribedObject& document) {
+std::vector<Waiting> changedObjects(ObjectRegistry& objects, const DescribedObject& document) {
   std::vector<Waiting> changed;
-  for (const auto& [number, object] : objects.sequence()) {
-    if (object.get() != &document && object->bChanged()) changed.push_back({object, {}, 0, kNever});
+  for (const ObjectRef& object : objects.changedObjects()) {
+    if (object.get() != &document) changed.push_back({object, {}, 0, kNever});
   }
   return changed;
 }
@@ -108,7 +107,7 @@ bool saveOne(ApplicationModule& app, DescribedObject& object, int counter) {
 
 }  // namespace
 
-bool bSaveInDependencyOrder(ApplicationModule& app, const ObjectRegistry& objects,
+bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
                             const DescribedObject& document) {
   std::vector<Waiting> changed = changedObjects(objects, document);
   linkWaiters(changed);

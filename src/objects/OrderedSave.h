@@ -10,7 +10,7 @@ class ObjectRegistry;
 /// objects from the last to the first, again and again, and saves what need not wait; this does so
 /// in one go, in the same order and with the same numbers on the status line. False when an object
 /// could not be saved, or when objects wait for one another in a ring.
-bool bSaveInDependencyOrder(ApplicationModule& app, const ObjectRegistry& objects,
+bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
                             const DescribedObject& document);
 
 }  // namespace velra

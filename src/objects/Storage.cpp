@@ -17,6 +17,12 @@ void Storage::makeMediaObject() {
   objMediaObject_->strInit(shared_from_this());
 }
 
+void Storage::fieldChanged(const SchemaElement& element) {
+  if (objMediaObject_ && element.strName() == MediaObject::kStorageField) {
+    objMediaObject_->ownerFieldChanged();
+  }
+}
+
 void Storage::setBIsSelected(bool selected) {
   if (selected) {
     for (const auto& [number, object] : document().collObjects().sequence()) {

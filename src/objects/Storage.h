@@ -31,6 +31,7 @@ class Storage : public ObjectBase {
  protected:
   void afterLoad() override { makeMediaObject(); }
   void afterInit() override { makeMediaObject(); }
+  void fieldChanged(const SchemaElement& element) override;
 
  private:
   void makeMediaObject();

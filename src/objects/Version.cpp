@@ -70,6 +70,7 @@ void Version::OpenExpressions() {
     if (!found) continue;
     if (ExpressionRef* place = mainExpression(found->className())) *place = found;
   }
+  tellReferences();
 }
 
 void Version::AddMainExpression(const std::string& title, const std::string& ofClass, double dStart,
@@ -78,6 +79,7 @@ void Version::AddMainExpression(const std::string& title, const std::string& ofC
   if (!place) raise(kInvalidArgument, ofClass);
   *place = app().objectFactory->createExpression(ofClass);
   const ExpressionRef expression = *place;
+  tellReferences();
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *expression, document().strGUID());
   const std::string message =
@@ -131,6 +133,7 @@ void Version::RemoveReferenceObj(DescribedObject& removed) {
   for (ExpressionRef* main : {&vdMainVideo_, &auMainAudio_, &trMainTranscript_}) {
     if (main->get() != &removed) continue;
     main->reset();
+    tellReferences();
     return;
   }
 }

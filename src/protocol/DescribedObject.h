@@ -17,12 +17,16 @@ class DescribedObject;
 using ObjectRef = std::shared_ptr<DescribedObject>;
 using ObjectList = std::vector<ObjectRef>;
 
-/// Told when an object's identifier may have changed; the registry of the document stands behind
-/// it.
+/// Told of what may have changed in an object; the registry of the document stands behind it and
+/// keeps its indexes true so.
 class IdentifierListener {
  public:
   virtual ~IdentifierListener() = default;
   virtual void identifierChanged(const DescribedObject& object) = 0;
+  /// An identifier in its fields, or an object below or beside it.
+  virtual void referencesChanged(const DescribedObject&) {}
+  /// It has something to save.
+  virtual void markedChanged(const DescribedObject&) {}
 };
 
 /// Takes the references that an object holds.

@@ -143,9 +143,7 @@ bool frmMain::saveQuestionAnswered() {
 }
 
 void frmMain::CloseDocument(bool bNoPrompt, bool& goOn) {
-  const auto& objects = app_.gAVDoc->collObjects().sequence();
-  const bool changed = std::any_of(objects.begin(), objects.end(),
-                                   [](const auto& entry) { return entry.second->bChanged(); });
+  const bool changed = !app_.gAVDoc->collObjects().changedObjects().empty();
   goOn = !changed || bNoPrompt || saveQuestionAnswered();
   if (!goOn) return;
   tvwMainTree.clear();

@@ -134,7 +134,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   NumberSource numbers_;
   std::map<std::string, FolderScan> scans_;  // by the folder's normal form
   std::set<std::string> fresh_;              // folders that this opening has looked at
-  unsigned scanGeneration_ = 0;  // of the current folder, when the scans were made
+  unsigned scanGeneration_ = 0;              // of the current folder, when the scans were made
   int openings_ = 0;
   int depth_ = 0;  // of the expression that is being opened
   std::string unflushedFolder_;

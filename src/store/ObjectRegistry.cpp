@@ -20,6 +20,8 @@ void ObjectRegistry::Add(const ObjectRef& object) {
   byKey_.emplace(place.key, place.number);
   places_.emplace(object.get(), place);
   object->setIdentifierListener(this);
+  references_.added(*object);
+  if (object->bChanged()) changed_.insert(place.number);
 }
 
 bool ObjectRegistry::Remove(const DescribedObject& object) {
@@ -28,6 +30,8 @@ bool ObjectRegistry::Remove(const DescribedObject& object) {
   const Place place = at->second;
   places_.erase(at);
   unindex(place);
+  changed_.erase(place.number);
+  references_.removed(object);
   const auto entry = objects_.find(place.number);
   const ObjectRef kept = entry->second;  // its end must not meet a half-changed list
   objects_.erase(entry);
@@ -39,6 +43,34 @@ bool ObjectRegistry::Remove(const DescribedObject& object) {
 ObjectRef ObjectRegistry::Item(std::size_t position) const {
   if (position < 1 || position > objects_.size()) raise(kSubscriptOutOfRange);
   return std::next(objects_.begin(), static_cast<std::ptrdiff_t>(position) - 1)->second;
+}
+
+std::uint64_t ObjectRegistry::numberOf(const DescribedObject& object) const {
+  const auto at = places_.find(&object);
+  return at == places_.end() ? 0 : at->second.number;
+}
+
+ObjectList ObjectRegistry::changedObjects() {
+  ObjectList list;
+  for (auto at = changed_.begin(); at != changed_.end();) {
+    const ObjectRef& object = objects_.at(*at);
+    if (object->bChanged()) {
+      list.push_back(object);
+      ++at;
+    } else {
+      at = changed_.erase(at);
+    }
+  }
+  return list;
+}
+
+void ObjectRegistry::referencesChanged(const DescribedObject& object) {
+  references_.changed(object);
+}
+
+void ObjectRegistry::markedChanged(const DescribedObject& object) {
+  const std::uint64_t number = numberOf(object);
+  if (number > 0) changed_.insert(number);
 }
 
 ObjectList ObjectRegistry::all() const {
@@ -111,6 +143,8 @@ void ObjectRegistry::clear() {
   for (const auto& [number, object] : objects_) object->setIdentifierListener(nullptr);
   places_.clear();
   byKey_.clear();
+  changed_.clear();
+  references_.clear();
   // An object may take others with it, and none of them may meet a list in the middle of its end.
   Sequence gone;
   gone.swap(objects_);
@@ -126,7 +160,7 @@ bool ObjectRegistry::checkConsistency() const {
     const auto [first, last] = byKey_.equal_range(place->second.key);
     bool indexed = false;
     for (auto at = first; at != last; ++at) indexed = indexed || at->second == number;
-    if (!indexed) return false;
+    if (!indexed || (object->bChanged() && !changed_.contains(number))) return false;
   }
   return true;
 }

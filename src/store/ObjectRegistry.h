@@ -3,11 +3,13 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <utility>
 
 #include "protocol/DescribedObject.h"
+#include "store/ReferenceIndex.h"
 
 namespace velra {
 
@@ -46,6 +48,14 @@ class ObjectRegistry : private IdentifierListener {
   /// Its position from 1; 0 when there is none.
   std::size_t positionOf(const std::string& guid);
 
+  /// The number of an object in the sequence; 0 when it is not there.
+  std::uint64_t numberOf(const DescribedObject& object) const;
+
+  /// Those that have something to save, in order of registration.
+  ObjectList changedObjects();
+
+  ReferenceIndex& references() { return references_; }
+
   /// Called with the normal form of every identifier that goes out of use.
   void setFreedListener(std::function<void(const std::string&)> listener) {
     freedListener_ = std::move(listener);
@@ -63,6 +73,8 @@ class ObjectRegistry : private IdentifierListener {
   };
 
   void identifierChanged(const DescribedObject& object) override;
+  void referencesChanged(const DescribedObject& object) override;
+  void markedChanged(const DescribedObject& object) override;
   void rekeyAfterFolderChange();
   void unindex(const Place& place);
   void tellFreed(const std::string& key) const;
@@ -71,6 +83,8 @@ class ObjectRegistry : private IdentifierListener {
   Sequence objects_;
   std::unordered_map<const DescribedObject*, Place> places_;
   std::unordered_multimap<std::string, std::uint64_t> byKey_;
+  std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
+  ReferenceIndex references_{*this};
   std::uint64_t next_ = 1;
   std::function<void(const std::string&)> freedListener_;
   unsigned folderGeneration_ = 0;
