@@ -133,11 +133,12 @@ ObjectList ExpressionBase::waitsFor() const {
 
 void ExpressionBase::visitReferences(ReferenceVisitor& visitor) const {
   for (const SchemaElement& field : secol()) {
-    if (!field.bValid()) continue;
     const bool single = std::find(renamedFields_.begin(), renamedFields_.end(),
                                   field.strLowerName()) != renamedFields_.end();
-    if (single) visitor.identifier(guidIn(field));
-    if (field.strLowerName() != "manifestedby") continue;
+    // The parent is looked at whether the field is assigned or not.
+    const std::string only = single ? guidIn(field) : std::string();
+    if (!only.empty()) visitor.identifier(only);
+    if (field.strLowerName() != "manifestedby" || !field.bValid()) continue;
     if (const StringList* list = asList(field.vContent())) {
       for (const std::string& guid : *list) visitor.identifier(guid);
     }

@@ -1,0 +1,266 @@
+// How fields come out of an object's file and go back into it.
+#include <gtest/gtest.h>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "platform/Files.h"
+#include "platform/MachineSettings.h"
+#include "platform/UserSettings.h"
+#include "platform/XmlDocument.h"
+#include "platform/XmlWriter.h"
+#include "schema/CloseList.h"
+#include "schema/ObjectFiles.h"
+#include "schema/SEColl.h"
+#include "schema/SchemaFile.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class PlainFiles : public ObjectFiles {
+ public:
+  std::string saveFailure;
+
+  std::string strOpen(XmlDocument& document, const std::string& path) override {
+    return document.load(path) ? "" : "XML Parser: " + document.reason();
+  }
+  std::string strSave(const XmlWriter& document, const std::string& path) override {
+    return saveFailure.empty() ? writeFileInPlace(path, document.bytes()) : saveFailure;
+  }
+};
+
+const std::string kSchema =
+    "<xsd:schema xmlns:xsd='u'><e name='C'><complexType><xsd:sequence>"
+    "<f name='s' type='xsd:string'/><f name='i' type='xsd:integer'/><f name='d' type='xsd:date'/>"
+    "<f name='b' type='xsd:boolean'/><f name='set' type='SetOfStrings'/>"
+    "<f name='r' type='xsd:float'/><f name='l' type='L'/><f name='c' type='ChunkType'/>"
+    "<f name='w' type='SetOfWords'/><f name='g' type='SetOfGUIDs'/><f name='u' type='Other'/>"
+    "</xsd:sequence></complexType></e><simpleType name='L'><restriction>"
+    "<enumeration value='x'/></restriction></simpleType></xsd:schema>";
+
+class InstanceTest : public ::testing::Test {
+ protected:
+  InstanceTest() {
+    const std::string schema = folder_.write("s.xsd", kSchema);
+    folder_.write("machine.ini", "[SOFTWARE\\Velra]\nXSDPath=" + schema + "\n");
+  }
+
+  struct Object {
+    SEColl fields;
+    InstanceDocument document;
+    std::shared_ptr<const SchemaFile> schema;
+    std::string message;
+  };
+  Object read(const std::string& xml) {
+    Object object{SEColl(app_, schemas_, lists_), {}, nullptr, {}};
+    const std::string path = folder_.write("c.xml", xml);
+    object.message = object.fields.strLoad(object.document, path, object.schema, files_, "C");
+    return object;
+  }
+  Object readContent(const std::string& content) { return read("<C>" + content + "</C>"); }
+
+  /// The content of the root after a save of all fields.
+  std::string written(Object& object) {
+    for (SchemaElement& field : object.fields) field.setBChanged(true);
+    EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
+    EXPECT_FALSE(object.fields.bChanged());
+    const std::string bytes = folder_.read("c.xml");
+    const std::size_t start = bytes.find("<C>");
+    if (start == std::string::npos) return "";
+    return bytes.substr(start + 3, bytes.find("</C>") - start - 3);
+  }
+
+  test::TemporaryFolder folder_;
+  test::ScriptedUserInterface ui_;
+  MachineSettings machine_{folder_ / "machine.ini"};
+  UserSettings user_{folder_ / "velra.ini"};
+  ApplicationModule app_{ui_, MessageCatalogue(InterfaceLanguage::Default), machine_, user_};
+  DocumentSchemas schemas_{app_};
+  CloseLists lists_;
+  PlainFiles files_;
+};
+
+TEST_F(InstanceTest, ReadsAndWritesEachType) {
+  const struct {
+    std::string xml;
+    std::string written;  // "" when the field is unassigned
+  } cases[] = {
+      {"<s>a</s>", "<s>a</s>"},
+      {"<s> a <b>b</b><![CDATA[<c>]]></s>", "<s> a b&lt;c&gt;</s>"},
+      {"<s/>", ""},
+      {"<s>a</s><s/>", "<s/>"},
+      {"<s>a</s><s>b</s>", "<s>b</s>"},
+      {"<i>12 or so</i>", "<i>12 or so</i>"},
+      {"<i/>", "<i/>"},
+      {"<r>1,50</r>", "<r>1,50</r>"},
+      {"<l>not in the list</l>", "<l>not in the list</l>"},
+      {"<u>kept</u>", "<u>kept</u>"},
+      {"<d>2001-02-03</d>", "<d>2001-02-03</d>"},
+      {"<d>2001-13-01</d>", "<d>2002-01-01</d>"},
+      {"<d>2001-02-00</d>", "<d>2001-01-31</d>"},
+      {"<d>2001-2-30-9-x</d>", "<d>2001-03-02</d>"},
+      {"<d> 2001 - 1 - 1.5 </d>", "<d>2001-01-02</d>"},
+      {"<d>2001-01</d>", ""},
+      {"<d>2001-01-x</d>", ""},
+      {"<d>99999-01-01</d>", ""},
+      {"<d>2001-01-01</d><d>no</d>", "<d>2001-01-01</d>"},
+      {"<b>true</b>", "<b>true</b>"},
+      {"<b>false</b>", "<b>false</b>"},
+      {"<b>TRUE</b>", ""},
+      {"<b> true</b>", ""},
+      {"<set><x>1</x> <y/></set>", "<set><StringItem>1</StringItem><StringItem/></set>"},
+      {"<set>text alone</set>", ""},
+      {"<set><x>1</x></set><set/>", "<set/>"},
+      {"<g><x>a.xml</x></g>", "<g><GUID>a.xml</GUID></g>"},
+      {"<g/>", ""},
+      {"<c start='1500' end='2000.5'>f</c>", "<c start=\"1500\" end=\"2000\" reasons=\"0\">f</c>"},
+      {"<c end='0.5' start=' 2.5 '/>", "<c start=\"2\" end=\"0\" reasons=\"0\"/>"},
+      {"<c start='3.5' end='-1.5'/>", "<c start=\"4\" end=\"-2\" reasons=\"0\"/>"},
+      {"<c start='1'>f</c>", ""},
+      {"<c start='1' end='2'/><c start='1'/>", ""},
+      {"<c xmlns:p='u' p:start='1' end='2'/>", ""},
+      {"<w><Word start='1' end='2'>a</Word><W end='2'>b</W><W start='3' end='4'/></w>",
+       "<w><Word start=\"1\" end=\"2\">a</Word><Word start=\"3\" end=\"4\"/></w>"},
+      {"<w><Word start='1'/></w>", ""},
+      {"<w/>", ""},
+      {"<p:s xmlns:p='u'>a</p:s>", ""},
+      {"<S>a</S>", ""},
+  };
+  for (const auto& one : cases) {
+    Object object = readContent(one.xml);
+    EXPECT_EQ(object.message, "") << one.xml;
+    EXPECT_FALSE(object.fields.bChanged());
+    EXPECT_EQ(object.fields.iNumValid(), one.written.empty() ? 0 : 1) << one.xml;
+    for (const SchemaElement& field : object.fields) {
+      EXPECT_EQ(field.bValid(), !isEmpty(field.vContent())) << one.xml;
+    }
+    EXPECT_EQ(written(object), one.written) << one.xml;
+    Object again = readContent(one.written);
+    EXPECT_EQ(written(again), one.written == "<s/>" || one.written == "<set/>" ? "" : one.written);
+  }
+}
+
+TEST_F(InstanceTest, WritesValuesOfFormsAndDefaults) {
+  const struct {
+    const char* field;
+    Value value;
+    const char* written;
+  } cases[] = {
+      {"d", std::string("01/01/2001"), "<d>2001-01-01</d>"},
+      {"d", std::string("12/31/1999"), "<d>1999-12-31</d>"},
+      {"i", std::int16_t{-5}, "<i>-5</i>"},
+      {"r", 0.1, "<r>0.1</r>"},
+      {"r", 3.0, "<r>3</r>"},
+      {"b", std::int16_t{1}, "<b>true</b>"},
+      {"b", std::int16_t{0}, "<b>false</b>"},
+      {"b", std::int16_t{2}, "<b>false</b>"},
+      {"b", std::string("True"), "<b>true</b>"},
+      {"b", std::string("yes"), "<b>false</b>"},
+      {"set", StringList{}, "<set/>"},
+      {"c", std::make_shared<Chunk>(Chunk{"", "", 1.5, 0.0005, ""}),
+       "<c start=\"1500\" end=\"0\" reasons=\"0\"/>"},
+      {"w", std::make_shared<WordColl>(), "<w/>"},
+  };
+  for (const auto& one : cases) {
+    Object object = readContent("");
+    SchemaElement* field = object.fields.field(one.field);
+    field->setVContent(one.value);
+    field->setBValid(true);
+    EXPECT_EQ(written(object), one.written);
+  }
+}
+
+TEST_F(InstanceTest, TellsWhyAnObjectCannotBeRead) {
+  EXPECT_EQ(read("<D/>").message, "C: class name does not match xml instance");
+  EXPECT_EQ(read("<C>").message.rfind("XML Parser: Line 1", 0), 0U);
+  EXPECT_EQ(read("<p:C xmlns:p='u'/>").message, "");
+  EXPECT_THROW(readContent("<c start='soon' end='1'/>"), RunTimeError);
+  EXPECT_THROW(readContent("<w><Word start=''/></w>"), RunTimeError);
+
+  folder_.write("s.xsd", "<xsd:schema xmlns:xsd='u'><e name='C'/></xsd:schema>");
+  EXPECT_EQ(read("<C/>").message,
+            "Error loading the schema: C: type definition must have a complexType child element!");
+  folder_.write("s.xsd", "<broken");
+  EXPECT_EQ(read("<C/>").message.rfind("Error loading the schema: Line", 0), 0U);
+  folder_.write("machine.ini", "");
+  const Object bare = read("<Anything/>");
+  EXPECT_EQ(bare.message, "");
+  EXPECT_EQ(bare.fields.Count(), 0U);
+}
+
+TEST_F(InstanceTest, NewObjectsNeedASchema) {
+  Object object{SEColl(app_, schemas_, lists_), {}, nullptr, {}};
+  const auto initialise = [&](const std::string& path, const std::string& className) {
+    return object.fields.strInitAsNew(object.document, "", object.schema, path, "xsd", className);
+  };
+  EXPECT_EQ(initialise("", "C"),
+            "There is no schema reference in the document, please fill the "
+            "xsi:noNamespaceSchemaLocation attribute in the element");
+  EXPECT_EQ(initialise(folder_ / "none.xsd", "C").rfind("Error loading the schema: ", 0), 0U);
+  EXPECT_EQ(initialise(folder_ / "s.xsd", "D"),
+            "The schema does not provide any definition of the type: D");
+  EXPECT_EQ(initialise(folder_ / "s.xsd", "C"), "");
+  EXPECT_EQ(object.fields.Count(), 11U);
+  object.fields.field("s")->setVContent(std::string("new"));
+  object.fields.field("s")->setBValid(true);
+  object.fields.field("s")->setBChanged(true);
+  EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "new.xml", files_));
+  const std::string expected =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+      "<C xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+      "xsi:noNamespaceSchemaLocation=\"s.xsd\"><s>new</s></C>\n";
+  EXPECT_EQ(folder_.read("new.xml"), expected);
+  object.fields.field("s")->setBChanged(true);
+  EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "new.xml", files_));
+  EXPECT_EQ(folder_.read("new.xml"), expected);
+}
+
+TEST_F(InstanceTest, AFailedSaveIsShownAndTheFieldsStayChanged) {
+  Object object = readContent("<s>a</s>");
+  files_.saveFailure = "disk full";
+  EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "c.xml", files_));  // not changed
+  object.fields.field("s")->setBChanged(true);
+  EXPECT_FALSE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
+  EXPECT_EQ(ui_.takeShown(), Texts{"plain: disk full"});
+  EXPECT_TRUE(object.fields.bChanged());
+  EXPECT_TRUE(object.fields.bSaveAs(object.document, folder_ / "c.xml", files_));
+  EXPECT_TRUE(object.fields.bChanged());
+  EXPECT_TRUE(ui_.takeShown().empty());
+
+  files_.saveFailure.clear();
+  object.fields.field("s")->setVContent(std::string("a\x01z"));
+  EXPECT_FALSE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
+  EXPECT_EQ(ui_.takeShown().size(), 1U);
+  EXPECT_EQ(folder_.read("c.xml"), "<C><s>a</s></C>");
+}
+
+TEST_F(InstanceTest, SearchCountsValuesThatHoldTheText) {
+  const Object object = readContent(
+      "<s>Sea sea SEA Ärger</s><set><i>the sea</i><i>land</i><i/></set>"
+      "<w><W start='0' end='1'>Sea</W><W start='1' end='2'>air</W></w><u>sea</u><l>sea</l>"
+      "<g><GUID>sea.xml</GUID></g>");
+  const struct {
+    const char* text;
+    bool matchCase;
+    int hits;
+  } cases[] = {
+      {"sea", false, 3},  {"sea", true, 2},   {"SEA", true, 1},  {"ärger", false, 1},
+      {"Ärger", true, 1}, {"ärger", true, 0}, {"xml", false, 0}, {"", false, 5},
+  };
+  for (const auto& one : cases) {
+    EXPECT_EQ(object.fields.iSearchText(one.text, one.matchCase), one.hits) << one.text;
+  }
+}
+
+TEST_F(InstanceTest, CountsReadableFields) {
+  const Object object = readContent("<s>a</s><i/><c start='0' end='1'/><g><x>1</x></g><u>x</u>");
+  EXPECT_EQ(object.fields.iNumValid(), 5);
+  EXPECT_EQ(object.fields.iNumValidAndReadable(), 2);
+}
+
+}  // namespace
+}  // namespace velra

@@ -1,0 +1,198 @@
+// The registry and the source of numbers, compared with plain walks under random operations.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+#include <random>
+
+#include "base/Paths.h"
+#include "platform/Files.h"
+#include "store/NumberSource.h"
+#include "store/ObjectRegistry.h"
+#include "store/ReferenceIndex.h"
+#include "support/RandomDocument.h"
+#include "support/StubObject.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra {
+namespace {
+
+using test::StubObject;
+using test::TemporaryFolder;
+using test::upTo;
+
+std::size_t plainPosition(const ObjectRegistry& objects, const std::string& guid) {
+  std::size_t position = 0;
+  for (const auto& [number, object] : objects.sequence()) {
+    ++position;
+    if (bSamePath(object->strGUID(), guid)) return position;
+  }
+  return 0;
+}
+
+std::string plainNumber(const ObjectRegistry& objects, const std::string& prefix) {
+  for (int number = 1;; ++number) {
+    const std::string path = prefix + std::to_string(number) + ".xml";
+    if (plainPosition(objects, path) == 0 && !bFileExists(path)) return path;
+  }
+}
+
+/// A registry, a source of numbers and a folder of files, under random operations.
+class Indexes {
+ public:
+  explicit Indexes(unsigned seed) : random_(seed) {
+    for (const char* name : {"here", "there"}) std::filesystem::create_directory(folder_ / name);
+    changeCurrentFolder(folder_ / "here");
+    objects_.setFreedListener([this](const std::string& key) { numbers_.freed(key); });
+  }
+
+  void step() {
+    switch (upTo(random_, 9)) {
+      case 0:
+      case 1:
+      case 2:
+        return add(nextNumber());
+      case 3:
+        return add(anyIdentifier());
+      case 4:
+        return removeOne();
+      case 5:
+        if (const ObjectRef object = any()) object->setStrGUID(anyIdentifier());
+        return;
+      case 6:
+        return createFile();
+      case 7:
+        return deleteFile();
+      case 8:
+        return listOrNot();
+      default:
+        // Files of a listed folder stay as they are, so the folder may change at other times only.
+        if (!listing_) changeCurrentFolder(folder_ / (upTo(random_, 1) == 0 ? "here" : "there"));
+    }
+  }
+
+  void compare() {
+    const std::string guid = anyIdentifier();
+    EXPECT_EQ(objects_.positionOf(guid), plainPosition(objects_, guid)) << guid;
+    EXPECT_EQ(nextNumber(), plainNumber(objects_, prefix()));
+    EXPECT_TRUE(objects_.checkConsistency());
+    EXPECT_TRUE(numbers_.checkConsistency(objects_));
+  }
+
+ private:
+  std::string prefix() const { return folder_ / "here/film_version"; }
+  std::string nextNumber() { return numbers_.take(objects_, prefix(), ".xml"); }
+  std::string anyPath() { return prefix() + std::to_string(upTo(random_, 7) + 1) + ".xml"; }
+
+  std::string anyIdentifier() {
+    const std::string name = "film_version" + std::to_string(upTo(random_, 7)) + ".xml";
+    const std::string forms[] = {"",
+                                 name,
+                                 "./x/../" + name,
+                                 folder_ / "here//" + name,
+                                 folder_ / "there/" + name,
+                                 "../here/film_version01.xml"};
+    return forms[upTo(random_, 5)];
+  }
+  ObjectRef any() {
+    if (objects_.Count() == 0) return nullptr;
+    return objects_.Item(static_cast<std::size_t>(upTo(random_, int(objects_.Count()) - 1)) + 1);
+  }
+  void add(const std::string& guid) { objects_.Add(std::make_shared<StubObject>(guid)); }
+  void removeOne() {
+    if (const ObjectRef object = any()) {
+      EXPECT_TRUE(objects_.Remove(*object));
+      EXPECT_FALSE(objects_.Remove(*object));
+    }
+  }
+  void createFile() {
+    const std::string path = anyPath();
+    folder_.write("here/" + strFileName(path), "x");
+    numbers_.fileCame(path);
+  }
+  void deleteFile() {
+    const std::string path = anyPath();
+    if (std::filesystem::remove(path)) numbers_.fileWent(path);
+  }
+  void listOrNot() {
+    if (listing_) {
+      listing_.reset();
+    } else {
+      listing_.emplace(numbers_, folder_ / "here");
+    }
+  }
+
+  std::mt19937 random_;
+  TemporaryFolder folder_;
+  ObjectRegistry objects_;
+  NumberSource numbers_;
+  std::optional<NumberSource::Listing> listing_;
+};
+
+TEST(Indexes, AnswerAsThePlainWalksDo) {
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    SCOPED_TRACE(seed);
+    Indexes indexes(seed);
+    for (int step = 0; step < 80 && !::testing::Test::HasFailure(); ++step) {
+      indexes.step();
+      indexes.compare();
+    }
+  }
+}
+
+TEST(Indexes, ARegistryThatWasNotToldSaysSo) {
+  ObjectRegistry objects;
+  const auto object = std::make_shared<StubObject>("/a/film_version1.xml");
+  objects.Add(object);
+  EXPECT_TRUE(objects.checkConsistency());
+  object->setSecretly("/a/film_version2.xml");
+  EXPECT_FALSE(objects.checkConsistency());
+}
+
+TEST(Indexes, NumbersThatWereNotToldSaySo) {
+  const TemporaryFolder folder;
+  ObjectRegistry objects;
+  NumberSource numbers;
+  const std::string prefix = folder / "film_media";
+  for (int i = 0; i < 3; ++i) {
+    objects.Add(std::make_shared<StubObject>(numbers.take(objects, prefix, ".xml")));
+  }
+  EXPECT_EQ(numbers.take(objects, prefix, ".xml"), prefix + "4.xml");
+  EXPECT_TRUE(numbers.checkConsistency(objects));
+  objects.Remove(*objects.Item(2));  // nobody listens
+  EXPECT_FALSE(numbers.checkConsistency(objects));
+}
+
+TEST(Indexes, ReferencesThatNobodyToldOfAreMissed) {
+  ObjectRegistry objects;
+  const auto parent = std::make_shared<StubObject>("/a/film_version1.xml");
+  const auto child = std::make_shared<StubObject>("/a/film_media1.xml");
+  parent->below = {child};
+  objects.Add(parent);
+  objects.Add(child);
+  ReferenceIndex& index = objects.references();
+  EXPECT_EQ(index.holdersOf(*child), ObjectList{parent});
+  EXPECT_TRUE(index.checkConsistency());
+  child->below = {parent};
+  EXPECT_FALSE(index.checkConsistency());
+  child->tellReferences();
+  EXPECT_TRUE(index.checkConsistency());
+  EXPECT_EQ(index.holdersOf(*parent), ObjectList{child});
+  objects.Remove(*parent);
+  EXPECT_TRUE(index.holdersOf(*child).empty());
+  child->below.clear();
+}
+
+TEST(Indexes, NumbersEndAt32767) {
+  const TemporaryFolder folder;
+  ObjectRegistry objects;
+  NumberSource numbers;
+  for (int number = 1; number <= 32767; ++number) {
+    objects.Add(std::make_shared<StubObject>("/v" + std::to_string(number)));
+  }
+  EXPECT_THROW(numbers.take(objects, "/v", ""), RunTimeError);
+  EXPECT_EQ(numbers.take(objects, "/w", ""), "/w1");
+}
+
+}  // namespace
+}  // namespace velra

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "base/RunTimeError.h"
+#include "protocol/DescribedObject.h"
+
+namespace velra::test {
+
+/// An object with an identifier, a flag and those that it waits for, and no fields or file.
+class StubObject : public virtual DescribedObject {
+ public:
+  explicit StubObject(std::string guid) : guid_(std::move(guid)) {}
+
+  std::string kind = "Version";
+  bool changed = false;
+  bool canSave = true;
+  ObjectList waits;
+  ObjectList below;
+
+  const std::string& className() const override { return kind; }
+  std::shared_ptr<IOManager> io() const override { return nullptr; }
+  SEColl& secol() const override { raise(kNoObject); }
+  std::string strGUID() const override { return guid_; }
+  void setStrGUID(const std::string& guid) override {
+    guid_ = guid;
+    if (listener_) listener_->identifierChanged(*this);
+  }
+  void tellReferences() const {
+    if (listener_) listener_->referencesChanged(*this);
+  }
+  /// Changes the identifier behind the listener's back, as no object may.
+  void setSecretly(const std::string& guid) { guid_ = guid; }
+  std::string strTitle() const override { return guid_; }
+  void setStrTitle(const std::string&) override {}
+  void strInitGUID(const std::string& guid) override { setStrGUID(guid); }
+  void setStrSchemaPath(const std::string&) override {}
+  bool bChanged() const override { return changed; }
+  std::int16_t iNumValidElem() const override { return 0; }
+  void ShowForm(FormOwner&) override {}
+  void EditAttributesForm(FormOwner&) override {}
+  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
+                         const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
+                      const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
+                           const std::string&, const std::shared_ptr<ObjectForm>&,
+                           const std::shared_ptr<IOManager>&) override {
+    return {};
+  }
+  bool bSave() override {
+    if (canSave) changed = false;
+    return canSave;
+  }
+  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
+  void RemoveReferenceObj(DescribedObject&) override {}
+  bool bReferedStillToBeSaved() const override {
+    for (const ObjectRef& other : waits) {
+      if (other->bChanged()) return true;
+    }
+    return false;
+  }
+  ObjectList waitsFor() const override { return waits; }
+  void visitReferences(ReferenceVisitor& visitor) const override {
+    for (const ObjectRef& other : below) visitor.object(*other);
+  }
+  void setIdentifierListener(IdentifierListener* listener) override { listener_ = listener; }
+  ObjectList colSelSubTree() override { return {shared_from_this()}; }
+  std::string strRemoveAllChilds() override { return {}; }
+  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  const ObjectList& colChilds() const override { return below; }
+
+ private:
+  std::string guid_;
+  IdentifierListener* listener_ = nullptr;
+};
+
+}  // namespace velra::test
