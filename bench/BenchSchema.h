@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace velra::bench {
+
+/// Writes the schema of the generated documents and returns its path.
+std::string makeSchema(const std::string& folder);
+
+}  // namespace velra::bench

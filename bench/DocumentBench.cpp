@@ -1,0 +1,186 @@
+#include "DocumentBench.h"
+
+#include <malloc.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <limits>
+
+#include "BenchSchema.h"
+#include "BenchSession.h"
+#include "DocumentMaker.h"
+#include "PlainParse.h"
+#include "base/Text.h"
+#include "schema/SEColl.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra::bench {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Figures {
+  int objects = 0;
+  double parse = 0;  // P: every file read, parsed and dropped, milliseconds
+  double open = 0;
+  double saveOne = 0;  // after one edit
+  double saveAs = 0;
+  double removeEach = 0;  // each removed object
+  double search = 0;
+  double textPass = 0;  // one pass over the same texts
+  double memory = 0;    // bytes held by the open document against bytes of its files
+  double kept = 0;      // of these, the share that stays after closing
+};
+
+double timeOf(const std::function<void()>& action) {
+  Times times;
+  times.take(action);
+  return times.at(1);
+}
+
+double least(int repeats, const std::function<void()>& action) {
+  double best = std::numeric_limits<double>::max();
+  for (int i = 0; i < repeats; ++i) best = std::min(best, timeOf(action));
+  return best;
+}
+
+double heapBytes() {
+  const struct mallinfo2 info = ::mallinfo2();
+  return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
+}
+
+// One edit of one object, as a form makes it.
+void edit(DescribedObject& object) {
+  SchemaElement* field = object.secol().field("Text7");
+  field->setVContent(toText(field->vContent()) + "x");
+  field->setBChanged(true);
+}
+
+double measureSaving(BenchSession& session) {
+  Times times;
+  const ObjectList objects = session.document()->collObjects().all();
+  for (std::size_t i = 1; i <= 101; ++i) {
+    DescribedObject& object = *objects[i * (objects.size() - 1) / 102];
+    if (object.className() == "MediaObject" || object.className() == "AVDocument") continue;
+    edit(object);
+    times.take([&] { session.document()->bSave(); });
+  }
+  return times.at(0.5);
+}
+
+double measureSearch(BenchSession& session) {
+  long hits = 0;
+  return least(3, [&] {
+    for (const auto& [number, object] : session.document()->collObjects().sequence()) {
+      if (object->className() != "MediaObject") hits += object->secol().iSearchText("Küste", false);
+    }
+  });
+}
+
+// What a search cannot do without: each text looked at once.
+double measureTextPass(BenchSession& session) {
+  std::size_t found = 0;
+  return least(3, [&] {
+    for (const auto& [number, object] : session.document()->collObjects().sequence()) {
+      if (object->className() == "MediaObject") continue;
+      for (const SchemaElement& field : object->secol()) {
+        if (!field.bValid()) continue;
+        if (const auto* text = std::get_if<std::string>(&field.vContent())) {
+          found += toLower(*text).find("küste") != std::string::npos ? 1U : 0U;
+        }
+      }
+    }
+  });
+}
+
+// Versions with all that is below them, the median of five.
+double measureRemoval(BenchSession& session) {
+  Times times;
+  for (int i = 0; i < 5; ++i) {
+    const ObjectRef version = session.document()->colChilds().front();
+    const auto removed = static_cast<double>(version->colSelSubTree().size());
+    ObjectRef object = version;
+    times.add(timeOf([&] {
+                object->strRemoveAllChilds();
+                session.document()->RemoveObject(object);
+              }) /
+              removed);
+  }
+  return times.at(0.5);
+}
+
+void measureOpen(BenchSession& session, const std::string& path, int repeats, Figures& figures) {
+  session.open(path);  // warms the heap
+  session.close();
+  const double before = heapBytes();
+  session.open(path);
+  const double files = plainBytes(fs::path(path).parent_path());
+  figures.memory = (heapBytes() - before) / files;
+  session.close();
+  figures.kept = (heapBytes() - before) / files;
+  figures.open = least(repeats, [&] {
+    session.close();
+    session.open(path);
+  });
+}
+
+Figures measureDocument(const std::string& folder, const std::string& schema, int objects) {
+  Figures figures;
+  figures.objects = objects;
+  const std::string place = folder + "/" + std::to_string(objects);
+  fs::remove_all(place);
+  const std::string path = makeDocument(place, {objects, 20000});
+  const int repeats = objects > 10000 ? 2 : 5;
+  figures.parse = least(repeats, [&] { plainParse(place); });
+  BenchSession session(folder, schema);
+  measureOpen(session, path, repeats, figures);
+  figures.saveOne = measureSaving(session);
+  figures.search = measureSearch(session);
+  figures.textPass = measureTextPass(session);
+  figures.removeEach = measureRemoval(session);
+  session.close();
+  session.open(path);
+  const std::string target = folder + "/copy " + std::to_string(objects);
+  fs::remove_all(target);
+  fs::create_directories(target);
+  figures.saveAs = timeOf([&] { session.document()->bSaveAs(target + "/copy.xml"); });
+  for (const std::string& box : session.ui.takeShown()) std::puts(box.c_str());
+  fs::remove_all(target);
+  return figures;
+}
+
+void addFor(const Figures& f, std::vector<Measure>& measures) {
+  const std::string size = " at " + std::to_string(f.objects);
+  const double perObject = 1000 / static_cast<double>(f.objects);
+  std::printf("%d objects: read and parsed once %.0f us each, opened %.0f us each\n", f.objects,
+              f.parse * perObject, f.open * perObject);
+  measures.push_back({"open / P" + size, f.open / f.parse, "", 2.5});
+  measures.push_back({"save as / P" + size, f.saveAs / f.parse, "", 4});
+  measures.push_back({"memory / file bytes" + size, f.memory, "", 2.5});
+  measures.push_back({"memory kept after closing" + size, f.kept, "", 0.1});
+  measures.push_back({"search / one pass" + size, f.search / f.textPass, "", 3});
+}
+
+}  // namespace
+
+std::vector<Measure> measureDocuments(const std::string& folder) {
+  const std::string schema = makeSchema(folder);
+  std::vector<Measure> measures;
+  std::vector<Figures> all;
+  for (const int objects : {1000, 10000, 50000}) {
+    all.push_back(measureDocument(folder, schema, objects));
+    addFor(all.back(), measures);
+  }
+  const Figures& small = all.front();
+  const Figures& large = all.back();
+  const double openEach = (large.open / large.objects) / (small.open / small.objects);
+  measures.push_back({"open, each object, 50,000 / 1,000", openEach, "", 1.5});
+  measures.push_back({"save one, 50,000 / 1,000", large.saveOne / small.saveOne, "", 3});
+  measures.push_back(
+      {"remove, each object, 50,000 / 1,000", large.removeEach / small.removeEach, "", 3});
+  return measures;
+}
+
+}  // namespace velra::bench
