@@ -4,8 +4,11 @@
 #include <QDialog>
 
 #include "protocol/ObjectForm.h"
+#include "widgets/ConnectionDialogWindow.h"
 #include "widgets/MetadataFormWindow.h"
 #include "widgets/SchemaDialogWindow.h"
+#include "widgets/SearchDialogWindow.h"
+#include "widgets/SearchResultWindow.h"
 
 namespace velra {
 
@@ -20,6 +23,21 @@ void QtFormPresenter::showForm(FormOwner& owner, LoadedForm& form) {
 
 void QtFormPresenter::showSchemaDialog(FormOwner& owner, AVDocSchemaDialog& dialog) {
   SchemaDialogWindow window(app_, dialog, windowOf(owner));
+  showModally(window);
+}
+
+void QtFormPresenter::showSearchDialog(FormOwner& owner, SearchDialog& dialog) {
+  SearchDialogWindow window(app_, dialog, windowOf(owner));
+  showModally(window);
+}
+
+void QtFormPresenter::showSearchResults(FormOwner& owner, SearchResultDialog& dialog) {
+  SearchResultWindow window(app_, dialog, windowOf(owner));
+  showModally(window);
+}
+
+void QtFormPresenter::showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) {
+  ConnectionDialogWindow window(app_, dialog, windowOf(owner));
   showModally(window);
 }
 

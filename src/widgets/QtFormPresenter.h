@@ -6,6 +6,7 @@
 #include <map>
 
 #include "forms/FormPresenter.h"
+#include "shell/DialogPresenter.h"
 
 class QDialog;
 class QWidget;
@@ -14,8 +15,9 @@ namespace velra {
 
 class ApplicationModule;
 
-/// Shows forms as modal windows. A kind of form opens in the size that it had last in this run.
-class QtFormPresenter : public FormPresenter {
+/// Shows forms and dialogs as modal windows. Each kind opens in the size that it had last in this
+/// run.
+class QtFormPresenter : public FormPresenter, public DialogPresenter {
  public:
   explicit QtFormPresenter(const ApplicationModule& app) : app_(app) {}
 
@@ -25,6 +27,9 @@ class QtFormPresenter : public FormPresenter {
 
   void showForm(FormOwner& owner, LoadedForm& form) override;
   void showSchemaDialog(FormOwner& owner, AVDocSchemaDialog& dialog) override;
+  void showSearchDialog(FormOwner& owner, SearchDialog& dialog) override;
+  void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) override;
+  void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) override;
 
   /// The window behind an owner: itself if it is one, else the active one.
   QWidget* windowOf(FormOwner& owner) const;

@@ -29,6 +29,11 @@ inline QString windowTitleText(std::string_view text) {
   return toQString(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
+/// For the title of a window that a menu entry opens: its caption without the marks.
+inline QString titleFromCaption(std::string_view caption) {
+  return toQString(caption).remove(u'&').remove(QStringLiteral("..."));
+}
+
 inline QString pathToQString(const std::string& path) {
   return QFile::decodeName(QByteArray::fromStdString(path));
 }

@@ -1,15 +1,14 @@
 #include "widgets/SchemaDialogWindow.h"
 
-#include <QDialogButtonBox>
 #include <QEvent>
 #include <QHeaderView>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "app/ApplicationModule.h"
 #include "forms/AVDocSchemaDialog.h"
+#include "widgets/DialogButtons.h"
 #include "widgets/QtText.h"
 
 namespace velra {
@@ -18,11 +17,6 @@ namespace {
 
 constexpr int kTwelfths = 12;
 constexpr int kRowSpace = 6;  // pixels
-
-/// The menu's caption without its marks.
-QString titleFromCaption(const std::string& caption) {
-  return toQString(caption).remove(u'&').remove(QStringLiteral("..."));
-}
 
 }  // namespace
 
@@ -83,15 +77,9 @@ void SchemaDialogWindow::fillList() {
 }
 
 void SchemaDialogWindow::makeButtons(const ApplicationModule& app) {
-  auto* buttons = new QDialogButtonBox(this);
-  auto* ok = buttons->addButton(toQString(app.LoadResString(1063)), QDialogButtonBox::AcceptRole);
-  auto* cancel =
-      buttons->addButton(toQString(app.LoadResString(1068)), QDialogButtonBox::RejectRole);
-  ok->setObjectName(QStringLiteral("OKButton"));
-  cancel->setObjectName(QStringLiteral("CancelButton"));
-  ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, [this] { dialog_.OKButton_Click(); });
-  connect(cancel, &QPushButton::clicked, this, [this] { dialog_.CancelButton_Click(); });
+  auto* buttons = new DialogButtons(app, "OKButton", "CancelButton", this);
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] { dialog_.OKButton_Click(); });
+  connect(buttons, &QDialogButtonBox::rejected, this, [this] { dialog_.CancelButton_Click(); });
   layout()->addWidget(buttons);
 }
 
