@@ -59,6 +59,7 @@ int run(const std::string& commandLine) {
   MainFormWindow window(app, rules);
   ui.setMainWindow(&window);
   presenter.setMainWindow(&window);
+  rules.setDialogPresenter(&presenter);
 
   Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
   const int status = QCoreApplication::exec();

@@ -31,7 +31,7 @@ constexpr MenuEntry kFile[] = {
     {.name = "mnuFileOpen", .caption = 1001, .run = call<&frmMain::ShowOpenDialog>},
     {.name = "mnuFileSave", .caption = 1080, .run = call<&frmMain::mnuFileSave>},
     {.name = "mnuFileSaveAs", .caption = 1130, .run = call<&frmMain::mnuFileSaveAs>},
-    {.name = "mnuFileFind", .caption = 1002, .run = doNothing},
+    {.name = "mnuFileFind", .caption = 1002, .run = call<&frmMain::mnuFileFind>},
     {.name = "mnuFileBar1", .kind = Kind::Separator},
     {.name = "mnuFileNew",
      .caption = 1004,
@@ -41,8 +41,8 @@ constexpr MenuEntry kFile[] = {
     {.name = "mnuFileMRU_2", .run = doNothing, .visible = false},
     {.name = "mnuFileMRU_3", .run = doNothing, .visible = false},
     {.name = "mnuFileBar4", .kind = Kind::Separator, .visible = false},
-    {.name = "mnuImportToFS", .caption = 1167, .run = doNothing},
-    {.name = "mnuExportToDB", .caption = 1165, .run = doNothing},
+    {.name = "mnuImportToFS", .caption = 1167, .run = call<&frmMain::mnuImportToFS>},
+    {.name = "mnuExportToDB", .caption = 1165, .run = call<&frmMain::mnuExportToDB>},
     {.name = "mnuFileBar5", .kind = Kind::Separator},
     {.name = "mnuFileClose",
      .caption = 1008,
@@ -100,7 +100,7 @@ constexpr MenuEntry kLanguage[] = {
 };
 
 constexpr MenuEntry kOptions[] = {
-    {.name = "mnuConnection", .caption = 1175, .run = doNothing},
+    {.name = "mnuConnection", .caption = 1175, .run = call<&frmMain::mnuConnection>},
 };
 
 constexpr MenuEntry kHelp[] = {
