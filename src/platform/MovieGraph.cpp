@@ -14,7 +14,12 @@ MovieGraph::MovieGraph() = default;
 MovieGraph::~MovieGraph() = default;
 
 std::string MovieGraph::RenderFile(const std::string& path) {
-  player_.reset();
+  std::unique_ptr<MoviePlayer> old;
+  {
+    const std::lock_guard lock(notifyMutex_);
+    old.swap(player_);
+  }
+  old.reset();
   duration_ = frameTime_ = 0;
   width_ = height_ = 0;
   auto source = std::make_unique<FrameSource>();
@@ -33,6 +38,7 @@ void MovieGraph::renderPictures(const std::string& path, std::unique_ptr<FrameSo
   height_ = source->size().height;
   PlayClock clock(std::make_unique<SoundOut>(path, source->origin()));
   duration_ = source->duration();
+  const std::lock_guard lock(notifyMutex_);
   player_ = std::make_unique<MoviePlayer>(std::move(source), std::move(clock), duration_,
                                           [this](Notice notice) { tell(notice); });
 }
@@ -41,6 +47,7 @@ bool MovieGraph::renderSound(const std::string& path) {
   duration_ = soundLength(path);
   if (duration_ <= 0) return false;
   PlayClock clock(std::make_unique<SoundOut>(path, std::nullopt));
+  const std::lock_guard lock(notifyMutex_);
   player_ = std::make_unique<MoviePlayer>(nullptr, std::move(clock), duration_,
                                           [this](Notice notice) { tell(notice); });
   return true;

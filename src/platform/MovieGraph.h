@@ -42,7 +42,9 @@ class MovieGraph final : public MediaGraph {
   int width_ = 0;
   int height_ = 0;
 
-  std::mutex notifyMutex_;  // held during a call, so that none comes after the receiver was cleared
+  // Held during a call, so that none comes after the receiver was cleared, and while the player
+  // changes, since a receiver asks for its picture.
+  std::mutex notifyMutex_;
   std::function<void(Notice)> notify_;
 
   std::unique_ptr<MoviePlayer> player_;  // last: its threads call the receiver
