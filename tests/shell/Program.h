@@ -5,14 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "ScriptedPresenter.h"
 #include "app/ApplicationModule.h"
-#include "forms/AVDocSchemaDialog.h"
-#include "forms/FormPresenter.h"
-#include "forms/LoadedForm.h"
 #include "objects/AVDocument.h"
 #include "objects/Version.h"
 #include "platform/MachineSettings.h"
 #include "platform/UserSettings.h"
+#include "protocol/Expression.h"
 #include "shell/Factory.h"
 #include "shell/Start.h"
 #include "shell/frmMain.h"
@@ -36,21 +35,6 @@ class QuietForm : public ObjectForm {
   std::weak_ptr<DescribedObject> object_;
 };
 
-/// Shows each form by doing what the test has told it, then closes it.
-class ScriptedPresenter : public FormPresenter {
- public:
-  std::vector<std::string> captions;
-  std::function<void(LoadedForm&)> whileShown;
-
-  void showForm(FormOwner&, LoadedForm& form) override {
-    captions.push_back(form.caption());
-    if (whileShown) whileShown(form);
-  }
-  void showSchemaDialog(FormOwner&, AVDocSchemaDialog& dialog) override {
-    dialog.CancelButton_Click();
-  }
-};
-
 /// The whole program without its windows, over a copy of the sample in a temporary folder.
 class Program {
  public:
@@ -68,6 +52,7 @@ class Program {
     settings.write(ApplicationModule::kMachineSection, "ThematicKeywordsPath",
                    std::string(data / "ThematicKeywords.xml"));
     LoadThematicKeywords(app);
+    mainForm.setDialogPresenter(&presenter);
   }
   ~Program() { app.gAVDoc.reset(); }
 
@@ -78,6 +63,17 @@ class Program {
   std::shared_ptr<Version> version(std::size_t position) const {
     return std::dynamic_pointer_cast<Version>(document()->colChilds().at(position - 1));
   }
+  /// The registered object of the sample whose file is of that name, as in "version1".
+  ObjectRef object(const std::string& name) const {
+    return app.gAVDoc->loadedObject(folder /
+                                    ("sample/lighthouse_files/lighthouse_" + name + ".xml"));
+  }
+  ExpressionRef expression(const std::string& name) const {
+    return std::dynamic_pointer_cast<Expression>(object(name));
+  }
+  /// A file of the sample.
+  std::string read(const std::string& name) const { return folder.read("sample/" + name); }
+
   /// Clicks the node of an object with the left button.
   void click(TreeId tree, const DescribedObject& object) {
     mainForm.treeMouseDown(tree, kLeftButton);

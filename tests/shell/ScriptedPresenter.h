@@ -1,0 +1,67 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/AVDocSchemaDialog.h"
+#include "forms/FormPresenter.h"
+#include "forms/LoadedForm.h"
+#include "shell/ConnectionDialog.h"
+#include "shell/DialogPresenter.h"
+#include "shell/SearchDialog.h"
+#include "shell/SearchResultDialog.h"
+
+namespace velra::test {
+
+/// Shows each form and dialog by doing what the test has told it, then closes it.
+class ScriptedPresenter : public FormPresenter, public DialogPresenter {
+ public:
+  std::vector<std::string> captions;  // of the metadata forms
+  std::vector<std::string> dialogs;   // names of the dialogs
+  const FormOwner* lastOwner = nullptr;
+
+  std::function<void(LoadedForm&)> whileShown;
+  std::function<void(AVDocSchemaDialog&)> onSchema;
+  std::function<void(SearchDialog&)> onSearch;
+  std::function<void(SearchResultDialog&)> onResults;
+  std::function<void(ConnectionDialog&)> onConnection;
+
+  void showForm(FormOwner& owner, LoadedForm& form) override {
+    captions.push_back(form.caption());
+    lastOwner = &owner;
+    if (whileShown) whileShown(form);
+  }
+  void showSchemaDialog(FormOwner& owner, AVDocSchemaDialog& dialog) override {
+    note(owner, "AVDocSchemaDialog");
+    if (onSchema) {
+      onSchema(dialog);
+    } else {
+      dialog.CancelButton_Click();
+    }
+  }
+  void showSearchDialog(FormOwner& owner, SearchDialog& dialog) override {
+    note(owner, "SearchDialog");
+    if (onSearch) onSearch(dialog);
+  }
+  void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) override {
+    note(owner, "SearchResultDialog");
+    if (onResults) onResults(dialog);
+  }
+  void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) override {
+    note(owner, "ConnectionDialog");
+    if (onConnection) onConnection(dialog);
+  }
+
+  /// The dialogs that were shown since the last call.
+  std::vector<std::string> takeDialogs() { return std::exchange(dialogs, {}); }
+
+ private:
+  void note(const FormOwner& owner, const std::string& name) {
+    dialogs.push_back(name);
+    lastOwner = &owner;
+  }
+};
+
+}  // namespace velra::test
