@@ -1,0 +1,248 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeView>
+
+#include "shell/ConnectionDialog.h"
+#include "shell/Program.h"
+#include "shell/SearchDialog.h"
+#include "shell/SearchResultDialog.h"
+#include "support/FormObject.h"
+#include "widgets/ConnectionDialogWindow.h"
+#include "widgets/QtText.h"
+#include "widgets/SearchDialogWindow.h"
+#include "widgets/SearchResultWindow.h"
+#include "widgets/TreeIconPainter.h"
+
+namespace velra {
+namespace {
+
+template <class Widget>
+Widget& child(QWidget& window, const char* name) {
+  Widget* found = window.findChild<Widget*>(QLatin1String(name));
+  if (!found) ADD_FAILURE() << name;
+  return *found;
+}
+
+void press(QWidget& window, const char* button) {
+  QTest::mouseClick(&child<QPushButton>(window, button), Qt::LeftButton);
+}
+
+/// Shows each dialog as a window that does not block, so that a test can act on it.
+class Presenter : public DialogPresenter {
+ public:
+  explicit Presenter(const ApplicationModule& app) : app_(app) {}
+  std::function<void(QWidget&)> act;
+
+  void showSearchDialog(FormOwner&, SearchDialog& dialog) override {
+    SearchDialogWindow window(app_, dialog, nullptr);
+    show(window);
+  }
+  void showSearchResults(FormOwner&, SearchResultDialog& dialog) override {
+    SearchResultWindow window(app_, dialog, nullptr);
+    show(window);
+  }
+  void showConnectionDialog(FormOwner&, ConnectionDialog& dialog) override {
+    ConnectionDialogWindow window(app_, dialog, nullptr);
+    show(window);
+  }
+
+ private:
+  void show(QDialog& window) {
+    window.show();
+    act(window);
+    EXPECT_FALSE(window.isVisible());  // its own buttons have closed it
+  }
+
+  const ApplicationModule& app_;
+};
+
+class CommandDialogs : public ::testing::Test {
+ protected:
+  test::FormsApplication application_;
+  ApplicationModule& app_ = application_.app;
+  test::TitleWindow owner_;
+  Presenter presenter_{app_};
+};
+
+TEST_F(CommandDialogs, SearchAsksAndRemembers) {
+  SearchDialog dialog;
+  presenter_.act = [&](QWidget& window) {
+    EXPECT_EQ(fromQString(window.windowTitle()), app_.LoadResString(1121));
+    QLineEdit& text = child<QLineEdit>(window, "Text1");
+    EXPECT_EQ(text.text(), QString());
+    EXPECT_EQ(child<QLabel>(window, "Label1").text(), QStringLiteral("Find What:"));
+    EXPECT_EQ(child<QLabel>(window, "Label1").buddy(), &text);
+    EXPECT_EQ(child<QCheckBox>(window, "Check1").text(), QStringLiteral("Mach Case"));
+    EXPECT_EQ(child<QCheckBox>(window, "Check2").text(), QStringLiteral("Single Word"));
+    QTest::keyClicks(&text, QStringLiteral("keeper"));
+    QTest::mouseClick(&child<QCheckBox>(window, "Check2"), Qt::LeftButton, {}, QPoint(8, 8));
+    QTest::keyClick(&text, Qt::Key_Return);
+  };
+  dialog.Show(presenter_, owner_);
+  EXPECT_EQ(dialog.strText(), "keeper");
+  EXPECT_FALSE(dialog.bMatchCase());
+  EXPECT_TRUE(dialog.bSingleWord());
+  EXPECT_FALSE(dialog.bCancelPressed());
+
+  presenter_.act = [](QWidget& window) {
+    EXPECT_EQ(child<QLineEdit>(window, "Text1").text(), QStringLiteral("keeper"));
+    EXPECT_FALSE(child<QCheckBox>(window, "Check1").isChecked());
+    EXPECT_TRUE(child<QCheckBox>(window, "Check2").isChecked());
+    QTest::keyClicks(&child<QLineEdit>(window, "Text1"), QStringLiteral("typed in vain"));
+    press(window, "CancelButt");
+  };
+  dialog.Show(presenter_, owner_);
+  EXPECT_EQ(dialog.strText(), "keeper");
+  EXPECT_TRUE(dialog.bCancelPressed());
+}
+
+TEST_F(CommandDialogs, EscapeIsCancel) {
+  SearchDialog search;
+  presenter_.act = [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); };
+  search.Show(presenter_, owner_);
+  EXPECT_TRUE(search.bCancelPressed());
+
+  ConnectionDialog connection(app_);
+  presenter_.act = [](QWidget& window) {
+    QTest::keyClicks(&child<QLineEdit>(window, "Text1"), QStringLiteral("host"));
+    window.close();
+  };
+  connection.Show(presenter_, owner_);
+  EXPECT_FALSE(connection.bChanged());
+}
+
+TEST_F(CommandDialogs, ConnectionHasItsTextsAndRefusesPorts) {
+  ConnectionDialog dialog(app_);
+  dialog.setSettings({"host", 2509, "<b>name</b>", "http"});
+  presenter_.act = [&](QWidget& window) {
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Connection Parameters"));
+    for (const auto& box : ConnectionDialog::kBoxes) {
+      QLineEdit& edit = child<QLineEdit>(window, box.name);
+      EXPECT_EQ(fromQString(edit.toolTip()), app_.LoadResString(box.toolTip));
+    }
+    EXPECT_EQ(child<QLineEdit>(window, "Text3").text(), QStringLiteral("<b>name</b>"));
+    QLineEdit& port = child<QLineEdit>(window, "Text2");
+    port.selectAll();
+    QTest::keyClick(&port, Qt::Key_Delete);
+    EXPECT_EQ(port.text(), QString());
+    QTest::keyClicks(&port, QStringLiteral("8x"));
+    EXPECT_EQ(port.text(), QStringLiteral("8"));
+    press(window, "OKButton");
+  };
+  dialog.Show(presenter_, owner_);
+  EXPECT_EQ(application_.ui.takeShown(),
+            std::vector<std::string>{"exclamation: " + app_.LoadResString(1162)});
+  EXPECT_TRUE(dialog.bChanged());
+  EXPECT_EQ(dialog.settings().iPort, 8);
+  EXPECT_EQ(dialog.settings().strAddress, "host");
+}
+
+TEST_F(CommandDialogs, CaptionsOfTheConnectionAreBuddies) {
+  ConnectionDialog dialog(app_);
+  presenter_.act = [&](QWidget& window) {
+    QStringList captions;
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+      if (label->buddy()) captions << label->text() + u' ' + label->buddy()->objectName();
+    }
+    EXPECT_EQ(
+        captions,
+        (QStringList{QStringLiteral("Server Address Text1"), QStringLiteral("Port Text2"),
+                     QStringLiteral("Datamanager Text3"), QStringLiteral("Http Server Text4")}));
+    press(window, "CancelButton");
+  };
+  dialog.Show(presenter_, owner_);
+}
+
+TEST(SearchResults, RowsOpenTheirFormsByMouseAndKeyboard) {
+  test::Program program;
+  program.mainForm.OpenFile(program.sample());
+  Presenter presenter(program.app);
+  SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons());
+  presenter.act = [&](QWidget& window) {
+    QTreeView& list = child<QTreeView>(window, "ListView1");
+    const QAbstractItemModel& model = *list.model();
+    ASSERT_EQ(model.rowCount(), 2);
+    QStringList first;
+    QStringList headers;
+    for (int column = 0; column < model.columnCount(); ++column) {
+      headers << model.headerData(column, Qt::Horizontal).toString();
+      first << model.index(0, column).data().toString();
+      EXPECT_NEAR(list.columnWidth(column), list.viewport()->width() / 3, 1);
+    }
+    EXPECT_EQ(headers, (QStringList{QStringLiteral("Type"), QStringLiteral("Title"),
+                                    QStringLiteral("Number of founds")}));
+    EXPECT_EQ(first, (QStringList{QStringLiteral("Media"), QStringLiteral("MPEG-1 viewing copy"),
+                                  QStringLiteral("1")}));
+    EXPECT_FALSE(model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
+
+    const auto opened = [&] {
+      QCoreApplication::sendPostedEvents();
+      return std::exchange(program.presenter.captions, {}).size();
+    };
+    const QModelIndex second = model.index(1, 1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(second).center());
+    EXPECT_EQ(opened(), 1U);
+    EXPECT_EQ(list.currentIndex().row(), 1);
+    QTest::mouseClick(list.viewport(), Qt::RightButton, {}, list.visualRect(second).center());
+    EXPECT_EQ(opened(), 0U);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+      QTest::keyClick(&list, key);
+      EXPECT_EQ(opened(), 1U) << key;
+    }
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(opened(), 0U);
+    EXPECT_TRUE(window.isVisible());
+    press(window, "OKButton");
+  };
+  dialog.ShowDialog(presenter, program.mainForm, "copy", true, false);
+}
+
+TEST(SearchResults, AnEmptyListIsShownWithoutAMessage) {
+  test::Program program;
+  program.mainForm.OpenFile(program.sample());
+  Presenter presenter(program.app);
+  SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons());
+  presenter.act = [](QWidget& window) {
+    QTreeView& list = child<QTreeView>(window, "ListView1");
+    EXPECT_EQ(list.model()->rowCount(), 0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton);
+    QTest::keyClick(&list, Qt::Key_Space);
+    QCoreApplication::sendPostedEvents();
+    press(window, "CancelButton");
+  };
+  dialog.ShowDialog(presenter, program.mainForm, "no such words", false, false);
+  EXPECT_TRUE(program.presenter.captions.empty());
+  EXPECT_TRUE(program.ui.shown.empty());
+}
+
+TEST(SearchResults, IconsAreThoseOfTheTrees) {
+  test::Program program;
+  program.mainForm.OpenFile(program.sample());
+  Presenter presenter(program.app);
+  SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons());
+  const auto imageOf = [](const QModelIndex& row) {
+    return row.data(Qt::DecorationRole)
+        .value<QIcon>()
+        .pixmap(TreeIconPainter::iconSize())
+        .toImage();
+  };
+  presenter.act = [&](QWidget& window) {
+    const QAbstractItemModel& model = *child<QTreeView>(window, "ListView1").model();
+    TreeIconPainter painter(program.mainForm.imlTreeIcons());
+    ASSERT_EQ(model.rowCount(), 1);
+    const QImage frame = painter.icon(program.object("video4")->strGUID())
+                             .pixmap(TreeIconPainter::iconSize())
+                             .toImage();
+    EXPECT_EQ(imageOf(model.index(0, 0)), frame);
+    press(window, "CancelButton");
+  };
+  dialog.ShowDialog(presenter, program.mainForm, "hundred and twelve", false, false);
+}
+
+}  // namespace
+}  // namespace velra
