@@ -1,76 +1,105 @@
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "base/RunTimeError.h"
-#include "store/ObjectRegistry.h"
+#include "store/IOManager.h"
 #include "support/DocumentSession.h"
 #include "support/DocumentState.h"
+#include "support/FirstDifference.h"
 #include "support/RandomDocument.h"
 
 namespace velra {
 namespace {
 
+using test::Damage;
 using test::DocumentSession;
+using test::stateOf;
+using test::upTo;
+using Texts = std::vector<std::string>;
 
-/// What a removal leaves, in the order in which it happened.
-struct Outcome {
-  std::vector<std::string> state;
-  std::vector<std::string> icons;
-  std::vector<std::string> files;
-  std::vector<std::string> shown;
-  std::string message;
+using Removal = void (*)(AVDocument& document, const ObjectRef& object);
 
-  bool operator==(const Outcome&) const = default;
-};
-
-/// The rule without any index: all objects are asked about each one that goes.
-std::string removePlainly(AVDocument& document, DescribedObject& object) {
-  ObjectList subTree = object.colSelSubTree();
-  if (subTree.empty()) return object.strTitle() + " :open whole document first!";
-  subTree.pop_back();
-  for (ObjectRef& each : subTree) document.RemoveObject(each);
-  return {};
+void removeByIndex(AVDocument& document, const ObjectRef& object) {
+  EXPECT_EQ(object->strRemoveAllChilds(), "");
+  ObjectRef removed = object;
+  document.RemoveObject(removed);
 }
 
-Outcome removed(DocumentSession& session, const std::string& name, bool plainly) {
-  session.open(session.files.documentPath());
-  session.takeShown();
-  session.window.removedIcons.clear();
-  Outcome outcome;
-  ObjectRef object = session.object(name);
-  if (!object) return outcome;
-  const auto document = session.document();
+/// The plain rule: every object of the document is asked about each removed one.
+void removePlainly(AVDocument& document, const ObjectRef& object) {
+  for (ObjectRef removed : object->colSelSubTree()) document.RemoveObject(removed);
+}
+
+/// What is left after three removals from a generated document; nothing when it does not open.
+Texts stateAfter(DocumentSession& session, unsigned seed, Removal remove) {
+  std::mt19937 random(seed);
   try {
-    outcome.message = plainly ? removePlainly(*document, *object) : object->strRemoveAllChilds();
-    document->RemoveObject(object);
-  } catch (const RunTimeError& error) {
-    outcome.message = error.description();
+    EXPECT_EQ(session.open(session.files.documentPath()), "");
+  } catch (const RunTimeError&) {
+    return {};
   }
-  outcome.state = test::stateOf(*document);
-  outcome.icons = session.window.removedIcons;
-  outcome.files = document->colObjRemoved();
-  outcome.shown = session.takeShown();
-  EXPECT_TRUE(document->collObjects().checkConsistency());
-  return outcome;
+  AVDocument& document = *session.document();
+  for (int removals = 0; removals < 3; ++removals) {
+    const int last = static_cast<int>(document.collObjects().Count());
+    const ObjectRef object =
+        document.collObjects().Item(static_cast<std::size_t>(upTo(random, last - 1)) + 1);
+    if (object.get() == &document || object->className() == "MediaObject") continue;
+    remove(document, object);
+    EXPECT_TRUE(document.collObjects().checkConsistency());
+    EXPECT_TRUE(document.io()->checkConsistency(document.collObjects()));
+  }
+  Texts state = stateOf(document);
+  for (const std::string& guid : document.colObjRemoved()) state.push_back("removed " + guid);
+  for (const std::string& text : session.takeShown()) state.push_back("shown " + text);
+  for (const std::string& icon : session.window.removedIcons) state.push_back("icon " + icon);
+  return state;
 }
 
-TEST(Removal, OfAnySubTreeIsThatOfThePlainRule) {
-  for (unsigned seed = 1; seed <= 12; ++seed) {
+TEST(Removal, EqualsThePlainRuleOnGeneratedDocuments) {
+  for (unsigned seed = 1; seed <= 40 && !HasFailure(); ++seed) {
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     DocumentSession session;
-    const auto damage = seed % 2 ? test::Damage::none() : test::Damage::some(random);
-    const auto names = writeRandomDocument(session.files, random, damage);
-    for (std::size_t i = 0; i < names.size(); i += 1 + names.size() / 12) {
-      SCOPED_TRACE(names[i]);
-      const Outcome plain = removed(session, names[i], true);
-      const Outcome indexed = removed(session, names[i], false);
-      EXPECT_EQ(indexed.state, plain.state);
-      EXPECT_TRUE(indexed == plain);
-    }
+    writeRandomDocument(session.files, random,
+                        seed % 2 == 0 ? Damage::none() : Damage::some(random));
+    const Texts ours = stateAfter(session, seed, removeByIndex);
     session.close();
+    session.app.gNotFound.clear();
+    session.window.removedIcons.clear();
+    session.takeShown();
+    EXPECT_EQ(test::firstDifference(ours, stateAfter(session, seed, removePlainly)), "");
   }
+}
+
+TEST(Removal, TheLastChildLeavesTheFieldUnassignedAndAllItsFilesMarked) {
+  DocumentSession session;
+  session.files.smallLadder();
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  const std::shared_ptr<Version> version = session.version("version1");
+  version->setDDuration(60);
+  removeByIndex(*session.document(), version);
+  EXPECT_EQ(session.document()->secol().relationField("expressedby")->bValid(), false);
+  EXPECT_EQ(
+      session.document()->colObjRemoved(),
+      session.files.ids({"storage1", "media1", "video1", "audio1", "transcript1", "version1"}));
+  EXPECT_EQ(version->dDuration(), 0);
+  EXPECT_TRUE(session.document()->bSave());
+  EXPECT_EQ(session.folder.read("film.xml").find("ExpressedBy"), std::string::npos);
+  EXPECT_TRUE(session.document()->bSave());
+  EXPECT_EQ(session.document()->io()->colGUIDToRemove().size(), 12U);
+}
+
+TEST(Removal, ResetsTheDurationOnlyWithTheLastStorage) {
+  DocumentSession session;
+  session.files.smallLadder();
+  session.files.version("version1", {"media1", "media2"});
+  session.files.media("media2", {"storage2"});
+  session.files.storage("storage2", "other.mpg");
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  session.version("version1")->setDDuration(60);
+  removeByIndex(*session.document(), session.object("media1"));
+  EXPECT_EQ(session.version("version1")->dDuration(), 60);
+  removeByIndex(*session.document(), session.object("storage2"));
+  EXPECT_EQ(session.version("version1")->dDuration(), 0);
 }
 
 }  // namespace
