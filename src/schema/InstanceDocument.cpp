@@ -28,7 +28,9 @@ const std::string& InstanceDocument::shell() const {
 
 void InstanceDocument::setSchemaPath(const std::string& schemaPath) {
   const std::string name = strFileName(schemaPath);
-  const bool there = hasAttribute(shell(), "xmlns:xsi", kNamespace) &&
+  // In a comment the attributes would mean nothing.
+  const bool there = shell().find("<!--") == std::string::npos &&
+                     hasAttribute(shell(), "xmlns:xsi", kNamespace) &&
                      hasAttribute(shell(), "xsi:noNamespaceSchemaLocation", name);
   if (there) return;
   shell_ = std::make_shared<const std::string>(withRootAttributes(
