@@ -1,0 +1,127 @@
+#pragma once
+
+#include <QAction>
+#include <QTest>
+#include <QTreeView>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "app/ApplicationModule.h"
+#include "objects/AVDocument.h"
+#include "platform/MachineSettings.h"
+#include "platform/MediaGraph.h"
+#include "platform/UserSettings.h"
+#include "shell/Factory.h"
+#include "shell/Start.h"
+#include "shell/VideoForm.h"
+#include "shell/frmMain.h"
+#include "support/TemporaryFolder.h"
+#include "widgets/MainFormWindow.h"
+#include "widgets/ModalAnswer.h"
+#include "widgets/QtFormPresenter.h"
+#include "widgets/QtText.h"
+#include "widgets/QtUserInterface.h"
+#include "widgets/QtVideoForms.h"
+
+namespace velra::test {
+
+/// The whole program with its real windows and a clean user, over a copy of the sample.
+class Desktop {
+ public:
+  explicit Desktop(InterfaceLanguage language = InterfaceLanguage::Default)
+      : settings_(copySample(folder) / "machine.ini"),
+        app{ui_, MessageCatalogue(language), settings_, userSettings_} {
+    ui_.setMainWindow(&window);
+    presenter_.setMainWindow(&window);
+    rules.setDialogPresenter(&presenter_);
+    settings_.write(ApplicationModule::kMachineSection, "XSDPath", data() + "/schema/velra.xsd");
+    settings_.write(ApplicationModule::kMachineSection, "ThematicKeywordsPath",
+                    data() + "/ThematicKeywords.xml");
+  }
+  ~Desktop() {
+    rules.tvwMainTree.clear();
+    rules.tvwExpression.clear();
+    app.gAVDoc.reset();
+  }
+
+  std::string sample() const { return folder / "sample/lighthouse.xml"; }
+
+  void start(const std::string& commandLine) {
+    Main(app, rules, commandLine, {[this] { window.show(); }, [this] { window.showSplash(); }});
+  }
+
+  QTreeView& view(const char* name) {
+    auto* found = window.findChild<QTreeView*>(QLatin1String(name));
+    if (!found) qFatal("no tree %s", name);
+    found->expandAll();
+    return *found;
+  }
+  /// Clicks the first node of the text with the left button.
+  void click(const char* tree, const QString& text) {
+    QTreeView& trees = view(tree);
+    const QModelIndexList found =
+        trees.model()->match(trees.model()->index(0, 0), Qt::DisplayRole, text, 1,
+                             Qt::MatchExactly | Qt::MatchRecursive);
+    if (found.isEmpty()) qFatal("no node %s", qPrintable(text));
+    trees.scrollTo(found.front());
+    QTest::mouseClick(trees.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      trees.visualRect(found.front()).center());
+  }
+  QStringList texts(const char* tree) {
+    QStringList list;
+    QTreeView& trees = view(tree);
+    for (QModelIndex at = trees.model()->index(0, 0); at.isValid(); at = trees.indexBelow(at)) {
+      list << at.data().toString();
+    }
+    return list;
+  }
+  void trigger(const char* action) {
+    auto* found = window.findChild<QAction*>(QLatin1String(action));
+    if (!found || !found->isEnabled()) qFatal("no open entry %s", action);
+    found->trigger();
+  }
+
+  /// Keeps a picture of a window for the documents when VELRA_PICTURES names a folder.
+  static void keepPicture(QWidget& widget, const char* name) {
+    const QString folderName = qEnvironmentVariable("VELRA_PICTURES");
+    if (!folderName.isEmpty())
+      widget.grab().save(folderName + QLatin1Char('/') + QLatin1String(name));
+  }
+
+  TemporaryFolder folder;
+
+ private:
+  static std::string data() { return VELRA_SOURCE_DIR "/data"; }
+  static const TemporaryFolder& copySample(const TemporaryFolder& folder) {
+    std::filesystem::create_directories(folder / "sample");
+    for (const auto& entry : std::filesystem::directory_iterator(data() + "/sample")) {
+      const std::string name = entry.path().filename();
+      if (!name.starts_with("lighthouse")) continue;
+      std::filesystem::copy(entry.path(), folder / ("sample/" + name),
+                            std::filesystem::copy_options::recursive |
+                                std::filesystem::copy_options::overwrite_existing);
+    }
+    return folder;
+  }
+
+  QtUserInterface ui_;
+  MachineSettings settings_;
+  UserSettings userSettings_{folder / "user.ini"};
+
+ public:
+  ApplicationModule app;
+
+ private:
+  QtFormPresenter presenter_{app};
+  QtVideoForms videoForms_{app, [this](FormOwner& owner) { return presenter_.windowOf(owner); }};
+  VideoFormServices forExpressions_{app, makeMediaGraph, videoForms_};
+  Factory factory_{app, presenter_,
+                   [this] { return std::make_shared<VideoForm>(forExpressions_); }};
+
+ public:
+  frmMain rules{app};
+  MainFormWindow window{app, rules};
+};
+
+}  // namespace velra::test

@@ -1,0 +1,131 @@
+// A cataloguer's day in the real windows, by mouse and keyboard and the names of the controls.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QTabBar>
+
+#include "Desktop.h"
+#include "protocol/Expression.h"
+
+namespace velra::test {
+namespace {
+
+template <class Widget>
+Widget& child(QWidget& parent, const char* name) {
+  auto* found = parent.findChild<Widget*>(QLatin1String(name));
+  if (!found) qFatal("no control %s", name);
+  return *found;
+}
+
+void press(QWidget& window, const char* button) {
+  QTest::mouseClick(&child<QAbstractButton>(window, button), Qt::LeftButton);
+}
+
+/// Answers the next input box.
+void willType(const QString& text) {
+  whenModal([text](QWidget& box) {
+    auto& line = child<QLineEdit>(box, "txtInput");
+    QTest::keyClicks(&line, text);
+    QTest::keyClick(&line, Qt::Key_Return);
+  });
+}
+
+QWidget& boxWithCaption(QWidget& form, const QString& caption) {
+  for (QWidget* frame : form.findChildren<QWidget*>(QRegularExpression("^Frame1_"))) {
+    if (frame->property("title").toString() == caption) return *frame;
+  }
+  qFatal("no box %s", qPrintable(caption));
+}
+
+TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
+  Desktop desktop;
+  desktop.start(desktop.sample());
+  EXPECT_TRUE(desktop.window.isVisible());
+  EXPECT_EQ(desktop.texts("tvwMainTree").size(), 10);
+  desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
+  EXPECT_EQ(desktop.texts("tvwExpression").size(), 18);
+  desktop.window.resize(900, 620);
+  QTest::qWait(0);
+  Desktop::keepPicture(desktop.window, "main-window.png");
+
+  whenModal([](QWidget& form) {
+    Desktop::keepPicture(form, "metadata-form.png");
+    QWidget& frame = boxWithCaption(form, QStringLiteral("VersionTitle"));
+    auto* text = frame.findChild<QPlainTextEdit*>();
+    if (!text) text = &child<QPlainTextEdit>(form, "Text1_1");
+    text->selectAll();
+    QTest::keyClicks(text, QStringLiteral("Renamed version"));
+    press(form, "OKButt");
+  });
+  desktop.trigger("mnuEditMetadata");
+  EXPECT_TRUE(desktop.texts("tvwMainTree").contains(QStringLiteral("Renamed version")));
+
+  const auto before = desktop.folder.snapshot();
+  desktop.trigger("mnuFileSave");
+  for (const auto& [name, bytes] : desktop.folder.snapshot()) {
+    const bool theVersion = name == "sample/lighthouse_files/lighthouse_version1.xml";
+    EXPECT_EQ(bytes != before.at(name), theVersion) << name;
+  }
+}
+
+TEST(WorkingDay, SegmentsAreCutInTheToolAndFoundAgain) {
+  Desktop desktop;
+  desktop.start(desktop.sample());
+  desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
+  const QString mainAudio = desktop.texts("tvwExpression").at(8);
+  const int nodes = static_cast<int>(desktop.texts("tvwExpression").size());
+  desktop.click("tvwExpression", mainAudio);
+  whenModal([](QWidget& tool) {
+    auto& time = child<QLineEdit>(tool, "txtTime");
+    EXPECT_EQ(time.text(), QStringLiteral("00:00:00:00"));
+    for (int step = 0; step < 12; ++step) press(tool, "cmdForward");
+    EXPECT_EQ(time.text(), QStringLiteral("00:00:00:12"));
+    press(tool, "cmdRewind");
+    EXPECT_EQ(time.text(), QStringLiteral("00:00:00:11"));
+    press(tool, "cmdNext");  // the start or the end of the first segment
+    Desktop::keepPicture(tool, "expression-tool.png");
+    child<QTabBar>(tool, "TabStrip1").setCurrentIndex(1);
+    Desktop::keepPicture(tool, "expression-fields.png");
+    press(tool, "CancelButt");
+  });
+  desktop.trigger("mnuEditMetadata");
+
+  desktop.click("tvwExpression", QStringLiteral("The fog horn"));
+  whenModal([](QWidget& tool) {
+    whenModal([](QWidget& dialog) {
+      for (const auto& [name, seconds] : {std::pair{"ss1", "52"}, std::pair{"ss2", "55"}}) {
+        auto& box = child<QLineEdit>(dialog, name);
+        box.selectAll();
+        QTest::keyClicks(&box, QLatin1String(seconds));
+      }
+      willType(QStringLiteral("New segment"));
+      press(dialog, "OKButton");
+    });
+    press(tool, "cmdNew");
+    press(tool, "CancelButt");
+  });
+  desktop.trigger("mnuEditMetadata");
+  EXPECT_EQ(desktop.texts("tvwExpression").size(), nodes + 1);
+  desktop.trigger("mnuFileSave");
+  desktop.rules.OpenFile(desktop.sample());
+  desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
+  EXPECT_TRUE(desktop.texts("tvwExpression").contains(QStringLiteral("New segment")));
+}
+
+TEST(WorkingDay, TheInterfaceIsItalianForItalians) {
+  Desktop desktop(InterfaceLanguage::Italian);
+  desktop.start(desktop.sample());
+  const MessageCatalogue english(InterfaceLanguage::Default);
+  for (const auto& [name, id] : {std::pair{"mnuFileOpen", 1001}, std::pair{"mnuFileSave", 1080},
+                                 std::pair{"mnuEditMetadata", 1085}}) {
+    const QString text = desktop.window.findChild<QAction*>(QLatin1String(name))->text();
+    EXPECT_EQ(text, toQString(desktop.app.LoadResString(id)));
+    EXPECT_NE(text, toQString(english.text(id)));
+  }
+}
+
+}  // namespace
+}  // namespace velra::test
