@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "expressions/Transcript.h"
@@ -27,7 +28,9 @@ class Segments : public ::testing::Test {
     std::string text;
     for (int steps = 0; segment && steps < 20; ++steps) {
       const ExpressionRef next = segment->objFollowedBy();
-      EXPECT_EQ(segment->strFollowedBy(), next ? next->strGUID() : "") << segment->strTitle();
+      const std::string named = segment->strFollowedBy();
+      EXPECT_EQ(named.empty(), next == nullptr) << segment->strTitle();
+      EXPECT_TRUE(!next || bSamePath(named, next->strGUID())) << named;
       text += segment->strTitle();
       segment = next;
     }

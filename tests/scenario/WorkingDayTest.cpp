@@ -46,7 +46,7 @@ TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
   EXPECT_TRUE(desktop.window.isVisible());
   EXPECT_EQ(desktop.texts("tvwMainTree").size(), 10);
   desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
-  EXPECT_EQ(desktop.texts("tvwExpression").size(), 18);
+  EXPECT_EQ(desktop.texts("tvwExpression").size(), 19);
   desktop.window.resize(900, 620);
   QTest::qWait(0);
   Desktop::keepPicture(desktop.window, "main-window.png");

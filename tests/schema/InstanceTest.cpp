@@ -117,7 +117,7 @@ TEST_F(InstanceTest, ReadsAndWritesEachType) {
       {"<set><x>1</x></set><set/>", "<set/>"},
       {"<g><x>a.xml</x></g>", "<g><GUID>a.xml</GUID></g>"},
       {"<g/>", ""},
-      {"<c start='1500' end='2000.5'>f</c>", "<c start=\"1500\" end=\"2000\" reasons=\"0\">f</c>"},
+      {"<c start='1500' end='2.5'>f</c>", "<c start=\"1500\" end=\"2\" reasons=\"0\">f</c>"},
       {"<c end='0.5' start=' 2.5 '/>", "<c start=\"2\" end=\"0\" reasons=\"0\"/>"},
       {"<c start='3.5' end='-1.5'/>", "<c start=\"4\" end=\"-2\" reasons=\"0\"/>"},
       {"<c start='1'>f</c>", ""},
