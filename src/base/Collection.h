@@ -52,6 +52,9 @@ class Collection {
     return std::find(keys_.begin(), keys_.end(), key) != keys_.end();
   }
 
+  /// Makes room for a known number of members at once.
+  void reserve(std::size_t count) { members_.reserve(count); }
+
   void clear() {
     members_.clear();
     keys_.clear();

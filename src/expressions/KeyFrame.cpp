@@ -61,6 +61,12 @@ void KeyFrame::SetKeyFrameTime(double seconds) {
   field->setBValid(true);
 }
 
+std::string KeyFrame::strFile() const {
+  const SchemaElement* field = assignedField(video_.secol());
+  const auto chunk = field ? asChunk(field->vContent()) : nullptr;
+  return chunk ? chunk->strFile : std::string();
+}
+
 void KeyFrame::InitKeyFrameFile() {
   SchemaElement* field = assignedField(video_.secol());
   const auto chunk = field ? asChunk(field->vContent()) : nullptr;

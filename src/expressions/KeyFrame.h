@@ -26,6 +26,9 @@ class KeyFrame {
   double dGetKeyFrameTime() const;
   void SetKeyFrameTime(double seconds);
 
+  /// The path of the picture; "" when there is none.
+  std::string strFile() const;
+
   /// Makes the object of the picture, and the picture itself from the movie if there is none yet.
   void InitKeyFrameFile();
 

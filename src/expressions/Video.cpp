@@ -31,7 +31,10 @@ Video::Video(ApplicationModule& app)
           {"hasvideotranscript", "hasaudio", "versionguid", "followedbyvideo", "partofvideo"}),
       keyFrame_(app, *this) {}
 
-Video::~Video() = default;
+Video::~Video() {
+  const auto& picture = keyFrame_.objKeyframeObject();
+  if (picture) picture->ownerGoes(keyFrame_.strFile());
+}
 
 double Video::dFrameRate() const {
   const SchemaElement* field = secol().field(kFrameRateField);

@@ -47,7 +47,6 @@ void MediaObject::strInit(const ObjectRef& objOwner) {
   objOwner_ = objOwner;
   ownedByVideo_ = objOwner->className() == "Video";
   const std::string guid = strGUID();
-  lastGUID_ = guid;
   if (io_->bFileSystem() && !guid.empty()) strTypeOfObject_ = strExtension(guid);
   if (listener_) listener_->identifierChanged(*this);
 }
@@ -81,7 +80,6 @@ void MediaObject::setStrGUID(const std::string& guid) {
 }
 
 void MediaObject::ownerFieldChanged() {
-  lastGUID_ = strGUID();
   if (listener_) listener_->identifierChanged(*this);
 }
 

@@ -21,6 +21,8 @@ class MediaObject : public virtual DescribedObject {
   static constexpr const char* kStorageField = "Collocation";
   static constexpr const char* kVideoField = "Keyframe";
   void ownerFieldChanged();
+  /// The owner goes; what it said last stays, since the file must still be found.
+  void ownerGoes(const std::string& lastGUID) { lastGUID_ = lastGUID; }
 
   /// Makes one and registers it with the open document, if there is one.
   static std::shared_ptr<MediaObject> create(ApplicationModule& app);
@@ -85,7 +87,7 @@ class MediaObject : public virtual DescribedObject {
   bool bChanged_ = false;
   std::string strTypeOfObject_;
   std::string strSchemaPath_;
-  std::string lastGUID_;  // what the owner said last; its file must still be found when it has gone
+  std::string lastGUID_;  // of an owner that has gone
   IdentifierListener* listener_ = nullptr;
 };
 

@@ -10,7 +10,9 @@ namespace velra {
 
 Storage::Storage(ApplicationModule& app) : ObjectBase(app, "Storage") {}
 
-Storage::~Storage() = default;
+Storage::~Storage() {
+  if (objMediaObject_) objMediaObject_->ownerGoes(strGetCollocation());
+}
 
 void Storage::makeMediaObject() {
   objMediaObject_ = MediaObject::create(app());

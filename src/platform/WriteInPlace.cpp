@@ -95,7 +95,8 @@ int writeInPlace(const std::string& path, std::string_view bytes) {
   bool isNew = false;
   FileHandle file = openForWriting(path, isNew);
   if (!file) return errno;
-  int error = replaceContent(file, bytes);
+  // A new file holds nothing to protect: what goes wrong removes it again.
+  int error = isNew ? writeAt(file, bytes, 0) : replaceContent(file, bytes);
   const int closeError = file.close();
   if (!error) error = closeError;
   if (error && isNew) ::unlink(path.c_str());

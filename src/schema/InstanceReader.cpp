@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/XmlDocument.h"
+#include "schema/SEColl.h"
 #include "schema/SchemaElement.h"
 #include "schema/SchemaFile.h"
 
@@ -76,6 +77,7 @@ void readChunk(const XmlNode& node, SchemaElement& element) {
 
 void readWords(const XmlNode& node, SchemaElement& element) {
   auto words = std::make_shared<WordColl>();
+  words->reserve(static_cast<std::size_t>(iChildElements(node)));
   for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
     const Times times = timesOf(item);
     if (times.complete()) words->Add("", "", *times.start, *times.end, item.text());

@@ -153,7 +153,11 @@ std::optional<LoadedFields> FolderScan::takeFields(const std::string& name,
 }
 
 void FolderScan::endOpening() {
+  // What a loaded object answers need not be kept beside it.
+  std::erase_if(files_, [](const ScannedFile& file) { return !file.known; });
+  files_.shrink_to_fit();
   for (ScannedFile& file : files_) file.fields.reset();
+  index();
   byRelation_.clear();
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -15,19 +16,19 @@ ObjectRegistry::~ObjectRegistry() {
 void ObjectRegistry::Add(const ObjectRef& object) {
   rekeyAfterFolderChange();
   if (places_.contains(object.get())) return;
-  const Place place{next_++, strAbsolutePath(object->strGUID())};
-  objects_.emplace_hint(objects_.end(), place.number, object);
-  byKey_.emplace(place.key, place.number);
-  places_.emplace(object.get(), place);
+  const std::uint64_t number = next_++;
+  objects_.emplace_hint(objects_.end(), number, object);
+  places_.emplace(object.get(), indexed(number, strAbsolutePath(object->strGUID())));
   object->setIdentifierListener(this);
   references_.added(*object);
-  if (object->bChanged()) changed_.insert(place.number);
+  if (object->bChanged()) changed_.insert(number);
 }
 
 bool ObjectRegistry::Remove(const DescribedObject& object) {
   const auto at = places_.find(&object);
   if (at == places_.end()) return false;
   const Place place = at->second;
+  const std::string key = place.key();
   places_.erase(at);
   unindex(place);
   changed_.erase(place.number);
@@ -36,7 +37,7 @@ bool ObjectRegistry::Remove(const DescribedObject& object) {
   const ObjectRef kept = entry->second;  // its end must not meet a half-changed list
   objects_.erase(entry);
   kept->setIdentifierListener(nullptr);
-  tellFreed(place.key);
+  tellFreed(key);
   return true;
 }
 
@@ -107,11 +108,15 @@ void ObjectRegistry::identifierChanged(const DescribedObject& object) {
   const auto at = places_.find(&object);
   if (at == places_.end()) return;
   std::string key = strAbsolutePath(object.strGUID());
-  if (key == at->second.key) return;
+  const std::string old = at->second.key();
+  if (key == old) return;
   unindex(at->second);
-  byKey_.emplace(key, at->second.number);
-  const std::string old = std::exchange(at->second.key, std::move(key));
+  at->second = indexed(at->second.number, std::move(key));
   tellFreed(old);
+}
+
+ObjectRegistry::Place ObjectRegistry::indexed(std::uint64_t number, std::string key) {
+  return {number, &*byKey_.emplace(std::move(key), number)};
 }
 
 void ObjectRegistry::tellFreed(const std::string& key) const {
@@ -119,23 +124,20 @@ void ObjectRegistry::tellFreed(const std::string& key) const {
 }
 
 void ObjectRegistry::unindex(const Place& place) {
-  const auto [first, last] = byKey_.equal_range(place.key);
-  for (auto at = first; at != last; ++at) {
-    if (at->second != place.number) continue;
-    byKey_.erase(at);
-    return;
-  }
+  const auto [first, last] = byKey_.equal_range(place.key());
+  const auto at = std::find_if(
+      first, last, [&](const Keys::value_type& entry) { return &entry == place.entry; });
+  if (at != last) byKey_.erase(at);
 }
 
 void ObjectRegistry::rekeyAfterFolderChange() {
   if (folderGeneration_ == currentFolderGeneration()) return;
   folderGeneration_ = currentFolderGeneration();
-  byKey_.clear();
+  const Keys before = std::exchange(byKey_, {});
   for (auto& [object, place] : places_) {
-    std::string key = strAbsolutePath(object->strGUID());
-    byKey_.emplace(key, place.number);
-    key.swap(place.key);
-    if (key != place.key) tellFreed(key);
+    const std::string& old = place.key();
+    place = indexed(place.number, strAbsolutePath(object->strGUID()));
+    if (place.key() != old) tellFreed(old);
   }
 }
 
@@ -156,8 +158,8 @@ bool ObjectRegistry::checkConsistency() const {
     const auto place = places_.find(object.get());
     if (place == places_.end() || place->second.number != number) return false;
     const bool fresh = folderGeneration_ == currentFolderGeneration();
-    if (fresh && place->second.key != strAbsolutePath(object->strGUID())) return false;
-    const auto [first, last] = byKey_.equal_range(place->second.key);
+    if (fresh && place->second.key() != strAbsolutePath(object->strGUID())) return false;
+    const auto [first, last] = byKey_.equal_range(place->second.key());
     bool indexed = false;
     for (auto at = first; at != last; ++at) indexed = indexed || at->second == number;
     if (!indexed || (object->bChanged() && !changed_.contains(number))) return false;

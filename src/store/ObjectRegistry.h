@@ -67,22 +67,27 @@ class ObjectRegistry : private IdentifierListener {
   bool checkConsistency() const;
 
  private:
+  using Keys = std::unordered_multimap<std::string, std::uint64_t>;
+
   struct Place {
     std::uint64_t number = 0;
-    std::string key;  // normal form of the identifier
+    const Keys::value_type* entry = nullptr;  // in byKey_, whose entries stay where they are
+
+    const std::string& key() const { return entry->first; }
   };
 
   void identifierChanged(const DescribedObject& object) override;
   void referencesChanged(const DescribedObject& object) override;
   void markedChanged(const DescribedObject& object) override;
   void rekeyAfterFolderChange();
+  Place indexed(std::uint64_t number, std::string key);
   void unindex(const Place& place);
   void tellFreed(const std::string& key) const;
   const ObjectRef* firstWithKey(const std::string& key, std::uint64_t& number) const;
 
   Sequence objects_;
   std::unordered_map<const DescribedObject*, Place> places_;
-  std::unordered_multimap<std::string, std::uint64_t> byKey_;
+  Keys byKey_;                       // by the normal form of the identifier
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   ReferenceIndex references_{*this};
   std::uint64_t next_ = 1;
