@@ -94,6 +94,10 @@ TEST_F(WriteInPlace, AFailedReservationTouchesNothing) {
   disk.reserveError = ENOSPC;
   EXPECT_EQ(writeFileInPlace(folder_ / "film.xml", "longer than before"), systemReason(ENOSPC));
   EXPECT_EQ(fileStamp(folder_ / "film.xml"), before);
+}
+
+TEST_F(WriteInPlace, ANewFileThatFailsLeavesNoFile) {
+  disk.room = 2;
   EXPECT_EQ(writeFileInPlace(folder_ / "new.xml", "text"), systemReason(ENOSPC));
   EXPECT_FALSE(bFileExists(folder_ / "new.xml")) << "no empty file stays behind";
 }
