@@ -66,5 +66,5 @@ function(velra_tests folder)
     velra_${folder}_tests
     TEST_PREFIX ${folder}.
     DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT 300)
+    PROPERTIES TIMEOUT 120)
 endfunction()
