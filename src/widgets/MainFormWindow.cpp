@@ -85,6 +85,8 @@ void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {
 void MainFormWindow::showSplash() {
   splash_ = new SplashWindow(app_, this);
   splash_->show();
+  // A box before it, about the vocabulary, may have stood longer than that.
+  if (!timer1_.isActive()) timer1_.start(kSplashMilliseconds);
   // Drawn before the work that may follow at once.
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

@@ -59,7 +59,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   MainPanes* panes_ = nullptr;
   MainStatusBar* sbStatusBar_ = nullptr;
   QPointer<SplashWindow> splash_;
-  QTimer timer1_;
+  QTimer timer1_{this};
   QPoint menuPosition_;
 };
 

@@ -14,6 +14,8 @@ namespace velra {
 
 namespace {
 
+constexpr qreal kPlateCorner = 3;
+
 QImage readPicture(const Picture& picture, const QSize& size) {
   if (picture.empty()) return {};
   QImageReader reader(pathToQString(picture.path));
@@ -21,18 +23,35 @@ QImage readPicture(const Picture& picture, const QSize& size) {
   return reader.read();
 }
 
-// One size for all, so that the texts of a level stand in one line; and the same picture for a
-// selected row, which a toolkit's tint would make unreadable.
-QIcon drawn(const std::function<void(QPainter&, const QRect&)>& draw) {
+using Draw = std::function<void(QPainter&, const QRect&)>;
+
+// One size for all, so that the texts of a level stand in one line.
+QPixmap drawn(const Draw& draw) {
   const qreal ratio = qGuiApp->devicePixelRatio();
   QPixmap pixmap((QSizeF(TreeIconPainter::iconSize()) * ratio).toSize());
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   draw(painter, QRect(QPoint(), TreeIconPainter::iconSize()));
-  painter.end();
-  QIcon icon(pixmap);
-  icon.addPixmap(pixmap, QIcon::Selected);
+  return pixmap;
+}
+
+// A light plate, on which an icon's own colours can be seen over the colour of a selected row.
+void drawPlate(QPainter& painter, const QRect& whole) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(255, 255, 255, 225));
+  painter.drawRoundedRect(whole, kPlateCorner, kPlateCorner);
+}
+
+// The second picture is for a selected row, which a toolkit's tint would make unreadable.
+QIcon iconOf(const Draw& draw, bool plate) {
+  QIcon icon(drawn(draw));
+  icon.addPixmap(drawn([&](QPainter& painter, const QRect& whole) {
+                   if (plate) drawPlate(painter, whole);
+                   draw(painter, whole);
+                 }),
+                 QIcon::Selected);
   return icon;
 }
 
@@ -49,20 +68,22 @@ QIcon TreeIconPainter::icon(const std::string& key) {
 }
 
 QIcon TreeIconPainter::namedIcon(const QString& name) {
-  return drawn(
-      [&](QPainter& painter, const QRect& whole) { ownIcon(name).paint(&painter, whole); });
+  return iconOf(
+      [&](QPainter& painter, const QRect& whole) { ownIcon(name).paint(&painter, whole); }, true);
 }
 
 QIcon TreeIconPainter::keyFrameIcon(const Picture& picture) {
-  return drawn([&](QPainter& painter, const QRect& whole) {
-    const QImage image = readPicture(picture, whole.size() * qGuiApp->devicePixelRatio());
-    if (image.isNull()) {
-      ownIcon(QStringLiteral("Video")).paint(&painter, whole);
-    } else {
-      painter.drawImage(whole, image);
-    }
-    QSvgRenderer(ownIconPath(QStringLiteral("RedFrame"))).render(&painter, whole);
-  });
+  const QImage image = readPicture(picture, iconSize() * qGuiApp->devicePixelRatio());
+  return iconOf(
+      [&](QPainter& painter, const QRect& whole) {
+        if (image.isNull()) {
+          ownIcon(QStringLiteral("Video")).paint(&painter, whole);
+        } else {
+          painter.drawImage(whole, image);
+        }
+        QSvgRenderer(ownIconPath(QStringLiteral("RedFrame"))).render(&painter, whole);
+      },
+      image.isNull());
 }
 
 }  // namespace velra

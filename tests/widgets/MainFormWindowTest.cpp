@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 
 #include "app/ApplicationModule.h"
@@ -112,6 +113,15 @@ TEST_F(MainFormWindowTest, ClosingTakesAllWindowsAlongAndKeepsThePlace) {
   EXPECT_FALSE(window.isVisible());
   EXPECT_FALSE(other.isVisible());
   EXPECT_EQ(userSettings.read("Settings", "ViewMode", ""), "velra");
+}
+
+TEST_F(MainFormWindowTest, ASplashThatComesLateGoesAllTheSame) {
+  auto* timer = window.findChild<QTimer*>(QStringLiteral("Timer1"));
+  timer->stop();  // as after its tick
+  window.showSplash();
+  timer->setInterval(0);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return window.findChild<QWidget*>(QStringLiteral("frmSplash")) == nullptr; }));
 }
 
 TEST_F(MainFormWindowTest, TheToolBarsPlaceIsGivenToThePanes) {
