@@ -50,6 +50,7 @@ void MoviePlayer::beginPlay() {
   ++generation_;
   playing_ = true;
   shownSinceRun_ = false;
+  sought_.reset();  // else its picture would come after the next halt, over the one shown then
   ahead_.clear();
   lastAhead_.reset();
   allAhead_ = source_ == nullptr;
