@@ -114,6 +114,7 @@ bool AVDocument::bSave() {
 
 void AVDocument::markRemovedFiles() {
   for (const std::string& guid : colObjRemoved_) io()->RemoveGUID(guid);
+  io()->keepFilesOf(collObjects_);
 }
 
 bool AVDocument::bSaveAs(const std::string& strAVDocPathName) {
@@ -124,6 +125,7 @@ bool AVDocument::bSaveAs(const std::string& strAVDocPathName) {
   setStrSchemaPath(app().strXSDPath());
   setStrGUID(strAVDocPathName);
   const bool saved = secol().bSaveAs(domDoc(), strAVDocPathName, *io());
+  io()->keepFilesOf(collObjects_);
   const std::string failure = io()->strFlush();
   if (!failure.empty()) app().ui.messageBox(failure, BoxKind::Exclamation);
   return saved;

@@ -41,6 +41,15 @@ void IOManager::RemoveGUID(const std::string& strGUIDToRemove) {
   colGUIDToRemove_.push_back(strGUIDToRemove);
 }
 
+void IOManager::keepFilesOf(ObjectRegistry& collObjects) {
+  // The picture of a removed segment stays registered; its file is there, so its number is not
+  // free.
+  std::erase_if(colGUIDToRemove_, [&](const std::string& guid) {
+    const ObjectRef object = collObjects.find(guid);
+    return object && object->className() != "MediaObject";
+  });
+}
+
 std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, const DescribedObject& objNew,
                                      const std::string& strAVDocPathName) {
   return strCreateGUID(collObjects, objNew.className(), "xml", strAVDocPathName);

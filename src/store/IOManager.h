@@ -37,6 +37,9 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   std::string strHTTP() const { return {}; }
 
   void RemoveGUID(const std::string& strGUIDToRemove);
+  /// Takes the identifiers of living objects from the list: numbers are used again, so a new object
+  /// may have that of a removed one which was never saved.
+  void keepFilesOf(ObjectRegistry& collObjects);
 
   /// The path of a new object's file in the layout of the document; the data folder is made when it
   /// is missing. A failure of that comes back in place of the path.

@@ -36,6 +36,12 @@ class Segments : public ::testing::Test {
     }
     return text;
   }
+  void reopen() {
+    main_.reset();
+    session_.close();
+    ASSERT_EQ(session_.open(session_.files.documentPath()), "");
+    main_ = session_.expression("audio1");
+  }
   ExpressionRef titled(const std::string& title) const {
     for (const ExpressionRef& segment : main_->colSubExpressions()) {
       if (segment->strTitle() == title) return segment;
@@ -123,6 +129,25 @@ TEST_F(Segments, ComeBackFromTheirFilesInTheSameChain) {
   ASSERT_EQ(titled("a")->colSubExpressions().size(), 1U);
   EXPECT_EQ(titled("a")->colSubExpressions()[0]->objMainExpr(), titled("a"));
   EXPECT_EQ(session_.version("version1")->auMainAudio(), main_);
+}
+
+// A number is free again as soon as a segment that was never saved is removed.
+TEST_F(Segments, StayWhenTheyHaveTheNumberOfARemovedOne) {
+  for (const bool savedBetween : {false, true}) {
+    main_->AddSubExpression("first", 0, 10);
+    const std::string file = titled("first")->strGUID();
+    main_->RemoveSubExpressionByPointer(titled("first"));
+    if (savedBetween) session_.document()->bSave();
+    main_->AddSubExpression("second", 0, 10);
+    ASSERT_EQ(titled("second")->strGUID(), file);
+    EXPECT_TRUE(session_.document()->bSave());
+    reopen();
+    ASSERT_TRUE(titled("second"));
+    main_->RemoveSubExpressionByPointer(titled("second"));
+    EXPECT_TRUE(session_.document()->bSave());
+    reopen();
+    EXPECT_FALSE(titled("second"));
+  }
 }
 
 TEST_F(Segments, ForgetARemovedVersion) {
