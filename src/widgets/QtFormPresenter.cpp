@@ -44,8 +44,9 @@ void QtFormPresenter::showConnectionDialog(FormOwner& owner, ConnectionDialog& d
 QWidget* QtFormPresenter::windowOf(FormOwner& owner) const {
   if (auto* widget = dynamic_cast<QWidget*>(&owner)) return widget->window();
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  if (QWidget* active = QApplication::activeWindow()) return active;
-  return mainWindow_;
+  // A form over the splash window would go with it.
+  QWidget* active = QApplication::activeWindow();
+  return active && active->windowType() != Qt::SplashScreen ? active : mainWindow_.data();
 }
 
 void QtFormPresenter::showModally(QDialog& window) {
