@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QTest>
 #include <QTreeView>
 #include <filesystem>
@@ -12,6 +13,7 @@
 #include "platform/MachineSettings.h"
 #include "platform/MediaGraph.h"
 #include "platform/UserSettings.h"
+#include "scenario/Hands.h"
 #include "shell/Factory.h"
 #include "shell/Start.h"
 #include "shell/VideoForm.h"
@@ -26,11 +28,30 @@
 
 namespace velra::test {
 
-/// The whole program with its real windows and a clean user, over a copy of the sample.
+/// A copy of the sample, in a folder of its own.
+class SampleFolder : public TemporaryFolder {
+ public:
+  SampleFolder() {
+    std::filesystem::create_directories(*this / "sample");
+    for (const auto& entry : std::filesystem::directory_iterator(VELRA_SOURCE_DIR "/data/sample")) {
+      const std::string name = entry.path().filename();
+      if (!name.starts_with("lighthouse")) continue;
+      std::filesystem::copy(entry.path(), *this / ("sample/" + name),
+                            std::filesystem::copy_options::recursive);
+    }
+  }
+};
+
+/// One run of the whole program with its real windows, over a copy of the sample.
 class Desktop {
  public:
   explicit Desktop(InterfaceLanguage language = InterfaceLanguage::Default)
-      : settings_(copySample(folder) / "machine.ini"),
+      : Desktop(std::make_shared<SampleFolder>(), language) {}
+  /// A further run over a folder that an earlier one has worked in.
+  explicit Desktop(std::shared_ptr<const SampleFolder> worked,
+                   InterfaceLanguage language = InterfaceLanguage::Default)
+      : folder_(std::move(worked)),
+        settings_(folder / "machine.ini"),
         app{ui_, MessageCatalogue(language), settings_, userSettings_} {
     ui_.setMainWindow(&window);
     presenter_.setMainWindow(&window);
@@ -68,6 +89,16 @@ class Desktop {
     QTest::mouseClick(trees.viewport(), Qt::LeftButton, Qt::NoModifier,
                       trees.visualRect(found.front()).center());
   }
+  /// Opens the context menu of a node as the right button does, and chooses an entry.
+  void chooseFromMenu(const char* tree, const QString& text, const char* action) {
+    click(tree, text);
+    QTreeView& trees = view(tree);
+    const QPoint place = trees.visualRect(trees.currentIndex()).center();
+    QWidget& viewport = *trees.viewport();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, viewport.mapToGlobal(place));
+    QCoreApplication::sendEvent(&viewport, &event);
+    choose(action);
+  }
   QStringList texts(const char* tree) {
     QStringList list;
     QTreeView& trees = view(tree);
@@ -89,21 +120,16 @@ class Desktop {
       widget.grab().save(folderName + QLatin1Char('/') + QLatin1String(name));
   }
 
-  TemporaryFolder folder;
+  std::shared_ptr<const SampleFolder> sharedFolder() const { return folder_; }
+
+ private:
+  std::shared_ptr<const SampleFolder> folder_;
+
+ public:
+  const SampleFolder& folder = *folder_;
 
  private:
   static std::string data() { return VELRA_SOURCE_DIR "/data"; }
-  static const TemporaryFolder& copySample(const TemporaryFolder& folder) {
-    std::filesystem::create_directories(folder / "sample");
-    for (const auto& entry : std::filesystem::directory_iterator(data() + "/sample")) {
-      const std::string name = entry.path().filename();
-      if (!name.starts_with("lighthouse")) continue;
-      std::filesystem::copy(entry.path(), folder / ("sample/" + name),
-                            std::filesystem::copy_options::recursive |
-                                std::filesystem::copy_options::overwrite_existing);
-    }
-    return folder;
-  }
 
   QtUserInterface ui_;
   MachineSettings settings_;

@@ -1,43 +1,15 @@
 // A cataloguer's day in the real windows, by mouse and keyboard and the names of the controls.
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRegularExpression>
 
-#include "Desktop.h"
 #include "protocol/Expression.h"
+#include "scenario/Desktop.h"
+#include "scenario/Hands.h"
 
 namespace velra::test {
 namespace {
-
-template <class Widget>
-Widget& child(QWidget& parent, const char* name) {
-  auto* found = parent.findChild<Widget*>(QLatin1String(name));
-  if (!found) qFatal("no control %s", name);
-  return *found;
-}
-
-void press(QWidget& window, const char* button) {
-  QTest::mouseClick(&child<QAbstractButton>(window, button), Qt::LeftButton);
-}
-
-/// Answers the next input box.
-void willType(const QString& text) {
-  whenModal([text](QWidget& box) {
-    auto& line = child<QLineEdit>(box, "txtInput");
-    QTest::keyClicks(&line, text);
-    QTest::keyClick(&line, Qt::Key_Return);
-  });
-}
-
-QWidget& boxWithCaption(QWidget& form, const QString& caption) {
-  for (QWidget* frame : form.findChildren<QWidget*>(QRegularExpression("^Frame1_"))) {
-    if (frame->property("title").toString() == caption) return *frame;
-  }
-  qFatal("no box %s", qPrintable(caption));
-}
 
 TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
   Desktop desktop;
@@ -52,9 +24,7 @@ TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
 
   whenModal([](QWidget& form) {
     Desktop::keepPicture(form, "metadata-form.png");
-    QWidget& frame = boxWithCaption(form, QStringLiteral("VersionTitle"));
-    auto* text = frame.findChild<QPlainTextEdit*>();
-    if (!text) text = &child<QPlainTextEdit>(form, "Text1_1");
+    QPlainTextEdit* text = &textOf(form, QStringLiteral("VersionTitle"));
     text->selectAll();
     QTest::keyClicks(text, QStringLiteral("Renamed version"));
     press(form, "OKButt");
@@ -78,7 +48,7 @@ TEST(WorkingDay, SegmentsAreCutInTheToolAndFoundAgain) {
   const int nodes = static_cast<int>(desktop.texts("tvwExpression").size());
   desktop.click("tvwExpression", mainAudio);
   whenModal([](QWidget& tool) {
-    auto& time = child<QLineEdit>(tool, "txtTime");
+    auto& time = control<QLineEdit>(tool, "txtTime");
     EXPECT_EQ(time.text(), QStringLiteral("00:00:00:00"));
     for (int step = 0; step < 12; ++step) press(tool, "cmdForward");
     EXPECT_EQ(time.text(), QStringLiteral("00:00:00:12"));
@@ -94,7 +64,7 @@ TEST(WorkingDay, SegmentsAreCutInTheToolAndFoundAgain) {
   whenModal([](QWidget& tool) {
     whenModal([](QWidget& dialog) {
       for (const auto& [name, seconds] : {std::pair{"ss1", "52"}, std::pair{"ss2", "55"}}) {
-        auto& box = child<QLineEdit>(dialog, name);
+        auto& box = control<QLineEdit>(dialog, name);
         box.selectAll();
         QTest::keyClicks(&box, QLatin1String(seconds));
       }
