@@ -71,11 +71,11 @@ int run(const std::string& commandLine) {
 
 int main(int argc, char** argv) {
   mallopt(M_TRIM_THRESHOLD, kKeptMemory);
-  const std::string startFolder = velra::currentFolder();
   GuardedApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("velra"));
   QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
   int status = 1;
-  application.guarded([&] { status = run(commandLineOf(argc - 1, argv + 1, startFolder)); });
+  application.guarded(
+      [&] { status = run(commandLineOf(argc - 1, argv + 1, velra::currentFolder())); });
   return status;
 }

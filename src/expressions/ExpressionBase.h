@@ -87,7 +87,7 @@ class ExpressionBase : public ObjectBase, public Expression {
   void ClearPartOf(const std::string& guid);
   void renameManifestations(const std::string& oldGUID, const std::string& newGUID);
   void forgetExpression(DescribedObject& removed);
-  void removeSegment(const ExpressionRef& segment);
+  void removeSegment(ExpressionRef segment);  // a copy: the caller's may stand in the list
 
   const std::vector<std::string> renamedFields_;  // lower-cased
   ExpressionList colSubExpressions_;

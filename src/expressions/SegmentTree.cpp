@@ -38,7 +38,7 @@ void ExpressionBase::LinkFollowers() {
 }
 
 std::shared_ptr<ExpressionBase> ExpressionBase::makeSegment(const std::string& title) {
-  const auto segment =
+  auto segment =
       std::dynamic_pointer_cast<ExpressionBase>(app().objectFactory->createExpression(className()));
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *segment, document().strGUID());
@@ -172,26 +172,24 @@ void ExpressionBase::forgetExpression(DescribedObject& removed) {
   ClearPartOf(removed.strGUID());
 }
 
-void ExpressionBase::removeSegment(const ExpressionRef& segment) {
+void ExpressionBase::removeSegment(ExpressionRef segment) {
   const std::string message = segment->strRemoveAllChilds();
   if (!message.empty()) {
     app().ui.messageBox(message);
     return;
   }
-  ObjectRef object = segment;
+  ObjectRef object = std::move(segment);
   document().RemoveObject(object);
 }
 
 void ExpressionBase::RemoveSubExpressionByIndex(std::size_t position) {
   if (position < 1 || position > colSubExpressions_.size()) raise(kSubscriptOutOfRange);
-  const ExpressionRef segment = colSubExpressions_[position - 1];
-  removeSegment(segment);
+  removeSegment(colSubExpressions_[position - 1]);
 }
 
 void ExpressionBase::RemoveSubExpressionByPointer(const ExpressionRef& segment) {
   if (!segment) raise(kNoObject);
-  const ExpressionRef kept = segment;
-  removeSegment(kept);
+  removeSegment(segment);
 }
 
 }  // namespace velra

@@ -108,7 +108,7 @@ std::string ObjectBase::loadFields(const std::string& guid) {
   }
   auto fields =
       std::make_unique<SEColl>(app_, document().schemas(), document().collCloseListTypes());
-  const std::string message = fields->strLoad(domDoc_, guid, domSchema_, *io_, rules_.className);
+  std::string message = fields->strLoad(domDoc_, guid, domSchema_, *io_, rules_.className);
   if (message.empty()) secol_ = std::move(fields);
   return message;
 }

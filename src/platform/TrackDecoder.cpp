@@ -36,6 +36,7 @@ AvFrame TrackDecoder::next(MovieInput& input) {
     if (error == 0) return frame;
     if (error == AVERROR_EOF || input.cancelled()) return nullptr;
     if (error == AVERROR(EAGAIN)) {
+      if (draining_) return nullptr;  // it was told the end and wants more: there is no more
       feed(input);
     } else {
       ++bad;  // a damaged picture: the next one may be good
