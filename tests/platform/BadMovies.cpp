@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <random>
 
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 
 namespace velra::test {
 

@@ -6,7 +6,7 @@
 
 #include "base/RunTimeError.h"
 #include "platform/BadMovies.h"
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {

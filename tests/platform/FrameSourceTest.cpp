@@ -5,7 +5,7 @@
 #include <cmath>
 #include <random>
 
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 #include "platform/PictureConverter.h"
 
 namespace velra {

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "platform/BadMovies.h"
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 #include "platform/PlayedMovie.h"
 
 namespace velra {

@@ -6,7 +6,7 @@
 
 #include "platform/BadMovies.h"
 #include "platform/FrameSource.h"
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 
 namespace velra {
 namespace {

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <cstdlib>
 
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 
 namespace velra::test {
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "platform/FrameSource.h"
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 
 namespace velra {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/NumberedMovie.h"
+#include "support/NumberedMovie.h"
 
 namespace velra::test {
 
