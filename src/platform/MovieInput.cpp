@@ -78,7 +78,7 @@ std::string MovieInput::openFormat() {
   format->interrupt_callback = {&MovieInput::interrupted, this};
   setWhiteLists(*format);
   // A program stream has no table of its tracks, and the library would read seven seconds of it.
-  format->max_analyze_duration = 2 * AV_TIME_BASE;
+  format->max_analyze_duration = std::int64_t{2} * AV_TIME_BASE;
   const std::string url = "file:" + path_;  // a colon in a path is no protocol
   if (const int error = avformat_open_input(&format, url.c_str(), nullptr, nullptr); error < 0) {
     return sentenceFor(error);

@@ -78,7 +78,7 @@ std::string SchemaReader::loadClass(const std::string& strType) {
   // for a plain content model.
   if (nameOf(lastChild(complexType)) == "complexContent") {
     const XmlNode complexContent = content;
-    const std::string message = loadInherited(complexContent, strType, content);
+    std::string message = loadInherited(complexContent, strType, content);
     if (!message.empty()) return message;
   }
   if (iChildElements(content) == 0) return strType + ":" + app_.LoadResString(1077);

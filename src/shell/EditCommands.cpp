@@ -57,7 +57,7 @@ MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fr
 
 std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
   for (const auto& [number, object] : objects.sequence()) {
-    const auto version = std::dynamic_pointer_cast<Version>(object);
+    auto version = std::dynamic_pointer_cast<Version>(object);
     if (!version) continue;
     const ObjectList& children = version->colChilds();
     const bool holds = std::any_of(children.begin(), children.end(),

@@ -173,7 +173,7 @@ void frmMain::mnuFileNew() {
 }
 
 std::shared_ptr<AVDocument> frmMain::NewDocument() {
-  const auto document = std::make_shared<AVDocument>(app_);
+  auto document = std::make_shared<AVDocument>(app_);
   frmAVDocForm_ = app_.objectFactory->createForm("AVDocument");
   const auto io = std::make_shared<IOManager>(app_);
   const std::string guid = io->strCreateGUID(document->collObjects(), *document, "AVDocument.xml");

@@ -9,7 +9,7 @@ namespace velra {
 
 namespace {
 
-constexpr qsizetype kBytes = 24 * 1024 * 1024;
+constexpr qsizetype kBytes = qsizetype{24} * 1024 * 1024;
 constexpr int kBytesOfAPixel = 4;
 
 QPixmap read(const Picture& picture, const QSize& size) {
@@ -28,7 +28,7 @@ QPixmap KeyFrameCache::pixmap(const Picture& picture, const QSize& size) {
   const QString key =
       QStringLiteral("%1 %2 ").arg(size.width()).arg(size.height()) + pathToQString(picture.path);
   if (const QPixmap* known = pixmaps_.object(key)) return *known;
-  const QPixmap fresh = read(picture, size);
+  QPixmap fresh = read(picture, size);
   const qsizetype cost = qsizetype{kBytesOfAPixel} * size.width() * size.height();
   pixmaps_.insert(key, new QPixmap(fresh), cost);  // owned by the cache
   return fresh;
