@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <limits>
 #include <memory>
 #include <system_error>
 
@@ -58,6 +59,18 @@ std::string refusal(const struct stat& status, std::uint64_t limit) {
   return {};
 }
 
+FileBytes readUpTo(const std::string& path, std::uint64_t limit, std::uint64_t most) {
+  const FileHandle file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+  struct stat status {};
+  if (!file || ::fstat(file.number(), &status) != 0) return {{}, systemReason(errno)};
+  FileBytes read{{}, refusal(status, limit)};
+  if (!read.reason.empty()) return read;
+  const auto size = std::min(static_cast<std::uint64_t>(status.st_size), most);
+  const int error = readAll(file, static_cast<std::size_t>(size), read.bytes);
+  if (error) read = {{}, systemReason(error)};
+  return read;
+}
+
 }  // namespace
 
 bool bFileExists(const std::string& path) {
@@ -95,14 +108,11 @@ std::vector<std::string> colListFiles(const std::string& pattern) {
 }
 
 FileBytes readFile(const std::string& path, std::uint64_t limit) {
-  const FileHandle file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
-  struct stat status {};
-  if (!file || ::fstat(file.number(), &status) != 0) return {{}, systemReason(errno)};
-  FileBytes read{{}, refusal(status, limit)};
-  if (!read.reason.empty()) return read;
-  const int error = readAll(file, static_cast<std::size_t>(status.st_size), read.bytes);
-  if (error) read = {{}, systemReason(error)};
-  return read;
+  return readUpTo(path, limit, limit);
+}
+
+FileBytes readStart(const std::string& path, std::uint64_t most) {
+  return readUpTo(path, std::numeric_limits<std::uint64_t>::max(), most);
 }
 
 std::string writeFileInPlace(const std::string& path, std::string_view bytes) {

@@ -33,6 +33,8 @@ struct FileBytes {
 };
 /// Refuses folders, pipes and devices, empty files and files above the limit.
 FileBytes readFile(const std::string& path, std::uint64_t limit = 1'000'000'000);
+/// The same for the first bytes of a file of any size.
+FileBytes readStart(const std::string& path, std::uint64_t most);
 
 /// Writes a file in place, whole: room is reserved first, then one write from the start, then the
 /// rest is cut off; on any failure the old bytes and the old length are put back. Makes the file

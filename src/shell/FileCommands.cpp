@@ -30,13 +30,10 @@ std::string folderAboveData(const std::string& path) {
   return bFileExists(document) ? folderOf(document) : std::string();
 }
 
-// The document of an object's file, with the file's own folder as the current one; where that gives
-// none, with the folder in which its document should lie.
+// The document of an object's file. The references on the way up start where the document lies.
 std::string documentOf(const std::string& path, IOManager& io) {
-  std::string document = io.strRetrieveAVDocGUIDFromGUID(path);
-  const std::string above = document.empty() ? folderAboveData(path) : std::string();
-  if (above.empty()) return document;
-  changeCurrentFolder(above);
+  const std::string above = folderAboveData(path);
+  if (!above.empty()) changeCurrentFolder(above);
   return io.strRetrieveAVDocGUIDFromGUID(path);
 }
 

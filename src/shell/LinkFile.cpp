@@ -1,5 +1,7 @@
 #include "shell/LinkFile.h"
 
+#include <algorithm>
+
 #include "app/ApplicationModule.h"
 #include "base/Text.h"
 #include "platform/Files.h"
@@ -9,8 +11,8 @@ namespace velra {
 
 namespace {
 
-// No identifier is longer; a movie that was opened by mistake need not be read.
-constexpr std::uint64_t kLargestLinkFile = 65536;
+// No identifier is longer; of a movie that was opened by mistake no more need be read.
+constexpr std::uint64_t kLongestLine = 65536;
 
 }  // namespace
 
@@ -19,8 +21,8 @@ std::string strReadFirstLine(ApplicationModule& app, const std::string& path) {
     app.ui.messageBox(app.LoadResString(1131) + " " + path, BoxKind::Exclamation);
     return {};
   }
-  const FileBytes file = readFile(path, kLargestLinkFile);
-  std::string line = file.bytes.substr(0, file.bytes.find('\n'));
+  std::string line = readStart(path, kLongestLine).bytes;
+  line.resize(std::min(line.size(), line.find('\n')));
   if (!line.empty() && line.back() == '\r') line.pop_back();
   return replaceAll(std::move(line), " ", "");
 }

@@ -66,6 +66,8 @@ TEST(Files, ReadsRegularFilesAlone) {
   EXPECT_EQ(readFile(folder.write("good", bytes)).bytes, bytes);
   EXPECT_EQ(readFile(folder / "good", 4).reason, "");
   EXPECT_NE(readFile(folder / "good", 3).reason, "");
+  EXPECT_EQ(readStart(folder / "good", 3).bytes, bytes.substr(0, 3));
+  EXPECT_EQ(readStart(folder / "good", 5).bytes, bytes);
   EXPECT_NE(readFile(folder.write("empty", "")).reason, "");
   EXPECT_NE(readFile(folder.path()).reason, "");
   EXPECT_NE(readFile(folder / "missing").reason, "");

@@ -139,51 +139,6 @@ TEST(FileCommands, ANewDocumentIsSavedThroughSaveAs) {
   EXPECT_TRUE(std::filesystem::exists(program.folder / "film.xml"));
 }
 
-TEST(FileCommands, WhatCannotBeOpenedIsTold) {
-  Program program;
-  const auto& folder = program.folder;
-  folder.write("link.txt", " naro:// object \nsecond");
-  folder.write("empty.txt", "");
-  folder.write("broken.xml", "<AVDocument><Title>");
-  folder.write("foreign.xml", "<Else/>");
-  const std::string missing = folder / "missing.xml";
-
-  program.mainForm.OpenFile(folder / "nothing.txt");
-  EXPECT_EQ(program.ui.takeShown(),
-            (Texts{"exclamation: Could not find the object: " + (folder / "nothing.txt"),
-                   "exclamation: File not valid: " + (folder / "nothing.txt")}));
-  program.mainForm.OpenFile(folder / "empty.txt");
-  EXPECT_EQ(program.ui.takeShown(),
-            Texts{"exclamation: File not valid: " + (folder / "empty.txt")});
-  program.mainForm.OpenFile(folder / "link.txt");
-  EXPECT_EQ(program.ui.takeShown(), Texts{});
-  EXPECT_FALSE(program.app.gAVDoc);
-
-  program.mainForm.OpenFile(missing);
-  Texts shown = program.ui.takeShown();
-  ASSERT_EQ(shown.size(), 2u);
-  EXPECT_TRUE(shown[0].starts_with("exclamation: XML Parser: "));
-  EXPECT_EQ(shown[1], "exclamation: Could not find the object: " + missing);
-  program.mainForm.mnuFileSave();  // acts on an empty object
-  EXPECT_EQ(program.ui.takeShown(), Texts{});
-
-  program.mainForm.OpenFile(folder / "broken.xml");
-  shown = program.ui.takeShown();
-  ASSERT_EQ(shown.size(), 2u);
-  EXPECT_TRUE(shown[1].starts_with("exclamation: XML Parser: Line 1"));
-
-  program.mainForm.OpenFile(folder / "foreign.xml");
-  EXPECT_EQ(program.ui.takeShown(),
-            Texts{"exclamation: AVDocument: class name does not match xml instance"});
-
-  program.mainForm.OpenFile(program.folder / "no such folder/film.xml");
-  EXPECT_EQ(program.ui.takeShown().size(), 1u);
-  EXPECT_FALSE(program.app.gAVDoc);
-
-  program.mainForm.OpenFile(program.sample());
-  EXPECT_EQ(program.texts(TreeId::tvwMainTree).size(), 10u);
-}
-
 TEST(Start, TheCommandLineIsOnePath) {
   struct Case {
     std::vector<const char*> arguments;

@@ -113,39 +113,6 @@ TEST_F(ProgramVocabularyTest, InconsistentFieldsShowAMessageAndNoForm) {
   EXPECT_EQ(controls().size(), 3U);
 }
 
-TEST_F(ProgramVocabularyTest, EveryBadFileIsToldOfAndTheProgramGoesOn) {
-  const std::string theme = "<Theme English='T'>";
-  const struct {
-    std::string content;
-    int id;  // 1147 has the reason behind it
-  } cases[] = {
-      {"<NaroThematicKeywords>", 1147},
-      {"", 1147},
-      {"<Other/>", 1169},
-      {"<NaroThematicKeywords><Theme/></NaroThematicKeywords>", 1170},
-      {"<NaroThematicKeywords>" + theme + "<Subtheme/></Theme></NaroThematicKeywords>", 1168},
-      {"<NaroThematicKeywords>" + theme + "<Keyword English='K'/></Theme></NaroThematicKeywords>",
-       1172},
-      {"<NaroThematicKeywords>" + theme +
-           "<Subtheme English='S'><Theme/></Subtheme></Theme></NaroThematicKeywords>",
-       1171},
-      {"<NaroThematicKeywords>" + theme +
-           "<Subtheme English='S'><Keyword/></Subtheme></Theme></NaroThematicKeywords>",
-       1173},
-  };
-  for (const auto& one : cases) {
-    load(program_.folder.write("bad.xml", one.content));
-    const Texts shown = program_.ui.takeShown();
-    ASSERT_EQ(shown.size(), 2U) << one.content;
-    EXPECT_EQ(shown[0].rfind(message(one.id), 0), 0U) << shown[0];
-    if (one.id == 1147) {
-      EXPECT_GT(shown[0].size(), message(1147).size());
-    }
-    EXPECT_EQ(shown[1], message(1146));
-    EXPECT_EQ(program_.app.objNaroThematicKeywords, nullptr);
-  }
-}
-
 TEST_F(ProgramVocabularyTest, TheThreeUsesOfAMissingVocabulary) {
   load("");
   EXPECT_EQ(program_.app.objNaroThematicKeywords, nullptr);
@@ -154,9 +121,7 @@ TEST_F(ProgramVocabularyTest, TheThreeUsesOfAMissingVocabulary) {
 
   // The trap of the document's form tells of it, and no form opens.
   EXPECT_TRUE(controls().empty());
-  const Texts shown = program_.ui.takeShown();
-  ASSERT_EQ(shown.size(), 1U);
-  EXPECT_EQ(shown[0].rfind("critical: ", 0), 0U);
+  EXPECT_EQ(program_.ui.takeShown(), Texts{"critical: There is no object to work on"});
   EXPECT_TRUE(program_.presenter.captions.empty());
 
   // Switched off, the vocabulary is not touched.

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <map>
+#include <sstream>
 #include <string>
 
 #include "base/Paths.h"
@@ -38,8 +38,9 @@ class TemporaryFolder {
     return file;
   }
   std::string read(const std::string& name) const {
-    std::ifstream file(path_ + "/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << std::ifstream(path_ + "/" + name, std::ios::binary).rdbuf();
+    return bytes.str();
   }
   /// Every file below the folder with its bytes.
   std::map<std::string, std::string> snapshot() const {
