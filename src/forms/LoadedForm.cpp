@@ -9,6 +9,7 @@
 #include "forms/FormCommit.h"
 #include "forms/MetadataKinds.h"
 #include "platform/UserInterface.h"
+#include "protocol/ClassRules.h"
 #include "protocol/DescribedObject.h"
 #include "protocol/MainWindow.h"
 #include "schema/SEColl.h"
@@ -50,7 +51,8 @@ int LoadedForm::framePasses() const {
 }
 
 void LoadedForm::OKButt_Click() {
-  commitForm(fields_, object_->secol(), crossLanguage_.get(), kind_.titleField, [this] {
+  const std::string_view title = titleFieldOf(object_->className());
+  commitForm(fields_, object_->secol(), crossLanguage_.get(), title, [this] {
     if (app_.gMainForm) app_.gMainForm->UpdateNodeTitle(*object_);
   });
   Unload();

@@ -5,10 +5,10 @@ namespace velra {
 namespace {
 
 constexpr MetadataKind kKinds[] = {
-    {"StorageForm", "Storage", "Collocation", FrameHeightRule::ValidElements, false},
-    {"MediaForm", "Media", "Format", FrameHeightRule::ValidAndReadableElements, false},
-    {"VersionForm", "Version", "VersionTitle", FrameHeightRule::ValidAndReadableElements, false},
-    {"frmAVDocForm", "AVDocument", "Title", FrameHeightRule::ValidAndReadableElements, true},
+    {"StorageForm", "Storage", FrameHeightRule::ValidElements, false},
+    {"MediaForm", "Media", FrameHeightRule::ValidAndReadableElements, false},
+    {"VersionForm", "Version", FrameHeightRule::ValidAndReadableElements, false},
+    {"frmAVDocForm", "AVDocument", FrameHeightRule::ValidAndReadableElements, true},
 };
 
 }  // namespace

@@ -14,8 +14,7 @@ enum class FrameHeightRule {
 /// What tells the generated forms apart.
 struct MetadataKind {
   std::string_view formName;
-  std::string_view className;   ///< the class that it edits
-  std::string_view titleField;  ///< the field whose edit renames the object's tree nodes
+  std::string_view className;  ///< the class that it edits
   FrameHeightRule frameHeight;
   bool crossLanguage;  ///< it may show three fields by the vocabulary
 };

@@ -29,6 +29,11 @@ const ClassRules* findClassRules(std::string_view className) {
   return at == table().end() ? nullptr : &*at;
 }
 
+std::string_view titleFieldOf(std::string_view className) {
+  const ClassRules* rules = findClassRules(className);
+  return rules ? std::string_view(rules->titleField) : std::string_view();
+}
+
 bool isExpressionClass(std::string_view className) {
   const ClassRules* rules = findClassRules(className);
   return rules && !rules->partOfField.empty();

@@ -20,6 +20,9 @@ struct ClassRules {
 /// Null for a class that is none of the seven.
 const ClassRules* findClassRules(std::string_view className);
 
+/// The field that holds the title of an object of the class; "" for any other class.
+std::string_view titleFieldOf(std::string_view className);
+
 /// True for Video, Audio and Transcript.
 bool isExpressionClass(std::string_view className);
 

@@ -3,6 +3,7 @@
 #include "app/ApplicationModule.h"
 #include "base/Arithmetic.h"
 #include "forms/FormCommit.h"
+#include "protocol/ClassRules.h"
 #include "protocol/MainWindow.h"
 #include "schema/SEColl.h"
 #include "shell/VideoForm.h"
@@ -13,7 +14,6 @@ namespace velra {
 namespace {
 
 constexpr const char* kOwnTab = "Video";
-constexpr const char* kTitleField = "Title";
 
 }  // namespace
 
@@ -50,7 +50,7 @@ int LoadedVideoForm::framePasses() const {
 }
 
 void LoadedVideoForm::OKButt_Click() {
-  commitForm(fields_, obj()->secol(), nullptr, kTitleField, [this] {
+  commitForm(fields_, obj()->secol(), nullptr, titleFieldOf(obj()->className()), [this] {
     if (services_.app.gMainForm) services_.app.gMainForm->UpdateNodeTitle(*obj());
   });
   Unload();

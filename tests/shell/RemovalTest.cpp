@@ -27,6 +27,7 @@ class PartlyRead : public test::FormObject {
       : FormObject(app, "Media", "Format"), document_(document) {
     add(tyType::String, "Format", "part");
   }
+  ObjectList colSelSubTree() override { return {}; }
   std::string strRemoveAllChilds() override { return strRemoveAllBelow(*this, document_); }
 
  private:

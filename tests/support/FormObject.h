@@ -8,12 +8,12 @@
 #include "app/ApplicationModule.h"
 #include "platform/MachineSettings.h"
 #include "platform/UserSettings.h"
-#include "protocol/DescribedObject.h"
 #include "protocol/MainWindow.h"
 #include "schema/CloseList.h"
 #include "schema/SEColl.h"
 #include "schema/SchemaFile.h"
 #include "support/ScriptedUserInterface.h"
+#include "support/StubObject.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra::test {
@@ -45,13 +45,12 @@ class TitleWindow : public MainWindow {
 };
 
 /// An object of a class with whatever fields a test gives it; nothing else works.
-class FormObject : public DescribedObject {
+class FormObject : public StubObject {
  public:
   FormObject(ApplicationModule& app, std::string className, std::string titleField = {})
-      : className_(std::move(className)),
-        titleField_(std::move(titleField)),
-        schemas_(app),
-        secol_(app, schemas_, closeLists) {}
+      : titleField_(std::move(titleField)), schemas_(app), secol_(app, schemas_, closeLists) {
+    kind = std::move(className);
+  }
 
   CloseLists closeLists;
 
@@ -62,53 +61,18 @@ class FormObject : public DescribedObject {
                       false, true);
   }
 
-  const std::string& className() const override { return className_; }
-  std::shared_ptr<IOManager> io() const override { return nullptr; }
   SEColl& secol() const override { return secol_; }
-  std::string strGUID() const override { return {}; }
-  void setStrGUID(const std::string&) override {}
   std::string strTitle() const override {
     const SchemaElement* title = secol_.field(titleField_);
     return title ? toText(title->vContent()) : std::string();
   }
-  void setStrTitle(const std::string&) override {}
-  void strInitGUID(const std::string&) override {}
-  void setStrSchemaPath(const std::string&) override {}
   bool bChanged() const override { return secol_.bChanged(); }
   std::int16_t iNumValidElem() const override { return secol_.iNumValid(); }
-  void ShowForm(FormOwner&) override {}
-  void EditAttributesForm(FormOwner&) override {}
-  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
-                         const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
-                      const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
-                           const std::string&, const std::shared_ptr<ObjectForm>&,
-                           const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  bool bSave() override { return true; }
-  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
-  void RemoveReferenceObj(DescribedObject&) override {}
-  bool bReferedStillToBeSaved() const override { return false; }
-  ObjectList waitsFor() const override { return {}; }
-  void visitReferences(ReferenceVisitor&) const override {}
-  void setIdentifierListener(IdentifierListener*) override {}
-  ObjectList colSelSubTree() override { return {}; }
-  std::string strRemoveAllChilds() override { return {}; }
-  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
-  const ObjectList& colChilds() const override { return children_; }
 
  private:
-  std::string className_;
   std::string titleField_;
   DocumentSchemas schemas_;
   mutable SEColl secol_;
-  ObjectList children_;
 };
 
 /// Text fields "Field1", "Field2"... of a class.

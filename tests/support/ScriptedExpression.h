@@ -9,14 +9,15 @@
 #include "protocol/Expression.h"
 #include "protocol/ObjectForm.h"
 #include "schema/SEColl.h"
+#include "support/StubObject.h"
 
 namespace velra::test {
 
 /// An expression in memory, with fields and a form only where a test gives it some. It links its
 /// chain as the real ones do for segments that do not overlap.
-class ScriptedExpression : public Expression {
+class ScriptedExpression : public StubObject, public Expression {
  public:
-  explicit ScriptedExpression(std::string className) : className_(std::move(className)) {}
+  explicit ScriptedExpression(std::string className) { kind = std::move(className); }
 
   std::string title;
   std::string movie;
@@ -55,7 +56,7 @@ class ScriptedExpression : public Expression {
 
   void AddSubExpression(const std::string& newTitle, double dStart, double dend) override {
     if (refusesNewSegments) return;
-    const auto added = make(className_, dStart, dend);
+    const auto added = make(kind, dStart, dend);
     added->title = newTitle;
     added->parent = shared_from_expression();
     if (const ExpressionRef before = nearest(dStart, true)) before->setObjFollowedBy(added);
@@ -99,48 +100,18 @@ class ScriptedExpression : public Expression {
   void UpdateLocationKeyFrameObject(const std::string&, const std::string&) override {}
 
   // DescribedObject.
-  const std::string& className() const override { return className_; }
-  std::shared_ptr<IOManager> io() const override { return nullptr; }
   SEColl& secol() const override {
     if (!fields) raise(kNoObject);
     return *fields;
   }
   std::string strGUID() const override { return title; }
-  void setStrGUID(const std::string&) override {}
   std::string strTitle() const override { return title; }
   void setStrTitle(const std::string& text) override { title = text; }
-  void strInitGUID(const std::string&) override {}
-  void setStrSchemaPath(const std::string&) override {}
   bool bChanged() const override { return fields && fields->bChanged(); }
   std::int16_t iNumValidElem() const override {
     return fields ? fields->iNumValid() : std::int16_t{0};
   }
   void ShowForm(FormOwner& owner) override { form->Show(owner); }
-  void EditAttributesForm(FormOwner&) override {}
-  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
-                         const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
-                      const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
-                           const std::string&, const std::shared_ptr<ObjectForm>&,
-                           const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  bool bSave() override { return true; }
-  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
-  void RemoveReferenceObj(DescribedObject&) override {}
-  bool bReferedStillToBeSaved() const override { return false; }
-  ObjectList colSelSubTree() override { return {}; }
-  std::string strRemoveAllChilds() override { return {}; }
-  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
-  ObjectList waitsFor() const override { return {}; }
-  void visitReferences(ReferenceVisitor&) const override {}
-  void setIdentifierListener(IdentifierListener*) override {}
-  const ObjectList& colChilds() const override { return none_; }
 
  private:
   ExpressionRef shared_from_expression() {
@@ -159,9 +130,6 @@ class ScriptedExpression : public Expression {
     }
     return best;
   }
-
-  std::string className_;
-  ObjectList none_;
 };
 
 }  // namespace velra::test

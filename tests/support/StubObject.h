@@ -2,16 +2,18 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "base/RunTimeError.h"
 #include "protocol/DescribedObject.h"
 
 namespace velra::test {
 
-/// An object with an identifier, a flag and those that it waits for, and no fields or file.
+/// An object with an identifier, a flag and those that it waits for, and no fields or file. What
+/// tests need besides, they derive from it.
 class StubObject : public virtual DescribedObject {
  public:
-  explicit StubObject(std::string guid) : guid_(std::move(guid)) {}
+  explicit StubObject(std::string guid = {}) : guid_(std::move(guid)) {}
 
   std::string kind = "Version";
   bool changed = false;
