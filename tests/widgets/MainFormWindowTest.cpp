@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -39,16 +40,70 @@ class MainFormWindowTest : public ::testing::Test {
   MainFormWindow window{app, rules};
 };
 
-TEST_F(MainFormWindowTest, TheFileMenuStandsInItsOrder) {
-  QStringList names;
-  for (const QAction* each : window.findChild<QMenu*>(QStringLiteral("mnuFile"))->actions()) {
-    if (each->isVisible()) names << each->objectName();
+/// Menus and entries in their order, each with its name and caption.
+QStringList entriesOf(const QList<QAction*>& actions, const QString& indent = {}) {
+  QStringList lines;
+  for (const QAction* each : actions) {
+    if (!each->isVisible()) continue;
+    lines << indent + (each->isSeparator() ? QStringLiteral("-")
+                                           : each->objectName() + QLatin1Char(' ') + each->text());
+    if (each->menu()) lines << entriesOf(each->menu()->actions(), indent + QLatin1Char(' '));
   }
-  EXPECT_EQ(names.join(QLatin1Char(' ')),
-            QStringLiteral("mnuFileOpen mnuFileSave mnuFileSaveAs mnuFileFind mnuFileBar1 "
-                           "mnuFileNew mnuImportToFS mnuExportToDB mnuFileBar5 mnuFileClose"));
+  return lines;
+}
+
+constexpr const char* kMenus = R"(mnuFile &File
+ mnuFileOpen &Open...
+ mnuFileSave &Save
+ mnuFileSaveAs Sav&e As...
+ mnuFileFind &Find...
+ -
+ mnuFileNew &New
+ mnuImportToFS Import To FileSystem
+ mnuExportToDB Export To Database
+ -
+ mnuFileClose &Close
+mnuEdit &Edit
+ mnuEditMetadata Edit M&etadata...
+ mnuEditAttributes Edit A&ssigned/Unassingned flags...
+ mnuAddChild A&ppend child...
+ mnuAddMainExpr Add Main E&xpression
+  mnuAddMainVideo Append Main V&ideo...
+  mnuAddMainAudio Add Main A&udio...
+  mnuAddMainTranscript Add Main T&ranscipt...
+mnuView &View
+ mnuViewToolbar &Toolbar
+ mnuViewStatusBar Status &Bar
+ -
+ mnuListViewMode_0 Lar&ge Icons
+ mnuListViewMode_1 S&mall Icons
+ mnuListViewMode_2 &List
+ mnuListViewMode_3 &Details
+ -
+ mnuViewArrangeIcons Arrange &Icons
+ -
+ mnuViewRefresh &Refresh
+ mnuViewOptions &Options...
+ mnuViewWebBrowser &Web Browser
+mnuLanguage Language
+ mnuEnglish English
+ mnuItalian Italian
+ mnuDutch Dutch
+ mnuGerman German
+ mnuFrench French
+ mnuCLDisabled CrossLanguage Disabled
+mnuOptions Options
+ mnuConnection Connection...
+mnuHelp &Help
+ mnuHelpContents &Contents
+ mnuHelpSearchForHelpOn &Search For Help On...
+ -
+ mnuHelpAbout &About )";
+
+TEST_F(MainFormWindowTest, TheMenusStandInTheirOrderWithTheirCaptions) {
+  const QStringList lines = entriesOf(window.menuBar()->actions());
+  EXPECT_EQ(lines.join(QLatin1Char('\n')).toStdString(), kMenus);
   EXPECT_EQ(action("mnuFileNew")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
-  EXPECT_EQ(action("mnuFileOpen")->text(), QStringLiteral("&Open..."));
 }
 
 TEST_F(MainFormWindowTest, EntriesFollowTheMenuState) {
@@ -76,20 +131,37 @@ TEST_F(MainFormWindowTest, LanguageEntriesSetTheLanguageOfTheVocabulary) {
 }
 
 TEST_F(MainFormWindowTest, CommandsWithoutAFunctionSaySo) {
+  const std::string noHelp =
+      "Unable to display Help Contents. There is no Help associated with this project.";
   const struct {
-    const char *name, *text;
+    const char* name;
+    const char* toolTip;  // of a button of the tool bar
+    std::string text;     // "": nothing happens
   } rows[] = {
-      {"tbToolBar_Back", "Add 'Back' button code."},
-      {"tbToolBar_Cut", "Add 'mnuEditCut_Click' code."},
-      {"tbToolBar_Properties", "Add 'mnuFileProperties_Click' code."},
-      {"tbToolBar_ViewLargeIcons", nullptr},
-      {"mnuViewRefresh", "Add 'mnuViewRefresh_Click' code."},
-      {"mnuHelpContents",
-       "Unable to display Help Contents. There is no Help associated with this project."},
+      {"tbToolBar_Back", "Back", "Add 'Back' button code."},
+      {"tbToolBar_Forward", "Forward", "Add 'Forward' button code."},
+      {"tbToolBar_Cut", "Cut", "Add 'mnuEditCut_Click' code."},
+      {"tbToolBar_Copy", "Copy", "Add 'mnuEditCopy_Click' code."},
+      {"tbToolBar_Paste", "Paste", "Add 'mnuEditPaste_Click' code."},
+      {"tbToolBar_Delete", "Delete", "Add 'mnuFileDelete_Click' code."},
+      {"tbToolBar_Properties", "Properties", "Add 'mnuFileProperties_Click' code."},
+      {"tbToolBar_ViewLargeIcons", "View Large Icons", ""},
+      {"tbToolBar_ViewSmallIcons", "View Small Icons", ""},
+      {"tbToolBar_ViewList", "View List", ""},
+      {"tbToolBar_ViewDetails", "View Details", ""},
+      {"mnuViewRefresh", nullptr, "Add 'mnuViewRefresh_Click' code."},
+      {"mnuViewOptions", nullptr, "Add 'mnuViewOptions_Click' code."},
+      {"mnuViewWebBrowser", nullptr, "Add 'mnuViewWebBrowser_Click' code."},
+      {"mnuListViewMode_2", nullptr, ""},
+      {"mnuHelpContents", nullptr, noHelp},
+      {"mnuHelpSearchForHelpOn", nullptr, noHelp},
   };
   for (const auto& row : rows) {
     action(row.name)->trigger();
-    EXPECT_EQ(ui.takeShown(), row.text ? Shown{std::string("plain: ") + row.text} : Shown{});
+    EXPECT_EQ(ui.takeShown(), row.text.empty() ? Shown{} : Shown{"plain: " + row.text});
+    if (row.toolTip) {
+      EXPECT_EQ(action(row.name)->toolTip(), QLatin1String(row.toolTip));
+    }
   }
 }
 
