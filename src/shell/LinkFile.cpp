@@ -17,7 +17,7 @@ constexpr std::uint64_t kLongestLine = 65536;
 }  // namespace
 
 std::string strReadFirstLine(ApplicationModule& app, const std::string& path) {
-  if (!bFileExists(path)) {
+  if (!bFileExists(path) && !bFolderExists(path)) {
     app.ui.messageBox(app.LoadResString(1131) + " " + path, BoxKind::Exclamation);
     return {};
   }
