@@ -134,20 +134,5 @@ TEST_F(KeyFrames, TheTimeOfAnUnassignedFieldIsMinusOne) {
   EXPECT_EQ(main_->dGetKeyFrameTime(), 30);  // the middle of its span
 }
 
-TEST_F(KeyFrames, TheRemovedSegmentTakesItsPictureAlong) {
-  openWithMovie();
-  main_->AddSubExpression("a", 0, 0.2);
-  EXPECT_TRUE(session_.document()->bSave());
-  main_->RemoveSubExpressionByIndex(1);
-  EXPECT_EQ(session_.document()->colObjRemoved(),
-            (Texts{picture(1), session_.files.path("video2")}));
-  EXPECT_EQ(session_.window.removedIcons, Texts{session_.files.path("video2")});
-  EXPECT_TRUE(session_.document()->bSave());
-  EXPECT_TRUE(bFileExists(picture(1)));
-  main_.reset();
-  session_.close();
-  EXPECT_FALSE(bFileExists(picture(1)));
-}
-
 }  // namespace
 }  // namespace velra

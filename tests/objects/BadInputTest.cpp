@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <functional>
 
-#include "base/RunTimeError.h"
 #include "objects/AVDocument.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"

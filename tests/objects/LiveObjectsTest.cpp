@@ -61,19 +61,6 @@ TEST_F(LiveObjects, ClosingReleasesObjectsFormsAndStoreAndDeletesWhatWasRemoved)
   EXPECT_TRUE(bFileExists(session_.files.path("media2")));
 }
 
-TEST_F(LiveObjects, ClosingWithoutSavingKeepsTheFilesOfWhatWasRemoved) {
-  session_.files.smallLadder();
-  ASSERT_EQ(session_.open(session_.files.documentPath()), "");
-  const auto before = session_.folder.snapshot();
-  const ObjectRef version = session_.object("version1");
-  EXPECT_EQ(version->strRemoveAllChilds(), "");
-  ObjectRef removed = version;
-  session_.document()->RemoveObject(removed);
-  EXPECT_EQ(session_.document()->collObjects().Count(), 2U);  // itself and the movie
-  session_.close();
-  EXPECT_EQ(session_.folder.snapshot(), before);
-}
-
 TEST_F(LiveObjects, FailedOpeningsLeaveNothing) {
   session_.files.smallLadder();
   const std::string document = session_.files.documentPath();

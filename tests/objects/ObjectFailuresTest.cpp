@@ -179,5 +179,17 @@ TEST_F(ObjectFailures, AnExpressionThatCannotBeReadHasNoWayUp) {
   expectShown({"exclamation: Error loading the schema: " + undeclared("Audio")});
 }
 
+TEST_F(ObjectFailures, FilesThatCannotBeDeletedAreListedWithTheLastReason) {
+  IOManager io(session_.app);
+  for (const char* name : {"gone1", "media1", "gone2", "media1"}) {
+    io.RemoveGUID(session_.files.path(name));
+  }
+  const test::DocumentFiles& files = session_.files;
+  EXPECT_EQ(io.strSync(), files.path("gone1") + " " + files.path("gone2") + " " +
+                              files.path("media1") + ": No such file or directory");
+  EXPECT_FALSE(std::filesystem::exists(files.path("media1")));
+  EXPECT_EQ(io.strSync(), "");
+}
+
 }  // namespace
 }  // namespace velra

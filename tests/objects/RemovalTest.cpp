@@ -88,19 +88,5 @@ TEST(Removal, TheLastChildLeavesTheFieldUnassignedAndAllItsFilesMarked) {
   EXPECT_EQ(session.document()->io()->colGUIDToRemove().size(), 12U);
 }
 
-TEST(Removal, ResetsTheDurationOnlyWithTheLastStorage) {
-  DocumentSession session;
-  session.files.smallLadder();
-  session.files.version("version1", {"media1", "media2"});
-  session.files.media("media2", {"storage2"});
-  session.files.storage("storage2", "other.mpg");
-  ASSERT_EQ(session.open(session.files.documentPath()), "");
-  session.version("version1")->setDDuration(60);
-  removeByIndex(*session.document(), session.object("media1"));
-  EXPECT_EQ(session.version("version1")->dDuration(), 60);
-  removeByIndex(*session.document(), session.object("storage2"));
-  EXPECT_EQ(session.version("version1")->dDuration(), 0);
-}
-
 }  // namespace
 }  // namespace velra

@@ -95,23 +95,23 @@ TEST_F(MainMenus, FindListsWhatHoldsTheTextAndOpensItsForm) {
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Input the string to Search"));
     Person::type(dialog, "Text1", "COPY");
     person_.willMeet("SearchResultDialog", [&](QWidget& results) {
-      auto& list = Person::child<QTreeView>(results, "ListView1");
+      auto& list = control<QTreeView>(results, "ListView1");
       EXPECT_EQ(list.model()->rowCount(), 2);
       person_.willMeet("MediaForm", [&](QWidget& form) {
         EXPECT_TRUE(results.isVisible());
-        Person::press(form, "CancelButt");
+        press(form, "CancelButt");
       });
       QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
                         list.visualRect(list.model()->index(1, 0)).center());
       QCoreApplication::sendPostedEvents();
-      Person::press(results, "OKButton");
+      press(results, "OKButton");
     });
-    Person::press(dialog, "OKButt");
+    press(dialog, "OKButt");
   });
   person_.choose("mnuFile", "mnuFileFind");
   person_.willMeet("SearchDialog", [](QWidget& dialog) {
-    EXPECT_EQ(Person::child<QLineEdit>(dialog, "Text1").text(), QStringLiteral("COPY"));
-    Person::press(dialog, "CancelButt");
+    EXPECT_EQ(control<QLineEdit>(dialog, "Text1").text(), QStringLiteral("COPY"));
+    press(dialog, "CancelButt");
   });
   person_.choose("mnuFile", "mnuFileFind");
 }
@@ -122,7 +122,7 @@ TEST_F(MainMenus, OneLanguageIsTicked) {
                                  "mnuGerman",  "mnuFrench",  "mnuCLDisabled"};
   const auto ticked = [&] {
     QStringList names;
-    for (const QAction* each : Person::child<QMenu>(desktop_.window, "mnuLanguage").actions()) {
+    for (const QAction* each : control<QMenu>(desktop_.window, "mnuLanguage").actions()) {
       if (each->isChecked()) names << each->objectName();
     }
     return names;
@@ -140,15 +140,15 @@ TEST_F(MainMenus, OneLanguageIsTicked) {
 TEST_F(MainMenus, TheConnectionIsStoredForTheWholeMachine) {
   desktop_.start(desktop_.sample());
   person_.willMeet("ConnectionDialog", [&](QWidget& dialog) {
-    EXPECT_EQ(Person::child<QLineEdit>(dialog, "Text2").text(), QStringLiteral("2509"));
-    EXPECT_EQ(Person::child<QLineEdit>(dialog, "Text3").text(),
+    EXPECT_EQ(control<QLineEdit>(dialog, "Text2").text(), QStringLiteral("2509"));
+    EXPECT_EQ(control<QLineEdit>(dialog, "Text3").text(),
               QStringLiteral("/MediaArchive/datamanager"));
     person_.willAnswer("Port number is positive integer", QMessageBox::Warning, "cmdOK");
     Person::type(dialog, "Text2", "x");
-    EXPECT_EQ(Person::child<QLineEdit>(dialog, "Text2").text(), QStringLiteral("2509"));
+    EXPECT_EQ(control<QLineEdit>(dialog, "Text2").text(), QStringLiteral("2509"));
     Person::type(dialog, "Text1", "archive");
     Person::type(dialog, "Text2", "80");
-    Person::press(dialog, "OKButton");
+    press(dialog, "OKButton");
   });
   person_.choose("mnuOptions", "mnuConnection");
   const std::string stored = desktop_.folder.read("machine.ini");
@@ -158,11 +158,17 @@ TEST_F(MainMenus, TheConnectionIsStoredForTheWholeMachine) {
 TEST_F(MainMenus, HelpAndToolBarSayWhatTheyHave) {
   desktop_.start("");
   desktop_.window.resize(900, 600);
+  EXPECT_EQ(control<QLabel>(desktop_.window, "lblTitle_0").text(),
+            QStringLiteral("Bibliographic's data"));
+  EXPECT_EQ(control<QLabel>(desktop_.window, "lblTitle_1").text(),
+            QStringLiteral("Multimedia data"));
   person_.willMeet("frmAbout", [&](QWidget& about) {
-    EXPECT_EQ(Person::child<QLabel>(about, "lblTitle").text(), QStringLiteral("velra"));
+    EXPECT_EQ(about.windowTitle(), QStringLiteral("About Velra..."));
+    EXPECT_EQ(control<QLabel>(about, "lblTitle").text(), QStringLiteral("velra"));
+    EXPECT_TRUE(control<QLabel>(about, "lblVersion").text().startsWith(QStringLiteral("Version ")));
     person_.willAnswer("System Information Is Unavailable At This Time", kPlain, "cmdOK");
-    Person::press(about, "cmdSysInfo");
-    Person::press(about, "cmdOK");
+    press(about, "cmdSysInfo");
+    press(about, "cmdOK");
   });
   person_.choose("mnuHelp", "mnuHelpAbout");
   person_.willAnswer(
@@ -170,11 +176,10 @@ TEST_F(MainMenus, HelpAndToolBarSayWhatTheyHave) {
       "cmdOK");
   person_.choose("mnuHelp", "mnuHelpContents");
 
-  auto& bar = Person::child<QToolBar>(desktop_.window, "tbToolBar");
+  auto& bar = control<QToolBar>(desktop_.window, "tbToolBar");
   person_.willAnswer("Add 'Forward' button code.", kPlain, "cmdOK");
-  QTest::mouseClick(
-      bar.widgetForAction(&Person::child<QAction>(desktop_.window, "tbToolBar_Forward")),
-      Qt::LeftButton);
+  QTest::mouseClick(bar.widgetForAction(&control<QAction>(desktop_.window, "tbToolBar_Forward")),
+                    Qt::LeftButton);
 }
 
 /// A document with removed objects, with unsaved changes, and then a port that is none.
@@ -193,10 +198,10 @@ void workIntoARunTimeError() {
     person.willMeet("msgBox", [](QWidget& box) {
       const QString text = dynamic_cast<QMessageBox&>(box).text();
       std::fprintf(stderr, "box: %s\n", text.toUtf8().constData());
-      Person::press(box, "cmdOK");
+      press(box, "cmdOK");
     });
     Person::type(dialog, "Text2", "");
-    Person::press(dialog, "OKButton");
+    press(dialog, "OKButton");
   });
   person.choose("mnuOptions", "mnuConnection");
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -15,6 +14,7 @@
 #include <string>
 #include <utility>
 
+#include "scenario/Hands.h"
 #include "widgets/QtText.h"
 
 namespace velra::test {
@@ -28,29 +28,16 @@ class Person {
   Person(const Person&) = delete;
   Person& operator=(const Person&) = delete;
 
-  template <class Widget>
-  static Widget& child(QWidget& parent, const char* name) {
-    auto* found = parent.findChild<Widget*>(QLatin1String(name));
-    if (!found) qFatal("no control %s", name);
-    return *found;
-  }
-  static void press(QWidget& window, const char* button) {
-    QTest::mouseClick(&child<QAbstractButton>(window, button), Qt::LeftButton);
-  }
   static void type(QWidget& window, const char* box, const char* text) {
-    auto& line = child<QLineEdit>(window, box);
+    auto& line = control<QLineEdit>(window, box);
     line.selectAll();
     text[0] ? QTest::keyClicks(&line, QLatin1String(text)) : line.clear();
   }
 
   /// Opens the menu and clicks the entry; what that brings up has to be what was waited for.
   void choose(const char* menuName, const char* entry) {
-    QMenu& menu = child<QMenu>(window_, menuName);
-    menu.popup(window_.mapToGlobal(QPoint(0, 0)));
-    QAction& action = child<QAction>(window_, entry);
-    EXPECT_TRUE(action.isEnabled()) << entry;
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&action).center());
-    EXPECT_FALSE(menu.isVisible());
+    control<QMenu>(window_, menuName).popup(window_.mapToGlobal(QPoint(0, 0)));
+    test::choose(entry);
     EXPECT_TRUE(std::exchange(expected_, {}).empty()) << entry;
   }
 

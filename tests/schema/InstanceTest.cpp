@@ -234,7 +234,11 @@ TEST_F(InstanceTest, AFailedSaveIsShownAndTheFieldsStayChanged) {
   files_.saveFailure.clear();
   object.fields.field("s")->setVContent(std::string("a\x01z"));
   EXPECT_FALSE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
-  EXPECT_EQ(ui_.takeShown().size(), 1U);
+  EXPECT_FALSE(object.fields.bSaveAs(object.document, folder_ / "c.xml", files_));
+  const Texts shown = ui_.takeShown();
+  ASSERT_EQ(shown.size(), 2U);
+  EXPECT_EQ(shown[0], shown[1]);
+  EXPECT_TRUE(shown[0].starts_with("plain: "));
   EXPECT_EQ(folder_.read("c.xml"), "<C><s>a</s></C>");
 }
 

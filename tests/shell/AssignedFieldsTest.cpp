@@ -76,17 +76,6 @@ TEST_F(AssignedFieldsTest, AFieldComesAndGoesOnTheFormAndInTheFile) {
   EXPECT_EQ(file().find("<" + fresh), std::string::npos);
 }
 
-TEST_F(AssignedFieldsTest, StructuralRowsBeepAndCancelLeavesNoTrace) {
-  flags([](AVDocSchemaDialog& dialog) {
-    EXPECT_FALSE(tick(dialog, "AvailableAs", false));
-    EXPECT_TRUE(tick(dialog, "Format", false));
-    dialog.CancelButton_Click();
-  });
-  EXPECT_EQ(program_.ui.takeShown(), Texts{"beep"});
-  EXPECT_FALSE(program_.object("media1")->bChanged());
-  EXPECT_TRUE(has(form(), "Format"));
-}
-
 TEST_F(AssignedFieldsTest, ASetThatIsEmptiedLeavesFormAndFile) {
   program_.click(TreeId::tvwMainTree, *program_.document());
   const Texts before = form([](LoadedForm& form) {

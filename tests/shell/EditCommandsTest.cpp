@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
-#include "base/RunTimeError.h"
 #include "objects/Storage.h"
 #include "store/ObjectRegistry.h"
 
@@ -87,6 +86,10 @@ TEST(EditCommands, AppendedChildrenAreInTheTreeAtOnceAndOnDiskAfterSave) {
   const std::string movie = program.folder / "sample/lighthouse.mpg";
   program.ui.filesToOpen = {movie};
   program.mainForm.mnuAddChild();
+  EXPECT_EQ(program.ui.takeShown(),
+            (Texts{"input: Input the title of the new Version | Version Title",
+                   "input: Input the format of the new Media (i.e., MPEG, AVI) | Media Format",
+                   "open: Input Collocation of the Storage Movie"}));
   EXPECT_EQ(program.texts(TreeId::tvwMainTree),
             (Texts{"film", "  First cut", "    MPEG", "      " + movie}));
   EXPECT_NEAR(program.version(1)->dDuration(), 64.0, 0.001);
@@ -98,6 +101,10 @@ TEST(EditCommands, AppendedChildrenAreInTheTreeAtOnceAndOnDiskAfterSave) {
     program.click(TreeId::tvwExpression, *program.version(1));
     program.mainForm.AddMainExpr(kind);
   }
+  EXPECT_EQ(program.ui.takeShown(),
+            (Texts{"input: Input the name of the Main Video | Main Video Name",
+                   "input: Input the name of the Main Audio | Main Audio Name",
+                   "input: Input the name of the Main Transcript | Main Transcript Name"}));
   EXPECT_EQ(program.texts(TreeId::tvwExpression),
             (Texts{"First cut", "  Pictures", "  Sound", "  Words"}));
   program.mainForm.mnuFileSave();
@@ -146,6 +153,8 @@ TEST(EditCommands, AStorageBeepsAndWithoutOneThereIsNoMainExpression) {
   changeCurrentFolder(program.folder.path());
   program.mainForm.mnuFileNew();
   program.click(TreeId::tvwMainTree, *program.document());
+  program.mainForm.mnuAddChild();  // cancelled
+  EXPECT_TRUE(program.document()->colChilds().empty());
   program.ui.inputs = {"Cut"};
   program.mainForm.mnuAddChild();
   program.ui.takeShown();
@@ -163,18 +172,6 @@ TEST(EditCommands, AStorageBeepsAndWithoutOneThereIsNoMainExpression) {
   program.click(TreeId::tvwMainTree, *media->colChilds().at(0));
   program.mainForm.mnuAddChild();
   EXPECT_EQ(program.ui.takeShown(), Texts{"beep"});
-}
-
-TEST(EditCommands, TheLanguageEntriesAreRadioEntries) {
-  Program program;
-  for (const std::int32_t language : {1, 2, 3, 4, 5, 0}) {
-    program.mainForm.setLanguage(language);
-    EXPECT_EQ(program.app.iLanguage, language);
-    EXPECT_EQ(program.mainForm.menuState().language, language);
-    EXPECT_EQ(program.ui.takeShown().size(), language == 5 ? 1u : 0u);
-    program.mainForm.setLanguage(language);
-    EXPECT_TRUE(program.ui.takeShown().empty());
-  }
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
-#include "schema/SEColl.h"
 #include "store/IOManager.h"
 #include "store/ObjectRegistry.h"
 
@@ -46,31 +45,6 @@ TEST(FileCommands, ClosingReleasesEveryObject) {
   program.mainForm.OpenFile(program.sample());
   for (const auto& object : alive) EXPECT_TRUE(object.expired());
   EXPECT_TRUE(io.expired());
-}
-
-struct SaveQuestion {
-  Answer answer;
-  bool stays;
-  bool saved;
-};
-
-TEST(FileCommands, TheSaveQuestionIsPutAtEveryReplacementOfAChangedDocument) {
-  const SaveQuestion cases[] = {
-      {Answer::Yes, false, true}, {Answer::No, false, false}, {Answer::Cancel, true, false}};
-  for (const SaveQuestion& testCase : cases) {
-    for (const bool byNew : {false, true}) {
-      Program program;
-      program.mainForm.OpenFile(program.sample());
-      const auto document = std::weak_ptr<AVDocument>(program.document());
-      program.document()->setStrTitle("Changed");
-      program.ui.yesNoCancel = {testCase.answer};
-      byNew ? program.mainForm.mnuFileNew() : program.mainForm.OpenFile(program.sample());
-      EXPECT_EQ(program.ui.takeShown(), Texts{"yes-no-cancel: Save modifications Changed?"});
-      EXPECT_EQ(!document.expired(), testCase.stays);
-      const std::string bytes = program.folder.read("sample/lighthouse.xml");
-      EXPECT_EQ(bytes.find("<Title>Changed</Title>") != std::string::npos, testCase.saved);
-    }
-  }
 }
 
 TEST(FileCommands, OpeningAnObjectsFileOpensItsDocumentAndFirstShowsTheObjectsForm) {
@@ -124,19 +98,6 @@ TEST(FileCommands, SaveAsGivesTheFullLayoutAndLeavesTheOldFiles) {
   }
   program.click(TreeId::tvwMainTree, *program.version(1));
   EXPECT_EQ(program.texts(TreeId::tvwExpression), right);
-}
-
-TEST(FileCommands, ANewDocumentIsSavedThroughSaveAs) {
-  Program program;
-  changeCurrentFolder(program.folder.path());
-  program.mainForm.mnuFileNew();
-  EXPECT_EQ(program.texts(TreeId::tvwMainTree), Texts{"AVDocument"});
-  program.ui.filesToSave = {program.folder / "film.xml"};
-  program.mainForm.mnuFileSave();
-  EXPECT_EQ(program.ui.takeShown(),
-            Texts{"save: Save As | " + program.folder.path() + "/AVDocument"});
-  EXPECT_EQ(program.texts(TreeId::tvwMainTree), Texts{"film"});
-  EXPECT_TRUE(std::filesystem::exists(program.folder / "film.xml"));
 }
 
 TEST(Start, TheCommandLineIsOnePath) {

@@ -4,7 +4,6 @@
 
 #include "Program.h"
 #include "platform/Files.h"
-#include "schema/SEColl.h"
 #include "store/SubTreeRemoval.h"
 #include "support/FormObject.h"
 
@@ -150,14 +149,6 @@ TEST_F(RemovalTest, AVersionGoesWithItsLadderItsExpressionsAndTheirIcons) {
     EXPECT_TRUE(program_.document()->bChanged());
   }
   EXPECT_EQ(living(objects), 0);
-}
-
-TEST_F(RemovalTest, TheLastVersionLeavesNoRelation) {
-  remove(TreeId::tvwMainTree, "version1");
-  remove(TreeId::tvwMainTree, "version2");
-  EXPECT_FALSE(program_.document()->secol().relationField("expressedby")->bValid());
-  EXPECT_TRUE(program_.document()->bSave());
-  EXPECT_EQ(program_.read("lighthouse.xml").find("ExpressedBy"), std::string::npos);
 }
 
 TEST_F(RemovalTest, ASegmentGoesWithItsOwnAndTheChainClosesOverTheGap) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 
 #include "app/ApplicationModule.h"
@@ -9,10 +10,13 @@
 #include "platform/MachineSettings.h"
 #include "platform/UserSettings.h"
 #include "support/ScriptedUserInterface.h"
+#include "support/ShownBoxes.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {
 namespace {
+
+using Texts = std::vector<std::string>;
 
 class VocabularyTest : public ::testing::Test {
  protected:
@@ -68,28 +72,39 @@ TEST_F(VocabularyTest, SaysWhatIsWrongWithAFile) {
       {theme + "<Other English='S'/></Theme>", 1172},
       {theme + "<Keyword English='K'/></Theme>", 1172},
       {theme + "<Subtheme English='S'><Keyword/></Subtheme></Theme>", 1173},
-      {theme + "<Subtheme English='S'><Other English='K'/></Subtheme></Theme>", 1171},
+      {theme + "<Subtheme English='S'><Theme/></Subtheme></Theme>", 1171},
       {theme + "<Subtheme><Other English='K'/></Subtheme></Theme>", 1171},  // found while reading
       {"<Theme><Subtheme English='S'/><Other/></Theme>", 1172},
   };
   for (const auto& one : cases) {
     EXPECT_FALSE(load(one.content)) << one.content;
-    EXPECT_EQ(ui_.takeShown(),
-              std::vector<std::string>{"plain: " + app_.LoadResString(one.message)})
-        << one.content;
+    EXPECT_EQ(ui_.takeShown(), Texts{"plain: " + app_.LoadResString(one.message)}) << one.content;
   }
   EXPECT_FALSE(loadFile("<Other/>"));
-  EXPECT_EQ(ui_.takeShown(), std::vector<std::string>{"plain: " + app_.LoadResString(1169)});
+  EXPECT_EQ(ui_.takeShown(), Texts{"plain: " + app_.LoadResString(1169)});
 }
 
 TEST_F(VocabularyTest, PutsTheReasonBehindTheMessage) {
-  const std::string message = "plain: " + app_.LoadResString(1147);
-  EXPECT_FALSE(loadFile("<NaroThematicKeywords>"));
-  EXPECT_FALSE(vocabulary_.bSetFromXMLFile(app_, folder_ / "missing.xml"));
-  EXPECT_FALSE(vocabulary_.bSetFromXMLFile(app_, ""));
-  ASSERT_EQ(ui_.shown.size(), 3U);
-  for (const std::string& box : ui_.shown) {
-    EXPECT_TRUE(box.starts_with(message) && box.size() > message.size()) << box;
+  const std::string root = "<NaroThematicKeywords>";
+  std::filesystem::create_directory(folder_ / "folder.xml");
+  const std::string paths[] = {
+      "",
+      folder_ / "missing.xml",
+      folder_ / "folder.xml",
+      folder_.write("empty.xml", ""),
+      folder_.write("open.xml", root),
+      folder_.write("text.xml", "Theme: Sea"),
+      folder_.write("bytes.xml", "<NaroThematicKeywords a='\xE4'/>"),
+      folder_.write("valid.xml",
+                    "<!DOCTYPE NaroThematicKeywords [<!ELEMENT NaroThematicKeywords "
+                    "EMPTY>]>" +
+                        root + "<Theme English='T'/></NaroThematicKeywords>")};
+  for (const std::string& path : paths) {
+    EXPECT_FALSE(vocabulary_.bSetFromXMLFile(app_, path)) << path;
+    const Texts shown = ui_.takeShown();
+    EXPECT_TRUE(
+        test::sameBoxes(shown, {"plain: Error during ThematicKeywords.xml loading ..."}, ""))
+        << path << ::testing::PrintToString(shown);
   }
 }
 

@@ -15,7 +15,6 @@
 #include "shell/frmMain.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TemporaryFolder.h"
-#include "widgets/ModalAnswer.h"
 
 namespace velra {
 namespace {
@@ -122,14 +121,6 @@ TEST_F(MainFormWindowTest, EntriesFollowTheMenuState) {
   EXPECT_FALSE(window.findChild<QMenu*>(QStringLiteral("mnuView"))->isEnabled());
 }
 
-TEST_F(MainFormWindowTest, LanguageEntriesSetTheLanguageOfTheVocabulary) {
-  action("mnuGerman")->trigger();
-  EXPECT_EQ(app.iLanguage, 3);
-  action("mnuCLDisabled")->trigger();
-  EXPECT_EQ(app.iLanguage, ApplicationModule::kCrossLanguageOff);
-  EXPECT_EQ(ui.takeShown(), Shown{"plain: " + app.LoadResString(1164)});
-}
-
 TEST_F(MainFormWindowTest, CommandsWithoutAFunctionSaySo) {
   const std::string noHelp =
       "Unable to display Help Contents. There is no Help associated with this project.";
@@ -163,16 +154,6 @@ TEST_F(MainFormWindowTest, CommandsWithoutAFunctionSaySo) {
       EXPECT_EQ(action(row.name)->toolTip(), QLatin1String(row.toolTip));
     }
   }
-}
-
-TEST_F(MainFormWindowTest, TheAboutBoxLooksForTheSystemInformation) {
-  test::whenModal([this](QWidget& box) {
-    EXPECT_EQ(box.objectName(), QStringLiteral("frmAbout"));
-    QMetaObject::invokeMethod(box.findChild<QWidget*>(QStringLiteral("cmdSysInfo")), "click");
-    EXPECT_EQ(ui.takeShown(), Shown{"plain: System Information Is Unavailable At This Time"});
-    QMetaObject::invokeMethod(box.findChild<QWidget*>(QStringLiteral("cmdOK")), "click");
-  });
-  action("mnuHelpAbout")->trigger();
 }
 
 TEST_F(MainFormWindowTest, ClosingTakesAllWindowsAlongAndKeepsThePlace) {
