@@ -78,6 +78,9 @@ class Framelist {
   void RemoveImage(std::int16_t position);
   void Refresh();
   void Resize(double widthTwips);
+  /// The least width with which so many pictures are within reach of the scroll bar; a narrower
+  /// strip raises kOverflow.
+  double leastWidth(std::size_t pictures) const;
   void Scroll(std::int16_t value);
 
   // The mouse and the keyboard.
@@ -104,6 +107,7 @@ class Framelist {
   const std::shared_ptr<Image>& at(std::int16_t position) const;
   void place(Image& image) const;
   void layOut();
+  double panelWidthOf(std::size_t pictures) const;
   void sizeScrollBar();
   void hideSquares();
   void showStretch(std::int16_t a, std::int16_t b);

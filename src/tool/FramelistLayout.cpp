@@ -2,6 +2,7 @@
 #include "tool/Framelist.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "base/Arithmetic.h"
 
@@ -10,6 +11,7 @@ namespace velra {
 namespace {
 
 constexpr double kPanelMargin = 100;
+constexpr double kLongestScroll = std::numeric_limits<std::int16_t>::max();
 
 }  // namespace
 
@@ -24,8 +26,16 @@ void Framelist::layOut() {
   repaint();
 }
 
+double Framelist::panelWidthOf(std::size_t pictures) const {
+  return static_cast<double>(pictures) * iCellX_ + kPanelMargin;
+}
+
+double Framelist::leastWidth(std::size_t pictures) const {
+  return panelWidthOf(pictures) - kLongestScroll;
+}
+
 void Framelist::sizeScrollBar() {
-  const double panelWidth = Count() * static_cast<double>(iCellX_) + kPanelMargin;
+  const double panelWidth = panelWidthOf(colImages_.Count());
   HScroll1_.largeChange = iCellX_;
   HScroll1_.smallChange = toInt16(ImageX_ / 4.0);
   HScroll1_.max = toInt16(panelWidth - width_);
@@ -54,7 +64,7 @@ void Framelist::ScrollTo(std::int16_t position) {
   double value = HScroll1_.value;
   if (right > value + width_) value = right - width_;
   if (left < value) value = left;
-  Scroll(toInt16(std::clamp(value, 0.0, 32767.0)));
+  Scroll(toInt16(std::clamp(value, 0.0, kLongestScroll)));
 }
 
 void Framelist::MouseDown(std::int16_t position, int shift) {

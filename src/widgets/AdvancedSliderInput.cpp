@@ -13,10 +13,7 @@ namespace velra {
 
 void AdvancedSliderWidget::mousePressEvent(QMouseEvent* event) {
   const QPoint place = event->position().toPoint();
-  if (const std::int16_t range = rangeAt(place)) {
-    advsld_.MouseDown(range, shiftArgument(event->modifiers()));
-    return;
-  }
+  if (partAt(place) >= 0) return PaintedPartsWidget::mousePressEvent(event);
   if (event->button() != Qt::LeftButton || !sliderRect().contains(place)) return;
   const QStyleOptionSlider slider = sliderOption();
   const QRect thumb =
@@ -35,12 +32,12 @@ void AdvancedSliderWidget::mouseReleaseEvent(QMouseEvent*) {
   update();
 }
 
-void AdvancedSliderWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (const std::int16_t range = rangeAt(event->position().toPoint())) {
-    advsld_.DoubleClick(range);
-  } else {
-    mousePressEvent(event);
-  }
+void AdvancedSliderWidget::selectPart(int part, int shift) {
+  advsld_.MouseDown(static_cast<std::int16_t>(part + 1), shift);
+}
+
+void AdvancedSliderWidget::openPart(int part) {
+  advsld_.DoubleClick(static_cast<std::int16_t>(part + 1));
 }
 
 void AdvancedSliderWidget::page(int direction) {
@@ -75,26 +72,16 @@ bool AdvancedSliderWidget::moveThumbByKey(int key) {
   }
 }
 
-bool AdvancedSliderWidget::selectByKey(int key, Qt::KeyboardModifiers modifiers) {
-  if (key != Qt::Key_Left && key != Qt::Key_Right) return false;
-  const std::int16_t range = advsld_.iNeighbour(key == Qt::Key_Right);
-  if (range > 0) advsld_.MouseDown(range, shiftArgument(modifiers & ~Qt::ControlModifier));
+bool AdvancedSliderWidget::selectByKey(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) return false;
+  const std::int16_t range = advsld_.iNeighbour(event.key() == Qt::Key_Right);
+  if (range > 0) selectPart(range - 1, shiftArgument(event.modifiers() & ~Qt::ControlModifier));
   return true;
 }
 
-void AdvancedSliderWidget::keyPressEvent(QKeyEvent* event) {
-  const bool control = event->modifiers().testFlag(Qt::ControlModifier);
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  bool done = false;
-  if (control) {
-    done = selectByKey(event->key(), event->modifiers());
-  } else if (enter && currentPart() >= 0) {
-    advsld_.DoubleClick(static_cast<std::int16_t>(currentPart() + 1));
-    done = true;
-  } else {
-    done = moveThumbByKey(event->key());
-  }
-  if (!done) QWidget::keyPressEvent(event);
+bool AdvancedSliderWidget::takeKey(const QKeyEvent& event) {
+  const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+  return control ? selectByKey(event) : moveThumbByKey(event.key());
 }
 
 }  // namespace velra

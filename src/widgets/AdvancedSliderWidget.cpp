@@ -1,18 +1,12 @@
 #include "widgets/AdvancedSliderWidget.h"
 
-#include <QHelpEvent>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionSlider>
-#include <QToolTip>
 
 #include "tool/AdvancedSlider.h"
-#include "widgets/FocusFrame.h"
 #include "widgets/PaintedPartsEvents.h"
 #include "widgets/QtText.h"
-#include "widgets/ShiftArgument.h"
 #include "widgets/TimelinePainter.h"
 #include "widgets/Twips.h"
 
@@ -30,14 +24,15 @@ constexpr int kAnnounceInterval = 400;
 }  // namespace
 
 AdvancedSliderWidget::AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* parent)
-    : QWidget(parent), advsld_(advsld) {
-  setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName(QStringLiteral("Timeline"));
+    : PaintedPartsWidget(QStringLiteral("Timeline"), parent), advsld_(advsld) {
   setMaximumWidth(maximumRulesWidth());
   setEnabled(advsld_.Enabled());
   Timer1_.setInterval(kBlinkInterval);
   connect(&Timer1_, &QTimer::timeout, this, [this] { advsld_.BlinkTick(); });
-  advsld_.events.Repaint = [this] { rulesChanged(); };
+  advsld_.events.Repaint = [this] {
+    setEnabled(advsld_.Enabled());
+    rulesChanged();
+  };
   advsld_.events.ThumbMoved = [this] { thumbMoved(); };
   advsld_.events.RunBlinkTimer = [this](bool on) { on ? Timer1_.start() : Timer1_.stop(); };
 }
@@ -54,19 +49,6 @@ int AdvancedSliderWidget::maximumRulesWidth() {
 
 QSize AdvancedSliderWidget::sizeHint() const {
   return {pixelsFromTwips(9000), TimelinePainter::kMarkRowHeight + kSliderHeight};
-}
-
-void AdvancedSliderWidget::rulesChanged() {
-  setEnabled(advsld_.Enabled());
-  update();
-  if (announcedCount_ != partCount()) {
-    announcedCount_ = partCount();
-    announceParts(*this);
-  }
-  if (announcedPart_ != currentPart()) {
-    announcedPart_ = currentPart();
-    announceCurrentPart(*this, announcedPart_);
-  }
 }
 
 void AdvancedSliderWidget::thumbMoved() {
@@ -119,17 +101,9 @@ int AdvancedSliderWidget::currentPart() const {
   return part >= 0 && part < partCount() ? part : -1;
 }
 
-void AdvancedSliderWidget::pressPart(int part) {
-  advsld_.MouseDown(static_cast<std::int16_t>(part + 1), 0);
-}
-
-bool AdvancedSliderWidget::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const auto& help = static_cast<QHelpEvent&>(*event);
-  const std::int16_t range = rangeAt(help.pos());
-  const QString caption = range > 0 ? partName(range - 1) : QString();
-  QToolTip::showText(help.globalPos(), plainToolTip(fromQString(caption)), this);
-  return true;
+int AdvancedSliderWidget::partAt(const QPoint& place) const {
+  if (place.y() < 0 || place.y() >= TimelinePainter::kMarkRowHeight) return -1;
+  return advsld_.iRangeAt(twipsFromPixels(place.x()) + kTwipsPerPixel / 2.0, kNarrowTwips) - 1;
 }
 
 QRect AdvancedSliderWidget::sliderRect() const {
@@ -157,27 +131,16 @@ QStyleOptionSlider AdvancedSliderWidget::sliderOption() const {
   return option;
 }
 
-void AdvancedSliderWidget::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  TimelinePainter(painter, *this).paint(advsld_);
+void AdvancedSliderWidget::paintParts(QPainter& painter, const QRect& dirty) {
+  // The thumb moves often, and alone.
+  if (dirty.top() < TimelinePainter::kMarkRowHeight) TimelinePainter(painter, *this).paint(advsld_);
   const QStyleOptionSlider slider = sliderOption();
   style()->drawComplexControl(QStyle::CC_Slider, &slider, &painter, this);
-  if (hasFocus()) paintFocusFrame(painter, rect(), palette());
-}
-
-void AdvancedSliderWidget::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  fitRules();
 }
 
 void AdvancedSliderWidget::fitRules() {
   const double twips = twipsFromPixels(width());
   if (advsld_.slider().width != twips) advsld_.Resize(twips);
-}
-
-std::int16_t AdvancedSliderWidget::rangeAt(const QPoint& place) const {
-  if (place.y() < 0 || place.y() >= TimelinePainter::kMarkRowHeight) return 0;
-  return advsld_.iRangeAt(twipsFromPixels(place.x()) + kTwipsPerPixel / 2.0, kNarrowTwips);
 }
 
 std::int32_t AdvancedSliderWidget::valueAt(int x) const {

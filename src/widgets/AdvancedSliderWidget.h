@@ -2,9 +2,8 @@
 
 #include <QElapsedTimer>
 #include <QTimer>
-#include <QWidget>
 
-#include "widgets/PaintedParts.h"
+#include "widgets/PaintedPartsWidget.h"
 
 class QStyleOptionSlider;
 
@@ -15,7 +14,7 @@ class AdvancedSlider;
 /// Paints the timeline and hands mouse and keys to its rules. Left and Right move the thumb, Page
 /// Up and Page Down by a page, Home and End to the ends; with Ctrl, Left and Right select a range,
 /// with Shift a stretch of them; Return goes into the selected range.
-class AdvancedSliderWidget : public QWidget, public PaintedParts {
+class AdvancedSliderWidget : public PaintedPartsWidget {
   Q_OBJECT
 
  public:
@@ -26,8 +25,7 @@ class AdvancedSliderWidget : public QWidget, public PaintedParts {
   /// The width that its rules can count, in pixels: their places are 16-bit numbers of twips.
   static int maximumRulesWidth();
 
-  /// Tells the rules the width. A hidden widget hears of its resizing only when it shows.
-  void fitRules();
+  void fitRules() override;
 
   QSize sizeHint() const override;
 
@@ -44,35 +42,30 @@ class AdvancedSliderWidget : public QWidget, public PaintedParts {
   QString partName(int part) const override;
   bool partSelected(int part) const override;
   int currentPart() const override;
-  void pressPart(int part) override;
 
  protected:
-  bool event(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  int partAt(const QPoint& place) const override;
+  void selectPart(int part, int shift) override;
+  void openPart(int part) override;
+  bool takeKey(const QKeyEvent& event) override;
+  void paintParts(QPainter& painter, const QRect& dirty) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void rulesChanged();
   void thumbMoved();
-  std::int16_t rangeAt(const QPoint& place) const;
   QStyleOptionSlider sliderOption() const;
   QRect sliderRect() const;
   int thumbLength() const;
   std::int32_t valueAt(int x) const;
   void page(int direction);
   bool moveThumbByKey(int key);
-  bool selectByKey(int key, Qt::KeyboardModifiers modifiers);
+  bool selectByKey(const QKeyEvent& event);
 
   AdvancedSlider& advsld_;
   QTimer Timer1_;
   QElapsedTimer sinceAnnounced_;
-  int announcedCount_ = 0;
-  int announcedPart_ = -1;
   bool dragging_ = false;
   int grip_ = 0;  // from the thumb's centre to where the mouse holds it
 };

@@ -1,16 +1,12 @@
 #include "widgets/FramelistWidget.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QToolTip>
+#include <QWheelEvent>
 
 #include "tool/Framelist.h"
-#include "widgets/FocusFrame.h"
-#include "widgets/PaintedPartsEvents.h"
 #include "widgets/QtText.h"
 #include "widgets/RuleColours.h"
 #include "widgets/ShiftArgument.h"
@@ -29,15 +25,18 @@ std::int16_t positionOf(int part) {
 }  // namespace
 
 FramelistWidget::FramelistWidget(Framelist& strip, QWidget* parent)
-    : QWidget(parent), strip_(strip), HScroll1_(new QScrollBar(Qt::Horizontal, this)) {
-  setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName(QStringLiteral("Key frames"));
+    : PaintedPartsWidget(QStringLiteral("Key frames"), parent),
+      strip_(strip),
+      HScroll1_(new QScrollBar(Qt::Horizontal, this)) {
   HScroll1_->setObjectName(QStringLiteral("HScroll1"));
   HScroll1_->setAccessibleName(QStringLiteral("Scroll key frames"));
   HScroll1_->setFocusPolicy(Qt::NoFocus);
   connect(HScroll1_, &QScrollBar::valueChanged, this,
           [this](int value) { strip_.Scroll(static_cast<std::int16_t>(value)); });
-  strip_.events.Repaint = [this] { rulesChanged(); };
+  strip_.events.Repaint = [this] {
+    showScrollBar();
+    rulesChanged();
+  };
   showScrollBar();
 }
 
@@ -47,19 +46,6 @@ FramelistWidget::~FramelistWidget() {
 
 QSize FramelistWidget::sizeHint() const {
   return {pixelsFromTwips(9000), pixelsFromTwips(strip_.iCellY() + Framelist::ScrollBar::kHeight)};
-}
-
-void FramelistWidget::rulesChanged() {
-  showScrollBar();
-  update();
-  if (announcedCount_ != partCount()) {
-    announcedCount_ = partCount();
-    announceParts(*this);
-  }
-  if (announcedPart_ != currentPart()) {
-    announcedPart_ = currentPart();
-    announceCurrentPart(*this, announcedPart_);
-  }
 }
 
 void FramelistWidget::showScrollBar() {
@@ -95,31 +81,25 @@ int FramelistWidget::currentPart() const {
   return part >= 0 && part < partCount() ? part : -1;
 }
 
-void FramelistWidget::pressPart(int part) {
-  strip_.MouseDown(positionOf(part), 0);
-}
-
-std::int16_t FramelistWidget::imageAt(const QPoint& place) const {
+int FramelistWidget::partAt(const QPoint& place) const {
   return strip_.iImageAt(twipsFromPixels(place.x()) - strip_.panelLeft(),
-                         twipsFromPixels(place.y()));
+                         twipsFromPixels(place.y())) -
+         1;
 }
 
-bool FramelistWidget::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const auto& help = static_cast<QHelpEvent&>(*event);
-  const std::int16_t image = imageAt(help.pos());
-  const QString caption = image > 0 ? partName(image - 1) : QString();
-  QToolTip::showText(help.globalPos(), plainToolTip(fromQString(caption)), this);
-  return true;
+void FramelistWidget::selectPart(int part, int shift) {
+  strip_.MouseDown(positionOf(part), shift);
 }
 
-void FramelistWidget::paintEvent(QPaintEvent* event) {
-  QPainter painter(this);
+void FramelistWidget::openPart(int part) {
+  strip_.DoubleClick(positionOf(part));
+}
+
+void FramelistWidget::paintParts(QPainter& painter, const QRect& dirty) {
   painter.fillRect(rect(), palette().color(QPalette::Dark));
   for (int part = 0; part < partCount(); ++part) {
-    if (partRect(part).intersects(event->rect())) paintPicture(painter, part);
+    if (partRect(part).intersects(dirty)) paintPicture(painter, part);
   }
-  if (hasFocus()) paintFocusFrame(painter, rect(), palette());
 }
 
 void FramelistWidget::paintPicture(QPainter& painter, int part) {
@@ -146,25 +126,17 @@ void FramelistWidget::paintPicture(QPainter& painter, int part) {
 }
 
 void FramelistWidget::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
   const int bar = pixelsFromTwips(Framelist::ScrollBar::kHeight);
   HScroll1_->setGeometry(0, height() - bar, width(), bar);
-  fitRules();
+  PaintedPartsWidget::resizeEvent(event);
 }
 
+// A window system may make the window narrower than it is asked to; the rules hear of no width that
+// would end the program.
 void FramelistWidget::fitRules() {
-  const double twips = twipsFromPixels(width());
+  const double least = strip_.leastWidth(static_cast<std::size_t>(partCount()));
+  const double twips = qMax<double>(twipsFromPixels(width()), least);
   if (strip_.width() != twips) strip_.Resize(twips);
-}
-
-void FramelistWidget::mousePressEvent(QMouseEvent* event) {
-  const std::int16_t image = imageAt(event->position().toPoint());
-  if (image > 0) strip_.MouseDown(image, shiftArgument(event->modifiers()));
-}
-
-void FramelistWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-  const std::int16_t image = imageAt(event->position().toPoint());
-  if (image > 0) strip_.DoubleClick(image);
 }
 
 void FramelistWidget::wheelEvent(QWheelEvent* event) {
@@ -176,33 +148,25 @@ void FramelistWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
 }
 
-bool FramelistWidget::selectByKey(const QKeyEvent& event) {
-  std::int16_t image = 0;
-  switch (event.key()) {
+std::int16_t FramelistWidget::imageForKey(int key) const {
+  switch (key) {
     case Qt::Key_Left:
     case Qt::Key_Right:
-      image = strip_.iNeighbour(event.key() == Qt::Key_Right);
-      break;
+      return strip_.iNeighbour(key == Qt::Key_Right);
     case Qt::Key_Home:
     case Qt::Key_End:
-      image = strip_.iImageAtEnd(event.key() == Qt::Key_End);
-      break;
+      return strip_.iImageAtEnd(key == Qt::Key_End);
     default:
-      return false;
+      return 0;
   }
-  if (image == 0) return true;
+}
+
+bool FramelistWidget::takeKey(const QKeyEvent& event) {
+  const std::int16_t image = imageForKey(event.key());
+  if (image == 0) return false;
   strip_.MouseDown(image, shiftArgument(event.modifiers()));
   strip_.ScrollTo(image);
   return true;
-}
-
-void FramelistWidget::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && currentPart() >= 0) {
-    strip_.DoubleClick(positionOf(currentPart()));
-  } else if (!selectByKey(*event)) {
-    QWidget::keyPressEvent(event);
-  }
 }
 
 }  // namespace velra

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QWidget>
-
 #include "widgets/KeyFrameCache.h"
-#include "widgets/PaintedParts.h"
+#include "widgets/PaintedPartsWidget.h"
 
-class QPainter;
 class QScrollBar;
 
 namespace velra {
@@ -14,7 +11,7 @@ class Framelist;
 
 /// Paints the strip of pictures and hands mouse and keys to its rules. Left and Right select the
 /// picture beside, with Shift a stretch; Home and End the first and last; Return goes into it.
-class FramelistWidget : public QWidget, public PaintedParts {
+class FramelistWidget : public PaintedPartsWidget {
   Q_OBJECT
 
  public:
@@ -22,8 +19,7 @@ class FramelistWidget : public QWidget, public PaintedParts {
   FramelistWidget(Framelist& strip, QWidget* parent);
   ~FramelistWidget() override;
 
-  /// Tells the rules the width. A hidden widget hears of its resizing only when it shows.
-  void fitRules();
+  void fitRules() override;
 
   QSize sizeHint() const override;
 
@@ -32,29 +28,24 @@ class FramelistWidget : public QWidget, public PaintedParts {
   QString partName(int part) const override;
   bool partSelected(int part) const override;
   int currentPart() const override;
-  void pressPart(int part) override;
 
  protected:
-  bool event(QEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  int partAt(const QPoint& place) const override;
+  void selectPart(int part, int shift) override;
+  void openPart(int part) override;
+  bool takeKey(const QKeyEvent& event) override;
+  void paintParts(QPainter& painter, const QRect& dirty) override;
   void resizeEvent(QResizeEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void rulesChanged();
   void showScrollBar();
   void paintPicture(QPainter& painter, int part);
-  std::int16_t imageAt(const QPoint& place) const;
-  bool selectByKey(const QKeyEvent& event);
+  std::int16_t imageForKey(int key) const;
 
   Framelist& strip_;
   QScrollBar* HScroll1_;
   KeyFrameCache pictures_;
-  int announcedCount_ = 0;
-  int announcedPart_ = -1;
 };
 
 }  // namespace velra

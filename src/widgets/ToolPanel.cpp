@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
 
 #include "app/ApplicationModule.h"
@@ -20,6 +21,7 @@ namespace velra {
 namespace {
 
 constexpr int kBackCaption = 1040;
+constexpr int kLongParagraph = 4000;  // characters: about five minutes of speech
 
 struct ButtonLooks {
   const char* name;
@@ -157,13 +159,23 @@ void ToolPanel::swapTimeCodeColours(bool swapped) {
 }
 
 void ToolPanel::showTranscript(const QString& text) {
-  rtbTrans_->setPlainText(text);
+  rtbTrans_->clear();
+  appendTranscript(text);
 }
 
+// A paragraph is laid out as a whole for each new word, so that a long text is several of them.
 void ToolPanel::appendTranscript(const QString& text) {
   QTextCursor end(rtbTrans_->document());
   end.movePosition(QTextCursor::End);
-  end.insertText(text);
+  end.beginEditBlock();
+  for (qsizetype at = 0; at < text.size();) {
+    if (end.block().length() > kLongParagraph) end.insertBlock();
+    const qsizetype blank = text.indexOf(QLatin1Char(' '), at + kLongParagraph);
+    const qsizetype stop = blank < 0 ? text.size() : blank;
+    end.insertText(text.mid(at, stop - at));
+    at = stop;
+  }
+  end.endEditBlock();
   rtbTrans_->verticalScrollBar()->setValue(rtbTrans_->verticalScrollBar()->maximum());
 }
 

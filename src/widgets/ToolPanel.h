@@ -30,6 +30,7 @@ class ToolPanel : public QWidget {
   void showTranscript(const QString& text);
   void appendTranscript(const QString& text);
   VideoPictureWidget& picture() { return *picVideoWindow_; }
+  FramelistWidget* strip() { return Framelist1_; }
 
   /// The control that has the focus when the form opens.
   void focusFirst();

@@ -48,6 +48,7 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
   void makeTimers();
   void watchKeys();
   void chooseSize();
+  void keepStripInReach();
   void placeParts();
   void showTab(int tab);
   void Form_KeyUp(const QKeyEvent& event);

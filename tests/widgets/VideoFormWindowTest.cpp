@@ -162,6 +162,23 @@ TEST_F(VideoFormWindowTest, escEndsASelectionAndDeleteAsksWhereverTheFocusIs) {
   EXPECT_EQ(session.main->children.size(), 1u);
 }
 
+TEST_F(VideoFormWindowTest, doesNotBecomeTooNarrowForItsStrip) {
+  for (int i = 0; i < 38; ++i) session.main->AddSubExpression("more", 41, 42);
+  session.ui.inputs = {"one", "two", "three"};
+  inForm([&](QWidget& window) {
+    window.resize(1600, window.height());
+    for (int i = 0; i < 3; ++i) {
+      press(window, "cmdForward");
+      press(window, "cmdSel");
+      press(window, "cmdSel");
+    }
+    ASSERT_EQ(find<FramelistWidget>(window, "Framelist1").partCount(), 43);
+    window.resize(1, window.height());
+    EXPECT_GE(window.width(), (43 * 1100 + 100 - 32767) / 15);
+    EXPECT_LT(window.width(), 1000);
+  });
+}
+
 TEST_F(VideoFormWindowTest, theRangeDialogTakesTypedTimes) {
   session.ui.inputs = {"typed"};
   inForm([&](QWidget& window) {
