@@ -21,7 +21,7 @@ namespace velra {
 namespace {
 
 constexpr int kBackCaption = 1040;
-constexpr int kLongParagraph = 4000;  // characters: about five minutes of speech
+constexpr int kLongParagraph = 2000;  // characters: more than two minutes of speech
 
 struct ButtonLooks {
   const char* name;
