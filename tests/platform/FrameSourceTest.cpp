@@ -5,8 +5,8 @@
 #include <cmath>
 #include <random>
 
-#include "support/NumberedMovie.h"
 #include "platform/PictureConverter.h"
+#include "support/NumberedMovie.h"
 
 namespace velra {
 namespace {

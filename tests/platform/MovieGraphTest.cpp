@@ -7,8 +7,8 @@
 #include <filesystem>
 
 #include "platform/BadMovies.h"
-#include "support/NumberedMovie.h"
 #include "platform/PlayedMovie.h"
+#include "support/NumberedMovie.h"
 
 namespace velra {
 namespace {
