@@ -71,7 +71,7 @@ class MediaObject : public virtual DescribedObject {
   bool bReferedStillToBeSaved() const override { return false; }
   ObjectList waitsFor() const override { return {}; }
   void visitReferences(ReferenceVisitor&) const override {}
-  void setIdentifierListener(IdentifierListener* listener) override { listener_ = listener; }
+  void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
   ObjectList colSelSubTree() override { return {shared_from_this()}; }
   std::string strRemoveAllChilds() override { return {}; }
   bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
@@ -88,7 +88,7 @@ class MediaObject : public virtual DescribedObject {
   std::string strTypeOfObject_;
   std::string strSchemaPath_;
   std::string lastGUID_;  // of an owner that has gone
-  IdentifierListener* listener_ = nullptr;
+  ObjectListener* listener_ = nullptr;
 };
 
 }  // namespace velra

@@ -51,7 +51,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   bool bReferedStillToBeSaved() const override;
   ObjectList waitsFor() const override { return {}; }
   void visitReferences(ReferenceVisitor&) const override {}
-  void setIdentifierListener(IdentifierListener* listener) override { listener_ = listener; }
+  void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
 
   void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
   void RemoveReferenceObj(DescribedObject&) override {}
@@ -112,7 +112,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   InstanceDocument domDoc_;
   std::shared_ptr<const SchemaFile> domSchema_;
   std::shared_ptr<ObjectForm> objForm_;
-  IdentifierListener* listener_ = nullptr;
+  ObjectListener* listener_ = nullptr;
 };
 
 }  // namespace velra

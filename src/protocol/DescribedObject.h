@@ -19,9 +19,9 @@ using ObjectList = std::vector<ObjectRef>;
 
 /// Told of what may have changed in an object; the registry of the document stands behind it and
 /// keeps its indexes true so.
-class IdentifierListener {
+class ObjectListener {
  public:
-  virtual ~IdentifierListener() = default;
+  virtual ~ObjectListener() = default;
   virtual void identifierChanged(const DescribedObject& object) = 0;
   /// An identifier in its fields, or an object below or beside it.
   virtual void referencesChanged(const DescribedObject&) {}
@@ -97,7 +97,7 @@ class DescribedObject : public std::enable_shared_from_this<DescribedObject> {
   virtual void visitReferences(ReferenceVisitor& visitor) const = 0;
 
   /// Null ends the listening.
-  virtual void setIdentifierListener(IdentifierListener* listener) = 0;
+  virtual void setObjectListener(ObjectListener* listener) = 0;
 
   /// This object and everything below it, children first. Empty when the object cannot list what is
   /// below it; else the object itself is the last.

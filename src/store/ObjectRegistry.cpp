@@ -19,7 +19,7 @@ void ObjectRegistry::Add(const ObjectRef& object) {
   const std::uint64_t number = next_++;
   objects_.emplace_hint(objects_.end(), number, object);
   places_.emplace(object.get(), indexed(number, strAbsolutePath(object->strGUID())));
-  object->setIdentifierListener(this);
+  object->setObjectListener(this);
   references_.added(*object);
   if (object->bChanged()) changed_.insert(number);
 }
@@ -36,7 +36,7 @@ bool ObjectRegistry::Remove(const DescribedObject& object) {
   const auto entry = objects_.find(place.number);
   const ObjectRef kept = entry->second;  // its end must not meet a half-changed list
   objects_.erase(entry);
-  kept->setIdentifierListener(nullptr);
+  kept->setObjectListener(nullptr);
   tellFreed(key);
   return true;
 }
@@ -142,7 +142,7 @@ void ObjectRegistry::rekeyAfterFolderChange() {
 }
 
 void ObjectRegistry::clear() {
-  for (const auto& [number, object] : objects_) object->setIdentifierListener(nullptr);
+  for (const auto& [number, object] : objects_) object->setObjectListener(nullptr);
   places_.clear();
   byKey_.clear();
   changed_.clear();

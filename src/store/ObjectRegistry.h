@@ -16,7 +16,7 @@ namespace velra {
 /// The objects of a document in the order of their registration, found by identifier at once:
 /// beside each stands the normal form of its path. The answers are those of a walk over all objects
 /// that makes two paths absolute for each comparison.
-class ObjectRegistry : private IdentifierListener {
+class ObjectRegistry : private ObjectListener {
  public:
   using Sequence = std::map<std::uint64_t, ObjectRef>;
 

@@ -71,7 +71,7 @@ class StubObject : public virtual DescribedObject {
   void visitReferences(ReferenceVisitor& visitor) const override {
     for (const ObjectRef& other : below) visitor.object(*other);
   }
-  void setIdentifierListener(IdentifierListener* listener) override { listener_ = listener; }
+  void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
   ObjectList colSelSubTree() override { return {shared_from_this()}; }
   std::string strRemoveAllChilds() override { return {}; }
   bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
@@ -79,7 +79,7 @@ class StubObject : public virtual DescribedObject {
 
  private:
   std::string guid_;
-  IdentifierListener* listener_ = nullptr;
+  ObjectListener* listener_ = nullptr;
 };
 
 }  // namespace velra::test
