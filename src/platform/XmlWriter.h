@@ -1,51 +1,40 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
-struct _xmlDoc;
-struct _xmlNode;
-
 namespace velra {
 
-/// Builds a document again from its shell (XmlDocument::shellText) and new content of the root. A
-/// name or a text that XML cannot hold raises kInvalidArgument with what it is about.
+class XmlShell;
+
+/// Names and values, each name once.
+using XmlAttributes = std::vector<std::pair<std::string, std::string>>;
+
+/// Writes a document again from its shell and new content of the root, as text: a tree of nodes
+/// would cost as much as all the rest of a save. A name or a text that XML cannot hold raises
+/// kInvalidArgument with what it is about, and leaves the document as it was.
 class XmlWriter {
  public:
-  using Attributes = std::vector<std::pair<std::string, std::string>>;
-
-  explicit XmlWriter(const std::string& shell);
-  XmlWriter(const XmlWriter&) = delete;
-  XmlWriter& operator=(const XmlWriter&) = delete;
-  ~XmlWriter();
+  explicit XmlWriter(const XmlShell& shell);
 
   /// Appends an element to the root, and makes it the one that `addChild` adds to.
   void addElement(const std::string& name, const std::string& text,
-                  const Attributes& attributes = {});
+                  const XmlAttributes& attributes = {});
   void addChild(const std::string& name, const std::string& text,
-                const Attributes& attributes = {});
+                const XmlAttributes& attributes = {});
 
-  /// The whole file in UTF-8. A document that begins with a processing instruction of its own and
-  /// had no declaration gets none.
+  /// The whole file in UTF-8.
   std::string bytes() const;
 
  private:
-  _xmlNode* append(_xmlNode* parent, const std::string& name, const std::string& text,
-                   const Attributes& attributes);
+  void endElement(std::string& target) const;
 
-  struct Free {
-    void operator()(_xmlDoc* document) const;
-  };
-  std::unique_ptr<_xmlDoc, Free> document_;
-  _xmlNode* element_ = nullptr;
+  std::string before_;
+  std::string behind_;
+  std::string content_;   // of the root, but for the end of its last element
+  std::string element_;   // the name of that one; "" while there is none
+  bool isEmpty_ = false;  // it has no content yet, and its start is still open
 };
-
-/// The shell of a new document: the root's name and its attributes.
-std::string newShell(const std::string& rootName, const XmlWriter::Attributes& attributes);
-
-/// The shell with attributes of its root set or replaced.
-std::string withRootAttributes(const std::string& shell, const XmlWriter::Attributes& attributes);
 
 }  // namespace velra

@@ -1,7 +1,7 @@
 #include "schema/InstanceDocument.h"
 
 #include "base/Paths.h"
-#include "platform/XmlWriter.h"
+#include "platform/XmlShell.h"
 
 namespace velra {
 
@@ -18,23 +18,28 @@ bool hasAttribute(const std::string& shell, const std::string& name, const std::
 }  // namespace
 
 InstanceDocument InstanceDocument::create(const std::string& rootName) {
-  return InstanceDocument(std::make_shared<const std::string>(newShell(rootName, {})));
+  return InstanceDocument(std::make_shared<const XmlShell>(newShell(rootName, {})));
 }
 
-const std::string& InstanceDocument::shell() const {
-  static const std::string kNone;
+bool InstanceDocument::empty() const {
+  return shell().text().empty();
+}
+
+const XmlShell& InstanceDocument::shell() const {
+  static const XmlShell kNone{""};
   return shell_ ? *shell_ : kNone;
 }
 
 void InstanceDocument::setSchemaPath(const std::string& schemaPath) {
   const std::string name = strFileName(schemaPath);
   // In a comment the attributes would mean nothing.
-  const bool there = shell().find("<!--") == std::string::npos &&
-                     hasAttribute(shell(), "xmlns:xsi", kNamespace) &&
-                     hasAttribute(shell(), "xsi:noNamespaceSchemaLocation", name);
+  const std::string& text = shell().text();
+  const bool there = text.find("<!--") == std::string::npos &&
+                     hasAttribute(text, "xmlns:xsi", kNamespace) &&
+                     hasAttribute(text, "xsi:noNamespaceSchemaLocation", name);
   if (there) return;
-  shell_ = std::make_shared<const std::string>(withRootAttributes(
-      shell(), {{"xmlns:xsi", kNamespace}, {"xsi:noNamespaceSchemaLocation", name}}));
+  shell_ = std::make_shared<const XmlShell>(withRootAttributes(
+      text, {{"xmlns:xsi", kNamespace}, {"xsi:noNamespaceSchemaLocation", name}}));
 }
 
 }  // namespace velra

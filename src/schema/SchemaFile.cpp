@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/ApplicationModule.h"
+#include "platform/XmlShell.h"
 #include "schema/SchemaReader.h"
 
 namespace velra {
@@ -44,9 +45,9 @@ std::string DocumentSchemas::strXSDPath() const {
   return holds_ > 0 ? heldPath_ : app_.strXSDPath();
 }
 
-std::shared_ptr<const std::string> DocumentSchemas::shared(std::string text) {
-  auto& known = texts_[text];
-  if (!known) known = std::make_shared<const std::string>(std::move(text));
+std::shared_ptr<const XmlShell> DocumentSchemas::shared(std::string text) {
+  auto& known = shells_[text];
+  if (!known) known = std::make_shared<const XmlShell>(std::move(text));
   return known;
 }
 

@@ -14,10 +14,11 @@ namespace velra {
 
 class ApplicationModule;
 class CloseLists;
+class XmlShell;
 
 /// The fields of one class, or the message that tells why they cannot be read.
 struct ClassDeclaration {
-  std::vector<std::shared_ptr<const FieldDeclaration>> fields;
+  std::vector<DeclarationRef> fields;
   /// Offsets of the fields of a name; more than one only where the schema repeats a name.
   std::map<std::string, std::vector<std::size_t>, std::less<>> offsets;
   std::string message;
@@ -61,8 +62,8 @@ class DocumentSchemas {
   /// The path in the settings.
   std::string strXSDPath() const;
 
-  /// One copy of a text that many objects have.
-  std::shared_ptr<const std::string> shared(std::string text);
+  /// One shell for all objects that have the same.
+  std::shared_ptr<const XmlShell> shared(std::string text);
 
   /// While an object of this kind lives, settings and schema are not looked at again: an opening
   /// asks for them once and not for each object.
@@ -80,7 +81,7 @@ class DocumentSchemas {
  private:
   const ApplicationModule& app_;
   std::shared_ptr<const SchemaFile> file_;
-  std::unordered_map<std::string, std::shared_ptr<const std::string>> texts_;
+  std::unordered_map<std::string, std::shared_ptr<const XmlShell>> shells_;
   int holds_ = 0;
   std::string heldPath_;
   bool held_ = false;  // file_ was looked at since the outermost hold began

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "base/Text.h"
+#include "platform/XmlShell.h"
 #include "platform/XmlWriter.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,3 +1,4 @@
+#include "platform/XmlShell.h"
 #include "platform/XmlWriter.h"
 
 #include <gtest/gtest.h>
@@ -105,7 +106,7 @@ TEST(XmlWriter, RefusesWhatXmlCannotHold) {
     }
     EXPECT_EQ(writer.bytes(), kDeclaration + "<a/>\n") << "the document stays as it was";
   }
-  EXPECT_THROW(XmlWriter("no shell"), RunTimeError);
+  EXPECT_THROW(XmlWriter(std::string("no shell")), RunTimeError);
   EXPECT_THROW(newShell("no name", {}), RunTimeError);
 }
 
