@@ -15,6 +15,7 @@ NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   header()->setStretchLastSection(false);
   header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  header()->setResizeContentsPrecision(0);  // asks the rows in sight alone, and draws no other icon
   setModel(&model);
   connect(&model, &TreeModel::expandRequested, this, &QTreeView::expand);
   connect(&model, &TreeModel::currentRequested, this, &QTreeView::setCurrentIndex);
