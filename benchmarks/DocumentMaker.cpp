@@ -56,7 +56,8 @@ class Maker {
 
   std::string make() {
     std::vector<std::string> versions;
-    for (int i = 0; i < plan_.objects / kObjectsOfVersion; ++i) versions.push_back(version());
+    const int count = plan_.segmentsOfOneVersion > 0 ? 1 : plan_.objects / kObjectsOfVersion;
+    for (int i = 0; i < count; ++i) versions.push_back(version());
     write(folder_ + "/film.xml", "AVDocument",
           element("Title", "film") + element("AVDocGUID", folder_ + "/film.xml") +
               element("Synopsis", prose(1, 6)) + element("ExpressedBy", guids(versions)));
@@ -97,8 +98,9 @@ class Maker {
           element("VersionTitle", "Cut " + std::to_string(counters_["version"])) +
               element("VersionGUID", guid) + element("Duration", "", span(0, 600000)) +
               description() + element("ManifestedBy", guids(medias)));
-    expressions("Video", guid, kVideosOfVersion);
-    expressions("Audio", guid, kAudiosOfVersion);
+    const int many = plan_.segmentsOfOneVersion;
+    expressions("Video", guid, many > 0 ? many : kVideosOfVersion);
+    expressions("Audio", guid, many > 0 ? many : kAudiosOfVersion);
     expressions("Transcript", guid, kTranscriptsOfVersion);
     return guid;
   }

@@ -8,6 +8,7 @@ namespace velra::bench {
 struct DocumentPlan {
   int objects = 1000;            // a multiple of 50; spread over all classes
   int wordsInOneTranscript = 0;  // in the first main transcript
+  int segmentsOfOneVersion = 0;  // if so, one Version with so many Videos and so many Audios
 };
 
 /// Writes a document with its object files into a folder, in the way of the sample: Versions with

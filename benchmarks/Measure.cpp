@@ -1,5 +1,6 @@
 #include "Measure.h"
 
+#include <malloc.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -33,6 +34,11 @@ bool report(const std::string& title, const std::vector<Measure>& measures) {
     good = good && measure.good();
   }
   return good;
+}
+
+double heapBytes() {
+  const struct mallinfo2 info = ::mallinfo2();
+  return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
 }
 
 double residentMegabytes() {

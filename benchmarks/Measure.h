@@ -35,6 +35,9 @@ class Times {
 /// Prints the lines, and tells whether all kept their budgets.
 bool report(const std::string& title, const std::vector<Measure>& measures);
 
+/// Bytes that are allocated at present.
+double heapBytes();
+
 /// Resident memory of this process in megabytes.
 double residentMegabytes();
 

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdio>
 #include <random>
 #include <thread>
 
@@ -157,7 +158,10 @@ void addPlay(std::vector<Measure>& measures, const std::string& name, const std:
 
 std::vector<Measure> measureMedia(const std::string& folder) {
   const BenchMovies movies = makeBenchMovies(folder);
-  if (!movies.made) return {};
+  if (!movies.made) {
+    std::puts("The movie was not measured: there is no ffmpeg to make one.");
+    return {};
+  }
   std::vector<Measure> measures;
   measures.push_back(seeks("key every 15", movies.groups15, 60));
   measures.push_back(seeks("key every 250", movies.keys250, 350));

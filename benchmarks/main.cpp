@@ -8,6 +8,7 @@
 #include "DocumentBench.h"
 #include "MediaBench.h"
 #include "ToolBench.h"
+#include "TreeBench.h"
 
 namespace {
 
@@ -21,6 +22,7 @@ struct Part {
 
 constexpr Part kParts[] = {
     {"documents", "Documents", measureDocuments},
+    {"trees", "The trees", measureTrees},
     {"tool", "The expression tool", measureTool},
     {"movie", "The movie, 1280 x 720", measureMedia},
 };

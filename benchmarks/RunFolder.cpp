@@ -1,0 +1,53 @@
+#include "RunFolder.h"
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "platform/FileHandle.h"
+
+namespace velra::bench {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kPrefix = "run-";
+
+// Where the file system does not know the wish, the folders stand where they stand.
+void spreadFoldersBelow(const std::string& path) {
+  const FileHandle folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  unsigned flags = 0;
+  if (!folder || ::ioctl(folder.number(), FS_IOC_GETFLAGS, &flags) != 0) return;
+  flags |= FS_TOPDIR_FL;
+  ::ioctl(folder.number(), FS_IOC_SETFLAGS, &flags);
+}
+
+}  // namespace
+
+RunFolder::RunFolder(const std::string& parent)
+    : path_(parent + "/" + kPrefix + std::to_string(::getpid())) {
+  for (const auto& entry : fs::directory_iterator(parent)) {
+    if (entry.path().filename().string().starts_with(kPrefix)) fs::remove_all(entry.path());
+  }
+  fs::create_directories(path_);
+  spreadFoldersBelow(path_);
+}
+
+RunFolder::~RunFolder() {
+  std::error_code failed;  // what is left goes at the next run
+  fs::remove_all(path_, failed);
+}
+
+std::string RunFolder::make(const std::string& name) {
+  // The name decides on the group, so it is another one in each run.
+  const std::string folder =
+      path_ + "/" + name + " " + std::to_string(::getpid()) + "-" + std::to_string(++made_);
+  fs::create_directories(folder);
+  return folder;
+}
+
+}  // namespace velra::bench
