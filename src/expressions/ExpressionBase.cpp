@@ -29,9 +29,8 @@ constexpr int kFollowedByMessage = 1089;
 
 }  // namespace
 
-ExpressionBase::ExpressionBase(ApplicationModule& app, std::string_view className,
-                               std::vector<std::string> renamedFields)
-    : ObjectBase(app, className), renamedFields_(std::move(renamedFields)) {}
+ExpressionBase::ExpressionBase(ApplicationModule& app, std::string_view className)
+    : ObjectBase(app, className) {}
 
 ExpressionBase::~ExpressionBase() = default;
 
@@ -41,9 +40,12 @@ void ExpressionBase::setObjFollowedBy(const ExpressionRef& next) {
 }
 
 bool ExpressionBase::isReference(const SchemaElement& element) const {
-  const std::string& name = element.strLowerName();
-  return name == "manifestedby" ||
-         std::find(renamedFields_.begin(), renamedFields_.end(), name) != renamedFields_.end();
+  return element.strLowerName() == "manifestedby" || isSingleReference(element);
+}
+
+bool ExpressionBase::isSingleReference(const SchemaElement& element) const {
+  const std::vector<std::string>& names = rules().singleReferences;
+  return std::find(names.begin(), names.end(), element.strLowerName()) != names.end();
 }
 
 void ExpressionBase::setTextField(const std::string& name, const std::string& text) {
@@ -133,10 +135,8 @@ ObjectList ExpressionBase::waitsFor() const {
 
 void ExpressionBase::visitReferences(ReferenceVisitor& visitor) const {
   for (const SchemaElement& field : secol()) {
-    const bool single = std::find(renamedFields_.begin(), renamedFields_.end(),
-                                  field.strLowerName()) != renamedFields_.end();
     // The parent is looked at whether the field is assigned or not.
-    const std::string only = single ? guidIn(field) : std::string();
+    const std::string only = isSingleReference(field) ? guidIn(field) : std::string();
     if (!only.empty()) visitor.identifier(only);
     if (field.strLowerName() != "manifestedby" || !field.bValid()) continue;
     if (const StringList* list = asList(field.vContent())) {
@@ -151,9 +151,8 @@ void ExpressionBase::RenameAllRelativesGUID(const std::string& oldGUID,
                                             const std::string& newGUID) {
   renameManifestations(oldGUID, newGUID);
   for (SchemaElement& field : secol()) {
-    const bool single = std::find(renamedFields_.begin(), renamedFields_.end(),
-                                  field.strLowerName()) != renamedFields_.end();
-    if (!single || !field.bValid() || !io()->bGUIDComp(guidIn(field), oldGUID)) continue;
+    if (!isSingleReference(field) || !field.bValid()) continue;
+    if (!io()->bGUIDComp(guidIn(field), oldGUID)) continue;
     field.setVContent(newGUID);
     field.setBChanged(true);
   }

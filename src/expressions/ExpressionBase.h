@@ -59,8 +59,7 @@ class ExpressionBase : public ObjectBase, public Expression {
   std::string strRemoveAllChilds() override;
 
  protected:
-  ExpressionBase(ApplicationModule& app, std::string_view className,
-                 std::vector<std::string> renamedFields);
+  ExpressionBase(ApplicationModule& app, std::string_view className);
   ~ExpressionBase() override;
 
   void setTextField(const std::string& name, const std::string& text) override;
@@ -85,11 +84,11 @@ class ExpressionBase : public ObjectBase, public Expression {
   void SetPartOf(const std::string& guid);
   void SetFollowedBy(const std::string& guid);
   void ClearPartOf(const std::string& guid);
+  bool isSingleReference(const SchemaElement& element) const;
   void renameManifestations(const std::string& oldGUID, const std::string& newGUID);
   void forgetExpression(DescribedObject& removed);
   void removeSegment(ExpressionRef segment);  // a copy: the caller's may stand in the list
 
-  const std::vector<std::string> renamedFields_;  // lower-cased
   ExpressionList colSubExpressions_;
   std::weak_ptr<Expression> objMainExpr_;
   std::weak_ptr<Expression> objFollowedBy_;

@@ -165,10 +165,7 @@ void ExpressionBase::forgetExpression(DescribedObject& removed) {
                                [&](const ExpressionRef& segment) {
                                  return static_cast<DescribedObject*>(segment.get()) == &removed;
                                });
-  if (at != colSubExpressions_.end()) {
-    colSubExpressions_.erase(at);
-    tellReferences();
-  }
+  if (at != colSubExpressions_.end()) colSubExpressions_.erase(at);
   ClearPartOf(removed.strGUID());
 }
 

@@ -11,9 +11,7 @@ constexpr std::string_view kWordListField = "transcriptwordlist";
 
 }  // namespace
 
-Transcript::Transcript(ApplicationModule& app)
-    : ExpressionBase(app, "Transcript",
-                     {"versionguid", "followedbytranscript", "partoftranscript"}) {}
+Transcript::Transcript(ApplicationModule& app) : ExpressionBase(app, "Transcript") {}
 
 Transcript::~Transcript() = default;
 

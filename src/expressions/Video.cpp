@@ -25,11 +25,7 @@ Video& asVideo(ExpressionBase& segment) {
 
 }  // namespace
 
-Video::Video(ApplicationModule& app)
-    : ExpressionBase(
-          app, "Video",
-          {"hasvideotranscript", "hasaudio", "versionguid", "followedbyvideo", "partofvideo"}),
-      keyFrame_(app, *this) {}
+Video::Video(ApplicationModule& app) : ExpressionBase(app, "Video"), keyFrame_(app, *this) {}
 
 Video::~Video() {
   const auto& picture = keyFrame_.objKeyframeObject();

@@ -132,8 +132,7 @@ void LadderObject::removeReference(const std::string& guid) {
   std::size_t offset = 0;
   SchemaElement* field = fieldHolding(guid, offset);
   if (!field) return;
-  field->changeList(
-      [&](StringList& list) { list.erase(list.begin() + static_cast<std::ptrdiff_t>(offset)); });
+  field->removeFromList(offset);
   field->setBChanged(true);
   // An empty set is never kept: the field is assigned with a member or not at all.
   if (!asList(field->vContent())->empty()) return;
@@ -145,9 +144,7 @@ void LadderObject::RemoveReferenceObj(DescribedObject& removed) {
   removeReference(removed.strGUID());
   const auto at = std::find_if(colChilds_.begin(), colChilds_.end(),
                                [&](const ObjectRef& child) { return child.get() == &removed; });
-  if (at == colChilds_.end()) return;
-  colChilds_.erase(at);
-  tellReferences();
+  if (at != colChilds_.end()) colChilds_.erase(at);
 }
 
 ObjectList LadderObject::colSelSubTree() {

@@ -164,12 +164,14 @@ void ObjectBase::bindForm(const std::shared_ptr<ObjectForm>& form) {
 
 // The registry keeps identifiers, references and what is to be saved in indexes, so it must hear of
 // every write.
-void ObjectBase::contentChanged(const SchemaElement& element) {
+void ObjectBase::contentChanged(const SchemaElement& element, FieldWrite write) {
   fieldChanged(element);
   if (!listener_) return;
   if (element.bChanged()) listener_->markedChanged(*this);
   if (element.strName() == rules_.identityField) listener_->identifierChanged(*this);
-  if (isReference(element)) listener_->referencesChanged(*this);
+  if (write == FieldWrite::MayRefer && isReference(element)) {
+    listener_->referencesAdded(*this);
+  }
 }
 
 bool ObjectBase::isReference(const SchemaElement& element) const {
@@ -177,7 +179,7 @@ bool ObjectBase::isReference(const SchemaElement& element) const {
 }
 
 void ObjectBase::tellReferences() const {
-  if (listener_) listener_->referencesChanged(*this);
+  if (listener_) listener_->referencesAdded(*this);
 }
 
 void ObjectBase::registerSelf() {

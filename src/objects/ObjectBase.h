@@ -79,7 +79,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   /// A field was written; Storage and Video pass on what is about their MediaObject.
   virtual void fieldChanged(const SchemaElement&) {}
 
-  /// To be called when the objects that this one holds have changed.
+  /// To be called when this object holds another one that it did not hold before.
   void tellReferences() const;
 
   /// The document whose schema and registry this object uses: the open one; kNoObject without one.
@@ -103,7 +103,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
  private:
   std::string loadFields(const std::string& guid);
   void bindForm(const std::shared_ptr<ObjectForm>& form);
-  void contentChanged(const SchemaElement& element) override;
+  void contentChanged(const SchemaElement& element, FieldWrite write) override;
 
   ApplicationModule& app_;
   const ClassRules& rules_;

@@ -133,7 +133,6 @@ void Version::RemoveReferenceObj(DescribedObject& removed) {
   for (ExpressionRef* main : {&vdMainVideo_, &auMainAudio_, &trMainTranscript_}) {
     if (main->get() != &removed) continue;
     main->reset();
-    tellReferences();
     return;
   }
 }

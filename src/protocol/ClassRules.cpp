@@ -9,13 +9,35 @@ namespace {
 
 const std::array<ClassRules, 7>& table() {
   static const std::array<ClassRules, 7> kTable{{
-      {"AVDocument", "AVDocGUID", "Title", "expressedby", "Version", "", ""},
-      {"Version", "VersionGUID", "VersionTitle", "manifestedby", "Media", "", ""},
-      {"Media", "MediaGUID", "Format", "availableas", "Storage", "", ""},
-      {"Storage", "StorageGUID", "Collocation", "", "", "", ""},
-      {"Video", "VideoGUID", "Title", "", "", "partofvideo", "followedbyvideo"},
-      {"Audio", "AudioGUID", "Title", "", "", "partofaudio", "followedbyaudio"},
-      {"Transcript", "TranscriptGUID", "Title", "", "", "partoftranscript", "followedbytranscript"},
+      {"AVDocument", "AVDocGUID", "Title", "expressedby", "Version", "", "", {}},
+      {"Version", "VersionGUID", "VersionTitle", "manifestedby", "Media", "", "", {}},
+      {"Media", "MediaGUID", "Format", "availableas", "Storage", "", "", {}},
+      {"Storage", "StorageGUID", "Collocation", "", "", "", "", {}},
+      {"Video",
+       "VideoGUID",
+       "Title",
+       "",
+       "",
+       "partofvideo",
+       "followedbyvideo",
+       {"hasvideotranscript", "hasaudio", "versionguid", "followedbyvideo", "partofvideo"}},
+      // The link of an Audio to its transcript does not follow.
+      {"Audio",
+       "AudioGUID",
+       "Title",
+       "",
+       "",
+       "partofaudio",
+       "followedbyaudio",
+       {"versionguid", "followedbyaudio", "partofaudio"}},
+      {"Transcript",
+       "TranscriptGUID",
+       "Title",
+       "",
+       "",
+       "partoftranscript",
+       "followedbytranscript",
+       {"versionguid", "followedbytranscript", "partoftranscript"}},
   }};
   return kTable;
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velra {
 
@@ -15,6 +16,8 @@ struct ClassRules {
   std::string childClass;       // class of these children
   std::string partOfField;      // lower-cased: the parent expression; "" for the ladder
   std::string followedByField;  // lower-cased: the next sibling
+  std::vector<std::string> singleReferences;  // lower-cased: one identifier each, which follows
+                                              // a rename
 };
 
 /// Null for a class that is none of the seven.

@@ -23,8 +23,9 @@ class ObjectListener {
  public:
   virtual ~ObjectListener() = default;
   virtual void identifierChanged(const DescribedObject& object) = 0;
-  /// An identifier in its fields, or an object below or beside it.
-  virtual void referencesChanged(const DescribedObject&) {}
+  /// It may refer to more than before, by an identifier in its fields or an object below or beside
+  /// it. That it refers to less need not be told.
+  virtual void referencesAdded(const DescribedObject&) {}
   /// It has something to save.
   virtual void markedChanged(const DescribedObject&) {}
 };

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 namespace velra {
 
@@ -29,6 +31,39 @@ struct FieldDeclaration {
   std::string strComment;
   bool bReadOnly = false;
   bool bIgnore = false;
+};
+
+/// A hold on a shared declaration, for one thread. It is one pointer wide, where the library's own
+/// is two and counts for all threads: the fields of a large document hold one each, and there are
+/// more than a million of them.
+class DeclarationRef {
+ public:
+  DeclarationRef() = default;
+  explicit DeclarationRef(FieldDeclaration declaration)
+      : shared_(new Shared{std::move(declaration), 1}) {}
+  DeclarationRef(const DeclarationRef& other) : shared_(other.shared_) {
+    if (shared_) ++shared_->holds;
+  }
+  DeclarationRef(DeclarationRef&& other) noexcept
+      : shared_(std::exchange(other.shared_, nullptr)) {}
+  DeclarationRef& operator=(DeclarationRef other) noexcept {
+    std::swap(shared_, other.shared_);
+    return *this;
+  }
+  ~DeclarationRef() {
+    if (shared_ && --shared_->holds == 0) delete shared_;
+  }
+
+  explicit operator bool() const { return shared_ != nullptr; }
+  const FieldDeclaration& operator*() const { return shared_->declaration; }
+  const FieldDeclaration* operator->() const { return &shared_->declaration; }
+
+ private:
+  struct Shared {
+    FieldDeclaration declaration;
+    std::size_t holds;
+  };
+  Shared* shared_ = nullptr;
 };
 
 }  // namespace velra

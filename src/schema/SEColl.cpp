@@ -48,8 +48,8 @@ SchemaElement& SEColl::Add(tyType type, const std::string& strCloseList, const s
   if (!sKey.empty() && std::find(keys_.begin(), keys_.end(), sKey) != keys_.end()) {
     raise(kDuplicateKey);
   }
-  auto declaration = std::make_shared<FieldDeclaration>(FieldDeclaration{
-      type, strCloseList, strName, toLower(strName), strComment, bReadOnly, bIgnore});
+  DeclarationRef declaration(FieldDeclaration{type, strCloseList, strName, toLower(strName),
+                                              strComment, bReadOnly, bIgnore});
   SchemaElement& element = elements_.emplace_back(std::move(declaration));
   element.setVContent(std::move(vContent));
   element.setBChanged(bChanged);

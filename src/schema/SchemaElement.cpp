@@ -21,8 +21,7 @@ const CloseList& listNamed(const CloseLists& lists, const std::string& name) {
 
 }  // namespace
 
-SchemaElement::SchemaElement(std::shared_ptr<const FieldDeclaration> declaration)
-    : declaration_(std::move(declaration)) {}
+SchemaElement::SchemaElement(DeclarationRef declaration) : declaration_(std::move(declaration)) {}
 
 const FieldDeclaration& SchemaElement::declaration() const {
   static const FieldDeclaration kBlank;
@@ -30,63 +29,71 @@ const FieldDeclaration& SchemaElement::declaration() const {
 }
 
 // The declaration is shared by all objects of a class, so a field that departs from it gets a copy.
-FieldDeclaration& SchemaElement::ownDeclaration() {
-  auto own = std::make_shared<FieldDeclaration>(declaration());
-  FieldDeclaration& result = *own;
-  declaration_ = std::move(own);
-  return result;
+void SchemaElement::changeDeclaration(const std::function<void(FieldDeclaration&)>& change) {
+  FieldDeclaration own = declaration();
+  change(own);
+  declaration_ = DeclarationRef(std::move(own));
 }
 
-void SchemaElement::notify() {
-  if (watcher_) watcher_->contentChanged(*this);
+void SchemaElement::notify(FieldWrite write) {
+  if (watcher_) watcher_->contentChanged(*this, write);
 }
 
 void SchemaElement::setBValid(bool valid) {
   bValid_ = valid;
-  notify();
+  notify(valid ? FieldWrite::MayRefer : FieldWrite::RefersToNoMore);
 }
 
 void SchemaElement::setBChanged(bool changed) {
+  if (!changed && !bChanged_) return;  // each save asks it of every field
   bChanged_ = changed;
-  notify();
+  notify(FieldWrite::RefersToNoMore);
 }
 
 void SchemaElement::setVContent(Value content) {
   vContent_ = std::move(content);
-  notify();
+  notify(isEmpty(vContent_) ? FieldWrite::RefersToNoMore : FieldWrite::MayRefer);
 }
 
 void SchemaElement::changeList(const std::function<void(StringList&)>& change) {
   StringList* list = asList(vContent_);
   if (!list) return;
   change(*list);
-  notify();
+  notify(FieldWrite::MayRefer);
+}
+
+void SchemaElement::removeFromList(std::size_t offset) {
+  StringList* list = asList(vContent_);
+  if (!list || offset >= list->size()) return;
+  list->erase(list->begin() + static_cast<std::ptrdiff_t>(offset));
+  notify(FieldWrite::RefersToNoMore);
 }
 
 void SchemaElement::setBReadOnly(bool readOnly) {
-  ownDeclaration().bReadOnly = readOnly;
+  changeDeclaration([&](FieldDeclaration& own) { own.bReadOnly = readOnly; });
 }
 
 void SchemaElement::setBIgnore(bool ignore) {
-  ownDeclaration().bIgnore = ignore;
+  changeDeclaration([&](FieldDeclaration& own) { own.bIgnore = ignore; });
 }
 
 void SchemaElement::setStrComment(const std::string& comment) {
-  ownDeclaration().strComment = comment;
+  changeDeclaration([&](FieldDeclaration& own) { own.strComment = comment; });
 }
 
 void SchemaElement::setStrName(const std::string& name) {
-  FieldDeclaration& own = ownDeclaration();
-  own.strName = name;
-  own.strLowerName = toLower(name);
+  changeDeclaration([&](FieldDeclaration& own) {
+    own.strName = name;
+    own.strLowerName = toLower(name);
+  });
 }
 
 void SchemaElement::setStrCloseList(const std::string& closeList) {
-  ownDeclaration().strCloseList = closeList;
+  changeDeclaration([&](FieldDeclaration& own) { own.strCloseList = closeList; });
 }
 
 void SchemaElement::setTyType(velra::tyType type) {
-  ownDeclaration().type = type;
+  changeDeclaration([&](FieldDeclaration& own) { own.type = type; });
 }
 
 std::string SchemaElement::strType() const {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "schema/FieldDeclaration.h"
@@ -13,18 +13,21 @@ class ApplicationModule;
 class CloseLists;
 class SchemaElement;
 
+/// What a write can mean for the references in a field: new ones, or at most fewer.
+enum class FieldWrite { MayRefer, RefersToNoMore };
+
 /// Told of every write to a field that it watches; an index over identifiers keeps itself true so.
 class ContentWatcher {
  public:
   virtual ~ContentWatcher() = default;
-  virtual void contentChanged(const SchemaElement& element) = 0;
+  virtual void contentChanged(const SchemaElement& element, FieldWrite write) = 0;
 };
 
 /// One field of an object: what the schema says of it, its value and its flags.
 class SchemaElement {
  public:
   SchemaElement() = default;
-  explicit SchemaElement(std::shared_ptr<const FieldDeclaration> declaration);
+  explicit SchemaElement(DeclarationRef declaration);
 
   bool bValid() const { return bValid_; }
   bool bChanged() const { return bChanged_; }
@@ -45,6 +48,8 @@ class SchemaElement {
   void setVContent(Value content);
   /// Changes the set in the field where it stands; nothing happens when it holds none.
   void changeList(const std::function<void(StringList&)>& change);
+  /// Takes one member, counted from 0, out of the set in the field.
+  void removeFromList(std::size_t offset);
   void setStrName(const std::string& name);
   void setStrCloseList(const std::string& closeList);
   void setTyType(velra::tyType type);
@@ -59,19 +64,15 @@ class SchemaElement {
   /// they have. For a closed list the first item of the list in `lists`.
   void Init(const ApplicationModule& app, const CloseLists& lists);
 
-  /// The watcher outlives the watch, or ends it.
+  /// The watcher outlives the field.
   void watch(ContentWatcher* watcher) { watcher_ = watcher; }
-  /// Ends the watch if it is the given watcher's.
-  void stopWatching(const ContentWatcher* watcher) {
-    if (watcher_ == watcher) watcher_ = nullptr;
-  }
 
  private:
   const FieldDeclaration& declaration() const;
-  FieldDeclaration& ownDeclaration();
-  void notify();
+  void changeDeclaration(const std::function<void(FieldDeclaration&)>& change);
+  void notify(FieldWrite write);
 
-  std::shared_ptr<const FieldDeclaration> declaration_;
+  DeclarationRef declaration_;
   Value vContent_;
   ContentWatcher* watcher_ = nullptr;
   bool bChanged_ = false;

@@ -112,19 +112,19 @@ std::string SchemaReader::strLoadBaseType(const std::string& strBase) {
 std::string SchemaReader::strReadElements(const XmlNode& node, const std::string& strType) {
   const std::string prefix(node.prefix());
   for (XmlNode child = node.firstElement(); child; child = child.nextElement()) {
-    auto field = std::make_shared<FieldDeclaration>();
-    readFlags(child, *field);
-    field->strName = attributeByBaseName(child, "name");
-    field->strLowerName = toLower(field->strName);
-    field->strComment = child.text();
+    FieldDeclaration field;
+    readFlags(child, field);
+    field.strName = attributeByBaseName(child, "name");
+    field.strLowerName = toLower(field.strName);
+    field.strComment = child.text();
     const std::string type = attributeByBaseName(child, "type");
-    if (type.empty() || field->strName.empty()) {
+    if (type.empty() || field.strName.empty()) {
       return strType + ":" + app_.LoadResString(1078) + std::to_string(result_.fields.size() + 1) +
              app_.LoadResString(1079);
     }
-    if (field->strName.find("GUID") != std::string::npos) field->bReadOnly = true;
-    mapType(prefix, type, *field);
-    result_.fields.push_back(std::move(field));
+    if (field.strName.find("GUID") != std::string::npos) field.bReadOnly = true;
+    mapType(prefix, type, field);
+    result_.fields.emplace_back(std::move(field));
   }
   return {};
 }

@@ -65,7 +65,7 @@ ObjectList ObjectRegistry::changedObjects() {
   return list;
 }
 
-void ObjectRegistry::referencesChanged(const DescribedObject& object) {
+void ObjectRegistry::referencesAdded(const DescribedObject& object) {
   references_.changed(object);
 }
 

@@ -77,7 +77,7 @@ class ObjectRegistry : private ObjectListener {
   };
 
   void identifierChanged(const DescribedObject& object) override;
-  void referencesChanged(const DescribedObject& object) override;
+  void referencesAdded(const DescribedObject& object) override;
   void markedChanged(const DescribedObject& object) override;
   void rekeyAfterFolderChange();
   Place indexed(std::uint64_t number, std::string key);

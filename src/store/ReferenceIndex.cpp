@@ -10,28 +10,23 @@ namespace velra {
 
 class ReferenceIndex::Collector : public ReferenceVisitor {
  public:
-  Collector(ReferenceIndex& index, const DescribedObject& holder)
-      : index_(index), holder_(holder), memberships_(index.memberships_[&holder]) {}
+  Collector(ReferenceIndex& index, std::uint64_t holder) : index_(index), holder_(holder) {}
 
   void identifier(const std::string& guid) override { join(index_.byGuid_[strAbsolutePath(guid)]); }
   void object(const DescribedObject& object) override { join(index_.byObject_[&object]); }
 
  private:
   void join(Holders& holders) const {
-    if (!holders.empty() && holders.back() == &holder_) return;
-    holders.push_back(&holder_);
-    memberships_.push_back(&holders);
+    if (holders.empty() || holders.back() != holder_) holders.push_back(holder_);
   }
 
   ReferenceIndex& index_;
-  const DescribedObject& holder_;
-  Memberships& memberships_;
+  const std::uint64_t holder_;
 };
 
 class ReferenceIndex::Checker : public ReferenceVisitor {
  public:
-  Checker(const ReferenceIndex& index, const DescribedObject& holder)
-      : index_(index), holder_(holder) {}
+  Checker(const ReferenceIndex& index, std::uint64_t holder) : index_(index), holder_(holder) {}
 
   void identifier(const std::string& guid) override {
     check(index_.byGuid_, strAbsolutePath(guid));
@@ -45,11 +40,11 @@ class ReferenceIndex::Checker : public ReferenceVisitor {
     const auto found = map.find(key);
     allKnown_ =
         allKnown_ && found != map.end() &&
-        std::find(found->second.begin(), found->second.end(), &holder_) != found->second.end();
+        std::find(found->second.begin(), found->second.end(), holder_) != found->second.end();
   }
 
   const ReferenceIndex& index_;
-  const DescribedObject& holder_;
+  const std::uint64_t holder_;
   bool allKnown_ = true;
 };
 
@@ -57,29 +52,15 @@ void ReferenceIndex::noteChange(const DescribedObject& object) {
   if (built_) changed_.insert(&object);
 }
 
-void ReferenceIndex::removed(const DescribedObject& object) {
-  if (!built_) return;
-  changed_.erase(&object);
-  forget(object);
-}
-
 void ReferenceIndex::clear() {
   built_ = false;
   changed_.clear();
   byGuid_.clear();
   byObject_.clear();
-  memberships_.clear();
-}
-
-void ReferenceIndex::forget(const DescribedObject& object) {
-  const auto known = memberships_.find(&object);
-  if (known == memberships_.end()) return;
-  for (Holders* holders : known->second) std::erase(*holders, &object);
-  memberships_.erase(known);
 }
 
 void ReferenceIndex::collect(const DescribedObject& object) {
-  Collector collector(*this, object);
+  Collector collector(*this, objects_.numberOf(object));
   object.visitReferences(collector);
 }
 
@@ -87,10 +68,7 @@ void ReferenceIndex::bringUpToDate() {
   if (inBatch_) return;
   // Relative identifiers mean other paths when the current folder has changed.
   if (built_ && folderGeneration_ == currentFolderGeneration()) {
-    for (const DescribedObject* object : std::exchange(changed_, {})) {
-      forget(*object);
-      collect(*object);
-    }
+    for (const DescribedObject* object : std::exchange(changed_, {})) collect(*object);
     return;
   }
   clear();
@@ -99,37 +77,43 @@ void ReferenceIndex::bringUpToDate() {
   folderGeneration_ = currentFolderGeneration();
 }
 
-ObjectList ReferenceIndex::listOf(Holders holders) const {
-  std::vector<std::pair<std::uint64_t, ObjectRef>> found;
+ReferenceIndex::Holders* ReferenceIndex::known(const std::string& guid) {
+  const auto found = byGuid_.find(strAbsolutePath(guid));
+  return found == byGuid_.end() ? nullptr : &found->second;
+}
+
+ReferenceIndex::Holders* ReferenceIndex::known(const DescribedObject& object) {
+  const auto found = byObject_.find(&object);
+  return found == byObject_.end() ? nullptr : &found->second;
+}
+
+// Numbers are given once, so that of an object that has gone names nobody.
+ObjectList ReferenceIndex::listOf(Holders& holders) const {
   std::sort(holders.begin(), holders.end());
   holders.erase(std::unique(holders.begin(), holders.end()), holders.end());
-  for (const DescribedObject* holder : holders) {
-    const std::uint64_t number = objects_.numberOf(*holder);
-    if (number > 0) found.emplace_back(number, objects_.sequence().at(number));
-  }
-  std::sort(found.begin(), found.end());
   ObjectList list;
-  list.reserve(found.size());
-  for (auto& [number, object] : found) list.push_back(std::move(object));
+  std::erase_if(holders, [&](std::uint64_t number) {
+    const auto at = objects_.sequence().find(number);
+    if (at == objects_.sequence().end()) return true;
+    list.push_back(at->second);
+    return false;
+  });
   return list;
 }
 
 ObjectList ReferenceIndex::holdersOf(const std::string& guid) {
   bringUpToDate();
-  const auto found = byGuid_.find(strAbsolutePath(guid));
-  return found == byGuid_.end() ? ObjectList{} : listOf(found->second);
+  Holders* holders = known(guid);
+  return holders ? listOf(*holders) : ObjectList{};
 }
 
 ObjectList ReferenceIndex::holdersOf(const DescribedObject& object) {
   bringUpToDate();
   Holders holders;
-  if (const auto found = byGuid_.find(strAbsolutePath(object.strGUID())); found != byGuid_.end()) {
-    holders = found->second;
+  for (const Holders* some : {known(object.strGUID()), known(object)}) {
+    if (some) holders.insert(holders.end(), some->begin(), some->end());
   }
-  if (const auto found = byObject_.find(&object); found != byObject_.end()) {
-    holders.insert(holders.end(), found->second.begin(), found->second.end());
-  }
-  return listOf(std::move(holders));
+  return listOf(holders);
 }
 
 ReferenceIndex::Batch::Batch(ReferenceIndex& index) : index_(index) {
@@ -138,30 +122,27 @@ ReferenceIndex::Batch::Batch(ReferenceIndex& index) : index_(index) {
 }
 
 void ReferenceIndex::Batch::renamed(const std::string& oldGUID, const std::string& newGUID) {
-  const auto old = index_.byGuid_.find(strAbsolutePath(oldGUID));
-  if (old == index_.byGuid_.end()) return;
-  const Holders moved = old->second;
+  const Holders* old = index_.known(oldGUID);
+  if (!old) return;
+  const Holders moved = *old;
   Holders& target = index_.byGuid_[strAbsolutePath(newGUID)];
   target.insert(target.end(), moved.begin(), moved.end());
-  for (const DescribedObject* holder : moved) index_.memberships_[holder].push_back(&target);
 }
 
 void ReferenceIndex::Batch::removed(const DescribedObject& object, const DescribedObject& next) {
-  const auto before = index_.byObject_.find(&object);
-  if (before == index_.byObject_.end()) return;
-  const Holders moved = before->second;
+  const Holders* before = index_.known(object);
+  if (!before) return;
+  const Holders moved = *before;
   Holders& target = index_.byObject_[&next];
-  for (const DescribedObject* holder : moved) {
-    if (std::find(target.begin(), target.end(), holder) != target.end()) continue;
-    target.push_back(holder);
-    index_.memberships_[holder].push_back(&target);
+  for (const std::uint64_t holder : moved) {
+    if (std::find(target.begin(), target.end(), holder) == target.end()) target.push_back(holder);
   }
 }
 
 bool ReferenceIndex::checkConsistency() {
   bringUpToDate();
   for (const auto& [number, object] : objects_.sequence()) {
-    Checker checker(*this, *object);
+    Checker checker(*this, number);
     object->visitReferences(checker);
     if (!checker.allKnown()) return false;
   }

@@ -13,9 +13,10 @@ namespace velra {
 class ObjectRegistry;
 
 /// Who refers to whom among the objects of a registry: it saves asking every object about each that
-/// is renamed or removed. It is built at the first question; from then on only objects that have
-/// told of a change are asked again. It may name an object that does not refer any more, never the
-/// other way round: the object asked decides.
+/// is renamed or removed. It is built at the first question; from then on only objects that may
+/// refer to more than before are asked again. It may name an object that does not refer any more,
+/// never the other way round: the object asked decides. So a reference that goes costs nothing
+/// here.
 class ReferenceIndex {
  public:
   explicit ReferenceIndex(const ObjectRegistry& objects) : objects_(objects) {}
@@ -31,7 +32,7 @@ class ReferenceIndex {
   // What the registry tells.
   void added(const DescribedObject& object) { noteChange(object); }
   void changed(const DescribedObject& object) { noteChange(object); }
-  void removed(const DescribedObject& object);
+  void removed(const DescribedObject& object) { changed_.erase(&object); }
   void clear();
 
   /// While an object of this kind lives, no changed object is asked again: one operation over many
@@ -59,15 +60,15 @@ class ReferenceIndex {
   class Collector;
   class Checker;
 
-  using Holders = std::vector<const DescribedObject*>;
-  // The lists that an object stands in. Maps of this kind keep their members in place.
-  using Memberships = std::vector<Holders*>;
+  using Holders = std::vector<std::uint64_t>;  // numbers of the registry
 
   void noteChange(const DescribedObject& object);
   void bringUpToDate();
   void collect(const DescribedObject& object);
-  void forget(const DescribedObject& object);
-  ObjectList listOf(Holders holders) const;
+  Holders* known(const std::string& guid);
+  Holders* known(const DescribedObject& object);
+  /// Brings the numbers in order, drops those of objects that have gone, and gives the others.
+  ObjectList listOf(Holders& holders) const;
 
   const ObjectRegistry& objects_;
   bool built_ = false;
@@ -76,7 +77,6 @@ class ReferenceIndex {
   std::unordered_set<const DescribedObject*> changed_;
   std::unordered_map<std::string, Holders> byGuid_;  // by the normal form of the identifier
   std::unordered_map<const DescribedObject*, Holders> byObject_;
-  std::unordered_map<const DescribedObject*, Memberships> memberships_;
 };
 
 }  // namespace velra

@@ -16,7 +16,7 @@ namespace {
 using Texts = std::vector<std::string>;
 
 /// "name:type", with "+readonly", "+ignore" and "#comment" where they are set.
-std::string described(const std::shared_ptr<const FieldDeclaration>& declaration) {
+std::string described(const DeclarationRef& declaration) {
   const SchemaElement field(declaration);
   std::string text = field.strName() + ":" + field.strType();
   if (field.bReadOnly()) text += "+readonly";

@@ -30,7 +30,7 @@ class StubObject : public virtual DescribedObject {
     if (listener_) listener_->identifierChanged(*this);
   }
   void tellReferences() const {
-    if (listener_) listener_->referencesChanged(*this);
+    if (listener_) listener_->referencesAdded(*this);
   }
   /// Changes the identifier behind the listener's back, as no object may.
   void setSecretly(const std::string& guid) { guid_ = guid; }
