@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/RunTimeError.h"
 #include "store/IOManager.h"
 #include "support/DocumentSession.h"
@@ -24,9 +26,42 @@ void removeByIndex(AVDocument& document, const ObjectRef& object) {
   document.RemoveObject(removed);
 }
 
-/// The plain rule: every object of the document is asked about each removed one.
+/// The plain rule asks every object about each removed one: those that the index leaves out must
+/// have nothing to forget.
+void askAllOthers(AVDocument& document, DescribedObject& removed) {
+  const ObjectList holders = document.collObjects().references().holdersOf(removed);
+  for (const ObjectRef& other : document.collObjects().all()) {
+    if (std::find(holders.begin(), holders.end(), other) != holders.end()) continue;
+    const std::string before = stateOf(*other);
+    other->RemoveReferenceObj(removed);
+    EXPECT_EQ(stateOf(*other), before) << "forgets " << removed.strGUID();
+  }
+}
+
 void removePlainly(AVDocument& document, const ObjectRef& object) {
-  for (ObjectRef removed : object->colSelSubTree()) document.RemoveObject(removed);
+  for (ObjectRef removed : object->colSelSubTree()) {
+    askAllOthers(document, *removed);
+    document.RemoveObject(removed);
+  }
+}
+
+/// The plain rule for what a save has to write: all objects are asked.
+ObjectList plainChanged(const ObjectRegistry& objects) {
+  ObjectList changed = objects.all();
+  std::erase_if(changed, [](const ObjectRef& object) { return !object->bChanged(); });
+  return changed;
+}
+
+void checkIndexes(AVDocument& document) {
+  ObjectRegistry& objects = document.collObjects();
+  EXPECT_EQ(objects.changedObjects(), plainChanged(objects));
+  EXPECT_TRUE(objects.checkConsistency());
+  EXPECT_TRUE(objects.references().checkConsistency());
+  EXPECT_TRUE(document.io()->checkConsistency(objects));
+}
+
+ObjectRef firstVersion(const AVDocument& document) {
+  return document.colChilds().empty() ? nullptr : document.colChilds().front();
 }
 
 /// What is left after three removals from a generated document; nothing when it does not open.
@@ -44,8 +79,12 @@ Texts stateAfter(DocumentSession& session, unsigned seed, Removal remove) {
         document.collObjects().Item(static_cast<std::size_t>(upTo(random, last - 1)) + 1);
     if (object.get() == &document || object->className() == "MediaObject") continue;
     remove(document, object);
-    EXPECT_TRUE(document.collObjects().checkConsistency());
-    EXPECT_TRUE(document.io()->checkConsistency(document.collObjects()));
+    checkIndexes(document);
+    if (removals == 1) EXPECT_TRUE(document.bSave());
+    // The next one follows after an edit, and in a third of the cases after a new reference.
+    if (const ObjectRef version = firstVersion(document)) version->setStrTitle("edited");
+    if (seed % 3 == 0) document.AddChild("new");
+    checkIndexes(document);
   }
   Texts state = stateOf(document);
   for (const std::string& guid : document.colObjRemoved()) state.push_back("removed " + guid);

@@ -67,6 +67,7 @@ TEST(SaveAs, RenamesAsThePlainRuleDoesOnGeneratedDocuments) {
     session.document()->bSaveAs(target);  // false where segments follow one another in a ring
     EXPECT_EQ(test::firstDifference(statesBelow(*session.document()), plain), "");
     EXPECT_TRUE(session.document()->collObjects().checkConsistency());
+    EXPECT_TRUE(session.document()->collObjects().references().checkConsistency());
     EXPECT_TRUE(session.document()->io()->checkConsistency(session.document()->collObjects()));
   }
 }

@@ -94,6 +94,26 @@ TEST(Opening, EqualsThePlainRuleOnGeneratedDocuments) {
   }
 }
 
+// What was read once answers until the file changes; the plain rule reads all files each time.
+TEST(Opening, ASearchAfterwardsSeesWhatOthersHaveChanged) {
+  DocumentSession session;
+  session.files.smallLadder();
+  session.files.writeRaw("other.xml", "<Audio><Title>of somebody else</Title></Audio>");
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  const auto audio = session.version("version1")->auMainAudio();
+  ASSERT_TRUE(audio && audio->colSubExpressions().empty());
+  session.files.segment("audio2", "audio1", 0, 1000);
+  session.files.writeRaw(
+      "other.xml", "<Audio><PartOfAudio>" + session.files.id("audio1") + "</PartOfAudio></Audio>");
+  audio->OpenSubExpressions();
+  Texts found;
+  for (const auto& segment : audio->colSubExpressions()) {
+    found.push_back(strFileName(segment->strGUID()));
+  }
+  EXPECT_EQ(found, (Texts{"film_audio2.xml", "other.xml"}));
+  EXPECT_TRUE(session.document()->io()->checkConsistency(session.document()->collObjects()));
+}
+
 TEST(Opening, EqualsThePlainRuleOnOddDocuments) {
   const struct {
     const char* what;
