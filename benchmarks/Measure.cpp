@@ -27,7 +27,7 @@ double Times::at(double share) const {
 
 bool report(const std::string& title, const std::vector<Measure>& measures) {
   bool good = true;
-  std::printf("%s\n", title.c_str());
+  if (!measures.empty()) std::printf("%s\n", title.c_str());
   for (const Measure& measure : measures) {
     std::printf("  %-52s %8.2f %-4s of %6.1f  %s\n", measure.name.c_str(), measure.value,
                 measure.unit.c_str(), measure.budget, measure.good() ? "good" : "OVER");

@@ -7,6 +7,7 @@
 
 #include "DocumentBench.h"
 #include "MediaBench.h"
+#include "PieceBench.h"
 #include "ToolBench.h"
 #include "TreeBench.h"
 
@@ -25,6 +26,7 @@ constexpr Part kParts[] = {
     {"trees", "The trees", measureTrees},
     {"tool", "The expression tool", measureTool},
     {"movie", "The movie, 1280 x 720", measureMedia},
+    {"pieces", "The pieces", measurePieces},
 };
 
 }  // namespace

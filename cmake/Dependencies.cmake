@@ -13,3 +13,7 @@ if(VELRA_TESTS)
   find_package(GTest REQUIRED)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
+
+if(VELRA_BENCH)
+  find_package(benchmark REQUIRED)
+endif()

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <map>
 #include <string>
+#include <unordered_map>
 
 #include "values/Picture.h"
 
@@ -23,7 +23,7 @@ class TreeIcons {
   void removeKeyFrames();
 
  private:
-  std::map<std::string, Picture> keyFrames_;
+  std::unordered_map<std::string, Picture> keyFrames_;
 };
 
 }  // namespace velra

@@ -72,6 +72,8 @@ void ReferenceIndex::bringUpToDate() {
     return;
   }
   clear();
+  byGuid_.reserve(objects_.Count());
+  byObject_.reserve(objects_.Count());
   for (const auto& [number, object] : objects_.sequence()) collect(*object);
   built_ = true;
   folderGeneration_ = currentFolderGeneration();
