@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <fstream>
 
 namespace velra::bench {
@@ -15,6 +16,17 @@ void Times::take(const std::function<void()>& action) {
   action();
   const std::chrono::duration<double, std::milli> spent = std::chrono::steady_clock::now() - start;
   add(spent.count());
+}
+
+void Times::takeWork(const std::function<void()>& action) {
+  const auto now = [] {
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+  };
+  const double start = now();
+  action();
+  add(now() - start);
 }
 
 double Times::at(double share) const {

@@ -5,7 +5,10 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
+#include <string_view>
 
 #include "platform/FileHandle.h"
 
@@ -26,12 +29,21 @@ void spreadFoldersBelow(const std::string& path) {
   ::ioctl(folder.number(), FS_IOC_SETFLAGS, &flags);
 }
 
+// True for the folder of a run that has ended.
+bool isLeftOver(const std::string& name) {
+  constexpr std::string_view kRun = kPrefix;
+  if (!name.starts_with(kRun)) return false;
+  const int process = std::atoi(name.c_str() + kRun.size());
+  return process > 0 && ::kill(process, 0) != 0;
+}
+
 }  // namespace
 
 RunFolder::RunFolder(const std::string& parent)
     : path_(parent + "/" + kPrefix + std::to_string(::getpid())) {
   for (const auto& entry : fs::directory_iterator(parent)) {
-    if (entry.path().filename().string().starts_with(kPrefix)) fs::remove_all(entry.path());
+    std::error_code failed;  // another run may be at it
+    if (isLeftOver(entry.path().filename())) fs::remove_all(entry.path(), failed);
   }
   fs::create_directories(path_);
   spreadFoldersBelow(path_);

@@ -1,8 +1,10 @@
 #include "shell/TreeBuilder.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "base/RunTimeError.h"
 #include "objects/Version.h"
@@ -38,19 +40,28 @@ void AddMainChildren(TreeNode& node) {
   }
 }
 
+// All that another member is followed by, sorted.
+std::vector<const Expression*> followersAmong(const ExpressionList& members) {
+  std::vector<const Expression*> followers;
+  followers.reserve(members.size());
+  for (const ExpressionRef& member : members) {
+    const auto next = member->objFollowedBy();
+    if (next && next != member) followers.push_back(next.get());
+  }
+  std::sort(followers.begin(), followers.end());
+  return followers;
+}
+
 // The members in the order of the chain, from the first that no other member is followed by. A
 // chain that runs into itself ends where it does.
 ExpressionList chainOf(const ExpressionList& members) {
-  std::unordered_set<const Expression*> followers;
-  for (const ExpressionRef& member : members) {
-    if (const auto next = member->objFollowedBy(); next && next != member) {
-      followers.insert(next.get());
-    }
-  }
+  if (members.empty()) return {};  // as most are: nothing is to be sorted
+  const std::vector<const Expression*> followers = followersAmong(members);
   ExpressionList chain;
   std::unordered_set<const Expression*> seen;
+  seen.reserve(members.size());
   for (const ExpressionRef& member : members) {
-    if (followers.contains(member.get())) continue;
+    if (std::binary_search(followers.begin(), followers.end(), member.get())) continue;
     for (ExpressionRef at = member; at && seen.insert(at.get()).second; at = at->objFollowedBy()) {
       chain.push_back(at);
     }
