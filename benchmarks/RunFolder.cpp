@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "base/Paths.h"
 #include "platform/FileHandle.h"
 
 namespace velra::bench {
@@ -40,7 +41,7 @@ bool isLeftOver(const std::string& name) {
 }  // namespace
 
 RunFolder::RunFolder(const std::string& parent)
-    : path_(parent + "/" + kPrefix + std::to_string(::getpid())) {
+    : path_(parent + "/" + kPrefix + std::to_string(::getpid())), before_(currentFolder()) {
   for (const auto& entry : fs::directory_iterator(parent)) {
     std::error_code failed;  // another run may be at it
     if (isLeftOver(entry.path().filename())) fs::remove_all(entry.path(), failed);
@@ -50,6 +51,7 @@ RunFolder::RunFolder(const std::string& parent)
 }
 
 RunFolder::~RunFolder() {
+  changeCurrentFolder(before_);
   std::error_code failed;  // what is left goes at the next run
   fs::remove_all(path_, failed);
 }

@@ -25,6 +25,7 @@ class RunFolder {
 
  private:
   std::string path_;
+  std::string before_;  // the current folder, which a document changes
   int made_ = 0;
 };
 

@@ -22,10 +22,8 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"documents", "Documents", measureDocuments},
-    {"trees", "The trees", measureTrees},
-    {"tool", "The expression tool", measureTool},
-    {"movie", "The movie, 1280 x 720", measureMedia},
+    {"documents", "Documents", measureDocuments}, {"trees", "The trees", measureTrees},
+    {"tool", "The expression tool", measureTool}, {"movie", "The movie, 1280 x 720", measureMedia},
     {"pieces", "The pieces", measurePieces},
 };
 
