@@ -26,6 +26,10 @@ using namespace velra;
 // between costs more than the work itself.
 constexpr int kKeptMemory = 256 * 1024 * 1024;
 
+// Blocks up to this size come from what was given back before. A picture in play takes some
+// megabytes, and fresh pages for each cost as much as its colours.
+constexpr int kLargestKeptBlock = 32 * 1024 * 1024;
+
 // The buttons of boxes and file dialogs speak the language of the interface.
 void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
   if (language != InterfaceLanguage::Italian) return;
@@ -71,6 +75,7 @@ int run(const std::string& commandLine) {
 
 int main(int argc, char** argv) {
   mallopt(M_TRIM_THRESHOLD, kKeptMemory);
+  mallopt(M_MMAP_THRESHOLD, kLargestKeptBlock);
   GuardedApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("velra"));
   QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
