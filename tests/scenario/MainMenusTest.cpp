@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QToolBar>
+#include <ostream>
 
 #include "Desktop.h"
 #include "Person.h"
@@ -35,6 +36,11 @@ struct Replacement {
   const char* saved;  // the title in the file
   const char* shown;  // in the tree, which does not know of the change
 };
+
+// The test's name shows it.
+void PrintTo(const Replacement& one, std::ostream* out) {
+  *out << one.entry << ' ' << one.button;
+}
 
 class Replacements : public MainMenus, public ::testing::WithParamInterface<Replacement> {};
 
