@@ -13,10 +13,24 @@ namespace {
 
 constexpr int kBlock = 1024;  // samples a channel: 21 ms
 
-// The library counts its users without a lock, and two movies may open at once.
+// The library has no lock of its own, and two movies may open at once.
 std::mutex& libraryGate() {
   static std::mutex gate;
   return gate;
+}
+
+int libraryUsers = 0;  // guarded by the gate
+
+// Only the sound is opened: the library's common way in also looks for the desktop's message bus,
+// and for that starts a process amid our threads and waits for it without a bound.
+bool enterLibrary() {
+  if (libraryUsers == 0 && SDL_AudioInit(nullptr) != 0) return false;
+  ++libraryUsers;
+  return true;
+}
+
+void leaveLibrary() {
+  if (--libraryUsers == 0) SDL_AudioQuit();
 }
 
 }  // namespace
@@ -26,14 +40,13 @@ SoundDevice::SoundDevice(Fill fill) : fill_(std::move(fill)) {}
 SoundDevice::~SoundDevice() {
   const std::lock_guard lock(libraryGate());
   if (device_ != 0) SDL_CloseAudioDevice(device_);
-  if (inited_) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  if (inited_) leaveLibrary();
   SDL_TLSCleanup();  // what the library keeps for a thread that it did not make
 }
 
 bool SoundDevice::open() {
   const std::lock_guard lock(libraryGate());
-  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  inited_ = inited_ || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+  inited_ = inited_ || enterLibrary();
   if (!inited_) return false;
   SDL_AudioSpec wanted{};
   wanted.freq = SoundReader::kRate;
