@@ -18,8 +18,13 @@ TreeNode* nextNode(TreeNode* node) {
 
 }  // namespace
 
-void Tree::clear() {
-  if (root_) replace(nullptr);
+std::unique_ptr<TreeNode> Tree::take() {
+  if (!root_) return nullptr;
+  if (watcher_) watcher_->treeAboutToReset();
+  selected_ = nullptr;
+  std::unique_ptr<TreeNode> taken = std::exchange(root_, nullptr);
+  if (watcher_) watcher_->treeReset();
+  return taken;
 }
 
 void Tree::replace(std::unique_ptr<TreeNode> root) {

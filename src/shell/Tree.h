@@ -46,7 +46,10 @@ class Tree {
   /// Makes the object's first node the current one, in the view too.
   void makeCurrent(const DescribedObject& object);
 
-  void clear();
+  void clear() { take(); }
+
+  /// Empties the tree and hands its nodes over; null when it was empty.
+  std::unique_ptr<TreeNode> take();
 
   /// Replaces the whole tree at once: the view hears of it before and after.
   void replace(std::unique_ptr<TreeNode> root);

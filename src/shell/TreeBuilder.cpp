@@ -15,14 +15,44 @@ namespace velra {
 
 namespace {
 
+void show(TreeNode& node, const ObjectRef& object, const std::string& image,
+          const std::string& selectedImage) {
+  node.Text = object->strTitle();
+  node.Image = image;
+  node.SelectedImage = selectedImage;
+  node.Tag = object;
+}
+
 std::unique_ptr<TreeNode> makeNode(const ObjectRef& object, const std::string& image,
                                    const std::string& selectedImage) {
   auto node = std::make_unique<TreeNode>();
-  node->Text = object->strTitle();
-  node->Image = image;
-  node->SelectedImage = selectedImage;
-  node->Tag = object;
+  show(*node, object, image, selectedImage);
   return node;
+}
+
+// Nodes keep their order but for a few that came and a few that went; what stands further off is
+// not looked for.
+constexpr std::size_t kLookAhead = 32;
+
+// Gives the node a child for each of the objects, without a text yet. A child that stands for one
+// stays.
+void arrangeChildren(TreeNode& node, const ExpressionList& objects) {
+  const auto standsFor = [](const std::unique_ptr<TreeNode>& child, const ExpressionRef& object) {
+    return child->Tag == object;
+  };
+  if (std::equal(node.children.begin(), node.children.end(), objects.begin(), objects.end(),
+                 standsFor)) {
+    return;
+  }
+  auto former = std::exchange(node.children, {});
+  node.children.reserve(objects.size());
+  auto next = former.begin();
+  for (const ExpressionRef& object : objects) {
+    const auto end = next + std::min<std::ptrdiff_t>(kLookAhead, former.end() - next);
+    const auto at = std::find_if(next, end, [&](const auto& it) { return standsFor(it, object); });
+    addNode(node, at == end ? std::make_unique<TreeNode>() : std::move(*at));
+    if (at != end) next = at + 1;
+  }
 }
 
 std::pair<const char*, const char*> imagesBelow(const std::string& parentClass) {
@@ -52,37 +82,46 @@ std::vector<const Expression*> followersAmong(const ExpressionList& members) {
   return followers;
 }
 
-// The members in the order of the chain, from the first that no other member is followed by. A
-// chain that runs into itself ends where it does.
-ExpressionList chainOf(const ExpressionList& members) {
-  if (members.empty()) return {};  // as most are: nothing is to be sorted
-  const std::vector<const Expression*> followers = followersAmong(members);
+// From the head on, to the end or to where the chain runs into itself.
+ExpressionList chainFrom(const ExpressionRef& head, std::size_t members) {
   ExpressionList chain;
+  chain.reserve(members);
+  ExpressionRef at = head;
+  for (; at && chain.size() < members; at = at->objFollowedBy()) chain.push_back(at);
+  if (!at) return chain;
+  // Longer than its members are many: only such a one may have no end.
+  chain.clear();
   std::unordered_set<const Expression*> seen;
-  seen.reserve(members.size());
-  for (const ExpressionRef& member : members) {
-    if (std::binary_search(followers.begin(), followers.end(), member.get())) continue;
-    for (ExpressionRef at = member; at && seen.insert(at.get()).second; at = at->objFollowedBy()) {
-      chain.push_back(at);
-    }
-    break;
+  for (at = head; at && seen.insert(at.get()).second; at = at->objFollowedBy()) {
+    chain.push_back(at);
   }
   return chain;
 }
 
-void AddSubExpressions(TreeNode& node, const Expression& expression, const TreeIcons& icons) {
-  for (const ExpressionRef& segment : chainOf(expression.colSubExpressions())) {
-    const std::string image =
-        segment->className() == "Video" ? segment->strGUID() : segment->className();
-    if (!icons.holds(image)) raise(kInvalidArgument, image);
-    AddSubExpressions(addNode(node, makeNode(segment, image, image)), *segment, icons);
+// The members in the order of the chain, from the first that no other member is followed by.
+ExpressionList chainOf(const ExpressionList& members) {
+  if (members.empty()) return {};  // as most are: nothing is to be sorted
+  const std::vector<const Expression*> followers = followersAmong(members);
+  for (const ExpressionRef& member : members) {
+    if (!std::binary_search(followers.begin(), followers.end(), member.get())) {
+      return chainFrom(member, members.size());
+    }
   }
+  return {};
 }
 
-void addMainExpression(TreeNode& root, const ExpressionRef& expression, const TreeIcons& icons) {
-  if (!expression) return;
-  const std::string& image = expression->className();
-  AddSubExpressions(addNode(root, makeNode(expression, image, image)), *expression, icons);
+void SetSubExpressions(TreeNode& node, const Expression& expression, const TreeIcons& icons) {
+  const ExpressionList chain = chainOf(expression.colSubExpressions());
+  arrangeChildren(node, chain);
+  for (std::size_t i = 0; i < chain.size(); ++i) {
+    const Expression& segment = *chain[i];
+    const std::string image =
+        segment.className() == "Video" ? segment.strGUID() : segment.className();
+    if (!icons.holds(image)) raise(kInvalidArgument, image);
+    TreeNode& child = *node.children[i];
+    show(child, chain[i], image, image);
+    SetSubExpressions(child, segment, icons);
+  }
 }
 
 }  // namespace
@@ -94,11 +133,17 @@ std::unique_ptr<TreeNode> BuildMainTree(const ObjectRef& document) {
 }
 
 std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
-                                        const TreeIcons& icons) {
-  auto root = makeNode(version, "Version", "Version");
-  addMainExpression(*root, version->vdMainVideo(), icons);
-  addMainExpression(*root, version->auMainAudio(), icons);
-  addMainExpression(*root, version->trMainTranscript(), icons);
+                                        const TreeIcons& icons, std::unique_ptr<TreeNode> former) {
+  auto root = former ? std::move(former) : std::make_unique<TreeNode>();
+  show(*root, version, "Version", "Version");
+  ExpressionList mains{version->vdMainVideo(), version->auMainAudio(), version->trMainTranscript()};
+  std::erase(mains, nullptr);
+  arrangeChildren(*root, mains);
+  for (std::size_t i = 0; i < mains.size(); ++i) {
+    const std::string& image = mains[i]->className();
+    show(*root->children[i], mains[i], image, image);
+    SetSubExpressions(*root->children[i], *mains[i], icons);
+  }
   return root;
 }
 

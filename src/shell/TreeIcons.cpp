@@ -16,8 +16,8 @@ constexpr std::array<std::string_view, 15> kNamedIcons = {
 }  // namespace
 
 bool TreeIcons::holds(const std::string& key) const {
-  return keyFrames_.contains(key) ||
-         std::find(kNamedIcons.begin(), kNamedIcons.end(), key) != kNamedIcons.end();
+  return std::find(kNamedIcons.begin(), kNamedIcons.end(), key) != kNamedIcons.end() ||
+         keyFrames_.contains(key);
 }
 
 const Picture* TreeIcons::keyFrame(const std::string& key) const {

@@ -67,18 +67,18 @@ void frmMain::ShowAVDocTitle() {
 }
 
 void frmMain::ResetTree(TreeId id, const ObjectRef& version) {
-  tree(id).clear();
+  std::unique_ptr<TreeNode> former = tree(id).take();
   if (id == TreeId::tvwMainTree) {
     ShowAVDocTitle();
   } else if (version) {
-    BuildExprTree(version);
+    BuildExprTree(version, std::move(former));
   }
 }
 
-void frmMain::BuildExprTree(const ObjectRef& version) {
+void frmMain::BuildExprTree(const ObjectRef& version, std::unique_ptr<TreeNode> former) {
   const auto object = std::dynamic_pointer_cast<Version>(version);
   if (!object) raise(kTypeMismatch);
-  tvwExpression.replace(velra::BuildExprTree(object, icons_));
+  tvwExpression.replace(velra::BuildExprTree(object, icons_, std::move(former)));
 }
 
 void frmMain::RemoveIcon(const std::string& key) {
@@ -137,7 +137,7 @@ void frmMain::leftClick(TreeId id, const ObjectRef& object) {
   if (const auto storage = std::dynamic_pointer_cast<Storage>(object)) {
     storage->setBIsSelected(true);
   } else if (object->className() == "Version") {
-    BuildExprTree(object);
+    BuildExprTree(object, nullptr);
   }
 }
 

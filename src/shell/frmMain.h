@@ -90,7 +90,7 @@ class frmMain : public MainWindow {
   TreeNode* selectedNode();
   void leftClick(TreeId tree, const ObjectRef& object);
   void applyMenus(const MenuState& state);
-  void BuildExprTree(const ObjectRef& version);
+  void BuildExprTree(const ObjectRef& version, std::unique_ptr<TreeNode> former);
   void AddAllSmallKeyFrames();
   void ResetListImageExpression();
 
