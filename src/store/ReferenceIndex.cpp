@@ -1,6 +1,7 @@
 #include "store/ReferenceIndex.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "base/Paths.h"
@@ -8,45 +9,40 @@
 
 namespace velra {
 
+namespace {
+
+constexpr std::size_t kFewFresh = 1024;
+
+template <class T>
+void sortAndDropDoubles(std::vector<T>& list) {
+  std::sort(list.begin(), list.end());
+  list.erase(std::unique(list.begin(), list.end()), list.end());
+}
+
+}  // namespace
+
 class ReferenceIndex::Collector : public ReferenceVisitor {
  public:
-  Collector(ReferenceIndex& index, std::uint64_t holder) : index_(index), holder_(holder) {}
+  Collector(std::vector<Reference>& found, std::uint64_t holder) : found_(found), holder_(holder) {}
 
-  void identifier(const std::string& guid) override { join(index_.byGuid_[strAbsolutePath(guid)]); }
-  void object(const DescribedObject& object) override { join(index_.byObject_[&object]); }
-
- private:
-  void join(Holders& holders) const {
-    if (holders.empty() || holders.back() != holder_) holders.push_back(holder_);
+  void identifier(const std::string& guid) override { found_.push_back({keyOf(guid), holder_}); }
+  void object(const DescribedObject& object) override {
+    found_.push_back({keyOf(object), holder_});
   }
 
-  ReferenceIndex& index_;
+ private:
+  std::vector<Reference>& found_;
   const std::uint64_t holder_;
 };
 
-class ReferenceIndex::Checker : public ReferenceVisitor {
- public:
-  Checker(const ReferenceIndex& index, std::uint64_t holder) : index_(index), holder_(holder) {}
+// The normal form of an identifier stands for all the ways in which it may be written.
+ReferenceIndex::Key ReferenceIndex::keyOf(const std::string& guid) {
+  return std::hash<std::string>{}(strAbsolutePath(guid));
+}
 
-  void identifier(const std::string& guid) override {
-    check(index_.byGuid_, strAbsolutePath(guid));
-  }
-  void object(const DescribedObject& object) override { check(index_.byObject_, &object); }
-  bool allKnown() const { return allKnown_; }
-
- private:
-  template <class Map, class Key>
-  void check(const Map& map, const Key& key) {
-    const auto found = map.find(key);
-    allKnown_ =
-        allKnown_ && found != map.end() &&
-        std::find(found->second.begin(), found->second.end(), holder_) != found->second.end();
-  }
-
-  const ReferenceIndex& index_;
-  const std::uint64_t holder_;
-  bool allKnown_ = true;
-};
+ReferenceIndex::Key ReferenceIndex::keyOf(const DescribedObject& object) {
+  return std::hash<const DescribedObject*>{}(&object);
+}
 
 void ReferenceIndex::noteChange(const DescribedObject& object) {
   if (built_) changed_.insert(&object);
@@ -55,67 +51,94 @@ void ReferenceIndex::noteChange(const DescribedObject& object) {
 void ReferenceIndex::clear() {
   built_ = false;
   changed_.clear();
-  byGuid_.clear();
-  byObject_.clear();
+  settled_ = {};
+  fresh_.clear();
+  freshCount_ = 0;
 }
 
-void ReferenceIndex::collect(const DescribedObject& object) {
-  Collector collector(*this, objects_.numberOf(object));
+std::vector<ReferenceIndex::Reference> ReferenceIndex::referencesOf(
+    const DescribedObject& object) const {
+  std::vector<Reference> found;
+  Collector collector(found, objects_.numberOf(object));
   object.visitReferences(collector);
+  return found;
+}
+
+void ReferenceIndex::build() {
+  clear();
+  for (const auto& [number, object] : objects_.sequence()) {
+    Collector collector(settled_, number);
+    object->visitReferences(collector);
+  }
+  sortAndDropDoubles(settled_);
+  settled_.shrink_to_fit();
+  built_ = true;
+  folderGeneration_ = currentFolderGeneration();
 }
 
 void ReferenceIndex::bringUpToDate() {
   if (inBatch_) return;
   // Relative identifiers mean other paths when the current folder has changed.
-  if (built_ && folderGeneration_ == currentFolderGeneration()) {
-    for (const DescribedObject* object : std::exchange(changed_, {})) collect(*object);
-    return;
+  if (!built_ || folderGeneration_ != currentFolderGeneration()) return build();
+  for (const DescribedObject* object : std::exchange(changed_, {})) {
+    for (const Reference& reference : referencesOf(*object)) add(reference.key, reference.holder);
   }
-  clear();
-  byGuid_.reserve(objects_.Count());
-  byObject_.reserve(objects_.Count());
-  for (const auto& [number, object] : objects_.sequence()) collect(*object);
-  built_ = true;
-  folderGeneration_ = currentFolderGeneration();
 }
 
-ReferenceIndex::Holders* ReferenceIndex::known(const std::string& guid) {
-  const auto found = byGuid_.find(strAbsolutePath(guid));
-  return found == byGuid_.end() ? nullptr : &found->second;
+void ReferenceIndex::add(Key key, std::uint64_t holder) {
+  Holders& holders = fresh_[key];
+  if (!holders.empty() && holders.back() == holder) return;
+  holders.push_back(holder);
+  ++freshCount_;
+  if (freshCount_ > kFewFresh + settled_.size() / 4) settle();
 }
 
-ReferenceIndex::Holders* ReferenceIndex::known(const DescribedObject& object) {
-  const auto found = byObject_.find(&object);
-  return found == byObject_.end() ? nullptr : &found->second;
+// An object that changes often is asked often and told of as often; here it is counted once again.
+void ReferenceIndex::settle() {
+  for (const auto& [key, holders] : fresh_) {
+    for (const std::uint64_t holder : holders) settled_.push_back({key, holder});
+  }
+  sortAndDropDoubles(settled_);
+  fresh_.clear();
+  freshCount_ = 0;
+}
+
+void ReferenceIndex::appendHolders(Key key, Holders& holders) const {
+  auto at = std::lower_bound(settled_.begin(), settled_.end(), Reference{key, 0});
+  for (; at != settled_.end() && at->key == key; ++at) holders.push_back(at->holder);
+  const auto fresh = fresh_.find(key);
+  if (fresh == fresh_.end()) return;
+  holders.insert(holders.end(), fresh->second.begin(), fresh->second.end());
 }
 
 // Numbers are given once, so that of an object that has gone names nobody.
-ObjectList ReferenceIndex::listOf(Holders& holders) const {
-  std::sort(holders.begin(), holders.end());
-  holders.erase(std::unique(holders.begin(), holders.end()), holders.end());
+ObjectRef ReferenceIndex::livingOf(std::uint64_t holder) const {
+  const auto at = objects_.sequence().find(holder);
+  return at == objects_.sequence().end() ? nullptr : at->second;
+}
+
+ObjectList ReferenceIndex::listOf(Holders holders) const {
+  sortAndDropDoubles(holders);
   ObjectList list;
-  std::erase_if(holders, [&](std::uint64_t number) {
-    const auto at = objects_.sequence().find(number);
-    if (at == objects_.sequence().end()) return true;
-    list.push_back(at->second);
-    return false;
-  });
+  for (const std::uint64_t holder : holders) {
+    if (ObjectRef object = livingOf(holder)) list.push_back(std::move(object));
+  }
   return list;
 }
 
 ObjectList ReferenceIndex::holdersOf(const std::string& guid) {
   bringUpToDate();
-  Holders* holders = known(guid);
-  return holders ? listOf(*holders) : ObjectList{};
+  Holders holders;
+  appendHolders(keyOf(guid), holders);
+  return listOf(std::move(holders));
 }
 
 ObjectList ReferenceIndex::holdersOf(const DescribedObject& object) {
   bringUpToDate();
   Holders holders;
-  for (const Holders* some : {known(object.strGUID()), known(object)}) {
-    if (some) holders.insert(holders.end(), some->begin(), some->end());
-  }
-  return listOf(holders);
+  appendHolders(keyOf(object.strGUID()), holders);
+  appendHolders(keyOf(object), holders);
+  return listOf(std::move(holders));
 }
 
 ReferenceIndex::Batch::Batch(ReferenceIndex& index) : index_(index) {
@@ -124,29 +147,32 @@ ReferenceIndex::Batch::Batch(ReferenceIndex& index) : index_(index) {
 }
 
 void ReferenceIndex::Batch::renamed(const std::string& oldGUID, const std::string& newGUID) {
-  const Holders* old = index_.known(oldGUID);
-  if (!old) return;
-  const Holders moved = *old;
-  Holders& target = index_.byGuid_[strAbsolutePath(newGUID)];
-  target.insert(target.end(), moved.begin(), moved.end());
+  Holders moved;
+  index_.appendHolders(keyOf(oldGUID), moved);
+  const Key key = keyOf(newGUID);
+  for (const std::uint64_t holder : moved) index_.add(key, holder);
 }
 
 void ReferenceIndex::Batch::removed(const DescribedObject& object, const DescribedObject& next) {
-  const Holders* before = index_.known(object);
-  if (!before) return;
-  const Holders moved = *before;
-  Holders& target = index_.byObject_[&next];
+  Holders moved;
+  index_.appendHolders(keyOf(object), moved);
+  Holders known;
+  index_.appendHolders(keyOf(next), known);
   for (const std::uint64_t holder : moved) {
-    if (std::find(target.begin(), target.end(), holder) == target.end()) target.push_back(holder);
+    const bool isKnown = std::find(known.begin(), known.end(), holder) != known.end();
+    // Those that have gone would follow a long chain to its end.
+    if (!isKnown && index_.livingOf(holder)) index_.add(keyOf(next), holder);
   }
 }
 
 bool ReferenceIndex::checkConsistency() {
   bringUpToDate();
   for (const auto& [number, object] : objects_.sequence()) {
-    Checker checker(*this, number);
-    object->visitReferences(checker);
-    if (!checker.allKnown()) return false;
+    for (const auto& [key, holder] : referencesOf(*object)) {
+      Holders known;
+      appendHolders(key, known);
+      if (std::find(known.begin(), known.end(), holder) == known.end()) return false;
+    }
   }
   return true;
 }

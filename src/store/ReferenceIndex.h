@@ -13,15 +13,19 @@ namespace velra {
 class ObjectRegistry;
 
 /// Who refers to whom among the objects of a registry: it saves asking every object about each that
-/// is renamed or removed. It is built at the first question; from then on only objects that may
-/// refer to more than before are asked again. It may name an object that does not refer any more,
-/// never the other way round: the object asked decides. So a reference that goes costs nothing
-/// here.
+/// is renamed or removed. It is built once; from then on only objects that may refer to more than
+/// before are asked again. It may name an object that does not refer any more, never the other way
+/// round: the object asked decides. So a reference that goes costs nothing here, and what is
+/// referred to may be known by a number that another one shares.
 class ReferenceIndex {
  public:
   explicit ReferenceIndex(const ObjectRegistry& objects) : objects_(objects) {}
   ReferenceIndex(const ReferenceIndex&) = delete;
   ReferenceIndex& operator=(const ReferenceIndex&) = delete;
+
+  /// Does now what the first question would wait for: takes in what has changed, and everything
+  /// when nothing has been asked yet.
+  void bringUpToDate();
 
   /// Those with the identifier in a field, in order of registration.
   ObjectList holdersOf(const std::string& guid);
@@ -55,28 +59,42 @@ class ReferenceIndex {
 
   /// True when every reference that an object holds is known; for tests.
   bool checkConsistency();
+  /// How many references are kept, those known twice counted twice; for tests.
+  std::size_t size() const { return settled_.size() + freshCount_; }
 
  private:
   class Collector;
-  class Checker;
 
+  using Key = std::uint64_t;                   // of an object or an identifier
   using Holders = std::vector<std::uint64_t>;  // numbers of the registry
 
+  struct Reference {
+    Key key;
+    std::uint64_t holder;
+    auto operator<=>(const Reference&) const = default;
+  };
+
+  static Key keyOf(const std::string& guid);
+  static Key keyOf(const DescribedObject& object);
+
   void noteChange(const DescribedObject& object);
-  void bringUpToDate();
-  void collect(const DescribedObject& object);
-  Holders* known(const std::string& guid);
-  Holders* known(const DescribedObject& object);
-  /// Brings the numbers in order, drops those of objects that have gone, and gives the others.
-  ObjectList listOf(Holders& holders) const;
+  void build();
+  std::vector<Reference> referencesOf(const DescribedObject& object) const;
+  void add(Key key, std::uint64_t holder);
+  void settle();
+  void appendHolders(Key key, Holders& holders) const;
+  ObjectRef livingOf(std::uint64_t holder) const;
+  ObjectList listOf(Holders holders) const;
 
   const ObjectRegistry& objects_;
   bool built_ = false;
   bool inBatch_ = false;
   unsigned folderGeneration_ = 0;
   std::unordered_set<const DescribedObject*> changed_;
-  std::unordered_map<std::string, Holders> byGuid_;  // by the normal form of the identifier
-  std::unordered_map<const DescribedObject*, Holders> byObject_;
+  std::vector<Reference> settled_;  // in order
+  // What came since; it joins the others before it grows large beside them.
+  std::unordered_map<Key, Holders> fresh_;
+  std::size_t freshCount_ = 0;
 };
 
 }  // namespace velra

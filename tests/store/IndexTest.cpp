@@ -183,6 +183,25 @@ TEST(Indexes, ReferencesThatNobodyToldOfAreMissed) {
   child->below.clear();
 }
 
+// A day of editing one object must not be kept in mind.
+TEST(Indexes, ReferencesToldOfOverAndOverAreKeptOnce) {
+  ObjectRegistry objects;
+  const auto parent = std::make_shared<StubObject>("/a/film_version1.xml");
+  const auto first = std::make_shared<StubObject>("/a/film_media1.xml");
+  const auto second = std::make_shared<StubObject>("/a/film_media2.xml");
+  for (const auto& object : {parent, first, second}) objects.Add(object);
+  parent->below = {first, second};
+  ReferenceIndex& index = objects.references();
+  for (int i = 0; i < 10000; ++i) {
+    parent->tellReferences();
+    second->below = {first};
+    second->tellReferences();
+    ASSERT_EQ(index.holdersOf(*first), (ObjectList{parent, second}));
+  }
+  EXPECT_LT(index.size(), 2000u);
+  second->below.clear();
+}
+
 TEST(Indexes, NumbersEndAt32767) {
   const TemporaryFolder folder;
   ObjectRegistry objects;
