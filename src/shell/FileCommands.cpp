@@ -92,7 +92,10 @@ void frmMain::OpenDoc(const std::string& strDocGUID, bool bFileSystem) {
 
 std::string frmMain::openDocument(const std::string& path, const std::shared_ptr<IOManager>& io) {
   const auto busy = app_.ui.showBusy();
-  return app_.gAVDoc->strOpen(path, frmAVDocFormInstance(), io);
+  std::string message = app_.gAVDoc->strOpen(path, frmAVDocFormInstance(), io);
+  // Who opens a document waits anyway; who removes the first node of it should not.
+  if (message.empty()) app_.gAVDoc->collObjects().references().bringUpToDate();
+  return message;
 }
 
 void frmMain::openOrFindDocument(const std::string& path, const std::shared_ptr<IOManager>& io) {
