@@ -158,8 +158,8 @@ Figures measureDocument(RunFolder& run, const std::string& schema, int objects) 
 void addFor(const Figures& f, std::vector<Measure>& measures) {
   const std::string size = " at " + std::to_string(f.objects);
   const double perObject = 1000 / static_cast<double>(f.objects);
-  std::printf("%d objects: read and parsed once %.0f us each, opened %.0f us each\n", f.objects,
-              f.parse * perObject, f.open * perObject);
+  std::printf("%d objects: each read and parsed once in %.0f us, opened in %.0f, removed in %.1f\n",
+              f.objects, f.parse * perObject, f.open * perObject, f.removeEach * 1000);
   measures.push_back({"open / P" + size, f.open / f.parse, "", 2.5});
   measures.push_back({"save as / P" + size, f.saveAs / f.parseByClock, "", 4});
   measures.push_back({"memory / file bytes" + size, f.memory, "", 2.5});
