@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,7 +47,7 @@ class AVDocument : public LadderObject, public OpenDocument {
   void RemoveObjects(const ObjectList& removed) override;
 
   /// Identifiers of the files of objects that were removed since the document was opened.
-  const std::vector<std::string>& colObjRemoved() const { return colObjRemoved_; }
+  const std::deque<std::string>& colObjRemoved() const { return colObjRemoved_; }
 
  protected:
   OpenDocument& document() const override;
@@ -63,7 +64,8 @@ class AVDocument : public LadderObject, public OpenDocument {
 
   CloseLists collCloseListTypes_;
   DocumentSchemas schemas_;
-  std::vector<std::string> colObjRemoved_;
+  // A vector that grows makes the allocator sweep all that a removal has freed so far.
+  std::deque<std::string> colObjRemoved_;
   ObjectRegistry collObjects_;  // last: its objects go first
 };
 

@@ -125,8 +125,9 @@ TEST(Removal, TheLastChildLeavesTheFieldUnassignedAndAllItsFilesMarked) {
   version->setDDuration(60);
   removeByIndex(*session.document(), version);
   EXPECT_EQ(session.document()->secol().relationField("expressedby")->bValid(), false);
+  const auto& removed = session.document()->colObjRemoved();
   EXPECT_EQ(
-      session.document()->colObjRemoved(),
+      Texts(removed.begin(), removed.end()),
       session.files.ids({"storage1", "media1", "video1", "audio1", "transcript1", "version1"}));
   EXPECT_EQ(version->dDuration(), 0);
   EXPECT_TRUE(session.document()->bSave());
