@@ -107,7 +107,8 @@ class TreeSession {
     }
   }
 
-  // One leaf each time. The first removal is told alone: whatever is put off until then shows there.
+  // One leaf each time. The first removal is told alone: whatever is put off until then shows
+  // there.
   void measureRemovals(Figures& figures) {
     for (std::size_t i = 0; i <= 20; ++i) {
       expandAll();
