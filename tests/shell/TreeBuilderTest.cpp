@@ -47,18 +47,22 @@ Texts plainTexts(const Version& version) {
   return texts;
 }
 
+bool openGenerated(test::Program& program, std::mt19937& random, bool tangled) {
+  const test::DocumentFiles files(program.folder);
+  test::Damage damage = test::Damage::none();
+  damage.tangledSegments = tangled;
+  writeRandomDocument(files, random, damage);
+  program.mainForm.OpenFile(files.documentPath());
+  return program.document() != nullptr;
+}
+
 TEST(TreeBuilder, SegmentsStandInTheOrderOfThePlainRuleOnGeneratedDocuments) {
   int compared = 0;
   for (unsigned seed = 1; seed <= 12 && !HasFailure(); ++seed) {
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     test::Program program;
-    const test::DocumentFiles files(program.folder);
-    test::Damage damage = test::Damage::none();
-    damage.tangledSegments = seed % 2 == 0;
-    writeRandomDocument(files, random, damage);
-    program.mainForm.OpenFile(files.documentPath());
-    if (!program.document()) continue;
+    if (!openGenerated(program, random, seed % 2 == 0)) continue;
     for (std::size_t i = 1; i <= program.document()->colChilds().size(); ++i) {
       program.click(TreeId::tvwMainTree, *program.version(i));
       EXPECT_EQ(test::firstDifference(program.texts(TreeId::tvwExpression),
@@ -157,12 +161,7 @@ TEST(TreeBuilder, NodesOfAFormerTreeStandAsNewOnesWould) {
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     test::Program program;
-    const test::DocumentFiles files(program.folder);
-    test::Damage damage = test::Damage::none();
-    damage.tangledSegments = seed % 2 == 0;
-    writeRandomDocument(files, random, damage);
-    program.mainForm.OpenFile(files.documentPath());
-    if (!program.document()) continue;
+    if (!openGenerated(program, random, seed % 2 == 0)) continue;
     const std::shared_ptr<Version> version = program.version(1);
     const TreeIcons& icons = program.mainForm.imlTreeIcons();
     RandomEdits edits(program, random);
