@@ -30,6 +30,13 @@ std::unique_ptr<TreeNode> makeNode(const ObjectRef& object, const std::string& i
   return node;
 }
 
+// An object that was removed must not live on in the nodes of a former tree: a damaged chain would
+// still lead to it. What a node stood for is known by its place in memory alone from here on.
+void letObjectsGo(TreeNode& node) {
+  node.Tag = ObjectRef(ObjectRef(), node.Tag.get());
+  for (const auto& child : node.children) letObjectsGo(*child);
+}
+
 // Nodes keep their order but for a few that came and a few that went; what stands further off is
 // not looked for.
 constexpr std::size_t kLookAhead = 32;
@@ -134,6 +141,7 @@ std::unique_ptr<TreeNode> BuildMainTree(const ObjectRef& document) {
 
 std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
                                         const TreeIcons& icons, std::unique_ptr<TreeNode> former) {
+  if (former) letObjectsGo(*former);
   auto root = former ? std::move(former) : std::make_unique<TreeNode>();
   show(*root, version, "Version", "Version");
   ExpressionList mains{version->vdMainVideo(), version->auMainAudio(), version->trMainTranscript()};
