@@ -48,9 +48,16 @@ bool CrossLanguageFields::bCLConsistent(const SEColl& secol) {
   return keywordsGood || (!themeFound && !subthemeFound);
 }
 
+// The way out of a document whose form no language opens.
+std::string CrossLanguageFields::withoutKeywords(const std::string& field) const {
+  return field + " has no keyword; the form opens with \"" + app_.LoadResString(1163) +
+         "\" in the menu \"" + app_.LoadResString(1140) + "\"";
+}
+
 bool CrossLanguageFields::keywordsAreKnown(const SchemaElement& field) const {
-  const StringList& members = toCollection(field.vContent());
-  return std::all_of(members.begin(), members.end(), [this](const std::string& member) {
+  const StringList* members = asList(field.vContent());
+  if (!members) raise(kNoObject, withoutKeywords(field.strName()));
+  return std::all_of(members->begin(), members->end(), [this](const std::string& member) {
     return entryOf(*colCurKeywords_, member) != nullptr;
   });
 }
@@ -133,15 +140,21 @@ void CrossLanguageFields::themeClicked() {
 }
 
 void CrossLanguageFields::resetBelowTheme(const std::string& englishTheme) {
+  static const Subtheme kNone;  // stands first in a theme that has no subthemes
   colCurSubthemes_ = colThemeSubthemes(englishTheme);
-  FieldBox& subthemes = existing(cmbSubthemes_);
-  subthemes.items = localNames(existing(colCurSubthemes_), language());
-  if (colCurSubthemes_->empty()) raise(kSubscriptOutOfRange);
-  const Subtheme& first = *colCurSubthemes_->front();
+  const Subthemes& subthemes = existing(colCurSubthemes_);
+  const Subtheme& first = subthemes.empty() ? kNone : *subthemes.front();
   strSubtheme_ = first.strEnglish;
-  subthemes.show(strLocalSubtheme(strSubtheme_));
   colCurKeywords_ = &first.colKeywords();
+  offerSubthemes();
   offerKeywords();
+}
+
+// A field that is not assigned has no control, and nothing to offer.
+void CrossLanguageFields::offerSubthemes() {
+  if (!cmbSubthemes_) return;
+  cmbSubthemes_->items = localNames(existing(colCurSubthemes_), language());
+  cmbSubthemes_->show(strLocalSubtheme(strSubtheme_));
 }
 
 void CrossLanguageFields::subthemeClicked() {
@@ -156,7 +169,6 @@ void CrossLanguageFields::subthemeClicked() {
 }
 
 void CrossLanguageFields::offerKeywords() {
-  // An ignored field has no control, and nothing to offer.
   if (ctlSetOfStringCL1_) ctlSetOfStringCL1_->AssignItems(existing(colCurKeywords_), language());
 }
 

@@ -50,9 +50,11 @@ class CrossLanguageFields : public SpecialFields {
   void AddComboCL(FormFields& form, const SchemaElement& field, std::size_t position);
   void AddSetStringsCL(FormFields& form, const SchemaElement& field, std::size_t position);
   bool keywordsAreKnown(const SchemaElement& field) const;
+  std::string withoutKeywords(const std::string& field) const;
   void themeClicked();
   void subthemeClicked();
   void resetBelowTheme(const std::string& englishTheme);
+  void offerSubthemes();
   void offerKeywords();
 
   ApplicationModule& app_;

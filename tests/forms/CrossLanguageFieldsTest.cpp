@@ -25,6 +25,7 @@ constexpr const char* kVocabulary = R"(<NaroThematicKeywords>
 <Theme English="War" Italian="Guerra">
   <Subtheme English="Peace" Italian="Pace"><Keyword English="Treaty" Italian="Trattato"/></Subtheme>
 </Theme>
+<Theme English="Love" Italian="Amore"/>
 </NaroThematicKeywords>)";
 
 constexpr const char* kAskTheme =
@@ -91,7 +92,7 @@ TEST_F(CrossLanguageTest, ShowsTheThreeFieldsInTheLanguage) {
   load();
   EXPECT_EQ(box(2).controlName(), "Combo1_1");
   EXPECT_EQ(text(2), "Arte");
-  EXPECT_EQ(box(2).items, (Texts{"Arte", "Guerra"}));
+  EXPECT_EQ(box(2).items, (Texts{"Arte", "Guerra", "Amore"}));
   EXPECT_EQ(text(3), "Danza");
   EXPECT_EQ(box(3).items, (Texts{"Danza", "Musica"}));
   EXPECT_EQ(box(4).controlName(), "ctlSetOfStringCL1");
@@ -183,6 +184,23 @@ TEST_F(CrossLanguageTest, AnotherThemeResetsWhatDependsOnIt) {
   EXPECT_EQ(stored(2), Value("War"));
   EXPECT_EQ(stored(3), Value("Peace"));
   EXPECT_EQ(stored(4), Value(StringList{"Treaty"}));
+}
+
+TEST_F(CrossLanguageTest, AThemeWithoutSubthemesOffersNothingBelowIt) {
+  load();
+  application_.ui.yesNo = {true};
+  choose(2, "Amore");
+  EXPECT_EQ(text(3), "");
+  EXPECT_EQ(box(3).items, Texts{});
+  EXPECT_EQ(box(4).rows->choices(), Texts{});
+}
+
+TEST_F(CrossLanguageTest, AThemeResetPassesOverAFieldThatIsNotAssigned) {
+  object_->secol().Item(3).setBValid(false);
+  load();
+  application_.ui.yesNo = {true};
+  choose(2, "Guerra");
+  EXPECT_EQ(box(3).rows->choices(), Texts{"Trattato"});
 }
 
 TEST_F(CrossLanguageTest, AThemeResetWithoutNewKeywordsLosesTheField) {
