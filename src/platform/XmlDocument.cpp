@@ -91,6 +91,11 @@ std::string XmlNode::text() const {
   return xml::textOf(&alone);
 }
 
+std::string XmlNode::typedText() const {
+  const xmlNode* only = isElement() ? node_->children : nullptr;
+  return only && xml::isLoneBlank(*only) ? std::string(viewOf(only->content)) : text();
+}
+
 std::vector<XmlAttribute> XmlNode::attributes() const {
   std::vector<XmlAttribute> found;
   if (!isElement()) return found;
@@ -132,7 +137,8 @@ bool XmlNode::hasAttribute(std::string_view nodeName) const {
 }
 
 XmlNode XmlNode::firstChild() const {
-  return isElement() ? XmlNode(node_->children) : XmlNode();
+  xmlNode* first = isElement() ? node_->children : nullptr;
+  return first && xml::isLoneBlank(*first) ? XmlNode() : XmlNode(first);
 }
 
 XmlNode XmlNode::nextSibling() const {

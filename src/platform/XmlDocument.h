@@ -40,6 +40,8 @@ class XmlNode {
   /// The text of the node and of all below it, in document order. Bounded: entity references expand
   /// to at most 10 MB in all.
   std::string text() const;
+  /// The same of an element whose text people write: blanks count when it holds nothing else.
+  std::string typedText() const;
 
   std::vector<XmlAttribute> attributes() const;
   /// The value of the attribute whose whole name is the given one; "" when there is none.
@@ -55,9 +57,9 @@ class XmlNode {
   _xmlNode* node_ = nullptr;
 };
 
-/// A parsed XML file. Text nodes of white space alone are not part of it. Files are read and parsed
-/// as docs/file-formats.md tells: no network, bounded entities, validation where there is a
-/// document type.
+/// A parsed XML file. Text nodes of white space alone are not part of it, but for what typedText
+/// tells. Files are read and parsed as docs/file-formats.md tells: no network, bounded entities,
+/// validation where there is a document type.
 class XmlDocument {
  public:
   XmlDocument() = default;

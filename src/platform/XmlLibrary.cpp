@@ -11,6 +11,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "platform/Files.h"
+#include "platform/XmlText.h"
 
 namespace velra::xml {
 namespace {
@@ -152,11 +153,6 @@ Document parseWith(ParseStep step, std::string_view bytes, const std::string& pa
   return nullptr;
 }
 
-bool isBlank(const xmlNode& node) {
-  const std::string_view text = viewOf(node.content);
-  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
 bool isReference(const xmlNode* node) {
   return node && node->type == XML_ENTITY_REF_NODE;
 }
@@ -168,13 +164,13 @@ xmlNode* following(xmlNode* node, const xmlNode* root) {
 }
 
 /// People indent their files: text of white space alone is no content. Beside a reference it may be
-/// the blank between two words.
+/// the blank between two words, and alone in its element it may have been typed.
 void dropBlankTexts(xmlNode* root) {
   xmlNode* node = root;
   while (node) {
     const bool descend = node->type == XML_ELEMENT_NODE && node->children;
     xmlNode* next = descend ? node->children : following(node, root);
-    if (node->type == XML_TEXT_NODE && isBlank(*node) && !isReference(node->prev) &&
+    if (isBlankText(*node) && !isLoneBlank(*node) && !isReference(node->prev) &&
         !isReference(node->next)) {
       xmlUnlinkNode(node);
       xmlFreeNode(node);

@@ -27,6 +27,7 @@ class TextWalk {
   void visit(const xmlNode& node, int depth, bool inEntity) {
     if (depth > kMostLevels) return;
     if (node.type == XML_TEXT_NODE || node.type == XML_CDATA_SECTION_NODE) {
+      if (isLoneBlank(node)) return;
       append(viewOf(node.content), inEntity);
     } else if (node.type == XML_ELEMENT_NODE) {
       walk(node.children, depth + 1, inEntity);
@@ -59,8 +60,18 @@ class TextWalk {
 
 }  // namespace
 
+bool isBlankText(const xmlNode& node) {
+  return node.type == XML_TEXT_NODE &&
+         viewOf(node.content).find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
+bool isLoneBlank(const xmlNode& node) {
+  return !node.prev && !node.next && node.parent && node.parent->type == XML_ELEMENT_NODE &&
+         isBlankText(node);
+}
+
 std::string textOf(const xmlNode* first) {
-  if (!first) return {};
+  if (!first || isLoneBlank(*first)) return {};
   if (!first->next && first->type == XML_TEXT_NODE) return std::string(viewOf(first->content));
   TextWalk walk;
   walk.walk(first, 0, false);

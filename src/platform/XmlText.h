@@ -6,6 +6,12 @@
 
 namespace velra::xml {
 
+/// True for a text of white space alone.
+bool isBlankText(const xmlNode& node);
+
+/// True for a text of white space alone that is all that its element holds.
+bool isLoneBlank(const xmlNode& node);
+
 /// The text of a list of nodes and of all below them, as XmlNode::text has it.
 std::string textOf(const xmlNode* first);
 

@@ -35,7 +35,7 @@ Times timesOf(const XmlNode& node) {
 }
 
 void readText(const XmlNode& node, SchemaElement& element) {
-  std::string text = node.text();
+  std::string text = node.typedText();
   const bool usable = !text.empty();
   element.setVContent(std::move(text));
   if (usable) element.setBValid(true);
@@ -58,7 +58,8 @@ void readBool(const XmlNode& node, SchemaElement& element) {
 void readSet(const XmlNode& node, SchemaElement& element) {
   StringList list;
   for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
-    list.push_back(item.text());
+    const bool typed = element.tyType() == tyType::SetOfStrings;
+    list.push_back(typed ? item.typedText() : item.text());
   }
   const bool usable = !list.empty();
   element.setVContent(std::move(list));
@@ -80,7 +81,7 @@ void readWords(const XmlNode& node, SchemaElement& element) {
   words->reserve(static_cast<std::size_t>(iChildElements(node)));
   for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
     const Times times = timesOf(item);
-    if (times.complete()) words->Add("", "", *times.start, *times.end, item.text());
+    if (times.complete()) words->Add("", "", *times.start, *times.end, item.typedText());
   }
   const bool usable = !words->empty();
   element.setVContent(std::move(words));
@@ -103,7 +104,7 @@ void readValue(const XmlNode& node, SchemaElement& element) {
     case tyType::WordList:
       return readWords(node, element);
     default:
-      element.setVContent(node.text());
+      element.setVContent(node.typedText());
       element.setBValid(true);
   }
 }

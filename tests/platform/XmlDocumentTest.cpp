@@ -149,18 +149,23 @@ TEST(XmlDocument, DropsBlanksBetweenElementsAlone) {
     const char* bytes;
     const char* text;
     int children;
+    const char* typed = nullptr;  // when it is another text
   } cases[] = {
       {"<a>\n  <b/>\n  <c/>\n</a>", "", 2},
-      {"<a> </a>", "", 0},
+      {"<a> &#10;\t</a>", "", 0, " \n\t"},
+      {"<a> <!-- no --> </a>", "", 1},
+      {"<a>one<b> </b>two</a>", "onetwo", 3},
       {"<a><![CDATA[ ]]></a>", " ", 1},
       {"<a>one <b>two</b> three</a>", "one two three", 3},
       {"<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY e 'x'>]><a>&e; &e;</a>", "x x", 3},
+      {"<!DOCTYPE a [<!ELEMENT a ANY><!ENTITY e ' '>]><a>&e;</a>", " ", 1},
       {"<a>one<!-- no --><?no no?>two<![CDATA[ & ]]>three</a>", "onetwo & three", 6},
   };
   for (const Case& one : cases) {
     XmlDocument document;
     ASSERT_TRUE(document.parse(one.bytes, "")) << one.bytes << document.reason();
     EXPECT_EQ(document.documentElement().text(), one.text) << one.bytes;
+    EXPECT_EQ(document.documentElement().typedText(), one.typed ? one.typed : one.text);
     int children = 0;
     for (XmlNode at = document.documentElement().firstChild(); at; at = at.nextSibling())
       ++children;
