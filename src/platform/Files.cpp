@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "platform/FileHandle.h"
 #include "platform/WriteInPlace.h"
 
@@ -23,6 +24,10 @@ std::string outcome(bool success) {
   return success ? std::string() : systemReason(errno);
 }
 
+bool sameLetter(char a, char b) {
+  return a == b || equalIgnoringAsciiCase({&a, 1}, {&b, 1});
+}
+
 /// True when a name fits a pattern of bytes, "*" for any run and "?" for any one.
 bool fits(std::string_view name, std::string_view pattern) {
   std::size_t at = 0, in = 0, star = std::string_view::npos, from = 0;
@@ -30,7 +35,7 @@ bool fits(std::string_view name, std::string_view pattern) {
     if (in < pattern.size() && pattern[in] == '*') {
       star = in++;
       from = at;
-    } else if (in < pattern.size() && (pattern[in] == '?' || pattern[in] == name[at])) {
+    } else if (in < pattern.size() && (pattern[in] == '?' || sameLetter(pattern[in], name[at]))) {
       ++in;
       ++at;
     } else if (star != std::string_view::npos) {

@@ -22,8 +22,8 @@ struct FileStamp {
 };
 FileStamp fileStamp(const std::string& path);
 
-/// The names in a folder that match a pattern of the form "folder/*.xml", plain files alone, sorted
-/// by their bytes. A folder that cannot be listed gives none.
+/// The names in a folder that match a pattern of the form "folder/*.xml", capitals or not, plain
+/// files alone, sorted by their bytes. A folder that cannot be listed gives none.
 std::vector<std::string> colListFiles(const std::string& pattern);
 
 /// The bytes of a regular file, or one sentence that tells why not.

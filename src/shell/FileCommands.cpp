@@ -26,8 +26,12 @@ std::string folderAboveData(const std::string& path) {
   const std::string ending = "_files";
   const std::string dataFolder = strAbsolutePath(folderOf(path));
   if (!dataFolder.ends_with(ending)) return {};
-  const std::string document = dataFolder.substr(0, dataFolder.size() - ending.size()) + ".xml";
-  return bFileExists(document) ? folderOf(document) : std::string();
+  const std::string document = dataFolder.substr(0, dataFolder.size() - ending.size());
+  std::string folder = folderOf(document);
+  for (const std::string& name : colListFiles(folder + "*.xml")) {
+    if (folder + name.substr(0, name.rfind('.')) == document) return folder;
+  }
+  return {};
 }
 
 // The document of an object's file. The references on the way up start where the document lies.

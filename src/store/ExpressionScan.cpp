@@ -71,7 +71,7 @@ std::vector<ObjRecord> IOManager::colScanRelatives(const std::string& strGUID,
   if (!bFileSystem_) return records;
   if (!app_.gAVDoc) raise(kNoObject);
   std::string folder;
-  const std::string ownName = strSplitPath(strGUID, folder) + ".xml";
+  const std::string ownName = strSplitPath(strGUID, folder);
   if (strWantedClass == "AVDocument") folder += "../";
   const auto relation =
       strRelation.starts_with("PartOf") ? FolderScan::Relation::PartOf : FolderScan::Relation::Own;
@@ -79,7 +79,7 @@ std::vector<ObjRecord> IOManager::colScanRelatives(const std::string& strGUID,
   const FolderScan& scan = scanOf(folder);
   for (const std::size_t offset : scan.relevant(relation, classes, strGUID)) {
     const ScannedFile& file = scan.file(offset);
-    if (file.name == ownName) continue;
+    if (std::string_view(file.name).substr(0, file.name.rfind('.')) == ownName) continue;
     ObjRecord record;
     if (considerFile(folder + file.name, file, classes, relation, strClass, strGUID, record)) {
       records.push_back(std::move(record));

@@ -98,19 +98,19 @@ TEST(Opening, EqualsThePlainRuleOnGeneratedDocuments) {
 TEST(Opening, ASearchAfterwardsSeesWhatOthersHaveChanged) {
   DocumentSession session;
   session.files.smallLadder();
-  session.files.writeRaw("other.xml", "<Audio><Title>of somebody else</Title></Audio>");
+  session.files.writeRaw("other.XML", "<Audio><Title>of somebody else</Title></Audio>");
   ASSERT_EQ(session.open(session.files.documentPath()), "");
   const auto audio = session.version("version1")->auMainAudio();
   ASSERT_TRUE(audio && audio->colSubExpressions().empty());
   session.files.segment("audio2", "audio1", 0, 1000);
   session.files.writeRaw(
-      "other.xml", "<Audio><PartOfAudio>" + session.files.id("audio1") + "</PartOfAudio></Audio>");
+      "other.XML", "<Audio><PartOfAudio>" + session.files.id("audio1") + "</PartOfAudio></Audio>");
   audio->OpenSubExpressions();
   Texts found;
   for (const auto& segment : audio->colSubExpressions()) {
     found.push_back(strFileName(segment->strGUID()));
   }
-  EXPECT_EQ(found, (Texts{"film_audio2.xml", "other.xml"}));
+  EXPECT_EQ(found, (Texts{"film_audio2.xml", "other.XML"}));
   EXPECT_TRUE(session.document()->io()->checkConsistency(session.document()->collObjects()));
 }
 
