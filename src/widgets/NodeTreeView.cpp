@@ -63,8 +63,8 @@ void NodeTreeView::keyPressEvent(QKeyEvent* event) {
 }
 
 void NodeTreeView::keyReleaseEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier &&
-      !event->isAutoRepeat()) {
+  const bool shifted = (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
+  if (event->key() == Qt::Key_Delete && !shifted && !event->isAutoRepeat()) {
     Q_EMIT deleteReleased();
     return;
   }
