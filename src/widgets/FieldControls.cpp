@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QStyleOptionGroupBox>
 #include <QWheelEvent>
 #include <algorithm>
@@ -21,6 +22,8 @@ namespace velra {
 namespace {
 
 using namespace form_layout;
+
+constexpr int kFirstYear = 100;  // of the toolkit's date picker
 
 /// A date edit that leaves the wheel to the form.
 class DateBox : public QDateEdit {
@@ -50,17 +53,30 @@ QWidget* makeCheck(FieldBox& box, QWidget* frame) {
   return check;
 }
 
+// A text that is no date leaves the one that was there.
+QWidget* makeEarlyDate(FieldBox& box, const Date& date, QWidget* frame) {
+  const auto shown = [&box] { return toQString(std::get<Date>(box.value).isoText()); };
+  auto* text = new QLineEdit(shown(), frame);
+  text->setEnabled(!box.bReadOnly);
+  QObject::connect(text, &QLineEdit::textEdited, text, [&box, date](const QString& typed) {
+    box.value = Date::fromIsoText(fromQString(typed)).value_or(date);
+  });
+  QObject::connect(text, &QLineEdit::editingFinished, text,
+                   [text, shown] { text->setText(shown()); });
+  return text;
+}
+
 QWidget* makeDate(FieldBox& box, QWidget* frame) {
+  const auto* date = std::get_if<Date>(&box.value);
+  if (date && date->year < kFirstYear) return makeEarlyDate(box, *date, frame);
   auto* picker = new DateBox(frame);
   picker->setCalendarPopup(true);
   picker->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
-  picker->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-  if (const auto* date = std::get_if<Date>(&box.value)) {
-    picker->setDate(QDate(date->year, date->month, date->day));
-  }
+  picker->setDateRange(QDate(kFirstYear, 1, 1), QDate(9999, 12, 31));
+  if (date) picker->setDate(QDate(date->year, date->month, date->day));
   picker->setEnabled(!box.bReadOnly);
-  QObject::connect(picker, &QDateEdit::dateChanged, picker, [&box](QDate date) {
-    box.value = Date{date.year(), date.month(), date.day()};
+  QObject::connect(picker, &QDateEdit::dateChanged, picker, [&box](QDate chosen) {
+    box.value = Date{chosen.year(), chosen.month(), chosen.day()};
   });
   return picker;
 }

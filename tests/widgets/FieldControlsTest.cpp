@@ -69,7 +69,9 @@ TEST_F(FieldControlsTest, WhatIsEnteredReachesTheFields) {
   object_->add(tyType::Bool, "B", false);
   object_->add(tyType::Date, "D", Date{2001, 1, 1});
   object_->add(tyType::CloseList, "C", "red", "Colours");
+  object_->add(tyType::Date, "E", Date{50, 1, 1});
   open();
+  QTest::keyClicks(&find("DTPicker1_2"), QStringLiteral("9"));
   QTest::keyClick(&find("Text1_1"), Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(&find("Text1_1"), QStringLiteral("new"));
   tick("Check1_1");
@@ -80,6 +82,7 @@ TEST_F(FieldControlsTest, WhatIsEnteredReachesTheFields) {
   EXPECT_EQ(stored(2), Value(std::int16_t{1}));
   EXPECT_EQ(stored(3), Value(Date{1999, 12, 31}));
   EXPECT_EQ(stored(4), Value("blue"));
+  EXPECT_EQ(stored(5), Value(Date{50, 1, 19}));
 }
 
 TEST_F(FieldControlsTest, UntouchedTextsStayByteForByte) {
@@ -88,6 +91,10 @@ TEST_F(FieldControlsTest, UntouchedTextsStayByteForByte) {
   object_->add(tyType::SetOfStrings, "S", StringList{odd, ""});
   object_->add(tyType::Date, "D", Date{50, 1, 1});  // earlier than the picker can show
   open();
+  auto& early = find<QLineEdit>("DTPicker1_1");
+  QTest::keyClicks(&early, QStringLiteral("x"));
+  QTest::keyClick(&early, Qt::Key_Return);
+  EXPECT_EQ(early.text(), QStringLiteral("0050-01-01"));
   QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
   EXPECT_FALSE(object_->bChanged());
 }
