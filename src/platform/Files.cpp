@@ -139,6 +139,10 @@ std::string makeFolder(const std::string& path) {
   return outcome(::mkdir(path.c_str(), 0777) == 0);
 }
 
+void removeFolderIfEmpty(const std::string& path) {
+  ::rmdir(path.c_str());
+}
+
 std::string deleteFile(const std::string& path) {
   return outcome(::unlink(path.c_str()) == 0);
 }

@@ -54,6 +54,9 @@ std::string replaceFile(const std::string& path, std::string_view bytes);
 std::string makeFolder(const std::string& path);
 std::string deleteFile(const std::string& path);
 
+/// Leaves a folder that holds anything, and one that may not be removed.
+void removeFolderIfEmpty(const std::string& path);
+
 /// Raise a run-time error on failure. Moving refuses an existing destination, copying replaces it.
 void MoveFileTo(const std::string& source, const std::string& destination);
 void CopyFileTo(const std::string& source, const std::string& destination);

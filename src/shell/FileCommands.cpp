@@ -18,8 +18,6 @@ namespace velra {
 
 namespace {
 
-constexpr const char* kUnsavedTitle = "AVDocument";  // of a document that was never saved
-
 // Relative identifiers start from the document's folder, which is found from the names alone: it
 // holds the data folder and the document beside it. "" for a file that lies in no data folder.
 std::string folderAboveData(const std::string& path) {
@@ -43,9 +41,26 @@ std::string documentOf(const std::string& path, IOManager& io) {
 
 }  // namespace
 
+// A document that failed to open stays set, with nothing registered.
+bool frmMain::documentIsOpen() const {
+  return app_.gAVDoc && app_.gAVDoc->collObjects().Count() > 0;
+}
+
+bool frmMain::needsDocument() {
+  if (documentIsOpen()) return true;
+  app_.ui.messageBox("No document is open.", BoxKind::Exclamation);
+  return false;
+}
+
+// The status line names the command as its menu does, and what came of it.
+void frmMain::tellDone(int command, const std::string& outcome) {
+  std::string caption = replaceAll(app_.LoadResString(command), "&", "");
+  setStrStatusBarText(replaceAll(std::move(caption), "...", "") + ": " + outcome);
+}
+
 void frmMain::mnuFile_Click() {
   MenuState menus = menus_;
-  const std::shared_ptr<IOManager> io = app_.gAVDoc ? app_.gAVDoc->io() : nullptr;
+  const std::shared_ptr<IOManager> io = documentIsOpen() ? app_.gAVDoc->io() : nullptr;
   menus.mnuExportToDB = io && io->bFileSystem();
   menus.mnuImportToFS = io && !io->bFileSystem();
   applyMenus(menus);
@@ -174,6 +189,7 @@ void frmMain::mnuFileNew() {
   app_.gAVDoc = NewDocument();
   app_.gNotFound.clear();
   ShowAVDocTitle();
+  tellDone(1004, app_.gAVDoc->strTitle());
 }
 
 std::shared_ptr<AVDocument> frmMain::NewDocument() {
@@ -191,48 +207,6 @@ std::shared_ptr<AVDocument> frmMain::NewDocument() {
   if (message.empty()) return document;
   app_.ui.messageBox(message);
   return nullptr;
-}
-
-void frmMain::mnuFileSave() {
-  if (!app_.gAVDoc) return;
-  if (app_.gAVDoc->strTitle() == kUnsavedTitle) {
-    SaveDocumentAs();
-    return;
-  }
-  const auto busy = app_.ui.showBusy();
-  app_.gAVDoc->bSave();
-}
-
-void frmMain::mnuFileSaveAs() {
-  if (app_.gAVDoc) SaveDocumentAs();
-}
-
-std::string frmMain::GetFileName(const std::string& proposed) {
-  return app_.ui.saveFileDialog("Save As", "All Files (*.xml)|*.xml", proposed).value_or("");
-}
-
-void frmMain::SaveDocumentAs() {
-  std::string folder;
-  const std::string base = strSplitPath(app_.gAVDoc->strGUID(), folder);
-  const std::string path = GetFileName(folder + base);
-  if (path.empty()) return;
-  app_.gAVDoc->setStrTitle(strSplitPath(path, folder));
-  {
-    const auto busy = app_.ui.showBusy();
-    if (!avDocument()->bSaveAs(path)) return;
-  }
-  bool goOn = false;
-  CloseDocument(true, goOn);
-  app_.gAVDoc = std::make_shared<AVDocument>(app_);
-  app_.gNotFound.clear();
-  const std::string message = openDocument(path, std::make_shared<IOManager>(app_));
-  AddAllSmallKeyFrames();
-  if (message.empty()) {
-    ShowAVDocTitle();
-  } else {
-    app_.ui.messageBox(message, BoxKind::Exclamation);
-    app_.gAVDoc.reset();
-  }
 }
 
 }  // namespace velra

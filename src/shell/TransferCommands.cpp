@@ -32,7 +32,7 @@ void frmMain::saveAndReopen(const std::string& path, bool bFileSystem) {
 }
 
 void frmMain::mnuExportToDB() {
-  if (!app_.gAVDoc) return;
+  if (!needsDocument()) return;
   transferObjects(false);
   OpenDocument& document = *app_.gAVDoc;
   const std::string identifier =
@@ -41,7 +41,7 @@ void frmMain::mnuExportToDB() {
 }
 
 void frmMain::mnuImportToFS() {
-  if (!app_.gAVDoc) return;
+  if (!needsDocument()) return;
   const std::string path = GetFileName("./" + app_.gAVDoc->strTitle());
   if (path.empty()) return;
   std::string folder;

@@ -84,7 +84,12 @@ class frmMain : public MainWindow {
   Tree tvwExpression;  ///< the expressions of one Version
 
  private:
+  static constexpr const char* kUnsavedTitle = "AVDocument";  // of one that was never saved
+
   std::shared_ptr<AVDocument> avDocument() const;
+  bool documentIsOpen() const;
+  bool needsDocument();
+  void tellDone(int command, const std::string& outcome);
   std::shared_ptr<ObjectForm> frmAVDocFormInstance();
 
   TreeNode* selectedNode();

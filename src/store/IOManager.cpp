@@ -21,15 +21,11 @@
 
 namespace velra {
 
-namespace {
-
 std::string dataFolderOf(const std::string& strAVDocPathName) {
   std::string folder;
   const std::string base = strSplitPath(strAVDocPathName, folder);
   return withSeparator(strAbsolutePath(folder)) + base + "_files/";
 }
-
-}  // namespace
 
 IOManager::IOManager(ApplicationModule& app) : app_(app) {}
 

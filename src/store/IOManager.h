@@ -143,6 +143,9 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   std::string unflushedFolder_;
 };
 
+/// The folder that holds all other files of a document, with a separator at its end.
+std::string dataFolderOf(const std::string& strAVDocPathName);
+
 /// Makes a folder; the message that tells why not, or "".
 std::string strMakeFolder(const ApplicationModule& app, const std::string& path);
 

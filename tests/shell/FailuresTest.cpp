@@ -39,6 +39,10 @@ class Failures : public ::testing::Test {
     EXPECT_EQ(program_.document() == nullptr, after == Document::None);
     program_.mainForm.mnuFileSave();  // has nothing to write, and says nothing
     program_.mainForm.mnuFile_Click();
+    EXPECT_FALSE(program_.mainForm.menuState().mnuExportToDB);
+    program_.mainForm.mnuFileSaveAs();
+    program_.mainForm.mnuExportToDB();
+    expectShown(Texts(2, "exclamation: No document is open."));
     if (after == Document::EmptyShell) {
       EXPECT_EQ(program_.document()->collObjects().Count(), 0U);
     }

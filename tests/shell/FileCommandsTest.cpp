@@ -103,6 +103,42 @@ TEST(FileCommands, SaveAsGivesTheFullLayoutAndLeavesTheOldFiles) {
   EXPECT_EQ(program.texts(TreeId::tvwExpression), right);
 }
 
+TEST(FileCommands, ASavedDocumentEndsInXmlWhateverWasTyped) {
+  const struct {
+    std::string typed;
+    std::string saved;
+    bool asks = false;
+  } cases[] = {
+      {"new.XML", "new.XML"},
+      {"new", "new.xml"},
+      {"my.film", "my.film.xml"},
+      {"my.film", "my.film.xml", true},
+  };
+  Program program;
+  changeCurrentFolder(program.folder.path());
+  for (const auto& one : cases) {
+    program.mainForm.mnuFileNew();
+    EXPECT_EQ(program.mainForm.strStatusBarText(), "New: AVDocument");
+    program.document()->AddChild("Cut");
+    program.ui.takeShown();
+    program.ui.yesNo = {false, true};
+    program.ui.filesToSave.assign(2, program.folder / one.typed);
+    program.mainForm.mnuFileSave();
+    Texts shown{"save: Save As | " + (program.folder / "AVDocument")};
+    if (one.asks) {
+      const std::string asked =
+          "yes-no: " + (program.folder / one.saved) + " already exists. Do you want to replace it?";
+      shown.insert(shown.end(), {asked, "save: Save As | " + (program.folder / one.saved), asked});
+    }
+    EXPECT_EQ(program.ui.takeShown(), shown);
+    EXPECT_EQ(program.document()->strGUID(), program.folder / one.saved);
+    EXPECT_EQ(program.document()->strTitle() + ".", one.saved.substr(0, one.saved.size() - 3));
+    EXPECT_EQ(program.mainForm.strStatusBarText(), "Save As: " + (program.folder / one.saved));
+    EXPECT_TRUE(program.folder.snapshot().contains(one.saved)) << one.saved;
+    EXPECT_FALSE(std::filesystem::exists(program.folder / "AVDocument_files"));
+  }
+}
+
 TEST(Start, TheCommandLineIsOnePath) {
   struct Case {
     std::vector<const char*> arguments;
