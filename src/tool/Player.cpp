@@ -1,5 +1,6 @@
 #include "tool/Player.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -82,7 +83,8 @@ void Player::takeSpan() {
 
 double Player::withinMovie(double seconds) const {
   const double duration = objMediaControl().Duration();
-  return duration > 0 && seconds > duration ? duration : seconds;
+  if (duration > 0 && seconds > duration) return duration;
+  return std::max(seconds, 0.0);
 }
 
 void Player::showStart() {
@@ -137,15 +139,22 @@ void Player::cmdStop() {
 
 void Player::cmdForward() {
   if (!objMediaControl_) return;
-  // Only the very bound stops: a position already behind the end steps on.
+  // Only the very bound stops: a position already behind the end steps on, within the movie.
   const double position = CurrentPosition();
-  if (position != ckChunk().dend) SeekTo(position + objMediaControl_->AvgTimePerFrame());
+  const double end = ckChunk().dend;
+  if (position == end) return;
+  const double next = position + objMediaControl_->AvgTimePerFrame();
+  // Positions are no whole numbers of frames from the bound, so that the last step is shorter.
+  SeekTo(position < end && next > end ? end : withinMovie(next));
 }
 
 void Player::cmdRewind() {
   if (!objMediaControl_) return;
   const double position = CurrentPosition();
-  if (position != ckChunk().dStart) SeekTo(position - objMediaControl_->AvgTimePerFrame());
+  const double start = ckChunk().dStart;
+  if (position == start) return;
+  const double next = position - objMediaControl_->AvgTimePerFrame();
+  SeekTo(position > start && next < start ? start : withinMovie(next));
 }
 
 void Player::Timer1() {

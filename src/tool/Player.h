@@ -41,6 +41,8 @@ class Player {
   void cmdPlay();
   void cmdPause();
   void cmdStop();
+  /// One frame on or back. A step that would leave the object's span ends on its bound, from which
+  /// no step leads out; what lies outside already steps on, but never out of the movie.
   void cmdForward();
   void cmdRewind();
   void Timer1();
@@ -55,7 +57,8 @@ class Player {
   /// The movie; kNoObject when there is none.
   MediaGraph& objMediaControl() const;
   double CurrentPosition() const { return objMediaControl().CurrentPosition(); }
-  /// The time, or the movie's end when that comes first. A movie of unknown length has no end.
+  /// The time, or the end of the movie that it lies behind. A movie of unknown length has but a
+  /// start.
   double withinMovie(double seconds) const;
   /// The span of the object; kNoObject when it has none.
   Chunk& ckChunk() const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 
 #include "base/Arithmetic.h"
 
@@ -67,10 +68,15 @@ double JoinTimeCode(const TimeCode& parts, double rate) {
 }
 
 std::string timeCodeText(const TimeCode& parts) {
-  char buffer[64];
-  std::snprintf(buffer, sizeof buffer, "%02d:%02d:%02d:%02d", parts[0], parts[1], parts[2],
-                parts[3]);
-  return buffer;
+  std::string text;
+  for (const std::int16_t part : parts) {
+    char field[16];
+    // Two digits and the sign before them.
+    std::snprintf(field, sizeof field, "%s%02d", part < 0 ? "-" : "", std::abs(int{part}));
+    if (!text.empty()) text += ':';
+    text += field;
+  }
+  return text;
 }
 
 }  // namespace velra

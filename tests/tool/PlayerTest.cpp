@@ -89,20 +89,32 @@ TEST_F(PlayerTest, aMovieThatCannotBePlayedOpensNoForm) {
   EXPECT_EQ(ui.takeShown(), Calls{"exclamation: The movie file was not found.\n" + obj->movie});
 }
 
-TEST_F(PlayerTest, stepsMoveOneFrameAndStopOnlyAtTheVeryBounds) {
-  use("Video", 10, 20);
+TEST_F(PlayerTest, stepsMoveOneFrameAndEndOnTheBounds) {
+  use("Video", 10, 99);
   ASSERT_TRUE(open());
-  tool->player.cmdRewind();
-  EXPECT_EQ(movie.position, 10);
-  tool->player.cmdForward();
-  EXPECT_EQ(movie.position, 10.04);
-  tool->player.SeekTo(20);
-  tool->player.cmdForward();
-  EXPECT_EQ(movie.position, 20);
-  tool->player.SeekTo(21);
-  tool->player.cmdForward();
-  EXPECT_EQ(movie.position, 21.04) << "behind the end it steps on";
-  EXPECT_EQ(tool->advsld.dPosition(), 20) << "only the slider clamps";
+  struct Case {
+    double from;
+    void (Player::*step)();
+    double to;
+  };
+  const Case cases[] = {
+      {10, &Player::cmdRewind, 10},
+      {10, &Player::cmdForward, 10.04},
+      {10.039, &Player::cmdRewind, 10},
+      {10.0000000001, &Player::cmdRewind, 10},
+      {98.97, &Player::cmdForward, 99},
+      {99, &Player::cmdForward, 99},
+      {99.5, &Player::cmdForward, 99.5 + 0.04},  // behind the end it steps on,
+      {99.97, &Player::cmdForward, 100},         // up to the movie's
+      {9, &Player::cmdRewind, 9 - 0.04},
+      {0.01, &Player::cmdRewind, 0},
+  };
+  for (const Case& row : cases) {
+    tool->player.SeekTo(row.from);
+    (tool->player.*row.step)();
+    EXPECT_EQ(movie.position, row.to) << row.from;
+  }
+  EXPECT_EQ(tool->advsld.dPosition(), 10) << "only the slider clamps";
 }
 
 TEST_F(PlayerTest, theTickFollowsTheMovieAndAJumpPausesIt) {
