@@ -1,7 +1,6 @@
 #include "tool/SegmentEditor.h"
 
 #include <utility>
-#include <vector>
 
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
@@ -19,12 +18,10 @@ namespace velra {
 
 namespace {
 
-constexpr int kAskRemove = 1101;
 constexpr int kNotValidInterval = 1102;
 constexpr int kTitlePrompt = 1103;
 constexpr int kTitleBoxTitle = 1104;
 constexpr int kBoundsOverlap = 1120;
-constexpr int kAskMerge = 1150;
 constexpr int kAskKeyFrame = 1176;
 constexpr int kKeyFrameUpdated = 1177;
 constexpr double kPagesOfTheTimeline = 100;
@@ -65,12 +62,22 @@ void SegmentEditor::resetTree() {
   }
 }
 
-void SegmentEditor::LoadSegments() {
+void SegmentEditor::setTimelineSpan() {
   AdvancedSlider& advsld = parts_.advsld;
-  if (!parts_.player.hasMovie()) return advsld.setEnabled(false);
   const Chunk& span = parts_.player.ckChunk();
   advsld.setDMin(span.dStart);
   advsld.setDMax(span.dend);
+  if (span.dend != span.dStart) return;
+  // A timeline of no length has no places: one in which nothing can be reached stands for it.
+  parts_.app.ui.messageBox("This segment has no length: nothing can be cut on its timeline.");
+  advsld.setDMax(span.dStart + 1);
+  advsld.setEnabled(false);
+}
+
+void SegmentEditor::LoadSegments() {
+  AdvancedSlider& advsld = parts_.advsld;
+  if (!parts_.player.hasMovie()) return advsld.setEnabled(false);
+  setTimelineSpan();
   advsld.setDLargeChange((advsld.dMax() - advsld.dMin()) / kPagesOfTheTimeline);
   const ExpressionList& children = obj_->colSubExpressions();
   const ChainPositions places(children);
@@ -102,6 +109,7 @@ void SegmentEditor::addSegment(const std::string& title, double start, double en
   } else if (made && isVideo()) {
     addPicture(position, text);
   }
+  showSelection();
   resetTree();
 }
 
@@ -146,37 +154,6 @@ void SegmentEditor::setBounds(const ExpressionRef& segment, std::int16_t positio
                               double end) {
   segment->SetChunk(start, end);
   parts_.advsld.UpdateRange(position, start, end);
-}
-
-void SegmentEditor::ConfirmRemoveSegments() {
-  if (!hasSelection()) return;
-  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskRemove))) return;
-  RemoveSelectedSegments();
-  resetTree();
-}
-
-void SegmentEditor::RemoveSelectedSegments() {
-  if (!hasSelection()) return;
-  ExpressionList selected;
-  for (const std::int16_t index : parts_.advsld.colSelectedIndexes()) {
-    selected.push_back(child(index));
-  }
-  for (const ExpressionRef& segment : selected) obj_->RemoveSubExpressionByPointer(segment);
-  parts_.advsld.RemoveSelectedRanges();
-  parts_.Framelist1.RemoveSelected();
-}
-
-void SegmentEditor::MergeSelectedSegments() {
-  if (!hasSelection()) return;
-  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskMerge))) return;
-  const std::int16_t a = parts_.advsld.iRangeSelectedStart();
-  const std::int16_t b = parts_.advsld.iRangeSelectedEnd();
-  // Positions in the list decide here, not times.
-  const double start = spanOf(*child(a < b ? a : b))->dStart;
-  const double end = spanOf(*child(a < b ? b : a))->dend;
-  const std::string title = child(a)->strTitle();
-  RemoveSelectedSegments();
-  addSegment(title, start, end);
 }
 
 void SegmentEditor::ChangeKeyFrame() {

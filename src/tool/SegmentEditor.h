@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "protocol/Expression.h"
 
@@ -38,6 +39,7 @@ class SegmentEditor {
   void NewSegmentByDialog();
   void ModifySelectedSegment();
   void ConfirmRemoveSegments();
+  /// Bounds that come out reversed are refused before anything goes.
   void MergeSelectedSegments();
   void MoveToPreviousBound();
   void MoveToNextBound();
@@ -60,6 +62,7 @@ class SegmentEditor {
   ExpressionRef child(std::int16_t position) const;
 
  private:
+  void setTimelineSpan();
   bool isVideo() const;
   std::string caption(const std::string& title, double start, double end) const;
   void tell(int message);
@@ -71,6 +74,9 @@ class SegmentEditor {
   void addSegment(const std::string& title, double start, double end);
   void addPicture(std::int16_t position, const std::string& segmentCaption);
   void RemoveSelectedSegments();
+  void removePictures(const std::vector<std::int16_t>& indexes);
+  void showSelection();
+  void copySelectionToStrip();
   bool askBounds(double start, double end);
   void setBounds(const ExpressionRef& segment, std::int16_t position, double start, double end);
   void seekToChild(std::int16_t position);

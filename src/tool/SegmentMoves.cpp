@@ -100,7 +100,7 @@ void SegmentEditor::MoveToNextBound() {
   for (const ExpressionRef& segment : SegmentChain(obj_->colSubExpressions()).forward()) {
     const auto span = spanOf(*segment);
     for (const double bound : {span->dStart, span->dend}) {
-      if (bound > position) return parts_.player.SeekTo(bound);
+      if (bound > position) return parts_.player.SeekTo(parts_.player.withinMovie(bound));
     }
   }
 }
@@ -111,7 +111,7 @@ void SegmentEditor::MoveToPreviousBound() {
   for (const ExpressionRef& segment : SegmentChain(obj_->colSubExpressions()).backward()) {
     const auto span = spanOf(*segment);
     for (const double bound : {span->dend, span->dStart}) {
-      if (bound < position) return parts_.player.SeekTo(bound);
+      if (bound < position) return parts_.player.SeekTo(parts_.player.withinMovie(bound));
     }
   }
 }
@@ -124,8 +124,7 @@ void SegmentEditor::seekToChild(std::int16_t position) {
 
 void SegmentEditor::timelineClicked(std::int16_t index) {
   seekToChild(index);
-  parts_.Framelist1.setISelectedStart(parts_.advsld.iRangeSelectedStart());
-  parts_.Framelist1.setISelectedEnd(parts_.advsld.iRangeSelectedEnd());
+  copySelectionToStrip();
 }
 
 void SegmentEditor::stripClicked(std::int16_t position) {

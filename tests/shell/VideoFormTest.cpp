@@ -83,13 +83,6 @@ TEST_F(VideoFormTest, aWalkThroughTheTreeUnloadsEachFormBeforeTheNextShows) {
   EXPECT_EQ(session.movie.opened, 0);
 }
 
-TEST_F(VideoFormTest, aHundredShowingsLeaveNothingBehind) {
-  const auto before = session.main.use_count();
-  for (int i = 0; i < 100; ++i) session.show();
-  EXPECT_EQ(session.movie.opened, 0);
-  EXPECT_EQ(session.main.use_count(), before);
-}
-
 TEST_F(VideoFormTest, aMovieThatCannotBeOpenedShowsNoForm) {
   session.movie.refusal = "It is damaged.";
   session.show();
@@ -98,9 +91,9 @@ TEST_F(VideoFormTest, aMovieThatCannotBeOpenedShowsNoForm) {
 }
 
 TEST_F(VideoFormTest, anErrorInTheLoadPassesAndLeavesNothing) {
-  session.main->child(1)->SetChunk(10, 10);
+  session.main->child(1)->span.reset();
   EXPECT_THROW(session.main->child(1)->ShowForm(session.mainWindow), RunTimeError)
-      << "a timeline without length";
+      << "a timeline without a span";
   EXPECT_EQ(session.movie.opened, 0);
   session.show();
   EXPECT_EQ(steps.back(), "gone Main") << "other forms open as before";

@@ -21,6 +21,23 @@ struct Rule {
 class SegmentEditorTest : public ToolTest {
  protected:
   SegmentEditor& segments() { return tool->segments; }
+  void useThree() {
+    use("Video");
+    for (const int start : {10, 30, 50}) add("s" + std::to_string(start), start, start + 10);
+    ASSERT_TRUE(open());
+  }
+  /// The marks of the timeline and the squares of the strip: X for one that is shown as selected.
+  std::string marked() const {
+    std::string all;
+    for (const auto& mark : tool->advsld.marks()) {
+      all += mark.borderWidth == AdvancedSlider::kSelectedBorder ? 'X' : '-';
+    }
+    all += ' ';
+    for (std::int16_t i = 1; i <= tool->Framelist1.Count(); ++i) {
+      all += tool->Framelist1.image(i).squareVisible ? 'X' : '-';
+    }
+    return all;
+  }
   void press(double at) {
     tool->player.SeekTo(at);
     segments().SelectSegmentPoint();
@@ -96,26 +113,25 @@ TEST_F(SegmentEditorTest, eachPathHasItsOwnRules) {
   }
 }
 
-TEST_F(SegmentEditorTest, anEmptyTitleLeavesNoTrace) {
+TEST_F(SegmentEditorTest, whatIsNotMadeLeavesNoTrace) {
   use("Video");
-  ASSERT_TRUE(open());
-  press(10);
-  press(20);
-  EXPECT_TRUE(spans().empty());
-  EXPECT_EQ(tool->advsld.Count(), 0);
-  EXPECT_FALSE(segments().bSelecting());
-  EXPECT_TRUE(mainWindow.calls.empty());
-}
-
-TEST_F(SegmentEditorTest, aCancelledDialogChangesNothing) {
-  use("Audio");
-  add("old", 10, 20);
   ASSERT_TRUE(open());
   face.inDialog = [](RangeDialog& shown) { shown.CancelButton(); };
   segments().NewSegmentByDialog();
+  for (const char* title : {"", "refused"}) {
+    obj->refusesNewSegments = *title != 0;
+    ui.inputs = {title};
+    press(10);
+    press(20);
+    EXPECT_TRUE(spans().empty());
+    EXPECT_EQ(marked(), " ");
+    EXPECT_FALSE(segments().bSelecting());
+  }
+  useThree();
+  const Texts before = spans();
   tool->advsld.MouseDown(1, 0);
   segments().ModifySelectedSegment();
-  EXPECT_EQ(spans(), Texts{"old 10-20"});
+  EXPECT_EQ(spans(), before);
 }
 
 TEST_F(SegmentEditorTest, theTimeCodeBlinksUntilTheSelectionEnds) {
@@ -151,21 +167,8 @@ TEST_F(SegmentEditorTest, aNewVideoSegmentReachesStripAndMainWindow) {
   EXPECT_EQ(mainWindow.calls, (Texts{"AddSmallKeyFrame early", "ResetTree"}));
 }
 
-TEST_F(SegmentEditorTest, aSegmentThatCannotBeMadeTakesItsRangeBack) {
-  use("Video");
-  ASSERT_TRUE(open());
-  obj->refusesNewSegments = true;
-  ui.inputs = {"x"};
-  press(10);
-  press(20);
-  EXPECT_EQ(tool->advsld.Count(), 0);
-  EXPECT_EQ(tool->Framelist1.Count(), 0);
-}
-
 TEST_F(SegmentEditorTest, removalAsksAndClosesTheChain) {
-  use("Video");
-  for (const int start : {10, 30, 50}) add("s" + std::to_string(start), start, start + 10);
-  ASSERT_TRUE(open());
+  useThree();
   tool->Form_KeyUp(ExpressionTool::kDeleteKey, 0);
   EXPECT_TRUE(ui.takeShown().empty()) << "nothing selected";
   tool->advsld.MouseDown(2, 0);
@@ -178,25 +181,77 @@ TEST_F(SegmentEditorTest, removalAsksAndClosesTheChain) {
   segments().ConfirmRemoveSegments();
   EXPECT_EQ(spans(), (Texts{"s10 10-20", "s50 50-60"}));
   EXPECT_EQ(obj->child(1)->follower, ExpressionRef(obj->child(2)));
-  EXPECT_EQ(tool->Framelist1.Count(), 2);
+  EXPECT_EQ(marked(), "-X -X") << "the old number stands for the next segment, and shows it";
   segments().ConfirmRemoveSegments();
-  EXPECT_EQ(spans(), Texts{"s10 10-20"}) << "the old number now stands for the next segment";
+  EXPECT_EQ(spans(), Texts{"s10 10-20"});
+  EXPECT_EQ(marked(), "- -") << "past the end nothing is selected";
+  tool->advsld.Resize(9000);
+  tool->player.SeekTo(25);
+  segments().ExtendPreviousSegment();
+  segments().ConfirmRemoveSegments();
+  EXPECT_EQ(spans(), Texts{"s10 10-25"});
+}
+
+TEST_F(SegmentEditorTest, whatTheTimelineSelectsGoesFromAllLists) {
+  useThree();
+  obj->child(2)->SetChunk(70, 80);  // it keeps its place on the strip
+  add("inside", 10, 12);            // begins with another
+  ASSERT_TRUE(open());
+  tool->advsld.MouseDown(1, 0);
+  tool->advsld.MouseDown(3, 1);
   ui.yesNo = {true};
-  EXPECT_THROW(segments().ConfirmRemoveSegments(), RunTimeError);
+  segments().ConfirmRemoveSegments();
+  EXPECT_EQ(spans(), Texts{"s30 70-80"});
+  EXPECT_EQ(tool->Framelist1.image(1).caption, tool->advsld.marks()[0].caption);
+  EXPECT_EQ(marked(), "- -");
+}
+
+TEST_F(SegmentEditorTest, aNewSegmentInTheSelectedStretchIsMarked) {
+  useThree();
+  tool->advsld.MouseDown(1, 0);
+  tool->advsld.MouseDown(3, 1);
+  ui.inputs = {"new"};
+  press(22);
+  press(25);
+  EXPECT_EQ(marked(), "XXXX XXXX");
 }
 
 TEST_F(SegmentEditorTest, mergingGoesByListPositionAndKeepsTheFirstTitle) {
-  use("Video");
-  for (const int start : {10, 30, 50}) add("s" + std::to_string(start), start, start + 10);
-  ASSERT_TRUE(open());
+  useThree();
   tool->advsld.MouseDown(3, 0);
   tool->advsld.MouseDown(1, 1);
   ui.yesNo = {true};
   segments().MergeSelectedSegments();
   EXPECT_EQ(ui.takeShown(), Texts{"yes-no: " + app.LoadResString(1150)});
   EXPECT_EQ(spans(), Texts{"s50 10-60"});
-  EXPECT_EQ(tool->advsld.Count(), 1);
-  EXPECT_EQ(tool->Framelist1.Count(), 1);
+  EXPECT_EQ(marked(), "- -") << "two numbers and one segment";
+  tool->advsld.Resize(9000);
+}
+
+TEST_F(SegmentEditorTest, aMergeWithReversedBoundsChangesNothing) {
+  use("Video");
+  add("late", 50, 60);
+  add("early", 10, 20);
+  ASSERT_TRUE(open());
+  tool->advsld.MouseDown(1, 0);
+  tool->advsld.MouseDown(2, 1);
+  ui.yesNo = {true};
+  segments().MergeSelectedSegments();
+  EXPECT_EQ(ui.takeShown().back(), plain(1102).front());
+  EXPECT_EQ(spans(), (Texts{"late 50-60", "early 10-20"}));
+  EXPECT_EQ(marked(), "XX XX");
+}
+
+TEST_F(SegmentEditorTest, aSegmentOfNoLengthOpensWithASentence) {
+  use("Video", 10, 10);
+  add("child", 10, 10);
+  ASSERT_TRUE(open());
+  EXPECT_EQ(shownAtOpening,
+            Texts{"plain: This segment has no length: nothing can be cut on its timeline."});
+  EXPECT_FALSE(tool->advsld.Enabled());
+  tool->player.cmdForward();
+  tool->Framelist1.MouseDown(1, 0);
+  EXPECT_EQ(movie.position, 10);
 }
 
 TEST_F(SegmentEditorTest, boundsAreReachedAndMovedAlongTheChain) {
@@ -234,7 +289,7 @@ TEST_F(SegmentEditorTest, boundsAreReachedAndMovedAlongTheChain) {
 
 TEST_F(SegmentEditorTest, clicksKeepTimelineAndStripInStep) {
   use("Video", 5, 100);
-  for (const int start : {10, 30, 50}) add("s" + std::to_string(start), start, start + 10);
+  for (const int start : {10, 30, 50}) add("s", start, start + 10);
   add("outside", 1, 3);
   ASSERT_TRUE(open());
   tool->advsld.MouseDown(1, 0);
@@ -262,22 +317,6 @@ TEST_F(SegmentEditorTest, theKeyFrameOfTheExpressionItselfChanges) {
   EXPECT_EQ(mainWindow.calls, Texts{"UpdateSmallKeyFrames"});
   EXPECT_EQ(ui.takeShown(),
             (Texts{"yes-no: " + app.LoadResString(1176), "plain: " + app.LoadResString(1177)}));
-}
-
-TEST_F(SegmentEditorTest, movingInTheTree) {
-  use("Video");
-  add("child", 10, 20);
-  ASSERT_TRUE(open());
-  tool->BackButt();
-  EXPECT_TRUE(leftFor.empty()) << "a main expression has no parent";
-  tool->advsld.DoubleClick(1);
-  tool->Framelist1.DoubleClick(1);
-  const auto main = obj;
-  obj = main->child(1);
-  obj->movie = main->movie;
-  ASSERT_TRUE(open());
-  tool->BackButt();
-  EXPECT_EQ(leftFor, (Texts{"child", "child", "Main"}));
 }
 
 }  // namespace

@@ -82,13 +82,12 @@ class ToolTest : public ::testing::Test {
   bool open() {
     tool = std::make_unique<ExpressionTool>(
         obj, app, [this] { return std::make_unique<ScriptedMediaGraph>(movie); }, dialog, face);
-    tool->onLeaveFor = [this](const ExpressionRef& next) { leftFor.push_back(next->strTitle()); };
     tool->Framelist1.Resize(9000);
     tool->advsld.Resize(10400);
     tool->OpenTranscriptView();
     if (!tool->LoadMovie()) return false;
     tool->LoadSegments();
-    ui.takeShown();
+    shownAtOpening = ui.takeShown();
     return true;
   }
   /// The person types two times in the dialog and presses OK.
@@ -123,7 +122,7 @@ class ToolTest : public ::testing::Test {
   RangeDialog dialog;
   RecordingFace face;
   std::shared_ptr<ScriptedExpression> obj;
-  std::vector<std::string> leftFor;
+  std::vector<std::string> shownAtOpening;
   std::unique_ptr<ExpressionTool> tool;
 };
 
