@@ -119,4 +119,8 @@ void AdvancedSlider::UserMovesThumb(std::int32_t value) {
   if (events.Scroll) events.Scroll();
 }
 
+void AdvancedSlider::UserSteps(bool forward) {
+  if (Enabled() && events.Step) events.Step(forward);
+}
+
 }  // namespace velra

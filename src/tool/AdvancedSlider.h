@@ -18,6 +18,7 @@ struct AdvancedSliderEvents {
   std::function<void(std::int16_t)> DblClick;
   std::function<void(std::int16_t)> Click;
   std::function<void()> Scroll;
+  std::function<void(bool)> Step;  ///< an arrow key: one picture on (true) or back
   std::function<void(std::string_view)> PropertyChanged;  ///< a setter ran; its property's name
   std::function<void()> Repaint;                          ///< marks or blink line look different
   std::function<void()> ThumbMoved;
@@ -115,6 +116,8 @@ class AdvancedSlider {
   void MouseDown(std::int16_t index, int shift);
   void DoubleClick(std::int16_t index);
   void UserMovesThumb(std::int32_t value);
+  /// The thumb's own steps are shares of the span; what one picture is, only the owner knows.
+  void UserSteps(bool forward);
 
   // For the face.
   const Slider& slider() const { return Slider1_; }

@@ -51,6 +51,7 @@ void ExpressionTool::connectParts() {
   advsld.events.Click = [this](std::int16_t index) { segments.timelineClicked(index); };
   advsld.events.DblClick = [this](std::int16_t index) { openChild(index); };
   advsld.events.Scroll = [this] { segments.timelineScrolled(); };
+  advsld.events.Step = [this](bool forward) { forward ? player.cmdForward() : player.cmdRewind(); };
   Framelist1.events.Click = [this](std::int16_t position, std::int16_t) {
     segments.stripClicked(position);
   };

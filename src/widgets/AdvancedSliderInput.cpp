@@ -45,15 +45,14 @@ void AdvancedSliderWidget::page(int direction) {
 }
 
 bool AdvancedSliderWidget::moveThumbByKey(int key) {
-  const std::int32_t value = advsld_.slider().value;
   switch (key) {
     case Qt::Key_Left:
     case Qt::Key_Down:
-      advsld_.UserMovesThumb(value - 1);
+      advsld_.UserSteps(false);
       return true;
     case Qt::Key_Right:
     case Qt::Key_Up:
-      advsld_.UserMovesThumb(value + 1);
+      advsld_.UserSteps(true);
       return true;
     case Qt::Key_PageUp:
       page(-1);

@@ -11,7 +11,7 @@ namespace velra {
 
 class AdvancedSlider;
 
-/// Paints the timeline and hands mouse and keys to its rules. Left and Right move the thumb, Page
+/// Paints the timeline and hands mouse and keys to its rules. The arrows move by one picture, Page
 /// Up and Page Down by a page, Home and End to the ends; with Ctrl, Left and Right select a range,
 /// with Shift a stretch of them; Return goes into the selected range.
 class AdvancedSliderWidget : public PaintedPartsWidget {
