@@ -59,7 +59,8 @@ void VideoFormWindow::build(LoadedVideoForm& form) {
   connect(generated_, &GeneratedFormFace::tabClicked, this, [this](int tab) { showTab(tab); });
   connect(panel_->strip(), &FramelistWidget::partsCameOrWent, this, [this] { keepStripInReach(); });
   generated_->hideAllBoxes();
-  watchKeys();
+  // Of the whole program, since controls come while the window shows, such as rows of a set.
+  QCoreApplication::instance()->installEventFilter(this);
   chooseSize();
   panel_->focusFirst();
 }
@@ -92,11 +93,6 @@ void VideoFormWindow::keepStripInReach() {
   const Framelist& strip = form_->tool().Framelist1;
   const double twips = strip.leastWidth(static_cast<std::size_t>(strip.Count()));
   setMinimumWidth(qMax(ToolPanel::leastSize().width(), pixelsFromTwips(twips) + 1));
-}
-
-void VideoFormWindow::watchKeys() {
-  installEventFilter(this);
-  for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(this);
 }
 
 void VideoFormWindow::resizeEvent(QResizeEvent* event) {

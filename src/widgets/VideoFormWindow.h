@@ -46,7 +46,6 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
 
  private:
   void makeTimers();
-  void watchKeys();
   void chooseSize();
   void keepStripInReach();
   void placeParts();
