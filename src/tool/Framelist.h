@@ -78,9 +78,8 @@ class Framelist {
   void RemoveImage(std::int16_t position);
   void Refresh();
   void Resize(double widthTwips);
-  /// The least width with which so many pictures are within reach of the scroll bar; a narrower
-  /// strip raises kOverflow.
-  double leastWidth(std::size_t pictures) const;
+  /// The width in which all pictures are in view.
+  double panelWidth() const;
   void Scroll(std::int16_t value);
 
   // The mouse and the keyboard.
@@ -100,14 +99,11 @@ class Framelist {
   std::int16_t iNeighbour(bool forward) const;
   /// The first (or last) picture on the strip; 0 for none.
   std::int16_t iImageAtEnd(bool last) const;
-  /// Scrolls just so far that the picture is in view.
-  void ScrollTo(std::int16_t position);
 
  private:
   const std::shared_ptr<Image>& at(std::int16_t position) const;
   void place(Image& image) const;
   void layOut();
-  double panelWidthOf(std::size_t pictures) const;
   void sizeScrollBar();
   void hideSquares();
   void showStretch(std::int16_t a, std::int16_t b);

@@ -2,7 +2,6 @@
 #include "tool/Framelist.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "base/Arithmetic.h"
 
@@ -11,7 +10,6 @@ namespace velra {
 namespace {
 
 constexpr double kPanelMargin = 100;
-constexpr double kLongestScroll = std::numeric_limits<std::int16_t>::max();
 
 }  // namespace
 
@@ -26,20 +24,15 @@ void Framelist::layOut() {
   repaint();
 }
 
-double Framelist::panelWidthOf(std::size_t pictures) const {
-  return static_cast<double>(pictures) * iCellX_ + kPanelMargin;
-}
-
-double Framelist::leastWidth(std::size_t pictures) const {
-  return panelWidthOf(pictures) - kLongestScroll;
+double Framelist::panelWidth() const {
+  return static_cast<double>(colImages_.Count()) * iCellX_ + kPanelMargin;
 }
 
 void Framelist::sizeScrollBar() {
-  const double panelWidth = panelWidthOf(colImages_.Count());
   HScroll1_.largeChange = iCellX_;
   HScroll1_.smallChange = toInt16(ImageX_ / 4.0);
-  HScroll1_.max = toInt16(panelWidth - width_);
-  HScroll1_.visible = width_ < panelWidth;
+  HScroll1_.max = toInt16(panelWidth() - width_);
+  HScroll1_.visible = width_ < panelWidth();
   Scroll(HScroll1_.value);
 }
 
@@ -56,15 +49,6 @@ void Framelist::Scroll(std::int16_t value) {
   const std::int16_t highest = std::max<std::int16_t>(HScroll1_.max, 0);
   HScroll1_.value = std::clamp<std::int16_t>(value, 0, highest);
   repaint();
-}
-
-void Framelist::ScrollTo(std::int16_t position) {
-  const double left = at(position)->left;
-  const double right = left + iCellX_;
-  double value = HScroll1_.value;
-  if (right > value + width_) value = right - width_;
-  if (left < value) value = left;
-  Scroll(toInt16(std::clamp(value, 0.0, kLongestScroll)));
 }
 
 void Framelist::MouseDown(std::int16_t position, int shift) {

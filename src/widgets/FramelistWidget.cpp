@@ -1,10 +1,8 @@
 #include "widgets/FramelistWidget.h"
 
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScrollBar>
-#include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include "tool/Framelist.h"
 #include "widgets/QtText.h"
@@ -16,28 +14,33 @@ namespace velra {
 
 namespace {
 
-constexpr int kSquareWidth = 3;  // pixels
+constexpr int kSquareWidth = 3;     // pixels
+constexpr int kReadingAtATime = 3;  // milliseconds
 
 std::int16_t positionOf(int part) {
   return static_cast<std::int16_t>(part + 1);
 }
 
+void paintSquare(QPainter& painter, const QRect& cell, const QColor& colour) {
+  const int half = kSquareWidth / 2 + 1;
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(Qt::white, kSquareWidth + 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(cell.adjusted(half, half, -half, -half));
+  painter.setPen(QPen(colour, kSquareWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(cell.adjusted(half, half, -half, -half));
+}
+
 }  // namespace
 
 FramelistWidget::FramelistWidget(Framelist& strip, QWidget* parent)
-    : PaintedPartsWidget(QStringLiteral("Key frames"), parent),
-      strip_(strip),
-      HScroll1_(new QScrollBar(Qt::Horizontal, this)) {
-  HScroll1_->setObjectName(QStringLiteral("HScroll1"));
-  HScroll1_->setAccessibleName(QStringLiteral("Scroll key frames"));
-  HScroll1_->setFocusPolicy(Qt::NoFocus);
-  connect(HScroll1_, &QScrollBar::valueChanged, this,
-          [this](int value) { strip_.Scroll(static_cast<std::int16_t>(value)); });
+    : PaintedPartsWidget(QStringLiteral("Key frames"), parent), strip_(strip) {
+  setObjectName(QStringLiteral("Framelist1"));
+  reading_.setSingleShot(true);
+  connect(&reading_, &QTimer::timeout, this, [this] { readPictures(); });
   strip_.events.Repaint = [this] {
-    showScrollBar();
+    grow();
     rulesChanged();
   };
-  showScrollBar();
 }
 
 FramelistWidget::~FramelistWidget() {
@@ -48,14 +51,32 @@ QSize FramelistWidget::sizeHint() const {
   return {pixelsFromTwips(9000), pixelsFromTwips(strip_.iCellY() + Framelist::ScrollBar::kHeight)};
 }
 
-void FramelistWidget::showScrollBar() {
-  const Framelist::ScrollBar& bar = strip_.scrollBar();
-  const QSignalBlocker quiet(HScroll1_);
-  HScroll1_->setRange(0, qMax(0, int{bar.max}));
-  HScroll1_->setPageStep(qMax(1, int{bar.largeChange}));
-  HScroll1_->setSingleStep(qMax(1, int{bar.smallChange}));
-  HScroll1_->setValue(bar.value);
-  HScroll1_->setVisible(bar.visible);
+// What areas bring into view when the focus comes: what the view shows, or they would scroll to the
+// middle of the strip.
+QVariant FramelistWidget::inputMethodQuery(Qt::InputMethodQuery query) const {
+  if (query != Qt::ImCursorRectangle) return PaintedPartsWidget::inputMethodQuery(query);
+  return QRect(-pos(), parentWidget()->size());
+}
+
+void FramelistWidget::fillRoom(const QSize& room) {
+  room_ = room.width();
+  resize(width(), room.height());
+  grow();
+}
+
+void FramelistWidget::grow() {
+  const int pictures = pixelsFromTwips(strip_.panelWidth()) + 1;
+  resize(qMax(room_, pictures), height());
+  fitRules();
+}
+
+void FramelistWidget::fitRules() {
+  const double twips = twipsFromPixels(width());
+  if (strip_.width() != twips) strip_.Resize(twips);
+}
+
+int FramelistWidget::partWidth() const {
+  return pixelsFromTwips(strip_.iCellX());
 }
 
 int FramelistWidget::partCount() const {
@@ -96,56 +117,55 @@ void FramelistWidget::openPart(int part) {
 }
 
 void FramelistWidget::paintParts(QPainter& painter, const QRect& dirty) {
-  painter.fillRect(rect(), palette().color(QPalette::Dark));
+  painter.fillRect(dirty, palette().color(QPalette::Dark));
   for (int part = 0; part < partCount(); ++part) {
     if (partRect(part).intersects(dirty)) paintPicture(painter, part);
   }
 }
 
+QRect FramelistWidget::pictureRect(int part) const {
+  const int margin = pixelsFromTwips(Framelist::kMargin);
+  return partRect(part).adjusted(margin, margin, -margin, -margin);
+}
+
 void FramelistWidget::paintPicture(QPainter& painter, int part) {
   const Framelist::Image& image = strip_.image(positionOf(part));
-  const QRect cell = partRect(part);
-  const int margin = pixelsFromTwips(Framelist::kMargin);
-  const QRect place = cell.adjusted(margin, margin, -margin, -margin);
-  const QPixmap pixmap = pictures_.pixmap(image.picture, place.size() * devicePixelRatioF());
-  if (pixmap.isNull()) {
+  const QRect place = pictureRect(part);
+  const QPixmap* pixmap = pictures_.find(image.picture, place.size() * devicePixelRatioF());
+  if (pixmap && !pixmap->isNull()) {
+    painter.drawPixmap(place, *pixmap);
+  } else {
     painter.fillRect(place, palette().color(QPalette::Mid));
+  }
+  if (!pixmap) {
+    reading_.start(0);
+  } else if (pixmap->isNull()) {
     painter.setPen(palette().color(QPalette::BrightText));
     painter.drawText(place, Qt::AlignCenter, QStringLiteral("?"));
-  } else {
-    painter.drawPixmap(place, pixmap);
   }
-  if (!image.squareVisible) return;
-  const int half = kSquareWidth / 2 + 1;
-  painter.setPen(QPen(Qt::white, kSquareWidth + 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(cell.adjusted(half, half, -half, -half));
-  painter.setPen(QPen(colourOf(image.squareColour), kSquareWidth, Qt::SolidLine, Qt::SquareCap,
-                      Qt::MiterJoin));
-  painter.drawRect(cell.adjusted(half, half, -half, -half));
+  if (image.squareVisible) paintSquare(painter, partRect(part), colourOf(image.squareColour));
 }
 
-void FramelistWidget::resizeEvent(QResizeEvent* event) {
-  const int bar = pixelsFromTwips(Framelist::ScrollBar::kHeight);
-  HScroll1_->setGeometry(0, height() - bar, width(), bar);
-  PaintedPartsWidget::resizeEvent(event);
-}
-
-// A window system may make the window narrower than it is asked to; the rules hear of no width that
-// would end the program.
-void FramelistWidget::fitRules() {
-  const double least = strip_.leastWidth(static_cast<std::size_t>(partCount()));
-  const double twips = qMax<double>(twipsFromPixels(width()), least);
-  if (strip_.width() != twips) strip_.Resize(twips);
-}
-
-void FramelistWidget::wheelEvent(QWheelEvent* event) {
-  const QPoint delta = event->angleDelta();
-  const int notches = delta.x() != 0 ? delta.x() : delta.y();
-  if (HScroll1_->isVisible()) {
-    HScroll1_->setValue(HScroll1_->value() - notches * strip_.scrollBar().smallChange / 120);
+// Pictures are large files. Those in view are read after the painting and a few at a time, so that
+// the strip follows hand and keys meanwhile.
+void FramelistWidget::readPictures() {
+  QElapsedTimer clock;
+  clock.start();
+  const QRect shown = visibleRegion().boundingRect();
+  for (int part = 0; part < partCount(); ++part) {
+    const QRect place = pictureRect(part);
+    const Picture& picture = strip_.image(positionOf(part)).picture;
+    const QSize size = place.size() * devicePixelRatioF();
+    if (!place.intersects(shown) || pictures_.find(picture, size)) continue;
+    if (clock.elapsed() >= kReadingAtATime) return reading_.start(0);
+    pictures_.read(picture, size);
+    update(place);
   }
-  event->accept();
+}
+
+void FramelistWidget::moveEvent(QMoveEvent* event) {
+  PaintedPartsWidget::moveEvent(event);
+  update();  // the frame of the focus stays where the view is
 }
 
 std::int16_t FramelistWidget::imageForKey(int key) const {
@@ -165,7 +185,7 @@ bool FramelistWidget::takeKey(const QKeyEvent& event) {
   const std::int16_t image = imageForKey(event.key());
   if (image == 0) return false;
   strip_.MouseDown(image, shiftArgument(event.modifiers()));
-  strip_.ScrollTo(image);
+  Q_EMIT partReached(image - 1);
   return true;
 }
 

@@ -1,16 +1,18 @@
 #pragma once
 
+#include <QTimer>
+
 #include "widgets/KeyFrameCache.h"
 #include "widgets/PaintedPartsWidget.h"
-
-class QScrollBar;
 
 namespace velra {
 
 class Framelist;
 
 /// Paints the strip of pictures and hands mouse and keys to its rules. Left and Right select the
-/// picture beside, with Shift a stretch; Home and End the first and last; Return goes into it.
+/// picture beside, with Shift a stretch; Home and End the first and last; Return goes into it. The
+/// rules' own scroll bar reaches some thirty pictures and raises an error behind them, so that the
+/// widget is as wide as its pictures and never scrolls itself.
 class FramelistWidget : public PaintedPartsWidget {
   Q_OBJECT
 
@@ -20,8 +22,12 @@ class FramelistWidget : public PaintedPartsWidget {
   ~FramelistWidget() override;
 
   void fitRules() override;
+  /// Takes a height, and a width if the pictures do not need more.
+  void fillRoom(const QSize& room);
+  int partWidth() const;
 
   QSize sizeHint() const override;
+  QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
   int partCount() const override;
   QRect partRect(int part) const override;
@@ -29,23 +35,29 @@ class FramelistWidget : public PaintedPartsWidget {
   bool partSelected(int part) const override;
   int currentPart() const override;
 
+ signals:
+  /// A key has selected it.
+  void partReached(int part);
+
  protected:
   int partAt(const QPoint& place) const override;
   void selectPart(int part, int shift) override;
   void openPart(int part) override;
   bool takeKey(const QKeyEvent& event) override;
   void paintParts(QPainter& painter, const QRect& dirty) override;
-  void resizeEvent(QResizeEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
 
  private:
-  void showScrollBar();
+  void grow();
   void paintPicture(QPainter& painter, int part);
+  QRect pictureRect(int part) const;
+  void readPictures();
   std::int16_t imageForKey(int key) const;
 
   Framelist& strip_;
-  QScrollBar* HScroll1_;
+  int room_ = 0;  // the width that is there, in pixels
   KeyFrameCache pictures_;
+  QTimer reading_;
 };
 
 }  // namespace velra

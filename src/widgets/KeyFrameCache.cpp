@@ -12,7 +12,13 @@ namespace {
 constexpr qsizetype kBytes = qsizetype{24} * 1024 * 1024;
 constexpr int kBytesOfAPixel = 4;
 
-QPixmap read(const Picture& picture, const QSize& size) {
+QString keyOf(const Picture& picture, const QSize& size) {
+  return QStringLiteral("%1 %2 ").arg(size.width()).arg(size.height()) +
+         pathToQString(picture.path);
+}
+
+QPixmap pixmapOf(const Picture& picture, const QSize& size) {
+  if (picture.empty()) return {};
   QImageReader reader(pathToQString(picture.path));
   const QImage image = reader.read();
   if (image.isNull()) return {};
@@ -23,15 +29,13 @@ QPixmap read(const Picture& picture, const QSize& size) {
 
 KeyFrameCache::KeyFrameCache() : pixmaps_(kBytes) {}
 
-QPixmap KeyFrameCache::pixmap(const Picture& picture, const QSize& size) {
-  if (picture.empty()) return {};
-  const QString key =
-      QStringLiteral("%1 %2 ").arg(size.width()).arg(size.height()) + pathToQString(picture.path);
-  if (const QPixmap* known = pixmaps_.object(key)) return *known;
-  QPixmap fresh = read(picture, size);
+const QPixmap* KeyFrameCache::find(const Picture& picture, const QSize& size) const {
+  return pixmaps_.object(keyOf(picture, size));
+}
+
+void KeyFrameCache::read(const Picture& picture, const QSize& size) {
   const qsizetype cost = qsizetype{kBytesOfAPixel} * size.width() * size.height();
-  pixmaps_.insert(key, new QPixmap(fresh), cost);  // owned by the cache
-  return fresh;
+  pixmaps_.insert(keyOf(picture, size), new QPixmap(pixmapOf(picture, size)), cost);
 }
 
 }  // namespace velra

@@ -50,7 +50,7 @@ class PartAccess : public QAccessibleInterface, public QAccessibleActionInterfac
     state.focusable = true;
     state.selected = parts_.partSelected(part_);
     state.focused = widget_.hasFocus() && parts_.currentPart() == part_;
-    state.invisible = !widget_.isVisible() || !widget_.rect().intersects(parts_.partRect(part_));
+    state.invisible = !widget_.visibleRegion().intersects(parts_.partRect(part_));
     state.disabled = !widget_.isEnabled();
     return state;
   }

@@ -23,11 +23,11 @@ void PaintedPartsWidget::rulesChanged() {
   if (announcedCount_ != partCount()) {
     announcedCount_ = partCount();
     announceParts(*this);
-    Q_EMIT partsCameOrWent();
   }
   if (announcedPart_ != currentPart()) {
     announcedPart_ = currentPart();
     announceCurrentPart(*this, announcedPart_);
+    Q_EMIT currentPartChanged(announcedPart_);
   }
 }
 
@@ -43,7 +43,7 @@ bool PaintedPartsWidget::event(QEvent* event) {
 void PaintedPartsWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   paintParts(painter, event->rect());
-  if (hasFocus()) paintFocusFrame(painter, rect(), palette());
+  if (hasFocus()) paintFocusFrame(painter, visibleRegion().boundingRect(), palette());
 }
 
 void PaintedPartsWidget::resizeEvent(QResizeEvent* event) {

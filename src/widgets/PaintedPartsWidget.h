@@ -21,7 +21,7 @@ class PaintedPartsWidget : public QWidget, public PaintedParts {
   void pressPart(int part) override { selectPart(part, 0); }
 
  signals:
-  void partsCameOrWent();
+  void currentPartChanged(int part);
 
  protected:
   /// `name` is what screen readers say.

@@ -12,8 +12,8 @@
 #include "app/ApplicationModule.h"
 #include "tool/ExpressionTool.h"
 #include "widgets/AdvancedSliderWidget.h"
-#include "widgets/FramelistWidget.h"
 #include "widgets/QtText.h"
+#include "widgets/StripView.h"
 #include "widgets/VideoPictureWidget.h"
 
 namespace velra {
@@ -71,12 +71,11 @@ ToolPanel::ToolPanel(const ApplicationModule& app, ExpressionTool& tool, QWidget
       tool_(tool),
       picVideoWindow_(new VideoPictureWidget(this)),
       advsld_(new AdvancedSliderWidget(tool.advsld, this)),
-      Framelist1_(new FramelistWidget(tool.Framelist1, this)) {
+      stripView_(new StripView(tool.Framelist1, this)) {
   setObjectName(QStringLiteral("ToolPanel"));
   setAutoFillBackground(true);
   picVideoWindow_->setObjectName(QStringLiteral("picVideoWindow"));
   advsld_->setObjectName(QStringLiteral("advsld"));
-  Framelist1_->setObjectName(QStringLiteral("Framelist1"));
   makePlayer(app);
   makeTranscript();
   makeSegmentControls();
@@ -136,7 +135,7 @@ void ToolPanel::makeTabOrder() {
   for (QPushButton* button : playerButtons_) order << button;
   order << rtbTrans_;
   for (QPushButton* button : segmentButtons_) order << button;
-  order << advsld_ << Framelist1_;
+  order << advsld_ << stripView_->widget();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 

@@ -12,7 +12,7 @@ namespace velra {
 class AdvancedSliderWidget;
 class ApplicationModule;
 class ExpressionTool;
-class FramelistWidget;
+class StripView;
 class VideoPictureWidget;
 
 /// The first tab of an expression's form: player, transcript, segment controls, timeline and strip.
@@ -30,7 +30,6 @@ class ToolPanel : public QWidget {
   void showTranscript(const QString& text);
   void appendTranscript(const QString& text);
   VideoPictureWidget& picture() { return *picVideoWindow_; }
-  FramelistWidget* strip() { return Framelist1_; }
 
   /// The control that has the focus when the form opens.
   void focusFirst();
@@ -58,7 +57,7 @@ class ToolPanel : public QWidget {
   QPlainTextEdit* rtbTrans_ = nullptr;
   QGroupBox* VideoFrame_ = nullptr;
   AdvancedSliderWidget* advsld_;
-  FramelistWidget* Framelist1_;
+  StripView* stripView_;
   QList<QPushButton*> playerButtons_;
   QList<QPushButton*> segmentButtons_;
 };

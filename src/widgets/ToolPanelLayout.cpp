@@ -8,7 +8,7 @@
 
 #include "forms/FormLayout.h"
 #include "widgets/AdvancedSliderWidget.h"
-#include "widgets/FramelistWidget.h"
+#include "widgets/StripView.h"
 #include "widgets/Twips.h"
 #include "widgets/VideoPictureWidget.h"
 
@@ -76,15 +76,14 @@ void ToolPanel::LayoutSegmentControls() {
   }
   const int rulesWidth = twipsFromPixels(AdvancedSliderWidget::maximumRulesWidth());
   place(*advsld_, kLeft, kTimelineTop, qMin(right - kLeft, rulesWidth), kTimelineHeight);
-  // All the width there is: the strip's scroll range has an end.
-  place(*Framelist1_, 0, kStripTop, right + kGap, kStripHeight);
+  place(*stripView_, 0, kStripTop, right + kGap, kStripHeight);
 }
 
 void ToolPanel::LayoutControls() {
   LayoutPlayerControls();
   LayoutSegmentControls();
   advsld_->fitRules();
-  Framelist1_->fitRules();
+  stripView_->fit();
 }
 
 }  // namespace velra

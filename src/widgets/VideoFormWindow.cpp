@@ -8,7 +8,6 @@
 
 #include "forms/FormLayout.h"
 #include "shell/LoadedVideoForm.h"
-#include "widgets/FramelistWidget.h"
 #include "widgets/GeneratedFormFace.h"
 #include "widgets/QtText.h"
 #include "widgets/RangeDialogWindow.h"
@@ -23,9 +22,8 @@ namespace {
 
 constexpr int kPositionInterval = 200;
 constexpr int kBlinkInterval = 500;
-constexpr int kRoomBelow = 120;               // pixels more than the tool needs, for the fields
-constexpr double kShareOfScreen = 0.94;       // the strip is wanted wide
-constexpr std::size_t kRoomForPictures = 10;  // more than the strip has when the form opens
+constexpr int kRoomBelow = 120;          // pixels more than the tool needs, for the fields
+constexpr double kShareOfScreen = 0.94;  // the strip is wanted wide
 
 }  // namespace
 
@@ -57,7 +55,6 @@ void VideoFormWindow::build(LoadedVideoForm& form) {
   connect(generated_, &GeneratedFormFace::cancelClicked, this,
           [this] { form_->CancelButt_Click(); });
   connect(generated_, &GeneratedFormFace::tabClicked, this, [this](int tab) { showTab(tab); });
-  connect(panel_->strip(), &FramelistWidget::partsCameOrWent, this, [this] { keepStripInReach(); });
   generated_->hideAllBoxes();
   // Of the whole program, since controls come while the window shows, such as rows of a set.
   QCoreApplication::instance()->installEventFilter(this);
@@ -77,22 +74,10 @@ void VideoFormWindow::chooseSize() {
   const QSize least =
       ToolPanel::leastSize() + QSize(0, pixelsFromTwips(form_layout::kAroundViewport));
   setMinimumSize(least);
-  const ExpressionTool& tool = form_->tool();
-  const std::size_t pictures = tool.obj->colSubExpressions().size() + kRoomForPictures;
-  const QSize whole = screen()->availableSize();
-  const QSize wanted = whole * kShareOfScreen;
-  const int forStrip = pixelsFromTwips(tool.Framelist1.leastWidth(pictures));
-  resize(qMax(least.width(), qMax(wanted.width(), qMin(forStrip, whole.width()))),
+  const QSize wanted = screen()->availableSize() * kShareOfScreen;
+  resize(qMax(least.width(), wanted.width()),
          qBound(least.height(), wanted.height(), least.height() + kRoomBelow));
   placeParts();
-}
-
-// The strip's scroll bar has an end, and the pictures behind it end the program: the window does
-// not become as narrow as that.
-void VideoFormWindow::keepStripInReach() {
-  const Framelist& strip = form_->tool().Framelist1;
-  const double twips = strip.leastWidth(static_cast<std::size_t>(strip.Count()));
-  setMinimumWidth(qMax(ToolPanel::leastSize().width(), pixelsFromTwips(twips) + 1));
 }
 
 void VideoFormWindow::resizeEvent(QResizeEvent* event) {

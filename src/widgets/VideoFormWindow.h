@@ -47,7 +47,6 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
  private:
   void makeTimers();
   void chooseSize();
-  void keepStripInReach();
   void placeParts();
   void showTab(int tab);
   void Form_KeyUp(const QKeyEvent& event);

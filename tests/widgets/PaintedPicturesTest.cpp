@@ -90,7 +90,7 @@ TEST_P(PaintedPictures, FollowEveryStepForwardAndBack) {
 // The bounds of segments as the tool makes them, and as files keep them in whole milliseconds.
 TEST_P(PaintedPictures, StandAtTheBoundsOfSegments) {
   std::vector<int> bounds;
-  const int distance = movie_.pictures / 30;  // the strip holds no more pictures than about fifty
+  const int distance = movie_.pictures / 30;
   for (int picture = 3; picture < movie_.pictures - 5; picture += distance) {
     const auto bound = [&](int k) {
       bounds.push_back(k);
