@@ -8,8 +8,7 @@
 namespace velra::bench {
 
 /// What a person does in the tool's window over an Audio of 1,000 segments with a transcript of
-/// 20,000 words, and on a full strip of pictures; each with the painting that follows. Needs a
-/// QApplication. The folder takes the picture of the strip.
+/// 20,000 words; each with the painting that follows. Needs a QApplication, and no folder.
 std::vector<Measure> measureTool(const std::string& folder);
 
 }  // namespace velra::bench

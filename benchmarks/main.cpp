@@ -8,6 +8,7 @@
 #include "DocumentBench.h"
 #include "MediaBench.h"
 #include "PieceBench.h"
+#include "StripBench.h"
 #include "ToolBench.h"
 #include "TreeBench.h"
 
@@ -22,8 +23,11 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"documents", "Documents", measureDocuments}, {"trees", "The trees", measureTrees},
-    {"tool", "The expression tool", measureTool}, {"movie", "The movie, 1280 x 720", measureMedia},
+    {"documents", "Documents", measureDocuments},
+    {"trees", "The trees", measureTrees},
+    {"tool", "The expression tool", measureTool},
+    {"strip", "A level of 2,000 segments", measureStrip},
+    {"movie", "The movie, 1280 x 720", measureMedia},
     {"pieces", "The pieces", measurePieces},
 };
 

@@ -46,16 +46,19 @@ void TimelinePainter::paintGround(const AdvancedSlider& advsld) {
 void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
   const QRect body = markRect(mark);
   const QColor colour = colourOf(mark.colour);
-  QColor inside = colour;
-  inside.setAlpha(mark.borderWidth == AdvancedSlider::kSelectedBorder ? 70 : 25);
-  painter_.fillRect(body, inside);
-  // The line of the span, as thick as the rules say, and an end at each side of it.
-  const QRect line(body.left(), body.center().y() - mark.borderWidth / 2, body.width(),
-                   mark.borderWidth);
   const int end = std::min(2, body.width());
-  painter_.fillRect(line, colour);
-  painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
-  painter_.fillRect(body.right() + 1 - end, body.top(), end, body.height(), colour);
+  if (body.width() <= 2 * end) {
+    painter_.fillRect(body, colour);  // the two ends are all of it
+  } else {
+    QColor inside = colour;
+    inside.setAlpha(mark.borderWidth == AdvancedSlider::kSelectedBorder ? 70 : 25);
+    painter_.fillRect(body, inside);
+    // The line of the span, as thick as the rules say, and an end at each side of it.
+    painter_.fillRect(body.left(), body.center().y() - mark.borderWidth / 2, body.width(),
+                      mark.borderWidth, colour);
+    painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
+    painter_.fillRect(body.right() + 1 - end, body.top(), end, body.height(), colour);
+  }
   if (mark.borderWidth != AdvancedSlider::kSelectedBorder) return;
   painter_.setPen(kOutline);
   painter_.setBrush(Qt::NoBrush);

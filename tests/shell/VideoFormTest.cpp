@@ -94,6 +94,7 @@ TEST_F(VideoFormTest, anErrorInTheLoadPassesAndLeavesNothing) {
   session.main->child(1)->span.reset();
   EXPECT_THROW(session.main->child(1)->ShowForm(session.mainWindow), RunTimeError)
       << "a timeline without a span";
+  session.main->child(1)->SetChunk(10, 20);
   EXPECT_EQ(session.movie.opened, 0);
   session.show();
   EXPECT_EQ(steps.back(), "gone Main") << "other forms open as before";
