@@ -139,13 +139,13 @@ void Player::cmdStop() {
 
 void Player::cmdForward() {
   if (!objMediaControl_) return;
-  // Only the very bound stops: a position already behind the end steps on, within the movie.
   const double position = CurrentPosition();
   const double end = ckChunk().dend;
   if (position == end) return;
+  // Positions are no whole numbers of frames from the bound, so that the last step is shorter. Only
+  // the very bound stops: a position already behind the end steps on.
   const double next = position + objMediaControl_->AvgTimePerFrame();
-  // Positions are no whole numbers of frames from the bound, so that the last step is shorter.
-  SeekTo(position < end && next > end ? end : withinMovie(next));
+  SeekTo(withinMovie(position < end ? std::min(next, end) : next));
 }
 
 void Player::cmdRewind() {
@@ -154,7 +154,7 @@ void Player::cmdRewind() {
   const double start = ckChunk().dStart;
   if (position == start) return;
   const double next = position - objMediaControl_->AvgTimePerFrame();
-  SeekTo(position > start && next < start ? start : withinMovie(next));
+  SeekTo(withinMovie(position > start ? std::max(next, start) : next));
 }
 
 void Player::Timer1() {

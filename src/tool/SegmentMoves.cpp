@@ -119,7 +119,7 @@ void SegmentEditor::MoveToPreviousBound() {
 void SegmentEditor::seekToChild(std::int16_t position) {
   if (!parts_.player.hasMovie()) return;
   parts_.advsld.setDPosition(spanOf(*child(position))->dStart);
-  parts_.player.SeekTo(parts_.advsld.dPosition());
+  timelineScrolled();
 }
 
 void SegmentEditor::timelineClicked(std::int16_t index) {
@@ -134,7 +134,9 @@ void SegmentEditor::stripClicked(std::int16_t position) {
 }
 
 void SegmentEditor::timelineScrolled() {
-  if (parts_.player.hasMovie()) parts_.player.SeekTo(parts_.advsld.dPosition());
+  if (!parts_.player.hasMovie()) return;
+  // A span may reach further than its movie.
+  parts_.player.SeekTo(parts_.player.withinMovie(parts_.advsld.dPosition()));
 }
 
 }  // namespace velra

@@ -115,6 +115,13 @@ TEST_F(PlayerTest, stepsMoveOneFrameAndEndOnTheBounds) {
     EXPECT_EQ(movie.position, row.to) << row.from;
   }
   EXPECT_EQ(tool->advsld.dPosition(), 10) << "only the slider clamps";
+  use("Video", 50, 100.01);  // the span reaches further than the movie
+  ASSERT_TRUE(open());
+  tool->player.SeekTo(99.99);
+  tool->player.cmdForward();
+  EXPECT_EQ(movie.position, 100);
+  tool->advsld.UserMovesThumb(5000);
+  EXPECT_EQ(movie.position, 100);
 }
 
 TEST_F(PlayerTest, theTickFollowsTheMovieAndAJumpPausesIt) {
