@@ -126,10 +126,11 @@ class FieldFrame : public QGroupBox {
 };
 
 /// As wide and high as the layout has it, if the frame's title leaves that much.
-void placeControl(QWidget& control, ControlFamily family, const FieldFrame& frame) {
+void placeControl(QWidget& control, ControlFamily family, int extraHeight,
+                  const FieldFrame& frame) {
   const QRect inside = frame.inside();
   int width = pixelsFromTwips(kControlWidth);
-  int height = std::min(pixelsFromTwips(kControlHeight), inside.height());
+  int height = std::min(pixelsFromTwips(kControlHeight) + extraHeight, inside.height());
   if (family == ControlFamily::DTPicker1) {
     width = std::max(pixelsFromTwips(kDateWidth), control.sizeHint().width());
     height = std::max(pixelsFromTwips(kDateHeight), control.sizeHint().height());
@@ -144,18 +145,24 @@ void placeControl(QWidget& control, ControlFamily family, const FieldFrame& fram
 
 }  // namespace
 
+int extraBoxHeight(QWidget& form) {
+  FieldFrame frame(QStringLiteral("Title"), &form);
+  frame.resize(pixelsFromTwips(kFrameWidth), pixelsFromTwips(kFrameHeight));
+  return std::max(0, SetOfRowsWidget::leastHeight(form) - frame.inside().height());
+}
+
 QGroupBox* makeFieldFrame(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
-                          QWidget* panel) {
+                          int extraHeight, QWidget* panel) {
   auto* frame = new FieldFrame(toQString(box.strName), panel);
   frame->setObjectName(toQString(box.frameName()));
   // Boxes of several sets stand in the same place: the one on top hides those below.
   frame->setAutoFillBackground(true);
-  frame->setGeometry(0, pixelsFromTwips(slotTop(box.slot())), pixelsFromTwips(kFrameWidth),
-                     pixelsFromTwips(kFrameHeight));
+  frame->setGeometry(0, pixelsFromTwips(slotTop(box.slot())) + box.slot() * extraHeight,
+                     pixelsFromTwips(kFrameWidth), pixelsFromTwips(kFrameHeight) + extraHeight);
   QWidget* control = makeControl(box, special, app, frame);
   control->setObjectName(toQString(box.controlName()));
   control->setAccessibleName(toQString(box.strName));
-  placeControl(*control, box.family, *frame);
+  placeControl(*control, box.family, extraHeight, *frame);
   for (QWidget* widget : {static_cast<QWidget*>(frame), control}) {
     widget->setToolTip(plainToolTip(box.strComment));
   }

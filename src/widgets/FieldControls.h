@@ -9,9 +9,14 @@ class ApplicationModule;
 class SpecialFields;
 struct FieldBox;
 
+/// By how many pixels the boxes of a form have to be higher than the layout has them, so that its
+/// font fits into a set of rows, the fullest of the controls.
+int extraBoxHeight(QWidget& form);
+
 /// The box of a field on a form's panel, with its control in it: the frame `Frame1_k` and a control
-/// of the field's kind. The box, and `special`, which may be null, must outlive the frame.
+/// of the field's kind, higher than the layout has them by the pixels of `extraHeight`. The box,
+/// and `special`, which may be null, must outlive the frame.
 QGroupBox* makeFieldFrame(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
-                          QWidget* panel);
+                          int extraHeight, QWidget* panel);
 
 }  // namespace velra

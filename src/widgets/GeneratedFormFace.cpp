@@ -24,6 +24,7 @@ constexpr int kDesignWidth = 8400;
 constexpr int kDesignHeight = 9300;
 
 constexpr int kButtonMargin = 150;
+constexpr int kBelowTabText = 2;  // pixels
 
 }  // namespace
 
@@ -35,11 +36,14 @@ GeneratedFormFace::GeneratedFormFace(const ApplicationModule& app, Form form, QW
       Picture1_(new QWidget(Picture2_)),
       VScroll1_(new QScrollBar(Qt::Vertical, Picture2_)),
       HScroll1_(new QScrollBar(Qt::Horizontal, this)) {
+  extraBox_ = extraBoxHeight(*this);
   makeTabs();
   makePanel(app);
   makeButtons(app);
   makeShortcuts();
   panel_ = panelSize(metrics(designSize()), form_.framePasses);
+  const int rows = form_.framePasses > 0 ? kBoxesOfATab : static_cast<int>(frames_.size());
+  panel_.height += twipsFromPixels(rows * extraBox_);
   Picture1_->resize(pixelsFromTwips(panel_.width), pixelsFromTwips(panel_.height));
 }
 
@@ -59,6 +63,9 @@ void GeneratedFormFace::makeTabs() {
     TabStrip1_->addTab(toQString(form_.tabs.caption(tab)));
     TabStrip1_->setTabData(tab - 1, toQString(form_.tabs.key(tab)));
   }
+  const int hint = TabStrip1_->sizeHint().height();
+  const int textEnd = (hint + TabStrip1_->fontMetrics().height()) / 2 + kBelowTabText;
+  if (textEnd > tabsHeight()) extraTabs_ = hint - tabsHeight();
   // A click counts on the tab in front too; keys and the wheel only change tabs.
   connect(TabStrip1_, &QTabBar::currentChanged, this,
           [this](int index) { TabStrip1_Click(index + 1); });
@@ -72,9 +79,8 @@ void GeneratedFormFace::makePanel(const ApplicationModule& app) {
   Picture1_->setObjectName(QStringLiteral("Picture1"));
   VScroll1_->setObjectName(QStringLiteral("VScroll1"));
   HScroll1_->setObjectName(QStringLiteral("HScroll1"));
-  for (FieldBox& box : form_.fields.colControls()) {
-    frames_.push_back(makeFieldFrame(box, form_.special, app, Picture1_));
-  }
+  makeFrames(app);
+  takeCoveredFromTabKey();
   VScroll1_->raise();
   for (QScrollBar* bar : {VScroll1_, HScroll1_}) {
     bar->setSingleStep(form_layout::kSmallChange);
@@ -84,6 +90,18 @@ void GeneratedFormFace::makePanel(const ApplicationModule& app) {
           [this](int value) { scrollTo(static_cast<std::int16_t>(-value)); });
   connect(HScroll1_, &QScrollBar::valueChanged, this,
           [this](int value) { Picture1_->move(pixelsFromTwips(-value), Picture1_->y()); });
+}
+
+// The Tab key takes the boxes as they are made: from slot to slot, whichever set stands on top.
+void GeneratedFormFace::makeFrames(const ApplicationModule& app) {
+  auto& boxes = form_.fields.colControls();
+  frames_.resize(boxes.size());
+  for (std::size_t slot = 0; slot < kBoxesOfATab; ++slot) {
+    for (std::size_t i = slot; i < boxes.size(); i += kBoxesOfATab) {
+      frames_[i] = makeFieldFrame(boxes[i], form_.special, app, extraBox_, Picture1_);
+    }
+  }
+  for (QGroupBox* frame : frames_) frame->raise();
 }
 
 QPushButton* GeneratedFormFace::makeButton(const char* name, const QString& caption) {
@@ -97,6 +115,8 @@ QPushButton* GeneratedFormFace::makeButton(const char* name, const QString& capt
 void GeneratedFormFace::makeButtons(const ApplicationModule& app) {
   OKButt_ = makeButton("OKButt", toQString(app.LoadResString(1063)));
   CancelButt_ = makeButton("CancelButt", toQString(app.LoadResString(1068)));
+  const int band = pixelsFromTwips(form_layout::kAroundViewport - form_layout::kTabsHeight);
+  extraBand_ = std::max(0, OKButt_->height() + 2 * HScroll1_->sizeHint().height() - band);
   connect(OKButt_, &QPushButton::clicked, this, &GeneratedFormFace::okClicked);
   connect(CancelButt_, &QPushButton::clicked, this, &GeneratedFormFace::cancelClicked);
 }
@@ -115,6 +135,14 @@ void GeneratedFormFace::makeShortcuts() {
   }
 }
 
+int GeneratedFormFace::tabsHeight() const {
+  return pixelsFromTwips(form_layout::kTabsHeight) + extraTabs_;
+}
+
+int GeneratedFormFace::aroundViewport() const {
+  return pixelsFromTwips(form_layout::kAroundViewport) + extraTabs_ + extraBand_;
+}
+
 int GeneratedFormFace::selectedTab() const {
   return TabStrip1_->currentIndex() + 1;
 }
@@ -124,6 +152,10 @@ void GeneratedFormFace::hideAllBoxes() {
 }
 
 void GeneratedFormFace::TabStrip1_Click(int tab) {
+  QWidget* before = window()->focusWidget();
+  // Boxes that go would hand the focus on, from one to the next and at last to OK.
+  if (before) TabStrip1_->setFocus(Qt::OtherFocusReason);
+  giveCoveredBack();
   hideAllBoxes();
   if (!form_.tabs.isOwnTab(tab)) {
     const BoxRange boxes = form_.tabs.boxes(tab, static_cast<int>(frames_.size()));
@@ -135,28 +167,7 @@ void GeneratedFormFace::TabStrip1_Click(int tab) {
   }
   restoreScroll();
   emit tabClicked(tab);
-}
-
-void GeneratedFormFace::focusFirstBox() {
-  for (int slot = 0; slot < kBoxesOfATab; ++slot) {
-    if (QWidget* control = controlOnTop(slot)) {
-      control->setFocus(Qt::TabFocusReason);
-      return;
-    }
-  }
-  OKButt_->setFocus(Qt::TabFocusReason);
-}
-
-QWidget* GeneratedFormFace::controlOnTop(int slot) const {
-  const int top = pixelsFromTwips(form_layout::slotTop(slot));
-  const auto frame = std::find_if(frames_.rbegin(), frames_.rend(), [top](const QGroupBox* each) {
-    return each->y() == top && !each->isHidden();
-  });
-  if (frame == frames_.rend()) return nullptr;
-  for (QWidget* widget : (*frame)->findChildren<QWidget*>()) {
-    if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus)) return widget;
-  }
-  return nullptr;
+  if (before) focusAfterTurn(before);
 }
 
 FormMetrics GeneratedFormFace::metrics(const QSize& inner) const {
@@ -167,14 +178,14 @@ FormMetrics GeneratedFormFace::metrics(const QSize& inner) const {
 }
 
 void GeneratedFormFace::Form_Controls_Resize() {
-  const auto places = placeControls(metrics(size()), panel_);
+  const auto places = placeControls(metrics(size() - QSize(0, extraTabs_ + extraBand_)), panel_);
   if (!places) return;
   const auto rect = [](const TwipsRect& twips) {
     return QRect(pixelsFromTwips(twips.left), pixelsFromTwips(twips.top),
                  pixelsFromTwips(twips.width), pixelsFromTwips(twips.height));
   };
-  TabStrip1_->setGeometry(0, 0, width(), pixelsFromTwips(form_layout::kTabsHeight));
-  Picture2_->setGeometry(rect(places->viewport));
+  TabStrip1_->setGeometry(0, 0, width(), tabsHeight());
+  Picture2_->setGeometry(rect(places->viewport).translated(0, extraTabs_));
   VScroll1_->setGeometry(rect(places->vScroll));
   VScroll1_->setVisible(places->vScrollVisible);
   HScroll1_->setGeometry(0, Picture2_->geometry().bottom() + 1, width(),
@@ -183,7 +194,7 @@ void GeneratedFormFace::Form_Controls_Resize() {
   HScroll1_->setPageStep(twipsFromPixels(width()));
   HScroll1_->setRange(0, -places->hScrollMax);
   const int margin = pixelsFromTwips(kButtonMargin);
-  const int buttonTop = pixelsFromTwips(places->buttonTop);
+  const int buttonTop = pixelsFromTwips(places->buttonTop) + extraTabs_ + extraBand_ / 2;
   CancelButt_->move(width() - margin - CancelButt_->width(), buttonTop);
   OKButt_->move(CancelButt_->x() - margin / 2 - OKButt_->width(), buttonTop);
   vScrollMax_ = places->vScrollMax;
@@ -215,23 +226,6 @@ void GeneratedFormFace::wheelEvent(QWheelEvent* event) {
     return;
   }
   scrollTo(wheelScroll(form_.arrTabScroll[selectedTab()], rotation, vScrollMax_));
-}
-
-bool GeneratedFormFace::focusNextPrevChild(bool next) {
-  const bool moved = QWidget::focusNextPrevChild(next);
-  if (moved) showBoxWithFocus();
-  return moved;
-}
-
-void GeneratedFormFace::showBoxWithFocus() {
-  const QWidget* focused = window()->focusWidget();
-  for (const QGroupBox* frame : frames_) {
-    if (!focused || !frame->isAncestorOf(focused)) continue;
-    scrollTo(scrollToShow(form_.arrTabScroll[selectedTab()], twipsFromPixels(frame->y()),
-                          form_layout::kFrameHeight, twipsFromPixels(Picture2_->height()),
-                          vScrollMax_));
-    return;
-  }
 }
 
 }  // namespace velra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <utility>
 #include <vector>
 
 #include "forms/FormLayout.h"
@@ -38,13 +39,18 @@ class GeneratedFormFace : public QWidget {
   /// The inner size of a form as it is designed.
   static QSize designSize();
 
+  /// The height of the strip of tabs, and all that the form needs above and below its viewport, in
+  /// pixels: what the layout has, and more if the font asks for it.
+  int tabsHeight() const;
+  int aroundViewport() const;
+
   /// The tab in front, from 1.
   int selectedTab() const;
   /// The click on a tab: shows its boxes alone, where its scroll was left.
   void TabStrip1_Click(int tab);
   void hideAllBoxes();
 
-  /// Puts the focus on the first box that stands on top and can be edited, else on OK.
+  /// Puts the focus on the first box in sight that stands on top and can be edited, else on OK.
   void focusFirstBox();
 
  signals:
@@ -61,11 +67,17 @@ class GeneratedFormFace : public QWidget {
  private:
   void makeTabs();
   void makePanel(const ApplicationModule& app);
+  void makeFrames(const ApplicationModule& app);
   void makeButtons(const ApplicationModule& app);
   void makeShortcuts();
   QPushButton* makeButton(const char* name, const QString& caption);
-  /// What can take the focus in the box that stands on top in a slot; null for nothing.
-  QWidget* controlOnTop(int slot) const;
+  /// The box that stands on top in a slot; null for none.
+  QGroupBox* frameOnTop(int slot) const;
+  /// What can take the focus first of what is in sight; null for nothing.
+  QWidget* firstControlInSight() const;
+  void takeCoveredFromTabKey();
+  void giveCoveredBack();
+  void focusAfterTurn(QWidget* before);
   FormMetrics metrics(const QSize& inner) const;
   void Form_Controls_Resize();
   void restoreScroll();
@@ -75,6 +87,10 @@ class GeneratedFormFace : public QWidget {
   Form form_;
   TwipsSize panel_;
   int vScrollMax_ = 0;
+  // Pixels that a large font takes beyond the layout.
+  int extraTabs_ = 0;
+  int extraBox_ = 0;
+  int extraBand_ = 0;
   QTabBar* TabStrip1_;
   QWidget* Picture2_;
   QWidget* Picture1_;
@@ -83,6 +99,7 @@ class GeneratedFormFace : public QWidget {
   QPushButton* OKButt_ = nullptr;
   QPushButton* CancelButt_ = nullptr;
   std::vector<QGroupBox*> frames_;
+  std::vector<std::pair<QWidget*, Qt::FocusPolicy>> covered_;  // and what they had before
 };
 
 }  // namespace velra

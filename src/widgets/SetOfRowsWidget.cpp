@@ -13,21 +13,12 @@
 #include "forms/ctlSetOfStringCL.h"
 #include "widgets/ListBox.h"
 #include "widgets/QtText.h"
+#include "widgets/RowText.h"
 #include "widgets/Twips.h"
-#include "widgets/XmlText.h"
 
 namespace velra {
 
 namespace {
-
-// Twips.
-constexpr int kRowPitch = 400;
-constexpr int kRowHeight = 300;
-constexpr int kTickWidth = 255;
-constexpr int kTextWidth = 4000;
-constexpr int kPanelStart = 100;
-constexpr int kPanelNarrower = 1600;
-constexpr int kBarFromRight = 1500;
 
 QString plainCaption(const ApplicationModule& app, int id) {
   return toQString(app.LoadResString(id)).remove(u'&');
@@ -44,11 +35,12 @@ SetOfRowsWidget::SetOfRowsWidget(SetOfRows& rows, const ApplicationModule& app,
       Picture2_(new QWidget(this)),
       Picture1_(new QWidget(Picture2_)),
       VScroll1_(new QScrollBar(Qt::Vertical, this)) {
+  measureRows();
   Picture2_->setObjectName(QStringLiteral("Picture2"));
   Picture1_->setObjectName(QStringLiteral("Picture1"));
   VScroll1_->setObjectName(QStringLiteral("VScroll1"));
   VScroll1_->setAccessibleName(label_);
-  VScroll1_->setSingleStep(kRowPitch);
+  VScroll1_->setSingleStep(rowPitch_);
   connect(VScroll1_, &QScrollBar::valueChanged, this, [this](int value) { scrollTo(-value); });
   makeButtons(app);
   rows_.onChange = [this] { showRows(); };
@@ -97,32 +89,44 @@ void SetOfRowsWidget::showRows() {
 void SetOfRowsWidget::addRowWidgets(std::int16_t row) {
   Row widgets;
   const QString name = label_ + u' ' + QString::number(row);
-  const int top = pixelsFromTwips((row - 1) * kRowPitch);
   widgets.Check1 = new QCheckBox(Picture1_);
   widgets.Check1->setObjectName(QStringLiteral("Check1_%1").arg(row));
   widgets.Check1->setAccessibleName(name);
-  widgets.Check1->setGeometry(0, top, pixelsFromTwips(kTickWidth), pixelsFromTwips(kRowHeight));
   connect(widgets.Check1, &QCheckBox::clicked, this,
           [this, row](bool ticked) { rows_.tickRow(row, ticked); });
   widgets.value = hasLists_ ? makeList(row) : makeText(row);
   widgets.value->setAccessibleName(name);
-  widgets.value->setGeometry(pixelsFromTwips(kTickWidth), top, pixelsFromTwips(kTextWidth),
-                             pixelsFromTwips(kRowHeight));
   if (hasLists_) {
     // Only a label tells what a list is; its own name is the chosen text.
     widgets.label = new QLabel(name, Picture1_);
     widgets.label->setBuddy(widgets.value);
     widgets.label->hide();
   }
+  placeRow(row, *widgets.Check1, *widgets.value);
   widgets.Check1->show();
   widgets.value->show();
+  putInTabOrder(widgets);
   widgets_.push_back(widgets);
 }
 
+// Behind the other rows and before the buttons, as on the screen.
+void SetOfRowsWidget::putInTabOrder(const Row& widgets) {
+  setTabOrder(Command1_, widgets.Check1);
+  setTabOrder(widgets.Check1, widgets.value);
+  setTabOrder(widgets.value, Command1_);
+  for (QWidget* widget : {static_cast<QWidget*>(widgets.Check1), widgets.value}) {
+    widget->installEventFilter(this);
+  }
+}
+
+bool SetOfRowsWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) scrollToRow(static_cast<QWidget*>(watched)->y());
+  return QWidget::eventFilter(watched, event);
+}
+
 QWidget* SetOfRowsWidget::makeText(std::int16_t row) {
-  auto* text = new QLineEdit(Picture1_);
+  auto* text = new RowText(Picture1_);
   text->setObjectName(QStringLiteral("Text1_%1").arg(row));
-  text->setValidator(new XmlTextValidator(text));
   connect(text, &QLineEdit::textEdited, this,
           [this, row](const QString& edited) { rows_.editRow(row, fromQString(edited)); });
   return text;
@@ -146,47 +150,17 @@ void SetOfRowsWidget::showRow(std::int16_t row) {
     list->showItems(rows_.choices(), rows_.rowText(row));
   } else if (auto* text = qobject_cast<QLineEdit*>(widgets.value)) {
     const QString shown = toQString(rows_.rowText(row));
-    if (text->text() != shown) text->setText(shown);
+    if (text->text() == shown) return;
+    text->setText(shown);
+    text->setCursorPosition(0);
   }
-}
-
-void SetOfRowsWidget::updateScrollRange() {
-  const int panelHeight = rows_.Count() * kRowPitch;
-  Picture1_->setGeometry(pixelsFromTwips(kPanelStart), pixelsFromTwips(kPanelStart),
-                         width() - pixelsFromTwips(kPanelNarrower), pixelsFromTwips(panelHeight));
-  const int overhang = panelHeight - twipsFromPixels(Picture2_->height());
-  VScroll1_->setRange(0, std::max(0, overhang));
-  VScroll1_->setPageStep(twipsFromPixels(Picture2_->height()));
-  VScroll1_->setVisible(overhang > 0);
-  if (VScroll1_->value() > 0) scrollTo(-VScroll1_->value());
-}
-
-void SetOfRowsWidget::scrollTo(int top) {
-  Picture1_->move(Picture1_->x(), pixelsFromTwips(top));
-}
-
-void SetOfRowsWidget::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  const int barWidth = VScroll1_->sizeHint().width();
-  const int barLeft = width() - pixelsFromTwips(kBarFromRight);
-  VScroll1_->setGeometry(barLeft, 0, barWidth, height());
-  Picture2_->setGeometry(0, 0, barLeft, height());
-  const int stripLeft = barLeft + barWidth;
-  const int buttonWidth = width() - stripLeft - 6;
-  const int buttonHeight = std::min(Command1_->sizeHint().height(), height() / 2 - 2);
-  const auto place = [&](QPushButton& button, int centre) {
-    button.setGeometry(stripLeft + 3, centre - buttonHeight / 2, buttonWidth, buttonHeight);
-  };
-  place(*Command1_, height() / 4);
-  place(*Command2_, height() * 3 / 4);
-  updateScrollRange();
 }
 
 void SetOfRowsWidget::wheelEvent(QWheelEvent* event) {
   // Rows that can move do so first; then the wheel is the form's.
   const int before = VScroll1_->value();
   if (VScroll1_->isVisible() && event->angleDelta().y() != 0) {
-    VScroll1_->setValue(before + (event->angleDelta().y() > 0 ? -kRowPitch : kRowPitch));
+    VScroll1_->setValue(before + (event->angleDelta().y() > 0 ? -rowPitch_ : rowPitch_));
   }
   event->setAccepted(VScroll1_->value() != before);
 }

@@ -23,6 +23,12 @@ class SetOfRowsWidget : public QWidget {
                   QWidget* parent);
   ~SetOfRowsWidget() override;
 
+  /// The height, in pixels, at which the captions of the two buttons are whole in the font of a
+  /// form.
+  static int leastHeight(const QWidget& form);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -36,11 +42,15 @@ class SetOfRowsWidget : public QWidget {
 
   void makeButtons(const ApplicationModule& app);
   void showRows();
+  void measureRows();
+  void placeRow(std::int16_t row, QWidget& tick, QWidget& value) const;
   void addRowWidgets(std::int16_t row);
   QWidget* makeText(std::int16_t row);
   QWidget* makeList(std::int16_t row);
   void showRow(std::int16_t row);
   void addClicked();
+  void putInTabOrder(const Row& widgets);
+  void scrollToRow(int top);
   void updateScrollRange();
   void scrollTo(int top);
 
@@ -53,6 +63,8 @@ class SetOfRowsWidget : public QWidget {
   QPushButton* Command1_ = nullptr;
   QPushButton* Command2_ = nullptr;
   std::vector<Row> widgets_;
+  int rowHeight_;  // twips
+  int rowPitch_;   // twips
 };
 
 }  // namespace velra

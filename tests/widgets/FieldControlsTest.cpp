@@ -141,9 +141,32 @@ TEST_F(FieldControlsTest, RowsOfASet) {
   QWidget* added = &find("Text1_3", &set);
   EXPECT_EQ(window_->focusWidget(), added);
   QTest::keyClicks(added, QStringLiteral("new"));
-  QTest::keyClick(added, Qt::Key_Return);  // does not end the form
+  QTest::keyClick(added, Qt::Key_Return);              // does not end the form
+  for (const char* name : {"Command1", "Command2"}) {  // behind the rows, as on the screen
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window_->focusWidget(), &find(name, &set));
+  }
+  for (const char* name : {"Command1", "Text1_3", "Check1_3", "Text1_2"}) {
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(window_->focusWidget(), &find(name, &set));
+  }
   QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
   EXPECT_EQ(stored(1), Value(StringList{"b", "d", "new"}));
+}
+
+TEST_F(FieldControlsTest, ALongRowShowsItsBeginning) {
+  object_->add(tyType::SetOfStrings, "S", StringList{std::string(200, 'w'), "short"});
+  open();
+  QWidget& set = find("ctlSetOfString1_1");
+  auto& row = find<QLineEdit>("Text1_1", &set);
+  EXPECT_EQ(row.cursorPosition(), 0);
+  QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);  // selects it all
+  EXPECT_EQ(window_->focusWidget(), &row);
+  EXPECT_EQ(row.selectedText().size(), 200);
+  EXPECT_EQ(row.cursorPosition(), 0);
+  QTest::keyClick(&row, Qt::Key_End);
+  QTest::keyClick(&row, Qt::Key_Tab);
+  EXPECT_EQ(row.cursorPosition(), 0);
 }
 
 TEST_F(FieldControlsTest, ASetScrollsWhenItsRowsDoNotFit) {
@@ -157,7 +180,13 @@ TEST_F(FieldControlsTest, ASetScrollsWhenItsRowsDoNotFit) {
   EXPECT_TRUE(bar.isVisible());
   QWidget& last = find("Text1_5", &set);
   QWidget& view = find("Picture2", &set);
-  EXPECT_TRUE(view.rect().contains(QRect(last.mapTo(&view, QPoint()), last.size())));
+  const auto inSight = [&](const QWidget& row) {
+    return view.rect().contains(QRect(row.mapTo(&view, QPoint()), row.size()));
+  };
+  EXPECT_TRUE(inSight(last));
+  for (int i = 0; i < 8; ++i) QTest::keyClick(window_->focusWidget(), Qt::Key_Backtab);
+  EXPECT_EQ(window_->focusWidget(), &find("Text1_1", &set));
+  EXPECT_TRUE(inSight(find("Text1_1", &set)));
 }
 
 class CrossLanguageWindowTest : public FieldControlsTest {

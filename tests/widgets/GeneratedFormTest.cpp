@@ -31,7 +31,6 @@ TEST_F(GeneratedFormTest, AllSetsStandInTheSameSlotsUntilATabIsClicked) {
   EXPECT_TRUE(find("Text1_1").isVisible());
   const QPoint inFirstSlot = find("Frame1_1").geometry().center();
   EXPECT_TRUE(find("Frame1_11").isAncestorOf(panel().childAt(inFirstSlot)));
-  EXPECT_EQ(window_->focusWidget(), &find("Text1_11"));  // the one that can be seen
   clickTab(1);
   EXPECT_TRUE(find("Text1_1").isVisible());
   EXPECT_TRUE(find("Text1_10").isVisible());
@@ -39,6 +38,74 @@ TEST_F(GeneratedFormTest, AllSetsStandInTheSameSlotsUntilATabIsClicked) {
   clickTab(2);
   EXPECT_FALSE(find("Text1_1").isVisible());
   EXPECT_TRUE(find("Text1_12").isVisible());
+}
+
+TEST_F(GeneratedFormTest, TheTabKeyGoesToWhatIsInSightAndTabsTakeItAlong) {
+  addTexts(12);
+  open();
+  const auto focused = [&] { return window_->focusWidget()->objectName(); };
+  const auto round = [&] {  // once around by the Tab key
+    QStringList names;
+    for (const QString start = focused(); names.size() < 30 && !names.contains(start);) {
+      QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+      names << focused();
+    }
+    return names.join(u' ');
+  };
+  EXPECT_EQ(round(),
+            QStringLiteral("Text1_12 Text1_3 Text1_4 Text1_5 Text1_6 Text1_7 Text1_8 Text1_9 "
+                           "Text1_10 OKButt CancelButt TabStrip1 Text1_11"));
+  const auto turn = [&](Qt::Key key) {
+    QTest::keyClick(window_->focusWidget(), key, Qt::ControlModifier);
+    return focused();
+  };
+  bar().setValue(1400);  // past the first box
+  EXPECT_EQ(turn(Qt::Key_PageDown), QStringLiteral("Text1_11"));
+  EXPECT_EQ(turn(Qt::Key_PageUp), QStringLiteral("Text1_2"));
+  EXPECT_EQ(bar().value(), 1400);
+  find("OKButt").setFocus();
+  clickTab(2);
+  EXPECT_EQ(focused(), QStringLiteral("Text1_11"));
+  find("Text1_12").setFocus();
+  clickTab(2);  // the one in front
+  EXPECT_EQ(focused(), QStringLiteral("Text1_12"));
+  find("TabStrip1").setFocus();
+  QTest::keyClick(&find("TabStrip1"), Qt::Key_Left);
+  EXPECT_EQ(focused(), QStringLiteral("TabStrip1"));
+}
+
+TEST_F(GeneratedFormTest, ALargeFontIsWholeInTabsRowsAndButtons) {
+  object_->add(tyType::SetOfStrings, "Set", StringList{"row"});
+  addTexts(8);
+  const QFont before = QApplication::font();
+  for (const int points : {9, 18, 28}) {
+    QFont font = before;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    open();
+    QWidget& set = find("ctlSetOfString1_1");
+    const int text = window_->fontMetrics().height();
+    EXPECT_GE(find("Text1_1", &set).height(), text) << points;
+    for (const char* name : {"Command1", "Command2", "OKButt"}) {
+      const auto& button = find<QPushButton>(name, name[0] == 'C' ? &set : nullptr);
+      EXPECT_GE(button.height(), text) << points << name;
+      EXPECT_GT(button.width(), button.fontMetrics().horizontalAdvance(button.text())) << points;
+    }
+    const auto& tabs = find<QTabBar>("TabStrip1");
+    EXPECT_GE(tabs.height(), (tabs.sizeHint().height() + text) / 2) << points;
+    EXPECT_EQ(find("Picture2").y(), tabs.height());
+    EXPECT_GE(find("Frame1_2").y(), find("Frame1_1").geometry().bottom()) << points;
+    EXPECT_LE(find("OKButt").geometry().bottom(), window_->height()) << points;
+    bar().setValue(bar().maximum());
+    EXPECT_LE(find("Frame1_9").mapTo(&find("Picture2"), QPoint()).y() + find("Frame1_9").height(),
+              find("Picture2").height());
+    if (points == 9) {
+      EXPECT_EQ(tabs.height(), 27);
+      EXPECT_EQ(find("Text1_1", &set).size(), QSize(267, 20));
+    }
+    window_.reset();
+  }
+  QApplication::setFont(before);
 }
 
 TEST_F(GeneratedFormTest, TabsKeepTheirScroll) {
