@@ -4,6 +4,8 @@
 #include <exception>
 #include <functional>
 
+#include "widgets/ScreenBound.h"
+
 namespace velra {
 
 /// The one place where failures that no rule expects end up: each event and the start run under its
@@ -14,7 +16,9 @@ class GuardedApplication : public QApplication {
   Q_OBJECT
 
  public:
-  GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {}
+  GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    installEventFilter(&screenBound_);
+  }
 
   /// Runs what is not an event under the same guard.
   void guarded(const std::function<void()>& action);
@@ -24,6 +28,7 @@ class GuardedApplication : public QApplication {
  private:
   [[noreturn]] void endAtOnce(const std::exception& failure);
 
+  ScreenBound screenBound_;
   bool ending_ = false;
 };
 

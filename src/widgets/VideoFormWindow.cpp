@@ -4,9 +4,10 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <utility>
 
-#include "forms/FormLayout.h"
 #include "shell/LoadedVideoForm.h"
 #include "widgets/GeneratedFormFace.h"
 #include "widgets/QtText.h"
@@ -50,7 +51,7 @@ void VideoFormWindow::build(LoadedVideoForm& form) {
   setWindowTitle(windowTitleText(form.caption()));
   generated_ = new GeneratedFormFace(
       app_, {form.fields(), form.tabs(), form.arrTabScroll(), nullptr, form.framePasses()}, this);
-  panel_ = new ToolPanel(app_, form.tool(), this);
+  makePanelView();
   connect(generated_, &GeneratedFormFace::okClicked, this, [this] { form_->OKButt_Click(); });
   connect(generated_, &GeneratedFormFace::cancelClicked, this,
           [this] { form_->CancelButt_Click(); });
@@ -62,17 +63,26 @@ void VideoFormWindow::build(LoadedVideoForm& form) {
   panel_->focusFirst();
 }
 
+void VideoFormWindow::makePanelView() {
+  panelView_ = new QScrollArea(this);
+  panelView_->setObjectName(QStringLiteral("ToolView"));
+  panelView_->setFrameStyle(QFrame::NoFrame);
+  panelView_->setFocusPolicy(Qt::NoFocus);
+  panel_ = new ToolPanel(app_, form_->tool(), panelView_);
+  panelView_->setWidget(panel_);
+}
+
 void VideoFormWindow::unbuild() {
   Timer1_.stop();
   BlinkerTimer_.stop();
-  delete std::exchange(panel_, nullptr);
+  panel_ = nullptr;
+  delete std::exchange(panelView_, nullptr);
   delete std::exchange(generated_, nullptr);
   form_ = nullptr;
 }
 
 void VideoFormWindow::chooseSize() {
-  const QSize least =
-      ToolPanel::leastSize() + QSize(0, pixelsFromTwips(form_layout::kAroundViewport));
+  const QSize least = ToolPanel::leastSize() + QSize(0, generated_->aroundViewport());
   setMinimumSize(least);
   const QSize wanted = screen()->availableSize() * kShareOfScreen;
   resize(qMax(least.width(), wanted.width()),
@@ -87,15 +97,27 @@ void VideoFormWindow::resizeEvent(QResizeEvent* event) {
 
 void VideoFormWindow::placeParts() {
   generated_->setGeometry(rect());
-  panel_->setGeometry(0, pixelsFromTwips(form_layout::kTabsHeight), width(),
-                      height() - pixelsFromTwips(form_layout::kAroundViewport));
+  panelView_->setGeometry(0, generated_->tabsHeight(), width(),
+                          height() - generated_->aroundViewport());
+  panel_->resize(panelSize());
   panel_->LayoutControls();
+}
+
+// All the room there is, and where that is too little, what the panel needs beside scroll bars.
+QSize VideoFormWindow::panelSize() const {
+  const QSize least = ToolPanel::leastSize();
+  QSize room = panelView_->size();
+  const bool isLow = room.height() < least.height();
+  const bool isNarrow = room.width() < least.width();
+  if (isLow) room.rwidth() -= panelView_->verticalScrollBar()->sizeHint().width();
+  if (isNarrow) room.rheight() -= panelView_->horizontalScrollBar()->sizeHint().height();
+  return room.expandedTo(least);
 }
 
 void VideoFormWindow::showTab(int tab) {
   const bool own = form_->tabs().isOwnTab(tab);
-  panel_->setVisible(own);
-  if (own) panel_->raise();
+  panelView_->setVisible(own);
+  if (own) panelView_->raise();
 }
 
 void VideoFormWindow::showModally() {

@@ -5,6 +5,8 @@
 
 #include "shell/VideoFormFace.h"
 
+class QScrollArea;
+
 namespace velra {
 
 class ApplicationModule;
@@ -46,8 +48,10 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
 
  private:
   void makeTimers();
+  void makePanelView();
   void chooseSize();
   void placeParts();
+  QSize panelSize() const;
   void showTab(int tab);
   void Form_KeyUp(const QKeyEvent& event);
 
@@ -55,6 +59,7 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
   LoadedVideoForm* form_ = nullptr;
   GeneratedFormFace* generated_ = nullptr;
   ToolPanel* panel_ = nullptr;
+  QScrollArea* panelView_ = nullptr;  // scrolls the panel if the screen is too small for it
   QTimer Timer1_;
   QTimer BlinkerTimer_;
 };

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -57,6 +58,32 @@ TEST_F(FormPresenterTest, FormsOpenInTheSizeTheyHadLast) {
     EXPECT_FALSE(window.isVisible());
   });
   form.Show(owner_);
+}
+
+TEST_F(FormPresenterTest, NoWindowOpensLargerThanItsScreen) {
+  class OwnerWindow : public QWidget, public FormOwner {};
+  OwnerWindow owner;
+  QRect screen;
+  for (const QScreen* each : QGuiApplication::screens()) {
+    if (each->name() == QLatin1String("small")) screen = each->availableGeometry();
+  }
+  owner.setGeometry(QRect(screen.topLeft() + QPoint(67, 67), QSize(1900, 300)));
+  owner.setMinimumSize(1000, 200);
+  owner.show();
+  EXPECT_TRUE(screen.contains(owner.geometry()));
+  EXPECT_EQ(owner.height(), 300);
+  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
+  form.setObject(object_);
+  for (int showing = 0; showing < 2; ++showing) {
+    whenModal([&](QWidget& window) {
+      EXPECT_TRUE(screen.contains(window.geometry()));
+      const auto* ok = window.findChild<QWidget*>(QStringLiteral("OKButt"));
+      EXPECT_TRUE(window.rect().contains(ok->geometry()));
+      window.resize(3000, 400);  // remembered
+      window.close();
+    });
+    form.Show(owner);
+  }
 }
 
 TEST_F(FormPresenterTest, AFormStandsOverItsOwnersWindow) {
