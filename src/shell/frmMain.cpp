@@ -60,16 +60,22 @@ void frmMain::UpdateNodeTitle(const DescribedObject& object) {
   if (TreeNode* node = tvwExpression.find(object)) tvwExpression.setText(*node, title);
 }
 
-void frmMain::ShowAVDocTitle() {
+void frmMain::showMainTree() {
   tvwMainTree.clear();
   if (!app_.gAVDoc) raise(kNoObject);
   tvwMainTree.replace(BuildMainTree(app_.gAVDoc));
 }
 
+void frmMain::ShowAVDocTitle() {
+  showMainTree();
+  tvwMainTree.makeCurrent(*app_.gAVDoc);
+  nodeClicked(TreeId::tvwMainTree, *tvwMainTree.root());
+}
+
 void frmMain::ResetTree(TreeId id, const ObjectRef& version) {
   std::unique_ptr<TreeNode> former = tree(id).take();
   if (id == TreeId::tvwMainTree) {
-    ShowAVDocTitle();
+    showMainTree();
   } else if (version) {
     BuildExprTree(version, std::move(former));
   }
@@ -122,14 +128,20 @@ void frmMain::nodeClicked(TreeId id, TreeNode& node) {
   int& pending = id == TreeId::tvwMainTree ? iMainButton_ : iExprButton_;
   const int button = std::exchange(pending, kNoButton);
   tree(id).select(&node);
+  treeEntered(id);
   const ObjectRef object = node.Tag;
-  bFromMainTree_ = id == TreeId::tvwMainTree;
-  ContexMenuManager(*object, bFromMainTree_);
   if (button == kRightButton) {
     if (face_) face_->popUpEditMenu();
   } else {
     leftClick(id, object);
   }
+}
+
+void frmMain::treeEntered(TreeId id) {
+  const TreeNode* node = tree(id).selected();
+  if (!node) return;
+  bFromMainTree_ = id == TreeId::tvwMainTree;
+  ContexMenuManager(*node->Tag, bFromMainTree_);
 }
 
 void frmMain::leftClick(TreeId id, const ObjectRef& object) {

@@ -52,6 +52,8 @@ class frmMain : public MainWindow {
   void treeMouseDown(TreeId tree, MouseButton button);
   /// A node was clicked, or became the current one by the keyboard (then as by the left button).
   void nodeClicked(TreeId tree, TreeNode& node);
+  /// The keyboard came to a tree: the commands of the Edit menu are for its selected node now.
+  void treeEntered(TreeId tree);
   /// The release of the Delete key on a tree.
   void DeleteNode(TreeId tree);
 
@@ -66,6 +68,7 @@ class frmMain : public MainWindow {
   void mnuFileFind();
   void mnuExportToDB();
   void mnuImportToFS();
+  /// Shows the document, with its node as if it had been clicked: the keyboard begins there.
   void ShowAVDocTitle();
 
   // The Edit menu.
@@ -93,6 +96,7 @@ class frmMain : public MainWindow {
   std::shared_ptr<ObjectForm> frmAVDocFormInstance();
 
   TreeNode* selectedNode();
+  void showMainTree();
   void leftClick(TreeId tree, const ObjectRef& object);
   void applyMenus(const MenuState& state);
   void BuildExprTree(const ObjectRef& version, std::unique_ptr<TreeNode> former);

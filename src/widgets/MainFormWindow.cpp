@@ -79,6 +79,7 @@ void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {
     menuPosition_ = view.menuPosition();
     rules_.nodeClicked(id, node);
   });
+  connect(&view, &NodeTreeView::entered, this, [this, id] { rules_.treeEntered(id); });
   connect(&view, &NodeTreeView::deleteReleased, this, [this, id] { rules_.DeleteNode(id); });
 }
 

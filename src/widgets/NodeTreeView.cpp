@@ -2,13 +2,40 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QPainter>
 
+#include "widgets/FocusFrame.h"
 #include "widgets/TreeIconPainter.h"
 #include "widgets/TreeModel.h"
 
 namespace velra {
 
+namespace {
+
+constexpr int kFrameWidth = 2;  // pixels: room for the frame of the focus
+
+QColor between(const QColor& one, const QColor& other, float share) {
+  const auto mix = [share](float a, float b) { return a + (b - a) * share; };
+  return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                          mix(one.blueF(), other.blueF()));
+}
+
+// Many palettes have one colour for what is selected with the focus and without it.
+void giveInactiveColour(QPalette& palette) {
+  const QColor active = palette.color(QPalette::Active, QPalette::Highlight);
+  if (palette.color(QPalette::Inactive, QPalette::Highlight) != active) return;
+  constexpr float kShare = 0.25F;
+  const QColor base = palette.color(QPalette::Inactive, QPalette::Base);
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, between(base, active, kShare));
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText,
+                   palette.color(QPalette::Inactive, QPalette::Text));
+}
+
+}  // namespace
+
 NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), model_(model) {
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setLineWidth(kFrameWidth);
   setHeaderHidden(true);
   setUniformRowHeights(true);  // a row costs nothing until it is seen
   setIconSize(TreeIconPainter::iconSize());
@@ -22,6 +49,30 @@ NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent
   // A document shows what it has, and not only that it is there.
   connect(&model, &TreeModel::modelReset, this,
           [this] { expand(model_.index(0, 0, QModelIndex())); });
+}
+
+bool NodeTreeView::event(QEvent* event) {
+  const bool done = QTreeView::event(event);
+  if (event->type() == QEvent::Paint) paintFrame();
+  return done;
+}
+
+void NodeTreeView::paintFrame() {
+  QPainter painter(this);
+  if (hasFocus()) return paintFocusFrame(painter, rect(), palette());
+  painter.setPen(QPen(palette().base(), kFrameWidth * 2));
+  painter.drawRect(rect());
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// Styles tell the window that has the focus from others, and not the trees of one window.
+void NodeTreeView::drawRow(QPainter* painter, const QStyleOptionViewItem& options,
+                           const QModelIndex& index) const {
+  QStyleOptionViewItem row = options;
+  if (!hasFocus()) row.state &= ~QStyle::State_Active;
+  giveInactiveColour(row.palette);
+  QTreeView::drawRow(painter, row, index);
 }
 
 void NodeTreeView::click(const QModelIndex& index, MouseButton button) {
@@ -76,7 +127,8 @@ void NodeTreeView::focusInEvent(QFocusEvent* event) {
   QTreeView::focusInEvent(event);
   const bool byTab =
       event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-  if (!byTab || !currentIndex().isValid() || !selectedIndexes().isEmpty()) return;
+  if (!byTab || !currentIndex().isValid()) return;
+  if (!selectedIndexes().isEmpty()) return Q_EMIT entered();
   selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
   click(currentIndex(), kLeftButton);
 }

@@ -25,9 +25,14 @@ class NodeTreeView : public QTreeView {
   /// the left button to make a node the current one, the right one for the menu.
   void pressed(velra::MouseButton button);
   void nodeClicked(velra::TreeNode& node);
+  /// The Tab key came to a tree that has a selected node.
+  void entered();
   void deleteReleased();
 
  protected:
+  bool event(QEvent* event) override;
+  void drawRow(QPainter* painter, const QStyleOptionViewItem& options,
+               const QModelIndex& index) const override;
   void mousePressEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -38,6 +43,7 @@ class NodeTreeView : public QTreeView {
  private:
   void click(const QModelIndex& index, MouseButton button);
   bool isOnNode(const QPoint& position) const;
+  void paintFrame();
 
   TreeModel& model_;
   QPoint menuPosition_;

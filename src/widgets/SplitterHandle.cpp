@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace velra {
 
@@ -21,6 +22,10 @@ SplitterHandle::SplitterHandle(QWidget* parent) : QWidget(parent) {
   QAccessible::installFactory(splitterInterface);
   setCursor(Qt::SplitHCursor);
   setFocusPolicy(Qt::TabFocus);
+}
+
+void SplitterHandle::paintEvent(QPaintEvent*) {
+  if (hasFocus()) QPainter(this).fillRect(rect(), palette().highlight());
 }
 
 void SplitterHandle::mousePressEvent(QMouseEvent* event) {

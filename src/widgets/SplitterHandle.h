@@ -5,7 +5,7 @@
 namespace velra {
 
 /// The handle between the two trees, dragged with the mouse or moved with the arrow keys. It shows
-/// nothing and moves nothing by itself.
+/// nothing but that it has the focus, and moves nothing by itself.
 class SplitterHandle : public QWidget {
   Q_OBJECT
 
@@ -21,6 +21,7 @@ class SplitterHandle : public QWidget {
   void stepped(int pixels);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

@@ -16,10 +16,20 @@ TEST(FileCommands, OpenShowsTheLeftTreeAndAClickOnAVersionTheRightOne) {
   const Texts left = program.texts(TreeId::tvwMainTree);
   EXPECT_EQ(left.size(), 1u + 2 + 3 + 4);
   EXPECT_TRUE(program.texts(TreeId::tvwExpression).empty());
+  EXPECT_EQ(program.mainForm.tvwMainTree.selected(), program.mainForm.tvwMainTree.root());
+  EXPECT_FALSE(program.mainForm.menuState().mnuAddMainExpr);
+  program.mainForm.mnuEditMetadata();
+  EXPECT_EQ(program.presenter.captions, Texts{"Skarholm Light"});
 
   program.click(TreeId::tvwMainTree, *program.version(1));
   const Texts right = program.texts(TreeId::tvwExpression);
   EXPECT_EQ(right.size(), 1u + 1 + 6 + 1 + 5 + 1 + 4);
+  // The keyboard goes over to the right tree and back, and the Edit menu with it.
+  program.click(TreeId::tvwExpression, *program.version(1));
+  program.mainForm.treeEntered(TreeId::tvwMainTree);
+  EXPECT_FALSE(program.mainForm.menuState().mnuAddMainExpr);
+  program.mainForm.treeEntered(TreeId::tvwExpression);
+  EXPECT_TRUE(program.mainForm.menuState().mnuAddMainExpr);
 }
 
 TEST(FileCommands, SavingAnUnchangedDocumentTouchesNoByte) {

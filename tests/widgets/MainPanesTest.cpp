@@ -78,6 +78,45 @@ TEST_F(MainPanesTest, ArrowKeysMoveTheSplitter) {
   EXPECT_EQ(panes.mainTree().width(), before);
 }
 
+TEST_F(MainPanesTest, TheFocusIsSeenInTreesAndSplitter) {
+  const auto highlight = [this](const QColor& active, const QColor& inactive) {
+    QPalette colours = panes.palette();
+    colours.setColor(QPalette::Active, QPalette::Highlight, active);
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, inactive);
+    panes.setPalette(colours);
+  };
+  highlight(Qt::blue, Qt::red);
+  panes.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&panes));
+  NodeTreeView* const trees[] = {&panes.mainTree(), &panes.expressionTree()};
+  Tree* const nodes[] = {&leftTree, &rightTree};
+  for (int i : {0, 1}) {
+    nodes[i]->replace(std::make_unique<TreeNode>());
+    trees[i]->setCurrentIndex(trees[i]->model()->index(0, 0));
+  }
+  const auto at = [this](const QWidget& widget, QPoint place) {
+    return panes.grab().toImage().pixelColor(widget.mapTo(&panes, place));
+  };
+  const auto selection = [&](const NodeTreeView& tree) {
+    const QRect row = tree.visualRect(tree.currentIndex());
+    return at(*tree.viewport(), {row.right() - 3, row.center().y()});
+  };
+  QWidget* const inTurn[] = {trees[0], handle, trees[1]};
+  for (QWidget* focused : inTurn) {
+    focused->setFocus();
+    for (const NodeTreeView* tree : trees) {
+      const bool has = tree == focused;
+      EXPECT_EQ(at(*tree, {20, 0}) == QColor(Qt::blue), has);  // its frame
+      EXPECT_EQ(at(*tree, {20, 1}) == QColor(Qt::blue), has);
+      EXPECT_EQ(selection(*tree).blue() > 200, has);
+      EXPECT_EQ(selection(*tree).red() > 200, !has);
+    }
+    EXPECT_EQ(at(*handle, {1, 50}) == QColor(Qt::blue), handle == focused);
+  }
+  highlight(Qt::blue, Qt::blue);  // as many palettes have it
+  EXPECT_NE(selection(panes.mainTree()), selection(panes.expressionTree()));
+}
+
 TEST(MainStatusBarTest, TheLastOfManyTextsIsShown) {
   MainStatusBar bar(nullptr);
   auto* label = bar.findChild<QLabel*>(QStringLiteral("sbStatusBar_1"));

@@ -43,6 +43,7 @@ class TreeViewTest : public ::testing::Test {
                      [this](MouseButton button) { heard += "press " + std::to_string(button); });
     QObject::connect(&view, &NodeTreeView::nodeClicked, &view,
                      [this](TreeNode& clicked) { heard += " click " + clicked.Text + ";"; });
+    QObject::connect(&view, &NodeTreeView::entered, &view, [this] { heard += "entered;"; });
     QObject::connect(&view, &NodeTreeView::deleteReleased, &view, [this] { heard += "delete;"; });
     tree.replace(sample());
     view.resize(300, 300);
@@ -109,6 +110,10 @@ TEST_F(TreeViewTest, KeysWorkLikeTheMouse) {
   QTest::keyClick(&view, Qt::Key_Delete);
   QTest::keyClick(&view, Qt::Key_Delete, Qt::KeypadModifier);
   EXPECT_EQ(heard, "delete;delete;");
+  heard.clear();
+  QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(&view, &byTab);
+  EXPECT_EQ(heard, "entered;");
 }
 
 TEST_F(TreeViewTest, TheSelectedNodeShowsItsSelectedImage) {
