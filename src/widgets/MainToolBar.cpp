@@ -1,6 +1,7 @@
 #include "widgets/MainToolBar.h"
 
 #include <QAction>
+#include <QCursor>
 
 #include "platform/UserInterface.h"
 #include "widgets/Icons.h"
@@ -20,9 +21,18 @@ MainToolBar::MainToolBar(MainFormWindow& window) : QToolBar(&window) {
     action->setObjectName(QStringLiteral("tbToolBar_") +
                           QString(QLatin1String(button.key)).remove(QLatin1Char(' ')));
     if (!button.literal) continue;
-    connect(action, &QAction::triggered, &window,
-            [&window, &button] { window.ui().messageBox(button.literal); });
+    connect(action, &QAction::triggered, this, [this, &window, &button, action] {
+      window.ui().messageBox(button.literal);
+      lower(*widgetForAction(action));
+    });
   }
+}
+
+// The mouse leaves a button unheard while a box is open.
+void MainToolBar::lower(QWidget& button) {
+  const bool under = button.rect().contains(button.mapFromGlobal(QCursor::pos()));
+  button.setAttribute(Qt::WA_UnderMouse, under);
+  button.update();
 }
 
 }  // namespace velra

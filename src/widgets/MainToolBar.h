@@ -13,6 +13,9 @@ class MainToolBar : public QToolBar {
 
  public:
   explicit MainToolBar(MainFormWindow& window);
+
+ private:
+  static void lower(QWidget& button);
 };
 
 }  // namespace velra

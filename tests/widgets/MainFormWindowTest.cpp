@@ -154,6 +154,11 @@ TEST_F(MainFormWindowTest, CommandsWithoutAFunctionSaySo) {
       EXPECT_EQ(action(row.name)->toolTip(), QLatin1String(row.toolTip));
     }
   }
+  auto* bar = window.findChild<QToolBar*>(QStringLiteral("tbToolBar"));
+  QWidget* button = bar->widgetForAction(action("tbToolBar_Cut"));
+  button->setAttribute(Qt::WA_UnderMouse);  // and the mouse goes while the box is open
+  action("tbToolBar_Cut")->trigger();
+  EXPECT_FALSE(button->underMouse());
 }
 
 TEST_F(MainFormWindowTest, ClosingTakesAllWindowsAlongAndKeepsThePlace) {
