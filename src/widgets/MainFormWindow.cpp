@@ -80,6 +80,10 @@ void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {
     rules_.nodeClicked(id, node);
   });
   connect(&view, &NodeTreeView::entered, this, [this, id] { rules_.treeEntered(id); });
+  connect(&view, &NodeTreeView::returnPressed, this, [this, id] {
+    rules_.treeEntered(id);
+    rules_.mnuEditMetadata();
+  });
   connect(&view, &NodeTreeView::deleteReleased, this, [this, id] { rules_.DeleteNode(id); });
 }
 

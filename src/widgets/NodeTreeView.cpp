@@ -108,6 +108,12 @@ void NodeTreeView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void NodeTreeView::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isReturn) {
+    // Not the one that is still held down from a box that it has closed.
+    if (!event->isAutoRepeat()) Q_EMIT returnPressed();
+    return;
+  }
   const QModelIndex before = currentIndex();
   QTreeView::keyPressEvent(event);
   if (currentIndex() != before) click(currentIndex(), kLeftButton);

@@ -27,6 +27,8 @@ class NodeTreeView : public QTreeView {
   void nodeClicked(velra::TreeNode& node);
   /// The Tab key came to a tree that has a selected node.
   void entered();
+  /// Return on the tree.
+  void returnPressed();
   void deleteReleased();
 
  protected:

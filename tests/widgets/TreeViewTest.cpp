@@ -44,6 +44,7 @@ class TreeViewTest : public ::testing::Test {
     QObject::connect(&view, &NodeTreeView::nodeClicked, &view,
                      [this](TreeNode& clicked) { heard += " click " + clicked.Text + ";"; });
     QObject::connect(&view, &NodeTreeView::entered, &view, [this] { heard += "entered;"; });
+    QObject::connect(&view, &NodeTreeView::returnPressed, &view, [this] { heard += "return;"; });
     QObject::connect(&view, &NodeTreeView::deleteReleased, &view, [this] { heard += "delete;"; });
     tree.replace(sample());
     view.resize(300, 300);
@@ -111,9 +112,12 @@ TEST_F(TreeViewTest, KeysWorkLikeTheMouse) {
   QTest::keyClick(&view, Qt::Key_Delete, Qt::KeypadModifier);
   EXPECT_EQ(heard, "delete;delete;");
   heard.clear();
+  QTest::keyClick(&view, Qt::Key_Return);
+  QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+  QApplication::sendEvent(&view, &heldDown);
   QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
   QApplication::sendEvent(&view, &byTab);
-  EXPECT_EQ(heard, "entered;");
+  EXPECT_EQ(heard, "return;entered;");
 }
 
 TEST_F(TreeViewTest, TheSelectedNodeShowsItsSelectedImage) {
