@@ -3,36 +3,27 @@
 #include <gtest/gtest.h>
 
 #include "base/RunTimeError.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra {
 namespace {
 
 using Texts = std::vector<std::string>;
 
-class ApplicationModuleTest : public ::testing::Test {
+class ApplicationModuleTest : public ::testing::Test, protected test::TestApplication {
  protected:
   void machineFile(const std::string& lines) {
-    folder_.write("machine.ini", "[SOFTWARE\\Velra]\n" + lines);
+    folder.write("machine.ini", "[SOFTWARE\\Velra]\n" + lines);
   }
-
-  test::TemporaryFolder folder_;
-  test::ScriptedUserInterface ui_;
-  MachineSettings machine_{folder_ / "machine.ini"};
-  UserSettings user_{folder_ / "velra.ini"};
-  ApplicationModule app_{ui_, MessageCatalogue(InterfaceLanguage::Default), machine_, user_};
 };
 
 TEST_F(ApplicationModuleTest, WarnsOnceForEachNameUntilCleared) {
-  for (const char* name : {"Title", "title", "Title"}) app_.WarnNotFoundOnce(name);
-  EXPECT_EQ(ui_.takeShown(),
+  for (const char* name : {"Title", "title", "Title"}) app.WarnNotFoundOnce(name);
+  EXPECT_EQ(ui.takeShown(),
             (Texts{"ok-cancel: Title non trovato", "ok-cancel: title non trovato"}));
-  app_.gNotFound.clear();
-  app_.WarnNotFoundOnce("Title");
-  EXPECT_EQ(ui_.takeShown(), Texts{"ok-cancel: Title non trovato"});
+  app.gNotFound.clear();
+  app.WarnNotFoundOnce("Title");
+  EXPECT_EQ(ui.takeShown(), Texts{"ok-cancel: Title non trovato"});
 }
 
 TEST_F(ApplicationModuleTest, ReadsEachKindOfValueAsText) {
@@ -53,13 +44,13 @@ TEST_F(ApplicationModuleTest, ReadsEachKindOfValueAsText) {
   };
   for (const auto& one : cases) {
     std::string text = "as it was";
-    EXPECT_EQ(app_.bRegRead(ApplicationModule::kMachineSection, one.name, text), one.found);
+    EXPECT_EQ(app.bRegRead(ApplicationModule::kMachineSection, one.name, text), one.found);
     EXPECT_EQ(text, one.text) << one.name;
   }
-  EXPECT_EQ(app_.strXSDPath(), "");
+  EXPECT_EQ(app.strXSDPath(), "");
   machineFile("XSDPath=/s.xsd\nThematicKeywordsPath=/t.xml\n");
-  EXPECT_EQ(app_.strXSDPath(), "/s.xsd");
-  EXPECT_EQ(app_.strThematicKeywordsPath(), "/t.xml");
+  EXPECT_EQ(app.strXSDPath(), "/s.xsd");
+  EXPECT_EQ(app.strThematicKeywordsPath(), "/t.xml");
 }
 
 TEST_F(ApplicationModuleTest, ConnectionSettingsNeedAllFourAndANumber) {
@@ -81,22 +72,22 @@ TEST_F(ApplicationModuleTest, ConnectionSettingsNeedAllFourAndANumber) {
     machineFile(one.lines);
     ConnectionSettings settings;
     settings.iPort = 7;
-    EXPECT_EQ(app_.bReadConnectionSettings(settings), one.complete) << one.lines;
+    EXPECT_EQ(app.bReadConnectionSettings(settings), one.complete) << one.lines;
     EXPECT_EQ(settings.iPort, one.port) << one.lines;
   }
   machineFile(rest + "NaroPort=32768\n");
   ConnectionSettings settings;
-  EXPECT_THROW(app_.bReadConnectionSettings(settings), RunTimeError);
+  EXPECT_THROW(app.bReadConnectionSettings(settings), RunTimeError);
 }
 
 TEST_F(ApplicationModuleTest, WritesConnectionSettingsAsTexts) {
   machineFile("XSDPath=/s.xsd\nNaroPort=dword:00000001\n");
-  app_.WriteConnectionSettings({"host", 2509, "/dm", "web"});
-  EXPECT_EQ(folder_.read("machine.ini"),
+  app.WriteConnectionSettings({"host", 2509, "/dm", "web"});
+  EXPECT_EQ(folder.read("machine.ini"),
             "[SOFTWARE\\Velra]\nXSDPath=/s.xsd\nNaroPort=2509\nNaroServer=host\nDMName=/dm\n"
             "HTTPServer=web\n");
   ConnectionSettings settings;
-  EXPECT_TRUE(app_.bReadConnectionSettings(settings));
+  EXPECT_TRUE(app.bReadConnectionSettings(settings));
 }
 
 TEST(StripQuotes, TakesOnePairAlone) {

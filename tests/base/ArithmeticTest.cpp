@@ -5,20 +5,12 @@
 #include <cmath>
 #include <limits>
 
-#include "base/RunTimeError.h"
+#include "support/ErrorOf.h"
 
 namespace velra {
 namespace {
 
-template <class Operation>
-int errorOf(const Operation& operation) {
-  try {
-    operation();
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-}
+using test::errorOf;
 
 TEST(Arithmetic, RoundsTiesToEven) {
   const struct {

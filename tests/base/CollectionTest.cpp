@@ -2,18 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "support/ErrorOf.h"
+
 namespace velra {
 namespace {
 
-template <class Operation>
-int errorOf(const Operation& operation) {
-  try {
-    operation();
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-}
+using test::errorOf;
 
 TEST(Collection, CountsFromOneAndFindsByKey) {
   Collection<std::string> list;

@@ -18,8 +18,8 @@ class DialogPresenter : public FormPresenter {
 
 class SchemaDialogTest : public ::testing::Test {
  protected:
-  test::FormsApplication application_;
-  test::TitleWindow window_;
+  test::TestApplication application_;
+  test::RecordingMainWindow window_;
   test::FormObject object_{application_.app, "Media"};
   DialogPresenter presenter_;
   AVDocSchemaDialog dialog_{application_.app, presenter_};

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "base/RunTimeError.h"
 #include "forms/FormPresenter.h"
 #include "forms/LoadedForm.h"
 #include "forms/MetadataKinds.h"
 #include "forms/ctlSetOfStringCL.h"
+#include "support/ErrorOf.h"
 #include "support/FormObject.h"
 #include "vocabulary/NaroThematicKeywords.h"
 
@@ -37,7 +37,7 @@ class CrossLanguageTest : public ::testing::Test {
  protected:
   static constexpr std::int32_t kItalian = 1;
 
-  test::FormsApplication application_;
+  test::TestApplication application_;
   ApplicationModule& app_ = application_.app;
   std::shared_ptr<test::FormObject> object_;
   TabScroll scroll_;
@@ -64,12 +64,7 @@ class CrossLanguageTest : public ::testing::Test {
     form_->Form_Load();
   }
   int errorOfLoading() {
-    try {
-      load();
-    } catch (const RunTimeError& error) {
-      return error.number();
-    }
-    return 0;
+    return test::errorOf([this] { load(); });
   }
 
   FieldBox& box(std::size_t number) { return form_->fields().colControls()[number - 1]; }

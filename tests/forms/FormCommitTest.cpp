@@ -47,7 +47,7 @@ TEST(FormCommit, WhatCountsAsDifferent) {
 
 class FormCommitTest : public ::testing::Test {
  protected:
-  test::FormsApplication application_;
+  test::TestApplication application_;
   FormObject object_{application_.app, "Media", "Format"};
   FormFields form_;
   int titleChanges_ = 0;
@@ -138,17 +138,6 @@ TEST_F(FormCommitTest, SetsCompareInOrder) {
     EXPECT_EQ(set.vContent(), row.valid ? Value(row.strings) : Value());
     object_.secol().Remove(1);
   }
-}
-
-TEST_F(FormCommitTest, AnEmptiedSetLosesItsBox) {
-  object_.add(tyType::SetOfStrings, "S", StringList{"a"});
-  build();
-  box(1).rows->tickRow(1, true);
-  box(1).rows->Command2_Click();
-  commit();
-  FormFields next;
-  next.addFields(object_.secol(), nullptr);
-  EXPECT_EQ(next.Count(), 0);
 }
 
 }  // namespace

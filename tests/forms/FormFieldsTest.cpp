@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/RunTimeError.h"
+#include "support/ErrorOf.h"
 #include "support/FormObject.h"
 
 namespace velra {
@@ -12,18 +12,9 @@ using test::FormObject;
 
 class FormFieldsTest : public ::testing::Test {
  protected:
-  test::FormsApplication application_;
+  test::TestApplication application_;
   FormObject object_{application_.app, "Media"};
   FormFields form_;
-
-  int errorOfBuilding() {
-    try {
-      form_.addFields(object_.secol(), nullptr);
-    } catch (const RunTimeError& error) {
-      return error.number();
-    }
-    return 0;
-  }
 };
 
 TEST_F(FormFieldsTest, EachTypeHasItsControl) {
@@ -75,12 +66,6 @@ TEST_F(FormFieldsTest, SkippedFieldsStillCountInTheTag) {
   EXPECT_FALSE(form_.colControls()[1].bReadOnly);
 }
 
-TEST_F(FormFieldsTest, AReadOnlySetIsDisabled) {
-  object_.add(tyType::SetOfStrings, "S", StringList{"x"}).setBReadOnly(true);
-  form_.addFields(object_.secol(), nullptr);
-  EXPECT_FALSE(form_.colControls()[0].rows->Enabled());
-}
-
 TEST_F(FormFieldsTest, TenSlotsRepeat) {
   for (int i = 0; i < 21; ++i) object_.add(tyType::String, "F", "");
   form_.addFields(object_.secol(), nullptr);
@@ -103,7 +88,8 @@ TEST_F(FormFieldsTest, AValueThatDoesNotFitItsControlIsAnError) {
                       {tyType::CloseList, "a", kInvalidArgument}};  // no such list
   for (const Row& row : rows) {
     object_.add(row.type, "F", row.stored, "Missing");
-    EXPECT_EQ(errorOfBuilding(), row.error) << static_cast<int>(row.type);
+    EXPECT_EQ(test::errorOf([&] { form_.addFields(object_.secol(), nullptr); }), row.error)
+        << static_cast<int>(row.type);
     object_.secol().Remove(1);
   }
 }

@@ -28,8 +28,8 @@ class ScriptedPresenter : public FormPresenter {
 
 class MetadataFormTest : public ::testing::Test {
  protected:
-  test::FormsApplication application_;
-  test::TitleWindow window_;
+  test::TestApplication application_;
+  test::RecordingMainWindow window_;
   ScriptedPresenter presenter_;
 
   MetadataFormTest() { application_.app.gMainForm = &window_; }

@@ -4,23 +4,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "base/RunTimeError.h"
+#include "support/ErrorOf.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {
 namespace {
 
+using test::errorOf;
 using test::TemporaryFolder;
-
-int errorOf(void (*operation)(const std::string&, const std::string&), const std::string& from,
-            const std::string& to) {
-  try {
-    operation(from, to);
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-}
 
 TEST(Files, ListsByBytesPlainFilesThatFit) {
   const TemporaryFolder folder;
@@ -81,14 +72,14 @@ TEST(Files, MovesWithoutReplacingAndCopiesWith) {
   const TemporaryFolder folder;
   const std::string one = folder.write("one", "1");
   const std::string two = folder.write("two", "22");
-  EXPECT_EQ(errorOf(MoveFileTo, one, two), kFileAlreadyExists);
-  EXPECT_EQ(errorOf(MoveFileTo, folder / "missing", folder / "new"), kFileNotFound);
-  EXPECT_EQ(errorOf(MoveFileTo, one, folder / "missing/new"), kPathNotFound);
-  EXPECT_EQ(errorOf(MoveFileTo, one, folder.path()), kFileAlreadyExists);
-  EXPECT_EQ(errorOf(CopyFileTo, folder / "missing", two), kFileNotFound);
-  EXPECT_EQ(errorOf(CopyFileTo, one, folder / "missing/new"), kPathNotFound);
-  EXPECT_EQ(errorOf(CopyFileTo, one, folder.path()), kPermissionDenied);
-  EXPECT_EQ(errorOf(CopyFileTo, one, folder / "./one"), kPermissionDenied);
+  EXPECT_EQ(errorOf([&] { MoveFileTo(one, two); }), kFileAlreadyExists);
+  EXPECT_EQ(errorOf([&] { MoveFileTo(folder / "missing", folder / "new"); }), kFileNotFound);
+  EXPECT_EQ(errorOf([&] { MoveFileTo(one, folder / "missing/new"); }), kPathNotFound);
+  EXPECT_EQ(errorOf([&] { MoveFileTo(one, folder.path()); }), kFileAlreadyExists);
+  EXPECT_EQ(errorOf([&] { CopyFileTo(folder / "missing", two); }), kFileNotFound);
+  EXPECT_EQ(errorOf([&] { CopyFileTo(one, folder / "missing/new"); }), kPathNotFound);
+  EXPECT_EQ(errorOf([&] { CopyFileTo(one, folder.path()); }), kPermissionDenied);
+  EXPECT_EQ(errorOf([&] { CopyFileTo(one, folder / "./one"); }), kPermissionDenied);
   EXPECT_EQ(folder.snapshot(), (std::map<std::string, std::string>{{"one", "1"}, {"two", "22"}}));
   CopyFileTo(one, two);
   EXPECT_EQ(folder.read("two"), "1");

@@ -1,20 +1,16 @@
 // How fields come out of an object's file and go back into it.
 #include <gtest/gtest.h>
 
-#include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/Files.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
 #include "platform/XmlDocument.h"
 #include "platform/XmlWriter.h"
 #include "schema/CloseList.h"
 #include "schema/ObjectFiles.h"
 #include "schema/SEColl.h"
 #include "schema/SchemaFile.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra {
 namespace {
@@ -42,11 +38,11 @@ const std::string kSchema =
     "</xsd:sequence></complexType></e><simpleType name='L'><restriction>"
     "<enumeration value='x'/></restriction></simpleType></xsd:schema>";
 
-class InstanceTest : public ::testing::Test {
+class InstanceTest : public ::testing::Test, protected test::TestApplication {
  protected:
   InstanceTest() {
-    const std::string schema = folder_.write("s.xsd", kSchema);
-    folder_.write("machine.ini", "[SOFTWARE\\Velra]\nXSDPath=" + schema + "\n");
+    const std::string schema = folder.write("s.xsd", kSchema);
+    folder.write("machine.ini", "[SOFTWARE\\Velra]\nXSDPath=" + schema + "\n");
   }
 
   struct Object {
@@ -56,8 +52,8 @@ class InstanceTest : public ::testing::Test {
     std::string message;
   };
   Object read(const std::string& xml) {
-    Object object{SEColl(app_, schemas_, lists_), {}, nullptr, {}};
-    const std::string path = folder_.write("c.xml", xml);
+    Object object{SEColl(app, schemas_, lists_), {}, nullptr, {}};
+    const std::string path = folder.write("c.xml", xml);
     object.message = object.fields.strLoad(object.document, path, object.schema, files_, "C");
     return object;
   }
@@ -66,20 +62,15 @@ class InstanceTest : public ::testing::Test {
   /// The content of the root after a save of all fields.
   std::string written(Object& object) {
     for (SchemaElement& field : object.fields) field.setBChanged(true);
-    EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
+    EXPECT_TRUE(object.fields.bSave(object.document, folder / "c.xml", files_));
     EXPECT_FALSE(object.fields.bChanged());
-    const std::string bytes = folder_.read("c.xml");
+    const std::string bytes = folder.read("c.xml");
     const std::size_t start = bytes.find("<C>");
     if (start == std::string::npos) return "";
     return bytes.substr(start + 3, bytes.find("</C>") - start - 3);
   }
 
-  test::TemporaryFolder folder_;
-  test::ScriptedUserInterface ui_;
-  MachineSettings machine_{folder_ / "machine.ini"};
-  UserSettings user_{folder_ / "velra.ini"};
-  ApplicationModule app_{ui_, MessageCatalogue(InterfaceLanguage::Default), machine_, user_};
-  DocumentSchemas schemas_{app_};
+  DocumentSchemas schemas_{app};
   CloseLists lists_;
   PlainFiles files_;
 };
@@ -187,65 +178,65 @@ TEST_F(InstanceTest, TellsWhyAnObjectCannotBeRead) {
   EXPECT_THROW(readContent("<c start='soon' end='1'/>"), RunTimeError);
   EXPECT_THROW(readContent("<w><Word start=''/></w>"), RunTimeError);
 
-  folder_.write("s.xsd", "<xsd:schema xmlns:xsd='u'><e name='C'/></xsd:schema>");
+  folder.write("s.xsd", "<xsd:schema xmlns:xsd='u'><e name='C'/></xsd:schema>");
   EXPECT_EQ(read("<C/>").message,
             "Error loading the schema: C: type definition must have a complexType child element!");
-  folder_.write("s.xsd", "<broken");
+  folder.write("s.xsd", "<broken");
   EXPECT_EQ(read("<C/>").message.rfind("Error loading the schema: Line", 0), 0U);
-  folder_.write("machine.ini", "");
+  folder.write("machine.ini", "");
   const Object bare = read("<Anything/>");
   EXPECT_EQ(bare.message, "");
   EXPECT_EQ(bare.fields.Count(), 0U);
 }
 
 TEST_F(InstanceTest, NewObjectsNeedASchema) {
-  Object object{SEColl(app_, schemas_, lists_), {}, nullptr, {}};
+  Object object{SEColl(app, schemas_, lists_), {}, nullptr, {}};
   const auto initialise = [&](const std::string& path, const std::string& className) {
     return object.fields.strInitAsNew(object.document, "", object.schema, path, "xsd", className);
   };
   EXPECT_EQ(initialise("", "C"),
             "There is no schema reference in the document, please fill the "
             "xsi:noNamespaceSchemaLocation attribute in the element");
-  EXPECT_EQ(initialise(folder_ / "none.xsd", "C").rfind("Error loading the schema: ", 0), 0U);
-  EXPECT_EQ(initialise(folder_ / "s.xsd", "D"),
+  EXPECT_EQ(initialise(folder / "none.xsd", "C").rfind("Error loading the schema: ", 0), 0U);
+  EXPECT_EQ(initialise(folder / "s.xsd", "D"),
             "The schema does not provide any definition of the type: D");
-  EXPECT_EQ(initialise(folder_ / "s.xsd", "C"), "");
+  EXPECT_EQ(initialise(folder / "s.xsd", "C"), "");
   EXPECT_EQ(object.fields.Count(), 11U);
   object.fields.field("s")->setVContent(std::string("new"));
   object.fields.field("s")->setBValid(true);
   object.fields.field("s")->setBChanged(true);
-  EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "new.xml", files_));
+  EXPECT_TRUE(object.fields.bSave(object.document, folder / "new.xml", files_));
   const std::string expected =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
       "<C xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
       "xsi:noNamespaceSchemaLocation=\"s.xsd\"><s>new</s></C>\n";
-  EXPECT_EQ(folder_.read("new.xml"), expected);
+  EXPECT_EQ(folder.read("new.xml"), expected);
   object.fields.field("s")->setBChanged(true);
-  EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "new.xml", files_));
-  EXPECT_EQ(folder_.read("new.xml"), expected);
+  EXPECT_TRUE(object.fields.bSave(object.document, folder / "new.xml", files_));
+  EXPECT_EQ(folder.read("new.xml"), expected);
 }
 
 TEST_F(InstanceTest, AFailedSaveIsShownAndTheFieldsStayChanged) {
   Object object = readContent("<s>a</s>");
   files_.saveFailure = "disk full";
-  EXPECT_TRUE(object.fields.bSave(object.document, folder_ / "c.xml", files_));  // not changed
+  EXPECT_TRUE(object.fields.bSave(object.document, folder / "c.xml", files_));  // not changed
   object.fields.field("s")->setBChanged(true);
-  EXPECT_FALSE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
-  EXPECT_EQ(ui_.takeShown(), Texts{"plain: disk full"});
+  EXPECT_FALSE(object.fields.bSave(object.document, folder / "c.xml", files_));
+  EXPECT_EQ(ui.takeShown(), Texts{"plain: disk full"});
   EXPECT_TRUE(object.fields.bChanged());
-  EXPECT_TRUE(object.fields.bSaveAs(object.document, folder_ / "c.xml", files_));
+  EXPECT_TRUE(object.fields.bSaveAs(object.document, folder / "c.xml", files_));
   EXPECT_TRUE(object.fields.bChanged());
-  EXPECT_TRUE(ui_.takeShown().empty());
+  EXPECT_TRUE(ui.takeShown().empty());
 
   files_.saveFailure.clear();
   object.fields.field("s")->setVContent(std::string("a\x01z"));
-  EXPECT_FALSE(object.fields.bSave(object.document, folder_ / "c.xml", files_));
-  EXPECT_FALSE(object.fields.bSaveAs(object.document, folder_ / "c.xml", files_));
-  const Texts shown = ui_.takeShown();
+  EXPECT_FALSE(object.fields.bSave(object.document, folder / "c.xml", files_));
+  EXPECT_FALSE(object.fields.bSaveAs(object.document, folder / "c.xml", files_));
+  const Texts shown = ui.takeShown();
   ASSERT_EQ(shown.size(), 2U);
   EXPECT_EQ(shown[0], shown[1]);
   EXPECT_TRUE(shown[0].starts_with("plain: "));
-  EXPECT_EQ(folder_.read("c.xml"), "<C><s>a</s></C>");
+  EXPECT_EQ(folder.read("c.xml"), "<C><s>a</s></C>");
 }
 
 TEST_F(InstanceTest, SearchCountsValuesThatHoldTheText) {

@@ -2,13 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
 #include "schema/CloseList.h"
 #include "schema/SchemaElement.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra {
 namespace {
@@ -24,13 +20,13 @@ std::string described(const DeclarationRef& declaration) {
   return field.strComment().empty() ? text : text + "#" + field.strComment();
 }
 
-class SchemaReaderTest : public ::testing::Test {
+class SchemaReaderTest : public ::testing::Test, protected test::TestApplication {
  protected:
   /// Reads class C out of top-level declarations.
   ClassDeclaration read(const std::string& declarations) {
-    const std::string path = folder_.write(
+    const std::string path = folder.write(
         "s.xsd", "<x:schema xmlns:x='urn:s' xmlns:y='urn:t'>" + declarations + "</x:schema>");
-    return SchemaFile(app_, path).classDeclaration("C", lists_);
+    return SchemaFile(app, path).classDeclaration("C", lists_);
   }
   static std::string classOf(const std::string& content) {
     return "<x:element name='C'><x:complexType>" + content + "</x:complexType></x:element>";
@@ -50,11 +46,6 @@ class SchemaReaderTest : public ::testing::Test {
     return "<x:annotation><x:appinfo>" + word + "</x:appinfo></x:annotation>";
   }
 
-  test::TemporaryFolder folder_;
-  test::ScriptedUserInterface ui_;
-  MachineSettings machine_{folder_ / "machine.ini"};
-  UserSettings user_{folder_ / "velra.ini"};
-  ApplicationModule app_{ui_, MessageCatalogue(InterfaceLanguage::Default), machine_, user_};
   CloseLists lists_;
 };
 
@@ -182,17 +173,17 @@ TEST_F(SchemaReaderTest, ASecondReadingOfAListIsSpared) {
 }
 
 TEST_F(SchemaReaderTest, ParsesAFileAnewOnlyWhenItHasChanged) {
-  DocumentSchemas schemas(app_);
+  DocumentSchemas schemas(app);
   EXPECT_EQ(schemas.file(""), nullptr);
-  const std::string path = folder_.write("s.xsd", "<s/>");
+  const std::string path = folder.write("s.xsd", "<s/>");
   const auto first = schemas.file(path);
   EXPECT_EQ(schemas.file(path), first);
-  folder_.write("s.xsd", "<s></s>");
+  folder.write("s.xsd", "<s></s>");
   const auto second = schemas.file(path);
   EXPECT_NE(second, first);
   const DocumentSchemas::Hold hold(schemas);
   EXPECT_EQ(schemas.file(path), second);
-  folder_.write("s.xsd", "<s>  </s>");
+  folder.write("s.xsd", "<s>  </s>");
   EXPECT_EQ(schemas.file(path), second);
 }
 
@@ -219,7 +210,7 @@ TEST_F(SchemaReaderTest, ADefaultValueTouchesNoFlagAndNoStructure) {
     field.setTyType(one.type);
     field.setStrCloseList("L");
     field.setVContent(std::string("was"));
-    field.Init(app_, lists_);
+    field.Init(app, lists_);
     EXPECT_EQ(field.vContent(), one.expected) << field.strType();
     EXPECT_FALSE(field.bValid() || field.bChanged());
   }

@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "Program.h"
-#include "base/RunTimeError.h"
+#include "support/ErrorOf.h"
 
 namespace velra {
 namespace {
@@ -108,12 +108,7 @@ TEST_F(ConnectionTest, OKWithoutAUsablePortIsARunTimeError) {
   for (const auto& one : cases) {
     show([&](ConnectionDialog& dialog) {
       dialog.change(Box::Text2, one.typed);
-      try {
-        dialog.OKButton_Click();
-        ADD_FAILURE() << one.typed;
-      } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), one.error) << one.typed;
-      }
+      EXPECT_EQ(test::errorOf([&] { dialog.OKButton_Click(); }), one.error) << one.typed;
       dialog.CancelButton_Click();
     });
   }

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
-#include "base/RunTimeError.h"
 #include "objects/LadderObject.h"
 #include "store/ObjectRegistry.h"
+#include "support/ErrorOf.h"
 #include "support/ShownBoxes.h"
 
 namespace velra::test {
@@ -56,15 +56,6 @@ class Failures : public ::testing::Test {
   }
   void useSchema(const std::string& path) {
     program_.settings.write(ApplicationModule::kMachineSection, "XSDPath", path);
-  }
-  template <class Command>
-  void expectRunTimeError(int number, const Command& command) {
-    try {
-      command();
-      ADD_FAILURE() << "no run-time error";
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.number(), number);
-    }
   }
 
   Program program_;
@@ -218,7 +209,7 @@ TEST_F(Failures, ASchemaThatCannotBeUsed) {
     EXPECT_EQ(program_.document()->strTitle(), "");
 
     // There is no document whose tree could be shown.
-    expectRunTimeError(kNoObject, [&] { program_.mainForm.mnuFileNew(); });
+    EXPECT_EQ(errorOf([&] { program_.mainForm.mnuFileNew(); }), kNoObject);
     expectShown(one.onNew);
     EXPECT_EQ(program_.document(), nullptr);
   }

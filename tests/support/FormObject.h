@@ -5,44 +5,14 @@
 #include <utility>
 #include <vector>
 
-#include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
-#include "protocol/MainWindow.h"
 #include "schema/CloseList.h"
 #include "schema/SEColl.h"
 #include "schema/SchemaFile.h"
-#include "support/ScriptedUserInterface.h"
+#include "support/RecordingMainWindow.h"
 #include "support/StubObject.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra::test {
-
-/// The program's global state with scripted answers and empty stores.
-struct FormsApplication {
-  TemporaryFolder folder;
-  ScriptedUserInterface ui;
-  MachineSettings machineSettings{folder / "machine.ini"};
-  UserSettings userSettings{folder / "user.ini"};
-  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machineSettings,
-                        userSettings};
-};
-
-/// Notes for which objects new titles were shown.
-class TitleWindow : public MainWindow {
- public:
-  std::vector<std::string> titles;
-
-  std::string strStatusBarText() const override { return {}; }
-  void setStrStatusBarText(const std::string&) override {}
-  void UpdateNodeTitle(const DescribedObject& object) override {
-    titles.push_back(object.strTitle());
-  }
-  void ResetTree(TreeId, const ObjectRef&) override {}
-  void RemoveIcon(const std::string&) override {}
-  void AddSmallKeyFrame(const Expression&) override {}
-  void UpdateSmallKeyFrames() override {}
-};
 
 /// An object of a class with whatever fields a test gives it; nothing else works.
 class FormObject : public StubObject {

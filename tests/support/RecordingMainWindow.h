@@ -15,12 +15,15 @@ class RecordingMainWindow : public MainWindow {
   std::vector<std::string> statusTexts;
   std::vector<std::string> removedIcons;
   std::vector<std::string> addedIcons;  // identifiers of the videos
+  std::vector<std::string> titles;      // that nodes were given
 
   std::string strStatusBarText() const override {
     return statusTexts.empty() ? std::string() : statusTexts.back();
   }
   void setStrStatusBarText(const std::string& text) override { statusTexts.push_back(text); }
-  void UpdateNodeTitle(const DescribedObject&) override {}
+  void UpdateNodeTitle(const DescribedObject& object) override {
+    titles.push_back(object.strTitle());
+  }
   void ResetTree(TreeId, const std::shared_ptr<DescribedObject>&) override {}
   void RemoveIcon(const std::string& key) override { removedIcons.push_back(key); }
   void AddSmallKeyFrame(const Expression& video) override { addedIcons.push_back(video.strGUID()); }

@@ -5,33 +5,24 @@
 #include <filesystem>
 #include <set>
 
-#include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
-#include "support/ScriptedUserInterface.h"
 #include "support/ShownBoxes.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra {
 namespace {
 
 using Texts = std::vector<std::string>;
 
-class VocabularyTest : public ::testing::Test {
+class VocabularyTest : public ::testing::Test, protected test::TestApplication {
  protected:
   bool load(const std::string& content) {
     return loadFile("<NaroThematicKeywords>" + content + "</NaroThematicKeywords>");
   }
   bool loadFile(const std::string& bytes) {
-    return vocabulary_.bSetFromXMLFile(app_, folder_.write("ThematicKeywords.xml", bytes));
+    return vocabulary_.bSetFromXMLFile(app, folder.write("ThematicKeywords.xml", bytes));
   }
 
-  test::TemporaryFolder folder_;
-  test::ScriptedUserInterface ui_;
-  MachineSettings machine_{folder_ / "machine.ini"};
-  UserSettings user_{folder_ / "velra.ini"};
-  ApplicationModule app_{ui_, MessageCatalogue(InterfaceLanguage::Default), machine_, user_};
   NaroThematicKeywords vocabulary_;
 };
 
@@ -43,7 +34,7 @@ TEST_F(VocabularyTest, ReadsThreeLevelsInTheOrderOfTheFile) {
            "<Keyword English='K2'>its <Content/></Keyword></Subtheme>\n"
            "  <Subtheme English='S2'/>\n"
            "</Theme><Theme English='T2'/>"));
-  EXPECT_TRUE(ui_.shown.empty());
+  EXPECT_TRUE(ui.shown.empty());
   ASSERT_EQ(vocabulary_.colThemes().size(), 2U);
   const Theme& theme = *vocabulary_.colThemes()[0];
   EXPECT_TRUE(vocabulary_.colThemes()[1]->colSubthemes().empty());
@@ -78,30 +69,30 @@ TEST_F(VocabularyTest, SaysWhatIsWrongWithAFile) {
   };
   for (const auto& one : cases) {
     EXPECT_FALSE(load(one.content)) << one.content;
-    EXPECT_EQ(ui_.takeShown(), Texts{"plain: " + app_.LoadResString(one.message)}) << one.content;
+    EXPECT_EQ(ui.takeShown(), Texts{"plain: " + app.LoadResString(one.message)}) << one.content;
   }
   EXPECT_FALSE(loadFile("<Other/>"));
-  EXPECT_EQ(ui_.takeShown(), Texts{"plain: " + app_.LoadResString(1169)});
+  EXPECT_EQ(ui.takeShown(), Texts{"plain: " + app.LoadResString(1169)});
 }
 
 TEST_F(VocabularyTest, PutsTheReasonBehindTheMessage) {
   const std::string root = "<NaroThematicKeywords>";
-  std::filesystem::create_directory(folder_ / "folder.xml");
+  std::filesystem::create_directory(folder / "folder.xml");
   const std::string paths[] = {
       "",
-      folder_ / "missing.xml",
-      folder_ / "folder.xml",
-      folder_.write("empty.xml", ""),
-      folder_.write("open.xml", root),
-      folder_.write("text.xml", "Theme: Sea"),
-      folder_.write("bytes.xml", "<NaroThematicKeywords a='\xE4'/>"),
-      folder_.write("valid.xml",
-                    "<!DOCTYPE NaroThematicKeywords [<!ELEMENT NaroThematicKeywords "
-                    "EMPTY>]>" +
-                        root + "<Theme English='T'/></NaroThematicKeywords>")};
+      folder / "missing.xml",
+      folder / "folder.xml",
+      folder.write("empty.xml", ""),
+      folder.write("open.xml", root),
+      folder.write("text.xml", "Theme: Sea"),
+      folder.write("bytes.xml", "<NaroThematicKeywords a='\xE4'/>"),
+      folder.write("valid.xml",
+                   "<!DOCTYPE NaroThematicKeywords [<!ELEMENT NaroThematicKeywords "
+                   "EMPTY>]>" +
+                       root + "<Theme English='T'/></NaroThematicKeywords>")};
   for (const std::string& path : paths) {
-    EXPECT_FALSE(vocabulary_.bSetFromXMLFile(app_, path)) << path;
-    const Texts shown = ui_.takeShown();
+    EXPECT_FALSE(vocabulary_.bSetFromXMLFile(app, path)) << path;
+    const Texts shown = ui.takeShown();
     EXPECT_TRUE(
         test::sameBoxes(shown, {"plain: Error during ThematicKeywords.xml loading ..."}, ""))
         << path << ::testing::PrintToString(shown);
@@ -116,11 +107,11 @@ TEST_F(VocabularyTest, OnlyElementsMayStandBelowAThemeOrSubtheme) {
         "<Theme English='T'><Subtheme English='S'>" + std::string(child) + "</Subtheme></Theme>";
     EXPECT_THROW(load(inSubtheme), RunTimeError) << child;
   }
-  EXPECT_TRUE(ui_.shown.empty());
+  EXPECT_TRUE(ui.shown.empty());
 }
 
 TEST_F(VocabularyTest, TheFileThatComesWithTheProgramIsComplete) {
-  ASSERT_TRUE(vocabulary_.bSetFromXMLFile(app_, VELRA_SOURCE_DIR "/data/ThematicKeywords.xml"));
+  ASSERT_TRUE(vocabulary_.bSetFromXMLFile(app, VELRA_SOURCE_DIR "/data/ThematicKeywords.xml"));
   std::size_t subthemes = 0;
   std::size_t keywords = 0;
   std::set<std::string> themeNames;

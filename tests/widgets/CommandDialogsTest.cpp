@@ -63,9 +63,9 @@ class Presenter : public DialogPresenter {
 
 class CommandDialogs : public ::testing::Test {
  protected:
-  test::FormsApplication application_;
+  test::TestApplication application_;
   ApplicationModule& app_ = application_.app;
-  test::TitleWindow owner_;
+  test::RecordingMainWindow owner_;
   Presenter presenter_{app_};
 };
 

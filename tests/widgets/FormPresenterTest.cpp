@@ -22,8 +22,8 @@ using test::whenModal;
 
 class FormPresenterTest : public ::testing::Test {
  protected:
-  test::FormsApplication application_;
-  test::TitleWindow owner_;
+  test::TestApplication application_;
+  test::RecordingMainWindow owner_;
   QtFormPresenter presenter_{application_.app};
   AVDocSchemaDialog dialog_{application_.app, presenter_};
   std::shared_ptr<test::FormObject> object_ = test::objectOfTexts(application_.app, 2);

@@ -20,7 +20,7 @@ namespace velra::test {
 /// A form's window over an object that the test fills.
 class FormWindowTest : public ::testing::Test {
  protected:
-  FormsApplication application_;
+  TestApplication application_;
   ApplicationModule& app_ = application_.app;
   std::shared_ptr<FormObject> object_ = std::make_shared<FormObject>(app_, "Media", "Format");
   TabScroll scroll_;

@@ -9,19 +9,15 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
 #include "shell/frmMain.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra {
 namespace {
 
 using Shown = std::vector<std::string>;
 
-class MainFormWindowTest : public ::testing::Test {
+class MainFormWindowTest : public ::testing::Test, protected test::TestApplication {
  protected:
   QAction* action(const char* name) {
     auto* found = window.findChild<QAction*>(QLatin1String(name));
@@ -29,12 +25,6 @@ class MainFormWindowTest : public ::testing::Test {
     return found;
   }
 
-  test::TemporaryFolder folder;
-  test::ScriptedUserInterface ui;
-  MachineSettings machineSettings{folder / "machine.ini"};
-  UserSettings userSettings{folder / "velra.ini"};
-  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machineSettings,
-                        userSettings};
   frmMain rules{app};
   MainFormWindow window{app, rules};
 };
