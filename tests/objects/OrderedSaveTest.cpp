@@ -89,23 +89,5 @@ TEST(OrderedSave, EqualsRepeatedWalks) {
   }
 }
 
-TEST(OrderedSave, ARingEndsWithFalseAfterAllOthersAreSaved) {
-  DocumentSession session;
-  ObjectRegistry objects;
-  std::vector<std::shared_ptr<StubObject>> stubs;
-  for (const char* name : {"a", "b", "c"}) {
-    stubs.push_back(std::make_shared<StubObject>(name));
-    stubs.back()->changed = true;
-    objects.Add(stubs.back());
-  }
-  stubs[0]->waits = {stubs[1]};
-  stubs[1]->waits = {stubs[0]};
-  const StubObject document("film.xml");
-  EXPECT_FALSE(bSaveInDependencyOrder(session.app, objects, document));
-  EXPECT_EQ(session.window.takeStatusTexts(), Texts{"Saving object n. 2 (c)"});
-  stubs[0]->waits.clear();
-  stubs[1]->waits.clear();
-}
-
 }  // namespace
 }  // namespace velra

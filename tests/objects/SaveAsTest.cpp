@@ -147,22 +147,5 @@ TEST(SaveAs, ATargetThatCannotBeWrittenIsReportedAndNothingIsLost) {
   }
 }
 
-TEST(SaveAs, AFailedSaveKeepsTheChangeForTheNextOne) {
-  DocumentSession session;
-  session.files.smallLadder();
-  ASSERT_EQ(session.open(session.files.documentPath()), "");
-  const auto before = session.folder.snapshot();
-  session.object("media1")->setStrTitle(std::string(500, 'x'));
-  {
-    const SizeLimit limit(400);
-    EXPECT_FALSE(session.document()->bSave());
-  }
-  EXPECT_EQ(session.takeShown().size(), 2U);
-  EXPECT_EQ(session.folder.snapshot(), before);
-  EXPECT_TRUE(session.object("media1")->bChanged());
-  EXPECT_TRUE(session.document()->bSave());
-  EXPECT_NE(session.folder.read("film_files/film_media1.xml").find("xxx"), std::string::npos);
-}
-
 }  // namespace
 }  // namespace velra

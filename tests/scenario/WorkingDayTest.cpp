@@ -1,10 +1,8 @@
 // A cataloguer's day in the real windows, by mouse and keyboard and the names of the controls.
 #include <gtest/gtest.h>
 
-#include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "protocol/Expression.h"
 #include "scenario/Desktop.h"
 #include "scenario/Hands.h"
 
@@ -38,48 +36,6 @@ TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
     const bool theVersion = name == "sample/lighthouse_files/lighthouse_version1.xml";
     EXPECT_EQ(bytes != before.at(name), theVersion) << name;
   }
-}
-
-TEST(WorkingDay, SegmentsAreCutInTheToolAndFoundAgain) {
-  Desktop desktop;
-  desktop.start(desktop.sample());
-  desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
-  const QString mainAudio = desktop.texts("tvwExpression").at(8);
-  const int nodes = static_cast<int>(desktop.texts("tvwExpression").size());
-  desktop.click("tvwExpression", mainAudio);
-  whenModal([](QWidget& tool) {
-    auto& time = control<QLineEdit>(tool, "txtTime");
-    EXPECT_EQ(time.text(), QStringLiteral("00:00:00:00"));
-    for (int step = 0; step < 12; ++step) press(tool, "cmdForward");
-    EXPECT_EQ(time.text(), QStringLiteral("00:00:00:12"));
-    press(tool, "cmdRewind");
-    EXPECT_EQ(time.text(), QStringLiteral("00:00:00:11"));
-    press(tool, "cmdNext");  // the start or the end of the first segment
-    Desktop::keepPicture(tool, "expression-tool.png");
-    press(tool, "CancelButt");
-  });
-  desktop.trigger("mnuEditMetadata");
-
-  desktop.click("tvwExpression", QStringLiteral("The fog horn"));
-  whenModal([](QWidget& tool) {
-    whenModal([](QWidget& dialog) {
-      for (const auto& [name, seconds] : {std::pair{"ss1", "52"}, std::pair{"ss2", "55"}}) {
-        auto& box = control<QLineEdit>(dialog, name);
-        box.selectAll();
-        QTest::keyClicks(&box, QLatin1String(seconds));
-      }
-      willType(QStringLiteral("New segment"));
-      press(dialog, "OKButton");
-    });
-    press(tool, "cmdNew");
-    press(tool, "CancelButt");
-  });
-  desktop.trigger("mnuEditMetadata");
-  EXPECT_EQ(desktop.texts("tvwExpression").size(), nodes + 1);
-  desktop.trigger("mnuFileSave");
-  desktop.rules.OpenFile(desktop.sample());
-  desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
-  EXPECT_TRUE(desktop.texts("tvwExpression").contains(QStringLiteral("New segment")));
 }
 
 TEST(WorkingDay, TheInterfaceIsItalianForItalians) {

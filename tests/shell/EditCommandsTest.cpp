@@ -163,8 +163,6 @@ TEST(EditCommands, AStorageBeepsAndWithoutOneThereIsNoMainExpression) {
   program.mainForm.AddMainExpr("Video");
   EXPECT_EQ(program.ui.takeShown(), Texts{"plain: You have to create a Storage, first"});
 
-  program.mainForm.OpenFile(program.sample());
-  program.ui.takeShown();
   program.ui.yesNoCancel = {Answer::No};
   program.mainForm.OpenFile(program.sample());
   program.ui.takeShown();

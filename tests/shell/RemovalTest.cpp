@@ -172,17 +172,6 @@ TEST_F(RemovalTest, ASegmentGoesWithItsOwnAndTheChainClosesOverTheGap) {
             std::string::npos);
 }
 
-TEST_F(RemovalTest, FirstAndLastSegmentsOfAChain) {
-  showExpressions();
-  remove(TreeId::tvwExpression, "video7");
-  EXPECT_EQ(program_.expression("video6")->objFollowedBy(), nullptr);
-  remove(TreeId::tvwExpression, "video2");
-  const Texts right = program_.texts(TreeId::tvwExpression);
-  EXPECT_EQ(Texts(right.begin() + 2, right.begin() + 6),
-            (Texts{"    The keeper's day", "      One hundred and twelve steps", "      The log",
-                   "    The gale"}));
-}
-
 TEST_F(RemovalTest, MainExpressionsGoAndTheVersionStays) {
   showExpressions();
   remove(TreeId::tvwExpression, "audio1");
@@ -209,16 +198,6 @@ TEST_F(RemovalTest, TheDurationStaysUntilTheLastStorageGoes) {
   EXPECT_EQ(duration(1), 0);
 }
 
-TEST_F(RemovalTest, ClosingWithoutSavingKeepsEveryFile) {
-  showExpressions();
-  remove(TreeId::tvwExpression, "video3");
-  remove(TreeId::tvwMainTree, "media3");
-  remove(TreeId::tvwMainTree, "version1");
-  EXPECT_EQ(program_.folder.snapshot(), before_);
-  closeWithoutSaving();
-  EXPECT_EQ(program_.folder.snapshot(), before_);
-}
-
 TEST_F(RemovalTest, FilesGoWhenTheDocumentHasBeenSavedAndThenClosed) {
   showExpressions();
   remove(TreeId::tvwExpression, "video3");
@@ -236,21 +215,6 @@ TEST_F(RemovalTest, FilesGoWhenTheDocumentHasBeenSavedAndThenClosed) {
                    prefix + "video4.xml", prefix + "video5.xml"}));
   program_.mainForm.OpenFile(program_.sample());
   EXPECT_TRUE(bFileExists(program_.folder / "sample/lighthouse.avi"));
-}
-
-TEST_F(RemovalTest, AnswerYesAtTheQuestionOfClosingSavesAndRemovesTheFiles) {
-  remove(TreeId::tvwMainTree, "version1");
-  program_.ui.yesNoCancel = {Answer::Yes};
-  program_.mainForm.OpenFile(program_.sample());
-  EXPECT_EQ(program_.ui.takeShown(), Texts{"yes-no-cancel: Save modifications Skarholm Light?"});
-  // The document and the Version that stays with its ladder; two movies.
-  EXPECT_EQ(namesOf(program_.folder.snapshot()),
-            (Texts{"machine.ini", "sample/lighthouse.avi", "sample/lighthouse.mpg",
-                   "sample/lighthouse.xml", "sample/lighthouse_files/lighthouse_media3.xml",
-                   "sample/lighthouse_files/lighthouse_storage3.xml",
-                   "sample/lighthouse_files/lighthouse_storage4.xml",
-                   "sample/lighthouse_files/lighthouse_version2.xml"}));
-  EXPECT_EQ(program_.texts(TreeId::tvwMainTree).size(), 5U);
 }
 
 }  // namespace
