@@ -95,16 +95,6 @@ TEST_F(CrossLanguageTest, ShowsTheThreeFieldsInTheLanguage) {
   EXPECT_EQ(rows(), (Texts{"Balletto", "Tango"}));
 }
 
-TEST_F(CrossLanguageTest, PlainControlsWhenSwitchedOff) {
-  document("anything", "goes", StringList{"here"});
-  app_.iLanguage = ApplicationModule::kCrossLanguageOff;
-  app_.objNaroThematicKeywords = nullptr;
-  load();
-  EXPECT_EQ(box(2).controlName(), "Text1_2");
-  EXPECT_EQ(box(3).controlName(), "Text1_3");
-  EXPECT_EQ(box(4).controlName(), "ctlSetOfString1_1");
-}
-
 TEST_F(CrossLanguageTest, OKStoresEnglishAndMarksTheThree) {
   load();
   form_->OKButt_Click();
@@ -151,11 +141,6 @@ TEST_F(CrossLanguageTest, FieldsOutOfOrderOrMissing) {
   object_->add(tyType::String, "Subthemes", "Dance");
   object_->add(tyType::String, "Themes", "Art");
   EXPECT_EQ(errorOfLoading(), kFormUnloaded);
-}
-
-TEST_F(CrossLanguageTest, WithoutAVocabularyTheLoadFails) {
-  app_.objNaroThematicKeywords = nullptr;
-  EXPECT_EQ(errorOfLoading(), kNoObject);
 }
 
 TEST_F(CrossLanguageTest, AnotherThemeResetsWhatDependsOnIt) {
