@@ -23,7 +23,7 @@ class ToolPanel : public QWidget {
   ToolPanel(const ApplicationModule& app, ExpressionTool& tool, QWidget* parent);
 
   /// The least size, in pixels, that shows all controls.
-  static QSize leastSize();
+  QSize leastSize() const;
 
   void showTimeCode(const QString& text);
   void swapTimeCodeColours(bool swapped);
@@ -41,6 +41,14 @@ class ToolPanel : public QWidget {
  private:
   using Command = void (*)(ExpressionTool&);
 
+  /// Places and sizes that depend on the font, in twips.
+  struct Measures {
+    int row, frameTitle;
+    int back, playerButton, segmentButton;
+    int rightColumn, pictureTop, playerTop, frameHeight, frameTop, timelineTop, stripTop;
+  };
+
+  Measures measures() const;
   void makePlayer(const ApplicationModule& app);
   void makeTranscript();
   void makeSegmentControls();

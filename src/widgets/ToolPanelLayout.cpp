@@ -23,19 +23,28 @@ constexpr int kRowHeight = 400;
 constexpr int kBackWidth = 1100;
 constexpr int kPictureWidth = 4000;
 constexpr int kPictureHeight = 3000;
-constexpr int kPictureTop = kTop + kRowHeight + kGap;
-constexpr int kPlayerTop = kPictureTop + kPictureHeight + kGap;
-constexpr int kRightColumn = kLeft + kPictureWidth + 2 * kGap;
-constexpr int kSegmentButtonWidth = 720;
+constexpr int kButtonWidth = 720;
 constexpr int kFramePadding = 150;
 constexpr int kFrameTitle = 400;
-constexpr int kFrameHeight = kFrameTitle + kRowHeight + kFramePadding;
-constexpr int kFrameWidth = 10 * kSegmentButtonWidth + 9 * kGap + 2 * kFramePadding;
-constexpr int kFrameTop = kPlayerTop + kRowHeight - kFrameHeight;
-constexpr int kTimelineTop = kPlayerTop + kRowHeight + 2 * kGap;
 constexpr int kTimelineHeight = 840;
-constexpr int kStripTop = kTimelineTop + kTimelineHeight + kGap;
 constexpr int kStripHeight = 1110;
+
+// Pixels around a caption, on both sides together.
+constexpr int kBesideCaption = 12;
+constexpr int kAboveCaption = 6;
+
+int widthOf(const QList<QPushButton*>& buttons, int least) {
+  int widest = 0;
+  for (const QPushButton* button : buttons) {
+    widest = qMax(widest, button->fontMetrics().horizontalAdvance(button->text()));
+  }
+  return qMax(least, twipsFromPixels(widest + kBesideCaption));
+}
+
+int widthOfRow(const QList<QPushButton*>& buttons, int width) {
+  const int count = static_cast<int>(buttons.size());
+  return count * width + (count - 1) * kGap;
+}
 
 /// The panel begins below the tabs.
 void place(QWidget& widget, int left, int top, int width, int height) {
@@ -45,38 +54,60 @@ void place(QWidget& widget, int left, int top, int width, int height) {
 
 }  // namespace
 
-QSize ToolPanel::leastSize() {
-  return {pixelsFromTwips(kRightColumn + kFrameWidth + kGap),
-          pixelsFromTwips(kStripTop + kStripHeight + kGap - form_layout::kTabsHeight)};
+// A large font makes rows higher and buttons wider; what stands behind them moves.
+ToolPanel::Measures ToolPanel::measures() const {
+  const int text = twipsFromPixels(fontMetrics().height() + kAboveCaption);
+  Measures is{};
+  is.row = qMax(kRowHeight, text);
+  is.frameTitle = qMax(kFrameTitle, text);
+  is.back = widthOf({BackButt_}, kBackWidth);
+  is.playerButton = widthOf(playerButtons_, kButtonWidth);
+  is.segmentButton = widthOf(segmentButtons_, kButtonWidth);
+  const int playerRow = widthOfRow(playerButtons_, is.playerButton);
+  is.rightColumn = kLeft + qMax(kPictureWidth, playerRow) + 2 * kGap;
+  is.pictureTop = kTop + is.row + kGap;
+  is.playerTop = is.pictureTop + kPictureHeight + kGap;
+  is.frameHeight = is.frameTitle + is.row + kFramePadding;
+  is.frameTop = is.playerTop + is.row - is.frameHeight;
+  is.timelineTop = is.playerTop + is.row + 2 * kGap;
+  is.stripTop = is.timelineTop + kTimelineHeight + kGap;
+  return is;
+}
+
+QSize ToolPanel::leastSize() const {
+  const Measures is = measures();
+  const int frame = widthOfRow(segmentButtons_, is.segmentButton) + 2 * kFramePadding;
+  return {pixelsFromTwips(is.rightColumn + frame + kGap),
+          pixelsFromTwips(is.stripTop + kStripHeight + kGap - form_layout::kTabsHeight)};
 }
 
 void ToolPanel::LayoutPlayerControls() {
+  const Measures is = measures();
   const int right = twipsFromPixels(width()) - kGap;
-  place(*BackButt_, kLeft, kTop, kBackWidth, kRowHeight);
-  place(*txtTime_, kLeft + kBackWidth + kGap, kTop, kPictureWidth - kBackWidth - kGap, kRowHeight);
-  place(*picVideoWindow_, kLeft, kPictureTop, kPictureWidth, kPictureHeight);
-  const int count = static_cast<int>(playerButtons_.size());
-  const int buttonWidth = (kPictureWidth - (count - 1) * kGap) / count;
+  place(*BackButt_, kLeft, kTop, is.back, is.row);
+  place(*txtTime_, kLeft + is.back + kGap, kTop, kPictureWidth - is.back - kGap, is.row);
+  place(*picVideoWindow_, kLeft, is.pictureTop, kPictureWidth, kPictureHeight);
   int left = kLeft;
   for (QPushButton* button : playerButtons_) {
-    place(*button, left, kPlayerTop, buttonWidth, kRowHeight);
-    left += buttonWidth + kGap;
+    place(*button, left, is.playerTop, is.playerButton, is.row);
+    left += is.playerButton + kGap;
   }
-  place(*rtbTrans_, kRightColumn, kTop, right - kRightColumn, kFrameTop - kTop - kGap);
+  place(*rtbTrans_, is.rightColumn, kTop, right - is.rightColumn, is.frameTop - kTop - kGap);
 }
 
 void ToolPanel::LayoutSegmentControls() {
+  const Measures is = measures();
   const int right = twipsFromPixels(width()) - kGap;
-  place(*VideoFrame_, kRightColumn, kFrameTop, right - kRightColumn, kFrameHeight);
+  place(*VideoFrame_, is.rightColumn, is.frameTop, right - is.rightColumn, is.frameHeight);
   int left = kFramePadding;
   for (QPushButton* button : segmentButtons_) {
-    button->setGeometry(pixelsFromTwips(left), pixelsFromTwips(kFrameTitle),
-                        pixelsFromTwips(kSegmentButtonWidth), pixelsFromTwips(kRowHeight));
-    left += kSegmentButtonWidth + kGap;
+    button->setGeometry(pixelsFromTwips(left), pixelsFromTwips(is.frameTitle),
+                        pixelsFromTwips(is.segmentButton), pixelsFromTwips(is.row));
+    left += is.segmentButton + kGap;
   }
   const int rulesWidth = twipsFromPixels(AdvancedSliderWidget::maximumRulesWidth());
-  place(*advsld_, kLeft, kTimelineTop, qMin(right - kLeft, rulesWidth), kTimelineHeight);
-  place(*stripView_, 0, kStripTop, right + kGap, kStripHeight);
+  place(*advsld_, kLeft, is.timelineTop, qMin(right - kLeft, rulesWidth), kTimelineHeight);
+  place(*stripView_, 0, is.stripTop, right + kGap, kStripHeight);
 }
 
 void ToolPanel::LayoutControls() {

@@ -82,7 +82,7 @@ void VideoFormWindow::unbuild() {
 }
 
 void VideoFormWindow::chooseSize() {
-  const QSize least = ToolPanel::leastSize() + QSize(0, generated_->aroundViewport());
+  const QSize least = panel_->leastSize() + QSize(0, generated_->aroundViewport());
   setMinimumSize(least);
   const QSize wanted = screen()->availableSize() * kShareOfScreen;
   resize(qMax(least.width(), wanted.width()),
@@ -105,7 +105,7 @@ void VideoFormWindow::placeParts() {
 
 // All the room there is, and where that is too little, what the panel needs beside scroll bars.
 QSize VideoFormWindow::panelSize() const {
-  const QSize least = ToolPanel::leastSize();
+  const QSize least = panel_->leastSize();
   QSize room = panelView_->size();
   const bool isLow = room.height() < least.height();
   const bool isNarrow = room.width() < least.width();
