@@ -66,15 +66,6 @@ TEST_F(FormFieldsTest, SkippedFieldsStillCountInTheTag) {
   EXPECT_FALSE(form_.colControls()[1].bReadOnly);
 }
 
-TEST_F(FormFieldsTest, TenSlotsRepeat) {
-  for (int i = 0; i < 21; ++i) object_.add(tyType::String, "F", "");
-  form_.addFields(object_.secol(), nullptr);
-  EXPECT_EQ(form_.colControls()[0].slot(), 0);
-  EXPECT_EQ(form_.colControls()[9].slot(), 9);
-  EXPECT_EQ(form_.colControls()[10].slot(), 0);
-  EXPECT_EQ(form_.colControls()[20].slot(), 0);
-}
-
 TEST_F(FormFieldsTest, AValueThatDoesNotFitItsControlIsAnError) {
   struct Row {
     tyType type;

@@ -49,11 +49,6 @@ TEST(FormTabs, CaptionsKeysAndBoxes) {
   EXPECT_FALSE(plain.isOwnTab(1));
 }
 
-TEST(FormTabs, ATabForetoldByIgnoredFieldsStaysEmpty) {
-  const BoxRange boxes = FormTabs::ofFields(11).boxes(2, 10);
-  EXPECT_GT(boxes.first, boxes.last);
-}
-
 TEST(TabScroll, HoldsAHundredTabs) {
   TabScroll scroll;
   EXPECT_EQ(scroll[1], 0);

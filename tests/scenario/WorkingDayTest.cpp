@@ -38,17 +38,5 @@ TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
   }
 }
 
-TEST(WorkingDay, TheInterfaceIsItalianForItalians) {
-  Desktop desktop(InterfaceLanguage::Italian);
-  desktop.start(desktop.sample());
-  const MessageCatalogue english(InterfaceLanguage::Default);
-  for (const auto& [name, id] : {std::pair{"mnuFileOpen", 1001}, std::pair{"mnuFileSave", 1080},
-                                 std::pair{"mnuEditMetadata", 1085}}) {
-    const QString text = desktop.window.findChild<QAction*>(QLatin1String(name))->text();
-    EXPECT_EQ(text, toQString(desktop.app.LoadResString(id)));
-    EXPECT_NE(text, toQString(english.text(id)));
-  }
-}
-
 }  // namespace
 }  // namespace velra::test

@@ -120,19 +120,6 @@ TEST_F(VideoFormTest, onlyOKTakesTheFieldsAndNeitherTouchesSegments) {
   EXPECT_EQ(session.main->children.size(), 4u);
 }
 
-TEST_F(VideoFormTest, tabsAreCountedByTheFields) {
-  for (const auto& [fields, tabs] : {std::pair{9, 1}, {10, 2}, {20, 3}, {25, 3}, {29, 3}}) {
-    session.giveFields(*session.main, fields);
-    people = {[&, tabs = tabs](LoadedVideoForm& form) {
-      EXPECT_EQ(form.tabs().count(), 1 + tabs);
-      EXPECT_EQ(form.tabs().caption(1), "Video");
-      EXPECT_EQ(form.tabs().caption(2), "Set 1");
-      EXPECT_EQ(form.tabs().key(2), "Set 2");
-    }};
-    session.show();
-  }
-}
-
 TEST_F(VideoFormTest, aFormWithoutItsExpressionRefuses) {
   VideoForm form(session.services);
   EXPECT_THROW(form.Show(session.mainWindow), RunTimeError);

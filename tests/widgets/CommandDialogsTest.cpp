@@ -12,14 +12,15 @@
 #include "shell/SearchDialog.h"
 #include "shell/SearchResultDialog.h"
 #include "support/FormObject.h"
-#include "widgets/ConnectionDialogWindow.h"
+#include "widgets/ModalAnswer.h"
+#include "widgets/QtFormPresenter.h"
 #include "widgets/QtText.h"
-#include "widgets/SearchDialogWindow.h"
-#include "widgets/SearchResultWindow.h"
 #include "widgets/TreeIconPainter.h"
 
 namespace velra {
 namespace {
+
+using test::whenModal;
 
 template <class Widget>
 Widget& child(QWidget& window, const char* name) {
@@ -32,46 +33,17 @@ void press(QWidget& window, const char* button) {
   QTest::mouseClick(&child<QPushButton>(window, button), Qt::LeftButton);
 }
 
-/// Shows each dialog as a window that does not block, so that a test can act on it.
-class Presenter : public DialogPresenter {
- public:
-  explicit Presenter(const ApplicationModule& app) : app_(app) {}
-  std::function<void(QWidget&)> act;
-
-  void showSearchDialog(FormOwner&, SearchDialog& dialog) override {
-    SearchDialogWindow window(app_, dialog, nullptr);
-    show(window);
-  }
-  void showSearchResults(FormOwner&, SearchResultDialog& dialog) override {
-    SearchResultWindow window(app_, dialog, nullptr);
-    show(window);
-  }
-  void showConnectionDialog(FormOwner&, ConnectionDialog& dialog) override {
-    ConnectionDialogWindow window(app_, dialog, nullptr);
-    show(window);
-  }
-
- private:
-  void show(QDialog& window) {
-    window.show();
-    act(window);
-    EXPECT_FALSE(window.isVisible());  // its own buttons have closed it
-  }
-
-  const ApplicationModule& app_;
-};
-
 class CommandDialogs : public ::testing::Test {
  protected:
   test::TestApplication application_;
   ApplicationModule& app_ = application_.app;
   test::RecordingMainWindow owner_;
-  Presenter presenter_{app_};
+  QtFormPresenter presenter_{app_};
 };
 
 TEST_F(CommandDialogs, SearchAsksAndRemembers) {
   SearchDialog dialog;
-  presenter_.act = [&](QWidget& window) {
+  whenModal([&](QWidget& window) {
     EXPECT_EQ(fromQString(window.windowTitle()), app_.LoadResString(1121));
     QLineEdit& text = child<QLineEdit>(window, "Text1");
     EXPECT_EQ(text.text(), QString());
@@ -82,45 +54,36 @@ TEST_F(CommandDialogs, SearchAsksAndRemembers) {
     QTest::keyClicks(&text, QStringLiteral("keeper"));
     QTest::mouseClick(&child<QCheckBox>(window, "Check2"), Qt::LeftButton, {}, QPoint(8, 8));
     QTest::keyClick(&text, Qt::Key_Return);
-  };
+  });
   dialog.Show(presenter_, owner_);
   EXPECT_EQ(dialog.strText(), "keeper");
   EXPECT_FALSE(dialog.bMatchCase());
   EXPECT_TRUE(dialog.bSingleWord());
   EXPECT_FALSE(dialog.bCancelPressed());
 
-  presenter_.act = [](QWidget& window) {
+  whenModal([](QWidget& window) {
     EXPECT_EQ(child<QLineEdit>(window, "Text1").text(), QStringLiteral("keeper"));
     EXPECT_FALSE(child<QCheckBox>(window, "Check1").isChecked());
     EXPECT_TRUE(child<QCheckBox>(window, "Check2").isChecked());
     QTest::keyClicks(&child<QLineEdit>(window, "Text1"), QStringLiteral("typed in vain"));
-    press(window, "CancelButt");
-  };
+    QTest::keyClick(&window, Qt::Key_Escape);
+  });
   dialog.Show(presenter_, owner_);
   EXPECT_EQ(dialog.strText(), "keeper");
   EXPECT_TRUE(dialog.bCancelPressed());
 }
 
-TEST_F(CommandDialogs, EscapeIsCancel) {
-  SearchDialog search;
-  presenter_.act = [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); };
-  search.Show(presenter_, owner_);
-  EXPECT_TRUE(search.bCancelPressed());
-
-  ConnectionDialog connection(app_);
-  presenter_.act = [](QWidget& window) {
-    QTest::keyClicks(&child<QLineEdit>(window, "Text1"), QStringLiteral("host"));
-    window.close();
-  };
-  connection.Show(presenter_, owner_);
-  EXPECT_FALSE(connection.bChanged());
-}
-
 TEST_F(CommandDialogs, ConnectionHasItsTextsAndRefusesPorts) {
   ConnectionDialog dialog(app_);
   dialog.setSettings({"host", 2509, "<b>name</b>", "http"});
-  presenter_.act = [&](QWidget& window) {
+  whenModal([&](QWidget& window) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Connection Parameters"));
+    QStringList captions;
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+      if (label->buddy()) captions << label->text() + u' ' + label->buddy()->objectName();
+    }
+    EXPECT_EQ(captions.join(u'|'), QStringLiteral("Server Address Text1|Port Text2|"
+                                                  "Datamanager Text3|Http Server Text4"));
     for (const auto& box : ConnectionDialog::kBoxes) {
       QLineEdit& edit = child<QLineEdit>(window, box.name);
       EXPECT_EQ(fromQString(edit.toolTip()), app_.LoadResString(box.toolTip));
@@ -133,37 +96,27 @@ TEST_F(CommandDialogs, ConnectionHasItsTextsAndRefusesPorts) {
     QTest::keyClicks(&port, QStringLiteral("8x"));
     EXPECT_EQ(port.text(), QStringLiteral("8"));
     press(window, "OKButton");
-  };
+  });
   dialog.Show(presenter_, owner_);
   EXPECT_EQ(application_.ui.takeShown(),
             std::vector<std::string>{"exclamation: " + app_.LoadResString(1162)});
   EXPECT_TRUE(dialog.bChanged());
   EXPECT_EQ(dialog.settings().iPort, 8);
   EXPECT_EQ(dialog.settings().strAddress, "host");
-}
-
-TEST_F(CommandDialogs, CaptionsOfTheConnectionAreBuddies) {
-  ConnectionDialog dialog(app_);
-  presenter_.act = [&](QWidget& window) {
-    QStringList captions;
-    for (const QLabel* label : window.findChildren<QLabel*>()) {
-      if (label->buddy()) captions << label->text() + u' ' + label->buddy()->objectName();
-    }
-    EXPECT_EQ(
-        captions,
-        (QStringList{QStringLiteral("Server Address Text1"), QStringLiteral("Port Text2"),
-                     QStringLiteral("Datamanager Text3"), QStringLiteral("Http Server Text4")}));
-    press(window, "CancelButton");
-  };
+  whenModal([](QWidget& window) {
+    QTest::keyClicks(&child<QLineEdit>(window, "Text1"), QStringLiteral("typed in vain"));
+    window.close();
+  });
   dialog.Show(presenter_, owner_);
+  EXPECT_FALSE(dialog.bChanged());
 }
 
 TEST(SearchResults, RowsOpenTheirFormsByMouseAndKeyboard) {
   test::Program program;
   program.mainForm.OpenFile(program.sample());
-  Presenter presenter(program.app);
+  QtFormPresenter presenter(program.app);
   SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons());
-  presenter.act = [&](QWidget& window) {
+  whenModal([&](QWidget& window) {
     QTreeView& list = child<QTreeView>(window, "ListView1");
     const QAbstractItemModel& model = *list.model();
     ASSERT_EQ(model.rowCount(), 2);
@@ -198,23 +151,23 @@ TEST(SearchResults, RowsOpenTheirFormsByMouseAndKeyboard) {
     EXPECT_EQ(opened(), 0U);
     EXPECT_TRUE(window.isVisible());
     press(window, "OKButton");
-  };
+  });
   dialog.ShowDialog(presenter, program.mainForm, "copy", true, false);
 }
 
 TEST(SearchResults, AnEmptyListIsShownWithoutAMessage) {
   test::Program program;
   program.mainForm.OpenFile(program.sample());
-  Presenter presenter(program.app);
+  QtFormPresenter presenter(program.app);
   SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons());
-  presenter.act = [](QWidget& window) {
+  whenModal([](QWidget& window) {
     QTreeView& list = child<QTreeView>(window, "ListView1");
     EXPECT_EQ(list.model()->rowCount(), 0);
     QTest::mouseClick(list.viewport(), Qt::LeftButton);
     QTest::keyClick(&list, Qt::Key_Space);
     QCoreApplication::sendPostedEvents();
     press(window, "CancelButton");
-  };
+  });
   dialog.ShowDialog(presenter, program.mainForm, "no such words", false, false);
   EXPECT_TRUE(program.presenter.captions.empty());
   EXPECT_TRUE(program.ui.shown.empty());
@@ -223,7 +176,7 @@ TEST(SearchResults, AnEmptyListIsShownWithoutAMessage) {
 TEST(SearchResults, IconsAreThoseOfTheTrees) {
   test::Program program;
   program.mainForm.OpenFile(program.sample());
-  Presenter presenter(program.app);
+  QtFormPresenter presenter(program.app);
   SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons());
   const auto imageOf = [](const QModelIndex& row) {
     return row.data(Qt::DecorationRole)
@@ -231,7 +184,7 @@ TEST(SearchResults, IconsAreThoseOfTheTrees) {
         .pixmap(TreeIconPainter::iconSize())
         .toImage();
   };
-  presenter.act = [&](QWidget& window) {
+  whenModal([&](QWidget& window) {
     const QAbstractItemModel& model = *child<QTreeView>(window, "ListView1").model();
     TreeIconPainter painter(program.mainForm.imlTreeIcons());
     ASSERT_EQ(model.rowCount(), 1);
@@ -240,7 +193,7 @@ TEST(SearchResults, IconsAreThoseOfTheTrees) {
                              .toImage();
     EXPECT_EQ(imageOf(model.index(0, 0)), frame);
     press(window, "CancelButton");
-  };
+  });
   dialog.ShowDialog(presenter, program.mainForm, "hundred and twelve", false, false);
 }
 

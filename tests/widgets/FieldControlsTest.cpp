@@ -189,28 +189,28 @@ TEST_F(FieldControlsTest, ASetScrollsWhenItsRowsDoNotFit) {
   EXPECT_TRUE(inSight(find("Text1_1", &set)));
 }
 
-class CrossLanguageWindowTest : public FieldControlsTest {
- protected:
-  CrossLanguageWindowTest() {
-    app_.objNaroThematicKeywords = std::make_shared<NaroThematicKeywords>();
-    const bool read = app_.objNaroThematicKeywords->bSetFromXMLFile(
-        app_, application_.folder.write("words.xml", R"(<NaroThematicKeywords>
-          <Theme English="Art" Italian="Arte"><Subtheme English="Dance" Italian="Danza">
-            <Keyword English="Ballet" Italian="Balletto"/><Keyword English="Tango"/>
-          </Subtheme></Theme>
-          <Theme English="War" Italian="Guerra"><Subtheme English="Peace" Italian="Pace">
-            <Keyword English="Treaty" Italian="Trattato"/></Subtheme></Theme>
-          </NaroThematicKeywords>)"));
-    EXPECT_TRUE(read);
-    app_.iLanguage = 1;
-    object_->add(tyType::String, "Themes", "Art");
-    object_->add(tyType::String, "Subthemes", "Dance");
-    object_->add(tyType::SetOfStrings, "ThematicKeywords", StringList{"Tango", "Ballet"});
-    open("AVDocument");
-  }
-};
-
-TEST_F(CrossLanguageWindowTest, NoPutsTheListBackYesRefillsTheOthers) {
+TEST_F(FieldControlsTest, ListsOverTheVocabularyFollowOneAnother) {
+  app_.objNaroThematicKeywords = std::make_shared<NaroThematicKeywords>();
+  ASSERT_TRUE(app_.objNaroThematicKeywords->bSetFromXMLFile(
+      app_, application_.folder.write("words.xml", R"(<NaroThematicKeywords>
+        <Theme English="Art" Italian="Arte"><Subtheme English="Dance" Italian="Danza">
+          <Keyword English="Ballet" Italian="Balletto"/><Keyword English="Tango"/>
+        </Subtheme></Theme>
+        <Theme English="War" Italian="Guerra"><Subtheme English="Peace" Italian="Pace">
+          <Keyword English="Treaty" Italian="Trattato"/></Subtheme></Theme>
+        </NaroThematicKeywords>)")));
+  app_.iLanguage = 1;
+  object_->add(tyType::String, "Themes", "Art");
+  object_->add(tyType::String, "Subthemes", "Dance");
+  object_->add(tyType::SetOfStrings, "ThematicKeywords", StringList{"Tango", "Ballet"});
+  open("AVDocument");
+  EXPECT_EQ(test::accessibilityFaults(*window_), std::vector<std::string>{});
+  QWidget& set = find("ctlSetOfStringCL1");
+  auto& first = find<QComboBox>("Combo1_1", &set);
+  EXPECT_EQ(first.currentText(), QStringLiteral("Tango"));
+  EXPECT_EQ(items(first), (QStringList{"Balletto", "Tango"}));
+  QTest::keyClick(&first, Qt::Key_Up);
+  EXPECT_EQ(form_->fields().colControls()[2].rows->rowText(1), "Balletto");
   auto& themes = find<QComboBox>("Combo1_1");
   QTest::keyClick(&themes, Qt::Key_Down);
   EXPECT_EQ(themes.currentText(), QStringLiteral("Arte"));
@@ -219,27 +219,12 @@ TEST_F(CrossLanguageWindowTest, NoPutsTheListBackYesRefillsTheOthers) {
   EXPECT_EQ(application_.ui.shown.size(), 2u);
   EXPECT_EQ(themes.currentText(), QStringLiteral("Guerra"));
   EXPECT_EQ(items(find<QComboBox>("Combo1_2")), QStringList{"Pace"});
-  QWidget& set = find("ctlSetOfStringCL1");
   EXPECT_EQ(set.findChild<QWidget*>(QStringLiteral("Combo1_1")), nullptr);
   click("Command1", &set);
   EXPECT_EQ(find<QComboBox>("Combo1_1", &set).currentText(), QStringLiteral("Trattato"));
   QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
   EXPECT_EQ(stored(1), Value("War"));
   EXPECT_EQ(stored(3), Value(StringList{"Treaty"}));
-}
-
-TEST_F(CrossLanguageWindowTest, RowsAreListsOverTheVocabulary) {
-  QWidget& set = find("ctlSetOfStringCL1");
-  auto& first = find<QComboBox>("Combo1_1", &set);
-  EXPECT_EQ(first.currentText(), QStringLiteral("Tango"));
-  EXPECT_EQ(items(first), (QStringList{"Balletto", "Tango"}));
-  QTest::keyClick(&first, Qt::Key_Up);
-  QTest::mouseClick(&find("OKButt"), Qt::LeftButton);
-  EXPECT_EQ(stored(3), Value(StringList{"Ballet", "Ballet"}));
-}
-
-TEST_F(CrossLanguageWindowTest, CanBeHeardAndFound) {
-  EXPECT_EQ(test::accessibilityFaults(*window_), std::vector<std::string>{});
 }
 
 }  // namespace

@@ -49,6 +49,10 @@ TEST_F(GeneratedFormTest, TheTabKeyGoesToWhatIsInSightAndTabsTakeItAlong) {
     for (const QString start = focused(); names.size() < 30 && !names.contains(start);) {
       QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
       names << focused();
+      const QWidget& view = find("Picture2");
+      const QWidget& box = *window_->focusWidget();
+      if (!panel().isAncestorOf(&box)) continue;
+      EXPECT_TRUE(view.rect().contains(QRect(box.mapTo(&view, QPoint()), box.size())));
     }
     return names.join(u' ');
   };
@@ -172,19 +176,6 @@ TEST_F(GeneratedFormTest, BarsComeAndGoWithTheSize) {
   const QRect before = find("Picture2").geometry();
   window_->resize(10, 60);  // too small for anything
   EXPECT_EQ(find("Picture2").geometry(), before);
-}
-
-TEST_F(GeneratedFormTest, TheKeyboardReachesEveryBox) {
-  addTexts(10);
-  open();
-  EXPECT_EQ(window_->focusWidget(), &find("Text1_1"));
-  for (int i = 1; i < 10; ++i) QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
-  EXPECT_EQ(window_->focusWidget(), &find("Text1_10"));
-  EXPECT_LT(panel().y(), 0);  // and shows it
-  const QRect box(find("Frame1_10").mapTo(&find("Picture2"), QPoint()), find("Frame1_10").size());
-  EXPECT_TRUE(find("Picture2").rect().contains(box));
-  QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
-  EXPECT_EQ(window_->focusWidget(), &find("OKButt"));
 }
 
 TEST_F(GeneratedFormTest, KeysThatEndTheForm) {
