@@ -66,11 +66,9 @@ void NodeTreeView::paintFrame() {
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-// Styles tell the window that has the focus from others, and not the trees of one window.
 void NodeTreeView::drawRow(QPainter* painter, const QStyleOptionViewItem& options,
                            const QModelIndex& index) const {
   QStyleOptionViewItem row = options;
-  if (!hasFocus()) row.state &= ~QStyle::State_Active;
   giveInactiveColour(row.palette);
   QTreeView::drawRow(painter, row, index);
 }
