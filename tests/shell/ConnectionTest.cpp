@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "Program.h"
 #include "support/ErrorOf.h"
 
@@ -12,18 +8,13 @@ namespace {
 
 using Box = ConnectionDialog::Box;
 
-std::string bytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 class ConnectionTest : public ::testing::Test {
  protected:
   void show(std::function<void(ConnectionDialog&)> act) {
     program_.presenter.onConnection = std::move(act);
     program_.mainForm.mnuConnection();
   }
-  std::string stored() { return bytesOf((program_.folder / "machine.ini")); }
+  std::string stored() { return program_.folder.read("machine.ini"); }
 
   test::Program program_;
   const std::string refusal_ = "exclamation: " + program_.app.LoadResString(1162);
@@ -137,19 +128,6 @@ TEST_F(ConnectionTest, ShowsStoredValuesEvenOddOnes) {
     });
     EXPECT_EQ(program_.ui.takeShown().size(), one.refusals);
   }
-}
-
-TEST_F(ConnectionTest, AStoreThatCannotBeWrittenLosesNothingAndSaysNothing) {
-  // A folder in the place of the file: even the superuser cannot write it.
-  std::filesystem::remove((program_.folder / "machine.ini"));
-  std::filesystem::create_directory((program_.folder / "machine.ini"));
-  show([](ConnectionDialog& dialog) {
-    dialog.change(Box::Text1, "host");
-    dialog.OKButton_Click();
-  });
-  EXPECT_TRUE(program_.ui.shown.empty());
-  EXPECT_TRUE(std::filesystem::is_directory((program_.folder / "machine.ini")));
-  show([](ConnectionDialog& dialog) { EXPECT_EQ(dialog.text(Box::Text1), ""); });
 }
 
 }  // namespace
