@@ -11,10 +11,8 @@ namespace velra {
 
 namespace {
 
-// The tolerance around a frame's start, in seconds; never more than a quarter of a frame.
-double tolerance(double most, double rate) {
-  return std::min(most, 0.25 / rate);
-}
+// As far as a whole millisecond may lie from the time that it stands for, and the last bits.
+constexpr double kRounding = 0.000501;
 
 // True when a time stands where a label of its second begins, as times made from labels do.
 bool beginsLabel(double seconds, double rate) {
@@ -22,19 +20,28 @@ bool beginsLabel(double seconds, double rate) {
   return std::abs(frames - std::round(frames)) < 1e-6;
 }
 
+// The start of the label that a stored time was made from, or the time itself.
+double labelStart(double stored, double rate) {
+  const double second = std::floor(stored);
+  const double label = second + std::round((stored - second) * rate) / rate;
+  return std::abs(label - stored) < kRounding ? label : stored;
+}
+
 // The start of the frame that a time means. Labels count from the full second and frames from the
 // start of the movie: at rates such as 30000/1001 a label may change within the half millisecond by
 // which a stored start can be too late.
 double frameStart(double seconds, double rate) {
-  const double next = std::ceil(seconds * rate) / rate;
-  if (next > seconds && next - seconds < tolerance(0.001, rate)) return next;
-  const double start = std::floor(seconds * rate) / rate;
-  const bool rounded = seconds - start < tolerance(0.000501, rate) && !beginsLabel(seconds, rate);
-  return rounded ? start : seconds;
+  const double stored = inWholeMilliseconds(seconds);
+  const double quarter = 0.25 / rate;
+  const double start = std::floor((stored + std::min(kNearFrame, quarter)) * rate) / rate;
+  if (stored - start < std::min(kRounding, quarter)) {
+    return start <= seconds && beginsLabel(seconds, rate) ? seconds : start;
+  }
+  return labelStart(stored, rate);
 }
 
 double atFrame(double seconds, double rate) {
-  if (rate <= 0) return seconds;
+  if (rate <= 0) return inWholeMilliseconds(seconds);
   const double time = frameStart(seconds, rate);
   // A frame that starts on a full second must not fall short of it by the last bits.
   const double second = std::round(time);
@@ -50,6 +57,10 @@ std::int16_t frameField(double rest, double rate) {
 }
 
 }  // namespace
+
+double inWholeMilliseconds(double seconds) {
+  return std::nearbyint(seconds * 1000) / 1000;
+}
 
 TimeCode SplitTimeCode(double seconds, double rate) {
   const double time = atFrame(seconds, rate);

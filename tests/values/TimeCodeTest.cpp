@@ -58,10 +58,26 @@ TEST(TimeCode, EveryFrameOfAnHourHasItsLabelAtBrokenRates) {
                 sameSecond ? expected : exactLabel(std::lround(stored) * nominal, nominal, 1001))
           << rate << ": " << k;
       if (k == 0) continue;
-      const double earlier = start - 0.0022;
-      const double rest = earlier - std::floor(earlier);
-      ASSERT_EQ(SplitTimeCode(earlier, rate)[3], static_cast<int>(rest * rate + 1e-6))
+      const double earlier = inMilliseconds(start - 0.0022);
+      const double rest = earlier - std::floor(earlier) + 0.000501;
+      ASSERT_EQ(SplitTimeCode(start - 0.0022, rate)[3], static_cast<int>(rest * rate))
           << rate << ": " << k;
+    }
+  }
+}
+
+/// In a container of coarse ticks, and in one of milliseconds behind an offset of half a tick.
+TEST(TimeCode, TimesOfContainersHaveTheLabelOfTheirFrame) {
+  for (const double rate : {25.0, 24000.0 / 1001, 30000.0 / 1001}) {
+    for (long k = 0; k < 5000; ++k) {
+      const double start = static_cast<double>(k) / rate;
+      for (const double late :
+           {std::round(start * 600) / 600 - start, std::round(start * 1000 - 0.5) / 1000 - start}) {
+        ASSERT_EQ(label(start + late, rate), label(inMilliseconds(start + late), rate)) << k;
+        if (late < 0) {
+          ASSERT_EQ(label(start + late, rate), label(start, rate)) << rate << ": " << k;
+        }
+      }
     }
   }
 }
@@ -80,7 +96,7 @@ TEST(TimeCode, DecidesTheCorners) {
     const char* text;
   } cases[] = {
       {0, 25, "00:00:00:00"},       {3599.5, 25, "00:59:59:12"},  {3600, 25, "01:00:00:00"},
-      {59.9985, 25, "00:00:59:24"}, {59.9995, 25, "00:01:00:00"}, {3599.9995, 25, "01:00:00:00"},
+      {59.9985, 25, "00:00:59:24"}, {59.9986, 25, "00:01:00:00"}, {3599.9995, 25, "01:00:00:00"},
       {1.9, 0, "00:00:01:00"},      {35999.9, 0, "09:59:59:00"},  {0.995, 100, "00:00:00:99"},
       {-0.04, 25, "-01:59:59:24"},
   };
