@@ -7,17 +7,16 @@
 #include <utility>
 #include <vector>
 
-#include "platform/LibAv.h"
+#include "platform/FrameTime.h"
 #include "platform/MovieInput.h"
 #include "platform/PacketTail.h"
-#include "platform/TrackDecoder.h"
+#include "values/TimeCode.h"
 
 namespace velra {
 
 namespace {
 
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
-constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 
 // Closer than this many pictures ahead it is cheaper to decode on than to seek.
 constexpr double kDecodeOnPictures = 40;
@@ -27,133 +26,93 @@ constexpr double kDecodeOnPictures = 40;
 constexpr double kFirstStepBack = 0.6;
 constexpr double kStepBackFactor = 2.5;
 
-// A length of a picture outside these bounds is a container's lie: ticks of a clock, or nothing.
-constexpr double kShortestFrame = 1.0 / 121;
-constexpr double kLongestFrame = 1.1;
-constexpr int kMeasuredPictures = 24;
+// A claimed length may be wrong by so many seconds.
+constexpr double kClaimSlack = 1.1;
 
-// A time that the file itself gives to this picture. Where several pictures share one packet of the
-// container, the others get theirs by counting on, and after a seek that count starts wrong.
-bool hasOwnTime(const AVFrame& frame) {
-  return frame.pts != kNoTime && frame.pkt_pos >= 0;
-}
+// Two times of one picture that were counted on different ways differ by less.
+constexpr double kSameTime = 1e-6;
+
+// For pictures without a time of their own in a file that tells nothing.
+constexpr double kUsualFrame = 0.04;
+constexpr int kMeasuredPictures = 24;
 
 }  // namespace
 
-struct FrameSource::Current {
-  AvFrame frame;
-  double time;
-};
-
-FrameSource::FrameSource()
-    : input_(std::make_unique<MovieInput>()), decoder_(std::make_unique<TrackDecoder>()) {}
+FrameSource::FrameSource() = default;
 
 FrameSource::~FrameSource() = default;
 
 void FrameSource::cancel() {
-  input_->cancel();
+  reader_.input().cancel();
 }
 
 std::string FrameSource::open(const std::string& path) {
-  if (std::string reason = input_->open(path); !reason.empty()) return reason;
-  if (!input_->choose(MovieTrack::Pictures)) return "It has no pictures that can be decoded.";
-  if (std::string reason = decoder_->open(*input_->stream()); !reason.empty()) return reason;
-  if (!takeFirst()) return "No picture of it can be decoded.";
+  if (std::string reason = reader_.open(path); !reason.empty()) return reason;
+  frameTime_ = reader_.statedFrameTime();
+  if (std::string reason = indexMovie(reader_, index_); !reason.empty()) return reason;
   setFrameTime();
-  input_->settle();
+  reader_.input().settle();
   return {};
 }
 
-bool FrameSource::takeFirst() {
-  AvFrame first = decoder_->next(*input_);
-  if (!first) return false;
-  firstTicks_ = first->best_effort_timestamp;
-  ownTimes_ = hasOwnTime(*first);
-  size_ = {first->width, first->height};
-  current_ = std::make_unique<Current>(Current{std::move(first), 0});
-  return true;
+bool FrameSource::hasPictures() const {
+  return reader_.input().has(MovieTrack::Pictures);
 }
 
 void FrameSource::setFrameTime() {
-  const AVStream* stream = input_->stream();
-  AVRational rate = stream->avg_frame_rate;
-  if (rate.num <= 0 || rate.den <= 0) rate = stream->r_frame_rate;
-  frameTime_ = rate.num > 0 && rate.den > 0 ? static_cast<double>(rate.den) / rate.num : 0;
-  if (frameTime_ < kShortestFrame || frameTime_ > kLongestFrame) {
-    frameTime_ = 0.04;  // for pictures without a time of their own
-    frameTime_ = medianDistance();
-  }
+  const bool stampedPictures = reader_.input().stamps() == MovieStamps::OfPictures;
+  const double usual = stampedPictures ? index_.usualDistance() * reader_.tick() : 0;
+  frameTime_ = chooseFrameTime(reader_.statedFrameTime(), usual, reader_.tick(), index_.pictures);
+  reader_.setClock(frameTime_ > 0 ? frameTime_ : kUsualFrame, index_.leap);
+  if (frameTime_ <= 0) frameTime_ = medianDistance();
 }
 
 double FrameSource::medianDistance() {
   std::vector<double> distances;
-  bool ended = false;
+  bool ended = !reader_.rewind();
   while (!ended && distances.size() < kMeasuredPictures) {
     const Found picture = step(ended);
     if (picture && !ended) distances.push_back(picture->end - picture->time);
   }
-  if (distances.empty()) return frameTime_;
+  if (distances.empty()) return kUsualFrame;
   const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
   std::nth_element(distances.begin(), middle, distances.end());
   return *middle;
 }
 
-double FrameSource::secondsOf(std::int64_t ticks) const {
-  const AVRational base = input_->stream()->time_base;
-  return static_cast<double>(ticks) * base.num / base.den;
-}
-
 double FrameSource::origin() const {
-  return firstTicks_ == kNoTime ? 0 : secondsOf(firstTicks_);
+  const double stamp = offsetAt(0);
+  return std::isnan(stamp) ? 0 : stamp;
 }
 
-// Unknown only for the first picture after a seek.
-double FrameSource::timeOf(const AVFrame& frame) const {
-  const std::int64_t ticks = frame.best_effort_timestamp;
-  const bool known = ticks != kNoTime && firstTicks_ != kNoTime;
-  const double time = known ? secondsOf(ticks - firstTicks_) : kUnknown;
-  if (!current_) return time;
-  return time > current_->time ? time : current_->time + frameTime_;
-}
-
-double FrameSource::tolerance() const {
-  return std::min(0.001, frameTime_ / 4);
+// What the stamps exceed times by at a time.
+double FrameSource::offsetAt(double seconds) const {
+  if (index_.leaps) return index_.offsetAt(seconds + index_.first) + index_.first;
+  const double stamp = reader_.firstStamp();
+  return std::isnan(stamp) ? index_.offset + index_.first : stamp;
 }
 
 FrameSource::Found FrameSource::at(double seconds) {
-  const double target = std::isnan(seconds) ? 0 : std::max(0.0, seconds) + tolerance();
-  if (Found known = cache_.find(target)) return known;
-  const double ahead = current_ ? target - current_->time : -1;
-  if (ahead >= 0 && ahead < kDecodeOnPictures * frameTime_) return decodeOn(target);
-  const double claimed = input_->claimedLength();
-  const bool behindEnd = claimed <= 0 || target > claimed - kLongestFrame;
-  return seekTo(target, behindEnd ? std::min(target, duration()) : target);
+  const double time = std::isnan(seconds) ? 0 : std::max(0.0, inWholeMilliseconds(seconds));
+  return find(time + std::min(kNearFrame, frameTime_ / 4));
 }
 
 FrameSource::Found FrameSource::after(const MoviePicture& picture) {
-  return std::isinf(picture.end) ? nullptr : at(picture.end);
+  return std::isinf(picture.end) ? nullptr : find(picture.end + kSameTime);
 }
 
-FrameSource::Found FrameSource::complete(double end) {
-  auto picture = std::make_shared<MoviePicture>();
-  picture->time = current_->time;
-  picture->end = end;
-  picture->frame = std::shared_ptr<const AVFrame>(std::move(current_->frame));
-  current_.reset();
-  cache_.add(picture);
-  return picture;
+// The picture whose span holds a time.
+FrameSource::Found FrameSource::find(double target) {
+  if (Found known = cache_.find(target)) return known;
+  const double ahead = target - reader_.time().value_or(kInfinite);
+  if (ahead >= 0 && ahead < kDecodeOnPictures * frameTime_) return decodeOn(target);
+  return index_.byKeys ? seekByKeys(target) : seekTo(target);
 }
 
-// Brings one more picture out of the decoder and gives the one before it, whose end is known by
-// that.
 FrameSource::Found FrameSource::step(bool& ended) {
-  AvFrame frame = decoder_->next(*input_);
-  ended = !frame;
-  if (ended) return current_ && !input_->cancelled() ? complete(kInfinite) : nullptr;
-  const double time = timeOf(*frame);
-  Found before = current_ ? complete(time) : nullptr;
-  current_ = std::make_unique<Current>(Current{std::move(frame), time});
-  return before;
+  Found picture = reader_.step(ended);
+  if (picture) cache_.add(picture);
+  return picture;
 }
 
 FrameSource::Found FrameSource::decodeOn(double target) {
@@ -163,56 +122,34 @@ FrameSource::Found FrameSource::decodeOn(double target) {
     if (Found next = step(ended)) picture = std::move(next);
     if (picture && target < picture->end) return picture;
   }
-  return input_->cancelled() ? nullptr : picture;
+  return reader_.input().cancelled() ? nullptr : picture;
 }
 
-FrameSource::Found FrameSource::seekTo(double target, double sought) {
+FrameSource::Found FrameSource::seekTo(double target) {
+  const double claimed = reader_.input().claimedLength();
+  const bool behindEnd = claimed <= 0 || target > claimed - kClaimSlack || index_.known();
+  const double sought = behindEnd ? std::min(target, duration()) : target;
   double back = 0;
-  while (!input_->cancelled()) {
+  while (!reader_.input().cancelled()) {
     const double from = sought - back;
-    if (from <= 0) return rewind() ? decodeOn(target) : nullptr;
-    if (startBehind(from) && current_->time <= target) return decodeOn(target);
+    if (from <= 0) break;
+    if (reader_.startBehind(from, offsetAt(from)) && *reader_.time() <= target) {
+      return decodeOn(target);
+    }
     back = back == 0 ? kFirstStepBack : back * kStepBackFactor;
   }
-  return nullptr;
+  return reader_.rewind() ? decodeOn(target) : nullptr;
 }
 
-// Starts decoding at or before a time as far as the container knows; false when nothing with a sure
-// time comes. Pictures before the first whole one lean on others that were not decoded.
-bool FrameSource::startBehind(double seconds) {
-  current_.reset();
-  ++seeks_;
-  const AVRational base = input_->stream()->time_base;
-  const double ticks = std::floor(seconds * base.den / base.num);
-  const std::int64_t first = firstTicks_ == kNoTime ? 0 : firstTicks_;
-  if (!input_->seek(first + static_cast<std::int64_t>(ticks))) return false;
-  decoder_->flush();
-  AvFrame frame = decoder_->next(*input_);
-  bool whole = false;
-  while (frame) {
-    whole = whole || frame->key_frame != 0 || frame->pict_type == AV_PICTURE_TYPE_I;
-    const double time = timeOf(*frame);
-    if (whole && !std::isnan(time) && (!ownTimes_ || hasOwnTime(*frame))) {
-      current_ = std::make_unique<Current>(Current{std::move(frame), time});
-      return true;
-    }
-    frame = decoder_->next(*input_);
+// A key that does not come, as in a damaged file, leaves those before it.
+FrameSource::Found FrameSource::seekByKeys(double target) {
+  const KeyPlace* key = index_.keyBefore(target + index_.first);
+  while (key != nullptr && !reader_.input().cancelled()) {
+    if (reader_.isFirst(*key)) break;
+    if (reader_.startAt(*key, index_.first) && *reader_.time() <= target) return decodeOn(target);
+    key = key == index_.keys.data() ? nullptr : std::prev(key);
   }
-  return false;
-}
-
-bool FrameSource::rewind() {
-  for (int way = 0; way < MovieInput::kWaysToStart; ++way) {
-    current_.reset();
-    ++seeks_;
-    if (!input_->toStart(way, firstTicks_)) continue;
-    decoder_->flush();
-    AvFrame frame = decoder_->next(*input_);
-    if (!frame || frame->best_effort_timestamp != firstTicks_) continue;
-    current_ = std::make_unique<Current>(Current{std::move(frame), 0});
-    return true;
-  }
-  return false;
+  return reader_.rewind() ? decodeOn(target) : nullptr;
 }
 
 double FrameSource::duration() {
@@ -223,12 +160,16 @@ double FrameSource::duration() {
 // Container lengths are wrong by up to three pictures. The packets know it without decoding, unless
 // one at the end has no time of its own.
 double FrameSource::measure() {
-  const std::int64_t first = firstTicks_ == kNoTime ? 0 : firstTicks_;
-  const PacketTail tail = findTail(*input_, first);
-  current_.reset();
-  const double last = tail.any ? secondsOf(tail.last - first) : 0;
+  if (index_.known()) return index_.length(frameTime_);
+  const double offset = offsetAt(0);
+  const double first = std::isnan(offset) ? 0 : offset;
+  const PacketTail tail =
+      findTail(reader_.input(), static_cast<std::int64_t>(std::llround(first / reader_.tick())));
+  reader_.forget();
+  const double last = tail.any ? static_cast<double>(tail.last) * reader_.tick() - first : 0;
   if (tail.any && !tail.missing) return last + frameTime_;
-  const Found picture = seekTo(kInfinite, std::max(input_->claimedLength() - 1, last));
+  duration_ = std::max(reader_.input().claimedLength() - 1, last);  // for the search
+  const Found picture = seekTo(kInfinite);
   return picture ? picture->time + frameTime_ : 0;
 }
 

@@ -1,30 +1,30 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "platform/FrameGrabber.h"
+#include "platform/MovieIndex.h"
 #include "platform/PictureCache.h"
+#include "platform/PictureReader.h"
 
 namespace velra {
 
-class MovieInput;
-class TrackDecoder;
-
 /// The pictures of a movie by their times. Time 0 is the first picture that comes out of the
 /// decoder, whatever offset the container carries. The picture for t is the last one that starts at
-/// or before t; less than a millisecond before a start counts as that picture (a quarter of a frame
-/// at most), because bounds in files are whole milliseconds, some containers keep such too, and
-/// sums of frame lengths fall short by the last bits. One thread, but for `cancel`.
+/// or before t, where t is taken in whole milliseconds, as files keep it, and `kNearFrame` before a
+/// start counts as that picture. One thread, but for `cancel`.
 class FrameSource {
  public:
   FrameSource();
   ~FrameSource();
 
   /// "" on success, else one sentence that tells why not. A file of which no picture can be decoded
-  /// is refused. Called once.
+  /// is refused, and one whose pictures cannot be told their times. Called once.
   std::string open(const std::string& path);
+
+  /// True when the file has a track of pictures, also when they cannot be decoded.
+  bool hasPictures() const;
 
   /// The picture for a time in seconds: the first one for times before it, the last one for times
   /// behind the end. Null when the file cannot be read any more, or after `cancel`.
@@ -36,11 +36,11 @@ class FrameSource {
   /// Seconds from the first picture to the end of the last; measured at the first call.
   double duration();
 
-  /// Seconds a picture, on average.
+  /// Seconds a picture: what the file tells, or the usual distance where that is another.
   double frameTime() const { return frameTime_; }
 
   /// The coded size of the first picture, without correction of the aspect.
-  PixelSize size() const { return size_; }
+  PixelSize size() const { return reader_.size(); }
 
   /// The time in seconds that the container gives to the first picture.
   double origin() const;
@@ -49,36 +49,26 @@ class FrameSource {
   void cancel();
 
   /// Seeks of the container so far: what a test or a measurement wants to keep low.
-  int seeks() const { return seeks_; }
+  int seeks() const { return reader_.starts(); }
 
  private:
-  struct Current;
   using Found = std::shared_ptr<const MoviePicture>;
 
-  bool takeFirst();
   void setFrameTime();
   double medianDistance();
-  double secondsOf(std::int64_t ticks) const;
-  double timeOf(const AVFrame& frame) const;
-  double tolerance() const;
-  Found complete(double end);
+  Found find(double target);
   Found step(bool& ended);
   Found decodeOn(double target);
-  Found seekTo(double target, double sought);
-  bool startBehind(double seconds);
-  bool rewind();
+  Found seekTo(double target);
+  Found seekByKeys(double target);
+  double offsetAt(double seconds) const;
   double measure();
 
-  std::unique_ptr<MovieInput> input_;
-  std::unique_ptr<TrackDecoder> decoder_;
-  std::unique_ptr<Current> current_;  // came out last; its end is not known yet
+  PictureReader reader_;
+  MovieIndex index_;
   PictureCache cache_;
-  std::int64_t firstTicks_ = 0;
-  bool ownTimes_ = false;  // the file gives times to pictures, if not to all
   double frameTime_ = 0;
   double duration_ = -1;  // not measured yet
-  PixelSize size_;
-  int seeks_ = 0;
 };
 
 }  // namespace velra

@@ -2,8 +2,11 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <string>
 #include <system_error>
+#include <vector>
 
 #include "platform/LibAv.h"
 
@@ -40,6 +43,21 @@ std::string sentenceFor(int error) {
   if (error == AVERROR_EXIT) return "The file did not answer in time.";
   if (error == AVERROR(EACCES)) return "The file cannot be read: Permission denied.";
   return "The format is not valid or not supported.";
+}
+
+bool isTooLarge(const AVStream* stream) {
+  const AVCodecParameters& known = *stream->codecpar;
+  return static_cast<std::int64_t>(known.width) * known.height > MovieInput::kMostPixels;
+}
+
+// The decoders that look into a file while it is opened keep the limit too.
+int findTracks(AVFormatContext& format) {
+  const std::string limit = std::to_string(MovieInput::kMostPixels);
+  std::vector<AVDictionary*> options(format.nb_streams);
+  for (AVDictionary*& one : options) av_dict_set(&one, "max_pixels", limit.c_str(), 0);
+  const int error = avformat_find_stream_info(&format, options.data());
+  for (AVDictionary*& one : options) av_dict_free(&one);
+  return error;
 }
 
 void setWhiteLists(AVFormatContext& format) {
@@ -89,10 +107,20 @@ std::string MovieInput::openFormat() {
     return sentenceFor(error);
   }
   context_->format.reset(format);
-  if (const int error = avformat_find_stream_info(format, nullptr); error < 0) {
-    return sentenceFor(error);
-  }
+  // Decoders that refuse the size forget it.
+  statesTooLarge_ = std::any_of(format->streams, format->streams + format->nb_streams, isTooLarge);
+  if (const int error = findTracks(*format); error < 0) return sentenceFor(error);
   return {};
+}
+
+bool MovieInput::has(MovieTrack track) const {
+  if (!context_->format) return false;
+  const AVFormatContext& format = *context_->format;
+  const AVMediaType type = track == MovieTrack::Pictures ? AVMEDIA_TYPE_VIDEO : AVMEDIA_TYPE_AUDIO;
+  return std::any_of(format.streams, format.streams + format.nb_streams, [&](const AVStream* one) {
+    return one->codecpar->codec_type == type &&
+           (one->disposition & AV_DISPOSITION_ATTACHED_PIC) == 0;
+  });
 }
 
 bool MovieInput::choose(MovieTrack track) {
@@ -107,11 +135,32 @@ bool MovieInput::choose(MovieTrack track) {
     AVStream* other = format->streams[i];
     if (other != chosen) other->discard = AVDISCARD_ALL;
   }
+  if (track == MovieTrack::Pictures && hasBareStamps()) {
+    format->flags |= AVFMT_FLAG_NOFILLIN;
+    seekByte(0);  // what was read ahead has been filled in
+  }
   return true;
 }
 
 const AVStream* MovieInput::stream() const {
   return index_ < 0 ? nullptr : context_->format->streams[index_];
+}
+
+MovieStamps MovieInput::stamps() const {
+  const AVInputFormat& format = *context_->format->iformat;
+  const std::string name = format.name;
+  if (name == "mpeg" || name == "mpegts") return MovieStamps::OfBytes;
+  if (name == "avi") return MovieStamps::OfChunks;
+  const bool stream = name == "mpegvideo" || (format.flags & AVFMT_NOTIMESTAMPS) != 0;
+  return stream ? MovieStamps::None : MovieStamps::OfPictures;
+}
+
+bool MovieInput::hasBareStamps() const {
+  return stamps() == MovieStamps::OfBytes || stamps() == MovieStamps::None;
+}
+
+std::int64_t MovieInput::bytes() const {
+  return avio_size(context_->format->pb);
 }
 
 double MovieInput::claimedLength() const {
@@ -120,24 +169,44 @@ double MovieInput::claimedLength() const {
 }
 
 bool MovieInput::read(AVPacket& packet) {
+  atEnd_ = false;
   for (int bad = 0; bad < kBadReads;) {
     if (!opening_) allow(kReadLimit);
     av_packet_unref(&packet);
     if (interrupted(this) != 0) return false;
     const int error = av_read_frame(context_->format.get(), &packet);
-    if (error == AVERROR_EOF || error == AVERROR_EXIT) return false;
+    atEnd_ = error == AVERROR_EOF;
+    if (atEnd_ || error == AVERROR_EXIT) return false;
     if (error < 0) {
       ++bad;
     } else if (packet.stream_index == index_) {
+      const int hiddenKey = AV_PKT_FLAG_KEY | AV_PKT_FLAG_DISCARD;
+      hidesKey_ = hidesKey_ || (packet.flags & hiddenKey) == hiddenKey;
       return true;
     }
   }
   return false;
 }
 
+bool MovieInput::skip(int packets) {
+  const AvPacket packet(av_packet_alloc());
+  while (packets > 0 && read(*packet)) --packets;
+  return packets == 0;
+}
+
+bool MovieInput::sought(int result) {
+  hidesKey_ = false;
+  return result >= 0;
+}
+
 bool MovieInput::seek(std::int64_t ticks) {
   allow(kReadLimit);
-  return avformat_seek_file(context_->format.get(), index_, INT64_MIN, ticks, ticks, 0) >= 0;
+  return sought(avformat_seek_file(context_->format.get(), index_, INT64_MIN, ticks, ticks, 0));
+}
+
+bool MovieInput::seekByte(std::int64_t position) {
+  if (!opening_) allow(kReadLimit);
+  return sought(av_seek_frame(context_->format.get(), -1, position, AVSEEK_FLAG_BYTE));
 }
 
 bool MovieInput::toStart(int way, std::int64_t firstTicks) {
@@ -145,13 +214,13 @@ bool MovieInput::toStart(int way, std::int64_t firstTicks) {
   allow(kReadLimit);
   switch (way) {
     case 0:
-      return av_seek_frame(format, index_, firstTicks, AVSEEK_FLAG_BACKWARD) >= 0;
+      return sought(av_seek_frame(format, index_, firstTicks, AVSEEK_FLAG_BACKWARD));
     case 1:
-      return av_seek_frame(format, -1, 0, AVSEEK_FLAG_BYTE) >= 0;
+      return seekByte(0);
     case 2:
-      return av_seek_frame(format, index_, INT64_MIN, AVSEEK_FLAG_BACKWARD) >= 0;
+      return sought(av_seek_frame(format, index_, INT64_MIN, AVSEEK_FLAG_BACKWARD));
     case 3:
-      return av_seek_frame(format, index_, 0, AVSEEK_FLAG_BACKWARD) >= 0;
+      return sought(av_seek_frame(format, index_, 0, AVSEEK_FLAG_BACKWARD));
     default:
       return reopen();
   }

@@ -14,6 +14,14 @@ namespace velra {
 
 enum class MovieTrack { Pictures, Sound };
 
+/// What the times in a container belong to.
+enum class MovieStamps {
+  OfPictures,  // each picture has its own
+  OfChunks,    // each chunk has its place in a row without gaps
+  OfBytes,     // stretches of bytes have some, in which pictures begin or not
+  None         // a stream without a container
+};
+
 /// One reader of a movie file: gives the packets of one chosen track in the order of the file.
 /// Takes plain files in known formats alone, so that a playlist or a picture that calls itself a
 /// movie makes nothing else be read. No call waits longer than `kOpenLimit` or `kReadLimit`. One
@@ -28,14 +36,35 @@ class MovieInput {
   MovieInput(const MovieInput&) = delete;
   MovieInput& operator=(const MovieInput&) = delete;
 
+  /// Pictures with more pixels than this are refused: the largest that are in use.
+  static constexpr int kMostPixels = 8192 * 4320;
+
   /// "" on success, else one sentence that tells why not.
   std::string open(const std::string& path);
 
+  /// True when the file has such a track, be there a decoder for it or not. The picture of a cover
+  /// is no track.
+  bool has(MovieTrack track) const;
+
   /// Chooses the track that is read; false when the file has none that a decoder is known for.
+  /// Stamps of bytes are then given as they stand in the file, and only for pictures: those that
+  /// the library counts on from them start wrong after a seek.
   bool choose(MovieTrack track);
 
   /// The chosen track; null before that.
   const AVStream* stream() const;
+
+  /// True when the container says that the pictures have more than `kMostPixels`; it may lie.
+  bool statesTooLarge() const { return statesTooLarge_; }
+
+  /// What the times of the file belong to.
+  MovieStamps stamps() const;
+
+  /// True when packets of pictures carry the stamps of the file and no others.
+  bool hasBareStamps() const;
+
+  /// Bytes of the file.
+  std::int64_t bytes() const;
 
   /// The container's idea of the length in seconds; 0 when it has none. It may be wrong.
   double claimedLength() const;
@@ -46,9 +75,22 @@ class MovieInput {
   /// Next packet of the chosen track; false at the end of the file or when it cannot be read on.
   bool read(AVPacket& packet);
 
+  /// Reads past so many packets; false when there are fewer.
+  bool skip(int packets);
+
   /// Goes to the last place from which the picture of a time (in ticks of the track) can be
   /// decoded, as far as the container knows. False when the container refuses.
   bool seek(std::int64_t ticks);
+
+  /// Goes to a place in the file. False when the container refuses.
+  bool seekByte(std::int64_t position);
+
+  /// True when the last `read` failed because the file ends there.
+  bool atEnd() const { return atEnd_; }
+
+  /// True when a key picture that an edit hides was read since the last seek: what follows it can
+  /// be decoded, though no key picture comes out.
+  bool hidesKey() const { return hidesKey_; }
 
   /// Goes to the start of the file. No single way works for all containers: the caller tries
   /// 0, 1... up to `kWaysToStart` - 1 until the first picture comes.
@@ -66,11 +108,15 @@ class MovieInput {
   void allow(std::chrono::seconds limit);
   std::string openFormat();
   bool reopen();
+  bool sought(int result);
 
   std::string path_;
   std::unique_ptr<Context> context_;
   int index_ = -1;
   bool opening_ = true;
+  bool statesTooLarge_ = false;
+  bool atEnd_ = false;
+  bool hidesKey_ = false;
   std::chrono::steady_clock::time_point deadline_;
   std::atomic<bool> cancelled_{false};
 };

@@ -20,6 +20,7 @@ PacketTail readTail(MovieInput& input) {
   const AvPacket packet(av_packet_alloc());
   PacketTail tail;
   while (std::chrono::steady_clock::now() < stop && input.read(*packet)) {
+    if ((packet->flags & AV_PKT_FLAG_DISCARD) != 0) continue;  // an edit hides it
     if (packet->pts == kNoTime) {
       tail.missing = true;
     } else if (!tail.any || packet->pts >= tail.last) {

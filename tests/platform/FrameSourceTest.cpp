@@ -5,6 +5,8 @@
 #include <cmath>
 #include <random>
 
+#include "platform/MovieProbe.h"
+#include "platform/OddMovies.h"
 #include "platform/PictureConverter.h"
 #include "support/NumberedMovie.h"
 
@@ -92,6 +94,34 @@ INSTANTIATE_TEST_SUITE_P(Movies, Pictures, ::testing::ValuesIn(test::numberedMov
                            for (char& c : name) c = std::isalnum(c) != 0 ? c : '_';
                            return name;
                          });
+
+class OddPictures : public ::testing::TestWithParam<test::OddMovie> {};
+
+// In an order in which each is far from the one before, so that nothing but the seek finds it.
+TEST_P(OddPictures, AreThoseOfTheirTimesBeforeAndAfterASave) {
+  const test::OddMovie& movie = GetParam();
+  const test::TemporaryFolder folder;
+  FrameSource source;
+  PictureConverter converter;
+  ASSERT_EQ(source.open(movie.make(folder)), "");
+  EXPECT_NEAR(source.frameTime(), 1 / movie.rate, 1e-9);
+  EXPECT_NEAR(source.duration(), movie.times.back() + 1 / movie.rate, 0.6 / movie.rate);
+  EXPECT_NEAR(dMovieDuration(movie.make(folder)), source.duration(), 1e-9);
+  const std::size_t count = movie.times.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t k = i * 67 % count;
+    const double start = movie.times[k];
+    for (const double t : {start, std::round(start * 1000) / 1000, start + 0.4 / movie.rate}) {
+      const auto picture = source.at(t);
+      ASSERT_NE(picture, nullptr) << t;
+      ASSERT_EQ(test::numberIn(*converter.convert(*picture->frame)), movie.numbers[k]) << t;
+    }
+  }
+  EXPECT_LT(source.seeks(), static_cast<int>(count) * 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Movies, OddPictures, ::testing::ValuesIn(test::oddMovies()),
+                         [](const auto& movie) { return std::string(movie.param.name); });
 
 TEST(FrameSource, TakesAnEmptyPacketForThePictureBefore) {
   FrameSource source;
