@@ -26,7 +26,7 @@ std::string MovieGraph::RenderFile(const std::string& path) {
   std::string reason = source->open(path);
   if (reason.empty()) {
     renderPictures(path, std::move(source));
-  } else if (renderSound(path)) {
+  } else if (!source->hasPictures() && renderSound(path)) {
     reason.clear();
   }
   return reason;

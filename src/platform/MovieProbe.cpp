@@ -7,7 +7,8 @@ namespace velra {
 
 double dMovieDuration(const std::string& path) {
   FrameSource source;
-  return source.open(path).empty() ? source.duration() : soundLength(path);
+  if (source.open(path).empty()) return source.duration();
+  return source.hasPictures() ? 0 : soundLength(path);
 }
 
 }  // namespace velra
