@@ -40,6 +40,10 @@ class MediaGraph {
   virtual int videoWidth() const = 0;
   virtual int videoHeight() const = 0;
 
+  /// In how many pixels pictures are shown, so that those of play, which pass quickly, come in just
+  /// this size. All others have the movie's own size, and in play those too after 0.
+  virtual void setShownSize(int width, int height) = 0;
+
   /// The picture that is ready now, without waiting; null before the first.
   virtual std::shared_ptr<const PictureFrame> picture() const = 0;
 

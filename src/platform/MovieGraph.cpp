@@ -41,6 +41,7 @@ void MovieGraph::renderPictures(const std::string& path, std::unique_ptr<FrameSo
   const std::lock_guard lock(notifyMutex_);
   player_ = std::make_unique<MoviePlayer>(std::move(source), std::move(clock), duration_,
                                           [this](Notice notice) { tell(notice); });
+  player_->setShownSize(shownSize_);
 }
 
 bool MovieGraph::renderSound(const std::string& path) {
@@ -71,6 +72,11 @@ double MovieGraph::CurrentPosition() const {
 
 void MovieGraph::setCurrentPosition(double seconds) {
   if (player_) player_->setPosition(seconds);
+}
+
+void MovieGraph::setShownSize(int width, int height) {
+  shownSize_ = {width, height};
+  if (player_) player_->setShownSize(shownSize_);
 }
 
 std::shared_ptr<const PictureFrame> MovieGraph::picture() const {

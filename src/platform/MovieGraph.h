@@ -5,6 +5,7 @@
 #include <mutex>
 #include <string>
 
+#include "platform/FrameGrabber.h"
 #include "platform/MediaGraph.h"
 
 namespace velra {
@@ -29,6 +30,7 @@ class MovieGraph final : public MediaGraph {
   double AvgTimePerFrame() const override { return frameTime_; }
   int videoWidth() const override { return width_; }
   int videoHeight() const override { return height_; }
+  void setShownSize(int width, int height) override;
   std::shared_ptr<const PictureFrame> picture() const override;
   void setNotify(std::function<void(Notice)> notify) override;
 
@@ -41,6 +43,7 @@ class MovieGraph final : public MediaGraph {
   double frameTime_ = 0;
   int width_ = 0;
   int height_ = 0;
+  PixelSize shownSize_;
 
   // Held during a call, so that none comes after the receiver was cleared, and while the player
   // changes, since a receiver asks for its picture.

@@ -10,7 +10,10 @@ namespace velra {
 
 namespace {
 
+// Large pictures wait in smaller numbers, but never less than two.
 constexpr std::size_t kPicturesAhead = 6;
+constexpr std::size_t kFewPicturesAhead = 2;
+constexpr std::size_t kBytesAhead = 64'000'000;
 
 // The clock of the sound may jump, so that a picture's time is looked at this often at least.
 constexpr double kLongestNap = 0.02;
@@ -67,8 +70,19 @@ void MoviePlayer::halt() {
   playing_ = false;
   ahead_.clear();
   clock_.stop();
-  if (!shownSinceRun_) sought_ = position_;
+  seekStill();
+}
+
+// The picture for the position where play has ended, in the movie's size.
+void MoviePlayer::seekStill() {
+  const bool sized = shownSize_.width > 0 && shownSize_.height > 0;
+  if (!shownSinceRun_ || sized) sought_ = position_;
   toDecode_.notify_all();
+}
+
+void MoviePlayer::setShownSize(PixelSize size) {
+  const std::lock_guard lock(mutex_);
+  shownSize_ = size;
 }
 
 double MoviePlayer::position() const {
@@ -96,7 +110,7 @@ std::shared_ptr<const PictureFrame> MoviePlayer::picture() const {
 void MoviePlayer::decode() {
   Lock lock(mutex_);
   while (source_ && !quit_) {
-    if (playing_ && !allAhead_ && ahead_.size() < kPicturesAhead) {
+    if (playing_ && !allAhead_ && hasRoomAhead()) {
       decodeAhead(lock);
     } else if (sought_ && !playing_) {
       decodeSought(lock);
@@ -106,11 +120,17 @@ void MoviePlayer::decode() {
   }
 }
 
+bool MoviePlayer::hasRoomAhead() const {
+  if (ahead_.size() < kFewPicturesAhead) return true;
+  return ahead_.size() < kPicturesAhead &&
+         ahead_.size() * ahead_.front().pixels->pixels.size() < kBytesAhead;
+}
+
 void MoviePlayer::decodeSought(Lock& lock) {
   const double seconds = *std::exchange(sought_, std::nullopt);
   lock.unlock();
   const auto picture = source_->at(seconds);
-  auto pixels = pixelsOf(picture.get());
+  auto pixels = pixelsOf(picture.get(), {});
   lock.lock();
   // A picture that is late because a newer one is asked for is shown none the less: someone drags,
   // and wants to see where. Only play may not be disturbed.
@@ -123,9 +143,10 @@ void MoviePlayer::decodeAhead(Lock& lock) {
   const std::uint64_t generation = generation_;
   const auto before = lastAhead_;
   const double start = position_;
+  const PixelSize size = shownSize_;
   lock.unlock();
   auto picture = before ? source_->after(*before) : source_->at(start);
-  auto pixels = pixelsOf(picture.get());
+  auto pixels = pixelsOf(picture.get(), size);
   lock.lock();
   if (generation != generation_ || quit_) return;
   if (picture) {
@@ -138,8 +159,10 @@ void MoviePlayer::decodeAhead(Lock& lock) {
   toShow_.notify_all();
 }
 
-std::shared_ptr<const PictureFrame> MoviePlayer::pixelsOf(const MoviePicture* picture) {
-  return picture != nullptr ? converter_.convert(*picture->frame) : nullptr;
+std::shared_ptr<const PictureFrame> MoviePlayer::pixelsOf(const MoviePicture* picture,
+                                                          PixelSize size) {
+  if (picture == nullptr) return nullptr;
+  return converter_.convert(*picture->frame, size.width, size.height);
 }
 
 void MoviePlayer::show() {
@@ -184,6 +207,7 @@ void MoviePlayer::endPlay(Lock& lock, MediaGraph::Notice notice) {
   ++generation_;
   playing_ = false;
   clock_.stop();
+  if (notice == MediaGraph::Notice::EndReached && source_) seekStill();
   tell(lock, notice);
 }
 

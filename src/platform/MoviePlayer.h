@@ -9,6 +9,7 @@
 #include <optional>
 #include <thread>
 
+#include "platform/FrameGrabber.h"
 #include "platform/MediaGraph.h"
 #include "platform/PictureConverter.h"
 #include "platform/PlayClock.h"
@@ -33,8 +34,12 @@ class MoviePlayer {
 
   void run();
 
-  /// Ends play; the position is then the picture shown, and the picture for it comes if none was.
+  /// Ends play; the position is then the picture shown, which comes once more in the movie's size,
+  /// and the picture for it comes if none was.
   void halt();
+
+  /// See `MediaGraph::setShownSize`.
+  void setShownSize(PixelSize size);
 
   double position() const;
   void setPosition(double seconds);
@@ -51,7 +56,9 @@ class MoviePlayer {
   void decode();
   void decodeSought(Lock& lock);
   void decodeAhead(Lock& lock);
-  std::shared_ptr<const PictureFrame> pixelsOf(const MoviePicture* picture);
+  std::shared_ptr<const PictureFrame> pixelsOf(const MoviePicture* picture, PixelSize size);
+  bool hasRoomAhead() const;
+  void seekStill();
   void show();
   void showDue(Lock& lock);
   void endPlay(Lock& lock, MediaGraph::Notice notice);
@@ -72,6 +79,7 @@ class MoviePlayer {
   bool quit_ = false;
   bool playing_ = false;
   bool shownSinceRun_ = false;
+  PixelSize shownSize_;  // of pictures in play
   double position_ = 0;
   std::optional<double> sought_ = 0;  // a picture to be shown out of play; first of all the first
   std::shared_ptr<const PictureFrame> shown_;

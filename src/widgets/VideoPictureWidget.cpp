@@ -23,7 +23,18 @@ void VideoPictureWidget::showMovie(MediaGraph* movie) {
   if (movie_) movie_->setNotify({});
   movie_ = movie;
   if (movie_) movie_->setNotify([this](MediaGraph::Notice) { noticed(); });
+  tellSize();
   update();
+}
+
+void VideoPictureWidget::tellSize() {
+  const QSize pixels = size() * devicePixelRatio();
+  if (movie_) movie_->setShownSize(pixels.width(), pixels.height());
+}
+
+void VideoPictureWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  tellSize();
 }
 
 void VideoPictureWidget::noticed() {

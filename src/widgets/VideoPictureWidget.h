@@ -19,9 +19,11 @@ class VideoPictureWidget : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void noticed();
+  void tellSize();
 
   MediaGraph* movie_ = nullptr;
   std::atomic<bool> updatePending_ = false;  // set by the movie's threads

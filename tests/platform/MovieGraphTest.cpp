@@ -7,6 +7,8 @@
 #include <filesystem>
 
 #include "platform/BadMovies.h"
+#include "platform/MovieProbe.h"
+#include "platform/OddMovies.h"
 #include "platform/PlayedMovie.h"
 #include "support/NumberedMovie.h"
 
@@ -171,6 +173,31 @@ TEST_F(MovieGraphTest, RefusesWithASentenceAndStaysEmpty) {
     EXPECT_EQ(movie.graph().Duration(), 0);
     EXPECT_EQ(movie.graph().picture(), nullptr);
   }
+}
+
+// Its sound could be played, but nobody would know why the picture stays black.
+TEST_F(MovieGraphTest, RefusesAMovieWhosePicturesCannotBeDecoded) {
+  const test::TemporaryFolder folder;
+  for (const std::string& path : test::makeBlindMovies(folder)) {
+    PlayedMovie movie;
+    EXPECT_EQ(movie.graph().RenderFile(path), "It holds no picture that can be decoded.") << path;
+    EXPECT_EQ(dMovieDuration(path), 0) << path;
+  }
+  PlayedMovie huge;
+  EXPECT_EQ(huge.graph().RenderFile(test::makeHugeMovie(folder)),
+            "Its pictures are larger than 8192 x 4320 pixels.");
+}
+
+TEST_F(MovieGraphTest, PlaysInTheSizeThatIsShownAndStandsInItsOwn) {
+  PlayedMovie movie;
+  ASSERT_EQ(movie.open(test::moviePath("mpeg4-25.avi")), "");
+  MediaGraph& graph = movie.graph();
+  graph.setShownSize(80, 56);
+  graph.Run();
+  ASSERT_TRUE(movie.waitUntil([&] { return graph.picture()->width == 80; }));
+  graph.Pause();
+  ASSERT_TRUE(movie.waitUntil([&] { return graph.picture()->width == 160; }));
+  EXPECT_EQ(std::lround(graph.CurrentPosition() * 25), movie.number());
 }
 
 TEST_F(MovieGraphTest, LeavesNothingBehind) {

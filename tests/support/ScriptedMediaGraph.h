@@ -51,6 +51,7 @@ class ScriptedMediaGraph : public MediaGraph {
   double AvgTimePerFrame() const override { return script_.frameLength; }
   int videoWidth() const override { return script_.picture ? script_.picture->width : 0; }
   int videoHeight() const override { return script_.picture ? script_.picture->height : 0; }
+  void setShownSize(int, int) override {}
   std::shared_ptr<const PictureFrame> picture() const override { return script_.picture; }
   void setNotify(std::function<void(Notice)> notify) override { notify_ = std::move(notify); }
 
