@@ -85,7 +85,7 @@ class MovieIndexer {
     take(read(kLeapOfBytes, limit));
   }
 
-  // Where each key has its stamp, these lead to every picture, unless they leap farther on.
+  // Where keys have stamps, these lead to every picture, unless they leap farther on.
   bool trustsStamps() {
     const double first = reader_.firstStamp();
     const std::int64_t bytes = input_.bytes();

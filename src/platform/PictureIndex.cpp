@@ -41,6 +41,7 @@ class IndexMaker {
 
   void finish() {
     index_.leaps = clock_.leapt();
+    index_.stampedKeys = stampedKeys_ > 0 && stampedKeys_ * 2 >= keys_;
     // The first stamp may come only after the first keys.
     index_.offset = firstOffset_;
     for (KeyPlace& key : index_.keys) {
@@ -54,7 +55,8 @@ class IndexMaker {
   }
 
   void addKey(const OrderedPacket& packet, double time, bool stamped) {
-    index_.stampedKeys = index_.stampedKeys && stamped;
+    ++keys_;
+    if (stamped) ++stampedKeys_;
     if (!index_.keys.empty() && time < index_.keys.back().time + PictureIndex::kKeyDistance) return;
     index_.keys.push_back({packet.position, packet.behind, packet.size, time, clock_.offset()});
   }
@@ -63,6 +65,8 @@ class IndexMaker {
   double tick_;
   PictureIndex& index_;
   std::int64_t lastTicks_ = kNoTime;
+  std::int64_t keys_ = 0;
+  std::int64_t stampedKeys_ = 0;
   double firstOffset_ = PictureClock::kUnknown;
 };
 

@@ -23,7 +23,7 @@ struct KeyPlace {
 /// What the packets of a picture track tell without being decoded.
 struct PictureIndex {
   bool complete = false;       // all packets of the file were read
-  bool stampedKeys = true;     // all keys carry a time of their own
+  bool stampedKeys = false;    // half of the keys or more carry a time of their own
   bool leaps = false;          // the stamps leap somewhere
   bool sure = true;            // packets could be given their places in time
   bool lost = false;           // though not all of them
