@@ -28,19 +28,20 @@ void ScreenBound::bound(QWidget& window) {
   if (window.isMaximized() || window.isFullScreen()) return;
   // Dialogs come over their owner.
   const QWidget& owner = window.parentWidget() ? *window.parentWidget() : window;
-  const QRect room = owner.screen()->availableGeometry().marginsRemoved(kFrame);
+  const QRect screen = owner.screen()->availableGeometry();
+  const QRect room = screen.marginsRemoved(kFrame);
+  const bool hasPlace = window.testAttribute(Qt::WA_Moved);
+  if (hasPlace && screen.contains(window.geometry())) return;
   const QSize size = window.size().boundedTo(room.size());
   if (size != window.size()) {
     window.setMinimumSize(window.minimumSize().boundedTo(room.size()));
     window.resize(size);
   }
-  // Who has no place of its own is given one afterwards.
-  if (!window.testAttribute(Qt::WA_Moved)) return;
-  const QRect inner = QRect(window.pos(), size).translated(kFrame.left(), kFrame.top());
-  if (room.contains(inner)) return;
+  if (!hasPlace) return;  // it is given one afterwards
+  const QPoint place = window.pos() + QPoint(kFrame.left(), kFrame.top());
   const QSize left = (room.size() - size).expandedTo({0, 0});
-  window.move(std::clamp(inner.x(), room.x(), room.x() + left.width()),
-              std::clamp(inner.y(), room.y(), room.y() + left.height()));
+  window.move(std::clamp(place.x(), room.x(), room.x() + left.width()),
+              std::clamp(place.y(), room.y(), room.y() + left.height()));
 }
 
 }  // namespace velra

@@ -67,6 +67,10 @@ TEST_F(FormPresenterTest, NoWindowOpensLargerThanItsScreen) {
   for (const QScreen* each : QGuiApplication::screens()) {
     if (each->name() == QLatin1String("small")) screen = each->availableGeometry();
   }
+  owner.setGeometry(screen);
+  owner.show();
+  EXPECT_EQ(owner.geometry(), screen);  // as large as the screen, and not larger
+  owner.hide();
   owner.setGeometry(QRect(screen.topLeft() + QPoint(67, 67), QSize(1900, 300)));
   owner.setMinimumSize(1000, 200);
   owner.show();
