@@ -2,9 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <fstream>
 
+#include "platform/Files.h"
 #include "platform/MediaGraph.h"
 
 namespace velra {
@@ -57,14 +56,7 @@ std::string bitmapBytes(const PictureFrame& picture) {
 }  // namespace
 
 std::string writeBitmap(const PictureFrame& picture, const std::string& path) {
-  const std::string bytes = bitmapBytes(picture);
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  if (!file) return "The file cannot be made.";
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (file) return {};
-  std::remove(path.c_str());
-  return "The file cannot be written whole.";
+  return writeFileInPlace(path, bitmapBytes(picture));
 }
 
 }  // namespace velra

@@ -68,7 +68,7 @@ std::string linkTarget(const std::string& path) {
 }
 
 /// Writes a new file and brings it to the disk; 0 or the system's error.
-int writeNew(const std::string& path, std::string_view bytes, const std::string& modeOf) {
+int writeSynced(const std::string& path, std::string_view bytes, const std::string& modeOf) {
   int error = writeInPlace(path, bytes);
   if (error) return error;
   struct stat status {};
@@ -83,7 +83,7 @@ std::string replaceFile(const std::string& path, std::string_view bytes) {
   const std::string target = linkTarget(path);
   const std::string beside = target + ".new";
   ::unlink(beside.c_str());  // what a crash may have left
-  int error = writeNew(beside, bytes, target);
+  int error = writeSynced(beside, bytes, target);
   if (!error && std::rename(beside.c_str(), target.c_str()) != 0) error = errno;
   if (error) ::unlink(beside.c_str());
   return error ? systemReason(error) : std::string();

@@ -97,19 +97,28 @@ FileStamp fileStamp(const std::string& path) {
 }
 
 std::vector<std::string> colListFiles(const std::string& pattern) {
+  return listFiles(pattern).names;
+}
+
+FolderListing listFiles(const std::string& pattern) {
   const std::string folder = folderOf(pattern);
   const std::string_view namePattern = std::string_view(pattern).substr(pattern.rfind('/') + 1);
-  std::vector<std::string> names;
+  FolderListing found;
   const auto close = [](DIR* listing) { ::closedir(listing); };
   const std::unique_ptr<DIR, decltype(close)> listing(::opendir(folder.c_str()), close);
-  if (!listing) return names;
-  while (const dirent* entry = ::readdir(listing.get())) {
+  if (!listing) return {{}, errno == ENOENT ? std::string() : systemReason(errno)};
+  const auto next = [&] {
+    errno = 0;  // the end of the folder sets none
+    return ::readdir(listing.get());
+  };
+  while (const dirent* entry = next()) {
     if (fits(entry->d_name, namePattern) && isPlainFile(*entry, folder)) {
-      names.emplace_back(entry->d_name);
+      found.names.emplace_back(entry->d_name);
     }
   }
-  std::sort(names.begin(), names.end());
-  return names;
+  if (errno != 0) found.reason = systemReason(errno);
+  std::sort(found.names.begin(), found.names.end());
+  return found;
 }
 
 FileBytes readFile(const std::string& path, std::uint64_t limit) {
@@ -122,6 +131,11 @@ FileBytes readStart(const std::string& path, std::uint64_t most) {
 
 std::string writeFileInPlace(const std::string& path, std::string_view bytes) {
   const int error = writeInPlace(path, bytes);
+  return error ? systemReason(error) : std::string();
+}
+
+std::string writeNewFile(const std::string& path, std::string_view bytes) {
+  const int error = writeNew(path, bytes);
   return error ? systemReason(error) : std::string();
 }
 

@@ -26,6 +26,13 @@ FileStamp fileStamp(const std::string& path);
 /// files alone, sorted by their bytes. A folder that cannot be listed gives none.
 std::vector<std::string> colListFiles(const std::string& pattern);
 
+/// The same, with the reason when a folder that is there cannot be listed, or not to its end.
+struct FolderListing {
+  std::vector<std::string> names;
+  std::string reason;  // empty on success, and when there is no such folder
+};
+FolderListing listFiles(const std::string& pattern);
+
 /// The bytes of a regular file, or one sentence that tells why not.
 struct FileBytes {
   std::string bytes;
@@ -41,6 +48,10 @@ FileBytes readStart(const std::string& path, std::uint64_t most);
 /// when there is none. Returns the failure's description, "" on success. What is written reaches
 /// the disk at the next syncFolder or syncFile.
 std::string writeFileInPlace(const std::string& path, std::string_view bytes);
+
+/// Makes a file that is not there yet and refuses one that is, whoever made it; a file that cannot
+/// be written whole is removed again. The failure's description, "" on success.
+std::string writeNewFile(const std::string& path, std::string_view bytes);
 
 /// Asks the system to bring what was written to the disk; the failure's description or "".
 std::string syncFile(const std::string& path);

@@ -79,27 +79,28 @@ int replaceContent(const FileHandle& file, std::string_view bytes) {
   return error;
 }
 
-/// Opens an existing file, or makes a new one. Never truncates.
-FileHandle openForWriting(const std::string& path, bool& isNew) {
-  constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
-  FileHandle existing(::open(path.c_str(), kFlags));
-  isNew = !existing && errno == ENOENT;
-  if (!isNew) return existing;
-  return FileHandle(::open(path.c_str(), kFlags | O_CREAT | O_EXCL, 0666));
-}
+constexpr int kOpening = O_RDWR | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 
 }  // namespace
 
 int writeInPlace(const std::string& path, std::string_view bytes) {
   ignoreSizeSignal();
-  bool isNew = false;
-  FileHandle file = openForWriting(path, isNew);
+  FileHandle file(::open(path.c_str(), kOpening));
+  if (!file) return errno == ENOENT ? writeNew(path, bytes) : errno;
+  const int error = replaceContent(file, bytes);
+  const int closeError = file.close();
+  return error ? error : closeError;
+}
+
+int writeNew(const std::string& path, std::string_view bytes) {
+  ignoreSizeSignal();
+  FileHandle file(::open(path.c_str(), kOpening | O_CREAT | O_EXCL, 0666));
   if (!file) return errno;
   // A new file holds nothing to protect: what goes wrong removes it again.
-  int error = isNew ? writeAt(file, bytes, 0) : replaceContent(file, bytes);
+  int error = writeAt(file, bytes, 0);
   const int closeError = file.close();
   if (!error) error = closeError;
-  if (error && isNew) ::unlink(path.c_str());
+  if (error) ::unlink(path.c_str());
   return error;
 }
 

@@ -8,4 +8,7 @@ namespace velra {
 /// writeFileInPlace with the system's error number; 0 on success.
 int writeInPlace(const std::string& path, std::string_view bytes);
 
+/// writeNewFile with the system's error number; 0 on success.
+int writeNew(const std::string& path, std::string_view bytes);
+
 }  // namespace velra
