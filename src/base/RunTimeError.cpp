@@ -45,6 +45,13 @@ const char* usualDescription(ErrorNumber number) {
 RunTimeError::RunTimeError(int number, const std::string& description)
     : std::runtime_error(description), number_(number) {}
 
+RunTimeError RunTimeError::inFile(const std::string& path) const {
+  if (namesFile_) return *this;
+  RunTimeError named(number_, description() + " (" + path + ")");
+  named.namesFile_ = true;
+  return named;
+}
+
 void raise(ErrorNumber number) {
   throw RunTimeError(number, usualDescription(number));
 }

@@ -33,8 +33,13 @@ class RunTimeError : public std::runtime_error {
   int number() const { return number_; }
   std::string description() const { return what(); }
 
+  /// The same error, with the file that was being read behind its description; the first file that
+  /// is named stays the only one.
+  RunTimeError inFile(const std::string& path) const;
+
  private:
   int number_;
+  bool namesFile_ = false;
 };
 
 /// Raises the error with its usual description.

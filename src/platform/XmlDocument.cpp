@@ -1,5 +1,6 @@
 #include "platform/XmlDocument.h"
 
+#include "base/Paths.h"
 #include "platform/Files.h"
 #include "platform/XmlLibrary.h"
 #include "platform/XmlText.h"
@@ -161,9 +162,11 @@ XmlDocument::~XmlDocument() = default;
 
 bool XmlDocument::load(const std::string& path) {
   const FileBytes file = readFile(path);
-  if (file.reason.empty()) return parse(file.bytes, path);
+  if (file.reason.empty() && parse(file.bytes, path)) return true;
   document_.reset();
-  reason_ = file.reason;
+  // Of the many files of a document the reason must tell which.
+  if (!file.reason.empty()) reason_ = file.reason;
+  reason_ += " (" + strAbsolutePath(path) + ")";
   return false;
 }
 

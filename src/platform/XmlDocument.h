@@ -68,7 +68,7 @@ class XmlDocument {
   ~XmlDocument();
 
   /// Replaces the content by the file's. On failure the document is empty and `reason` has one line
-  /// that tells why.
+  /// that tells why, and `load` says in it which file.
   bool load(const std::string& path);
   bool parse(std::string_view bytes, const std::string& path);
 
