@@ -82,11 +82,35 @@ void KeyFrame::InitKeyFrameFile() {
 void KeyFrame::placeBitmap(const std::string& temporary, Chunk& chunk) {
   objKeyframeObject_->setStrTypeOfObject(strExtension(temporary));
   objKeyframeObject_->setBChanged(true);
+  if (!video_.io()->bFileSystem()) return;
+  const std::string reason = moveIntoFolder(temporary, chunk);
+  if (reason.empty()) return;
+  // A full disk costs the picture, not the segment and the work beside it.
+  chunk.strFile.clear();
+  objKeyframeObject_->setBChanged(false);
+  deleteFile(temporary);
+  app_.ui.messageBox("The key frame has no picture: " + reason, BoxKind::Exclamation);
+}
+
+std::string KeyFrame::moveIntoFolder(const std::string& temporary, Chunk& chunk) {
   IOManager& io = *video_.io();
-  if (!io.bFileSystem()) return;
-  chunk.strFile = io.strCreateGUID(app_.gAVDoc->collObjects(), objKeyframeObject_->className(),
-                                   objKeyframeObject_->strTypeOfObject(), app_.gAVDoc->strGUID());
-  UpdateLocationKeyFrameObject(temporary, chunk.strFile);
+  const std::string document = app_.gAVDoc->strGUID();
+  std::string reason = io.strMakeDataFolder(document);
+  while (reason.empty()) {
+    const std::string taken = chunk.strFile;
+    chunk.strFile = io.strCreateGUID(app_.gAVDoc->collObjects(), objKeyframeObject_->className(),
+                                     objKeyframeObject_->strTypeOfObject(), document);
+    try {
+      UpdateLocationKeyFrameObject(temporary, chunk.strFile);
+      return {};
+    } catch (const RunTimeError& error) {
+      io.withdraw(chunk.strFile);
+      // Another program was quicker: the next number is free.
+      const bool next = error.number() == kFileAlreadyExists && chunk.strFile != taken;
+      if (!next) reason = error.description();
+    }
+  }
+  return reason;
 }
 
 std::string KeyFrame::makeBitmap() const {
@@ -100,8 +124,9 @@ std::string KeyFrame::makeBitmap() const {
   try {
     grabFrame(movie, dGetKeyFrameTime(), movieSize(movie), target);
   } catch (const RunTimeError& error) {
-    // A damaged movie costs the picture, not the segment; one sentence for each movie is enough.
-    if (app_.gNotFound.insert(movie).second) {
+    // A damaged movie or a full disk costs the picture, not the segment; one sentence for each
+    // trouble with a movie is enough.
+    if (app_.gNotFound.insert(error.description()).second) {
       app_.ui.messageBox(error.description(), BoxKind::Exclamation);
     }
     return {};

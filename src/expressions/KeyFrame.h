@@ -40,6 +40,8 @@ class KeyFrame {
  private:
   std::string makeBitmap() const;
   void placeBitmap(const std::string& temporary, Chunk& chunk);
+  /// Why the picture could not be brought into the data folder; "" when it was.
+  std::string moveIntoFolder(const std::string& temporary, Chunk& chunk);
 
   ApplicationModule& app_;
   Video& video_;

@@ -38,6 +38,7 @@ void ExpressionBase::LinkFollowers() {
 }
 
 std::shared_ptr<ExpressionBase> ExpressionBase::makeSegment(const std::string& title) {
+  if (!canNameChild()) return nullptr;
   auto segment =
       std::dynamic_pointer_cast<ExpressionBase>(app().objectFactory->createExpression(className()));
   const std::string guid =

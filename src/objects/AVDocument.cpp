@@ -7,8 +7,6 @@
 #include "base/RunTimeError.h"
 #include "objects/CrossLanguageDefaults.h"
 #include "objects/Media.h"
-#include "objects/MediaObject.h"
-#include "objects/OrderedSave.h"
 #include "objects/Storage.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
@@ -21,18 +19,6 @@
 namespace velra {
 
 namespace {
-
-// The picture of a segment goes with its Video to the new place.
-void relocateKeyFrame(Expression& video, ObjectRegistry& objects, IOManager& io,
-                      const std::string& strAVDocPathName) {
-  const auto picture = std::dynamic_pointer_cast<MediaObject>(video.objKeyframeObject());
-  if (!picture || picture->strGUID().empty()) return;
-  const std::string oldGUID = picture->strGUID();
-  const std::string newGUID =
-      io.strCreateGUID(objects, picture->className(), picture->strTypeOfObject(), strAVDocPathName);
-  picture->setStrGUID(newGUID);
-  video.UpdateLocationKeyFrameObject(oldGUID, newGUID);
-}
 
 Version& versionOf(const Storage& storage) {
   const auto media = storage.objParent();
@@ -75,7 +61,13 @@ std::int16_t AVDocument::iAlreadyLoaded(const std::string& guid) {
 std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                                 const std::shared_ptr<IOManager>& io) {
   const IOManager::Opening opening(*io);
-  return LadderObject::strOpen(guid, form, io);
+  std::string message = LadderObject::strOpen(guid, form, io);
+  unlisted_ = io->strUnlisted();
+  if (message.empty() && !unlisted_.empty()) {
+    app().ui.messageBox(unlisted_ + ": the expressions in it are not opened.",
+                        BoxKind::Exclamation);
+  }
+  return message;
 }
 
 void AVDocument::ShowForm(FormOwner& owner) {
@@ -89,79 +81,6 @@ void AVDocument::ShowForm(FormOwner& owner) {
 
 void AVDocument::ShowObjectForm(const std::string& guid, FormOwner& owner) {
   if (const ObjectRef object = collObjects_.find(guid)) object->ShowForm(owner);
-}
-
-bool AVDocument::bSaveAllObjects() {
-  if (!io()->bFileSystem()) return false;
-  // One without changes has nothing to write, so only the others are asked.
-  for (const ObjectRef& object : collObjects_.changedObjects()) {
-    if (object.get() != this && !object->bSave()) return false;
-  }
-  return true;
-}
-
-bool AVDocument::bSave() {
-  if (!bSaveAllObjects()) {
-    app().ui.messageBox(app().LoadResString(1095));
-    return false;
-  }
-  const bool saved = LadderObject::bSave();
-  markRemovedFiles();
-  const std::string failure = io()->strFlush();
-  if (!failure.empty()) app().ui.messageBox(failure, BoxKind::Exclamation);
-  return saved;
-}
-
-void AVDocument::markRemovedFiles() {
-  for (const std::string& guid : colObjRemoved_) io()->RemoveGUID(guid);
-  io()->keepFilesOf(collObjects_);
-}
-
-bool AVDocument::bSaveAs(const std::string& strAVDocPathName) {
-  if (!bRenamedAndSaved(strAVDocPathName)) {
-    app().ui.messageBox(app().LoadResString(1095));
-    return false;
-  }
-  setStrSchemaPath(app().strXSDPath());
-  setStrGUID(strAVDocPathName);
-  const bool saved = secol().bSaveAs(domDoc(), strAVDocPathName, *io());
-  io()->keepFilesOf(collObjects_);
-  const std::string failure = io()->strFlush();
-  if (!failure.empty()) app().ui.messageBox(failure, BoxKind::Exclamation);
-  return saved;
-}
-
-// A folder that cannot be written or a disk that is full ends the command and not the program.
-bool AVDocument::bRenamedAndSaved(const std::string& strAVDocPathName) {
-  try {
-    return bSaveAllObjectsAs(strAVDocPathName);
-  } catch (const RunTimeError& error) {
-    app().ui.messageBox(error.description());
-    return false;
-  }
-}
-
-bool AVDocument::bSaveAllObjectsAs(const std::string& strAVDocPathName) {
-  const IOManager::Naming naming(*io(), strAVDocPathName);
-  const std::string schemaPath = app().strXSDPath();
-  ReferenceIndex& references = collObjects_.references();
-  ReferenceIndex::Batch batch(references);
-  for (const ObjectRef& object : collObjects_.all()) {
-    if (object.get() == this || object->className() == "MediaObject") continue;
-    const std::string newGUID = io()->strCreateGUID(collObjects_, *object, strAVDocPathName);
-    const std::string oldGUID = object->strGUID();
-    object->setStrGUID(newGUID);
-    object->setStrSchemaPath(schemaPath);
-    for (const ObjectRef& holder : references.holdersOf(oldGUID)) {
-      holder->RenameAllRelativesGUID(oldGUID, newGUID);
-    }
-    batch.renamed(oldGUID, newGUID);
-    auto* video = dynamic_cast<Expression*>(object.get());
-    if (video && io()->bFileSystem()) {
-      relocateKeyFrame(*video, collObjects_, *io(), strAVDocPathName);
-    }
-  }
-  return bSaveInDependencyOrder(app(), collObjects_, *this);
 }
 
 void AVDocument::RemoveObject(ObjectRef& removed) {

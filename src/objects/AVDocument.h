@@ -13,6 +13,8 @@
 
 namespace velra {
 
+class SavePoint;
+
 /// The open document: the top of the ladder, the registry of every object that was loaded for it,
 /// and what drives opening and saving.
 class AVDocument : public LadderObject, public OpenDocument {
@@ -34,6 +36,8 @@ class AVDocument : public LadderObject, public OpenDocument {
 
   /// Saves everything under a new path: every object gets a new identifier in the new data folder
   /// and every reference to it follows. The document is to be closed and opened anew afterwards.
+  /// False after a box that tells of the failure; every name and reference is then what it was, and
+  /// what was changed is so still. Files of the copy stay only if its own file names them.
   bool bSaveAs(const std::string& strAVDocPathName);
 
   /// Shows the form of the first object with the identifier; none found: nothing.
@@ -56,14 +60,20 @@ class AVDocument : public LadderObject, public OpenDocument {
   void adopt(DescribedObject& child) override;
 
  private:
+  enum class SaveOutcome { Done, NotWritten, NotSynced };
+
+  bool refused(const std::string& message);
+  void renumber(DescribedObject& object);
   bool bSaveAllObjects();
-  bool bRenamedAndSaved(const std::string& strAVDocPathName);
-  bool bSaveAllObjectsAs(const std::string& strAVDocPathName);
+  SaveOutcome saveAsFrom(SavePoint& before, const std::string& strAVDocPathName);
+  bool bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName);
+  bool bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName);
   void noteRemoved(const ObjectRef& removed);
   void markRemovedFiles();
 
   CloseLists collCloseListTypes_;
   DocumentSchemas schemas_;
+  std::string unlisted_;  // which folder was not searched when it was opened, and why
   // A vector that grows makes the allocator sweep all that a removal has freed so far.
   std::deque<std::string> colObjRemoved_;
   ObjectRegistry collObjects_;  // last: its objects go first

@@ -67,6 +67,7 @@ void LadderObject::attach(const ObjectRef& child) {
 }
 
 void LadderObject::AddChild(const std::string& title) {
+  if (!canNameChild()) return;
   const ObjectRef child = app().objectFactory->createObject(rules().childClass);
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *child, document().strGUID());

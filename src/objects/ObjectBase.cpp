@@ -5,6 +5,7 @@
 
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
+#include "platform/UserInterface.h"
 #include "protocol/MainWindow.h"
 #include "protocol/ObjectFactory.h"
 #include "protocol/OpenDocument.h"
@@ -116,12 +117,16 @@ std::string ObjectBase::loadFields(const std::string& guid) {
 std::string ObjectBase::strLoadXML(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                                    const std::shared_ptr<IOManager>& io) {
   io_ = io;
-  std::string message = loadFields(guid);
-  if (!message.empty()) return message;
-  if (io_->bFileSystem()) strInitGUID(guid);
-  bindForm(form);
-  registerSelf();
-  afterLoad();
+  try {
+    std::string message = loadFields(guid);
+    if (!message.empty()) return message;
+    if (io_->bFileSystem()) strInitGUID(guid);
+    bindForm(form);
+    registerSelf();
+    afterLoad();
+  } catch (const RunTimeError& error) {
+    throw error.inFile(guid);
+  }
   return {};
 }
 
@@ -134,7 +139,11 @@ std::string ObjectBase::strOpen(const std::string& guid, const std::shared_ptr<O
                                         std::to_string(document().collObjects().Count()) + " (" +
                                         strTitle() + ")");
   }
-  openBelow();
+  try {
+    openBelow();
+  } catch (const RunTimeError& error) {
+    throw error.inFile(guid);
+  }
   return {};
 }
 
@@ -213,6 +222,12 @@ std::string ObjectBase::strRemoveAllChilds() {
 const ObjectList& ObjectBase::colChilds() const {
   static const ObjectList kNone;
   return kNone;
+}
+
+bool ObjectBase::canNameChild() const {
+  const std::string message = io_->strMakeDataFolder(document().strGUID());
+  if (!message.empty()) app_.ui.messageBox(message);
+  return message.empty();
 }
 
 std::string ObjectBase::schemaPrefix() const {

@@ -92,6 +92,9 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   InstanceDocument& domDoc() { return domDoc_; }
   const std::shared_ptr<const SchemaFile>& domSchema() const { return domSchema_; }
 
+  /// True when the folder for a new object below this one is there; else a box has told why not.
+  bool canNameChild() const;
+
   /// The prefix that new objects below this one are made with.
   std::string schemaPrefix() const;
 

@@ -77,6 +77,7 @@ void Version::AddMainExpression(const std::string& title, const std::string& ofC
                                 double dEnd) {
   ExpressionRef* place = mainExpression(ofClass);
   if (!place) raise(kInvalidArgument, ofClass);
+  if (!canNameChild()) return;
   *place = app().objectFactory->createExpression(ofClass);
   const ExpressionRef expression = *place;
   tellReferences();

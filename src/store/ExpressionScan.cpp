@@ -60,6 +60,7 @@ FolderScan& IOManager::scanOf(const std::string& folder) {
   FolderScan& scan = scans_.try_emplace(key, key).first->second;
   const bool fresh = openings_ > 0 && !fresh_.insert(key).second;
   if (!fresh) scan.refresh(app_, *app_.gAVDoc);
+  if (!scan.reason().empty()) unlisted_ = key + " cannot be listed (" + scan.reason() + ")";
   return scan;
 }
 
@@ -101,7 +102,7 @@ bool IOManager::considerFile(const std::string& path, const ScannedFile& file,
   record.strGUID = loaded ? loaded->strGUID() : path;
   if (std::find(classes.begin(), classes.end(), record.strType) == classes.end()) return false;
   if (loaded) return bRelated(*loaded, relation, strClass, strGUID);
-  if (file.error) throw RunTimeError(*file.error);
+  if (file.error) throw file.error->inFile(path);
   if (!file.message.empty()) app_.ui.messageBox(file.message);
   return file.message.empty();
 }

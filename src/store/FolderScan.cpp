@@ -63,7 +63,9 @@ void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocumen
 
 void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
   std::vector<ScannedFile> before = std::exchange(files_, {});
-  for (std::string& name : colListFiles(folder_ + "*.xml")) {
+  FolderListing listing = listFiles(folder_ + "*.xml");
+  reason_ = std::move(listing.reason);
+  for (std::string& name : listing.names) {
     ScannedFile file;
     file.name = std::move(name);
     files_.push_back(std::move(file));

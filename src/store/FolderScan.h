@@ -52,6 +52,9 @@ class FolderScan {
   /// Lists the folder anew, reads what is not loaded and not known, and builds the index.
   void refresh(ApplicationModule& app, OpenDocument& document);
 
+  /// Why the folder could not be listed; "" when it could.
+  const std::string& reason() const { return reason_; }
+
   /// The relation that a search follows.
   enum class Relation { Own, PartOf };
 
@@ -78,6 +81,7 @@ class FolderScan {
   void index();
 
   std::string folder_;
+  std::string reason_;
   std::vector<ScannedFile> files_;
   std::unordered_map<std::string, std::size_t> byName_;
   std::unordered_map<std::string, std::vector<std::size_t>> byRelation_;

@@ -1,10 +1,5 @@
 #include "store/IOManager.h"
 
-#include <sys/random.h>
-
-#include <array>
-#include <cstdint>
-#include <cstdio>
 #include <utility>
 
 #include "app/ApplicationModule.h"
@@ -20,12 +15,6 @@
 #include "store/ObjectRegistry.h"
 
 namespace velra {
-
-std::string dataFolderOf(const std::string& strAVDocPathName) {
-  std::string folder;
-  const std::string base = strSplitPath(strAVDocPathName, folder);
-  return withSeparator(strAbsolutePath(folder)) + base + "_files/";
-}
 
 IOManager::IOManager(ApplicationModule& app) : app_(app) {}
 
@@ -58,16 +47,13 @@ std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, const std::str
   std::string folder;
   const std::string base = strSplitPath(strAVDocPathName, folder);
   if (className == "AVDocument") return withSeparator(strAbsolutePath(folder)) + base + ".xml";
-  const std::string dataFolder = dataFolderOf(strAVDocPathName);
-  if (!bFolderExists(dataFolder)) {
-    std::string message = strMakeFolder(app_, dataFolder);
-    if (!message.empty()) return message;
-  }
+  std::string message = strMakeDataFolder(strAVDocPathName);
+  if (!message.empty()) return message;
   collObjects.setFreedListener([self = weak_from_this()](const std::string& key) {
     if (const auto io = self.lock()) io->numbers_.freed(key);
   });
-  return numbers_.take(collObjects, dataFolder + base + "_" + asciiLower(className),
-                       "." + extension);
+  const std::string prefix = dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(className);
+  return *promised_.insert(numbers_.take(collObjects, prefix, "." + extension)).first;
 }
 
 std::string IOManager::strOpen(XmlDocument& objDOMDocument, const std::string& strGUID) {
@@ -78,9 +64,13 @@ std::string IOManager::strOpen(XmlDocument& objDOMDocument, const std::string& s
 }
 
 std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::string& strGUID) {
+  saveFailure_.clear();
   if (!bFileSystem_) return {};
-  const std::string failure = writeFileInPlace(strGUID, objDOMDocument.bytes());
-  if (!failure.empty()) return failure + " (" + strGUID + ")";
+  // A file that came under a promised name since is another program's.
+  saveFailure_ = isPromised(strGUID) ? writeNewFile(strGUID, objDOMDocument.bytes())
+                                     : writeFileInPlace(strGUID, objDOMDocument.bytes());
+  if (!saveFailure_.empty()) return saveFailure_ += " (" + strGUID + ")";
+  promised_.erase(strGUID);
   unflushedFolder_ = folderOf(strGUID);
   return {};
 }
@@ -107,7 +97,13 @@ std::string IOManager::strSync() {
 }
 
 std::string IOManager::strDeleteFile(const std::string& strGUID) {
-  return bFileSystem_ ? deleteFile(strGUID) : std::string();
+  return bFileSystem_ && !isPromised(strGUID) ? deleteFile(strGUID) : std::string();
+}
+
+void IOManager::withdraw(const std::string& strGUID) {
+  strDeleteFile(strGUID);
+  promised_.erase(strGUID);
+  numbers_.fileWent(strGUID);
 }
 
 std::string IOManager::strWhatIs(const std::string& strGUID) {
@@ -131,13 +127,17 @@ void IOManager::MoveObject(const std::string& source, const std::string& destina
   MoveFileTo(from, to);
   numbers_.fileWent(from);
   numbers_.fileCame(to);
+  promised_.erase(to);
 }
 
 void IOManager::CopyObject(const std::string& source, const std::string& destination) {
   if (!bFileSystem_) return;
   const std::string to = strAbsolutePath(destination);
+  // Copying replaces, and what has come under a promised name is another program's.
+  if (isPromised(to) && bFileExists(to)) raise(kFileAlreadyExists, to);
   CopyFileTo(strAbsolutePath(source), to);
   numbers_.fileCame(to);
+  promised_.erase(to);
 }
 
 bool IOManager::checkConsistency(ObjectRegistry& collObjects) const {
@@ -151,7 +151,9 @@ IOManager::Opening::Opening(IOManager& io) : io_(io) {
   if (io_.app_.gAVDoc) {
     hold_ = std::make_unique<DocumentSchemas::Hold>(io_.app_.gAVDoc->schemas());
   }
-  if (io_.openings_++ == 0) io_.fresh_.clear();
+  if (io_.openings_++ > 0) return;
+  io_.fresh_.clear();
+  io_.unlisted_.clear();
 }
 
 IOManager::Opening::~Opening() {
@@ -161,28 +163,5 @@ IOManager::Opening::~Opening() {
 
 IOManager::Naming::Naming(IOManager& io, const std::string& strAVDocPathName)
     : listing_(io.numbers_, dataFolderOf(strAVDocPathName)) {}
-
-std::string strMakeFolder(const ApplicationModule& app, const std::string& path) {
-  std::string name = path;
-  while (name.size() > 1 && name.back() == '/') name.pop_back();
-  const bool taken = fileStamp(name).exists;
-  const std::string reason = taken ? std::string() : makeFolder(name);
-  if (!taken && reason.empty()) return {};
-  return app.LoadResString(1094) + " " + path + " (" + reason + ")";
-}
-
-std::string strMakeGUIDText() {
-  std::array<std::uint8_t, 16> bytes{};
-  if (::getrandom(bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size())) {
-    raise(kInvalidArgument, "random bytes");
-  }
-  std::string text;
-  for (const std::uint8_t byte : bytes) {
-    char digits[3];
-    std::snprintf(digits, sizeof digits, "%02x", byte);
-    text += digits;
-  }
-  return text;
-}
 
 }  // namespace velra

@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "protocol/DescribedObject.h"
@@ -49,8 +50,28 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   std::string strCreateGUID(ObjectRegistry& collObjects, const std::string& className,
                             const std::string& extension, const std::string& strAVDocPathName);
 
+  /// Makes the data folder of a document when it is missing; the message that tells why not, or "".
+  /// Whoever wants a name asks this first, or takes that message for a name.
+  std::string strMakeDataFolder(const std::string& strAVDocPathName) const;
+
+  /// True for a name that was given to a new object or picture and under which this manager has
+  /// written nothing yet. What lies there all the same is another program's.
+  bool isPromised(const std::string& strGUID) const { return promised_.contains(strGUID); }
+  /// Makes a name one of these again, after a save that was taken back.
+  void promise(const std::string& strGUID) { promised_.insert(strGUID); }
+  /// Takes such a name back. What this manager has written under it goes; another program's file
+  /// stays.
+  void withdraw(const std::string& strGUID);
+
   std::string strOpen(XmlDocument& objDOMDocument, const std::string& strGUID) override;
   std::string strSave(const XmlWriter& objDOMDocument, const std::string& strGUID) override;
+
+  /// Why the last strSave failed; "" when it did not.
+  const std::string& strSaveFailure() const { return saveFailure_; }
+
+  /// Which folder could not be searched for expressions since the opening began, and why; "" when
+  /// all could.
+  const std::string& strUnlisted() const { return unlisted_; }
 
   /// Brings what was saved since the last call to the disk. The failure's description, or "".
   std::string strFlush();
@@ -141,6 +162,9 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   int openings_ = 0;
   int depth_ = 0;  // of the expression that is being opened
   std::string unflushedFolder_;
+  std::unordered_set<std::string> promised_;  // names of files that are still to be made
+  std::string saveFailure_;
+  std::string unlisted_;
 };
 
 /// The folder that holds all other files of a document, with a separator at its end.

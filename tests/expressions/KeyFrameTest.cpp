@@ -11,6 +11,7 @@
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
 #include "support/DocumentSession.h"
+#include "support/Faults.h"
 
 namespace velra {
 namespace {
@@ -74,6 +75,14 @@ TEST_F(KeyFrames, SaveAsOverItselfMovesNewPicturesAndCopiesSavedOnes) {
   openWithMovie();
   main_->AddSubExpression("a", 0, 0.2);
   main_->AddSubExpression("b", 0.2, 0.4);
+  const auto before = session_.folder.snapshot();
+  for (const char* target : {"copy.xml", "film.xml"}) {
+    const test::SizeLimit noRoom(450);
+    EXPECT_FALSE(session_.document()->bSaveAs(session_.folder / target));
+    EXPECT_TRUE(session_.folder.snapshot() == before) << "all pictures are back after " << target;
+    EXPECT_EQ(pictureOf(0) + pictureOf(1), picture(1) + picture(2));
+    EXPECT_TRUE(main_->colSubExpressions()[1]->objKeyframeObject()->bChanged());
+  }
   EXPECT_TRUE(session_.document()->bSaveAs(session_.files.documentPath()));
   // The first leaves number 1, which the second takes.
   EXPECT_EQ(pictureOf(0), picture(3));
@@ -110,6 +119,42 @@ TEST_F(KeyFrames, AMissingOrDamagedMovieCostsOneWarningAndThePicture) {
     EXPECT_EQ(pictureOf(0), "");
     EXPECT_TRUE(main_->colSubExpressions()[0]->picKeyFrame().empty());
     EXPECT_EQ(main_->colSubExpressions().size(), 2U);
+  }
+}
+
+TEST_F(KeyFrames, AFullDiskCostsThePictureAndNotTheSegment) {
+  const std::string folder = session_.folder / "film_files";
+  const struct {
+    const char* what;
+    rlim_t largestFile;
+    bool readOnly;
+    std::string shown;
+  } cases[] = {
+      {"no room for the picture", 2000, false, "exclamation: " + strTempPath()},
+      {"a data folder that takes no file", RLIM_INFINITY, true,
+       "exclamation: The key frame has no picture: Permission denied: " + picture(1)},
+  };
+  for (const auto& one : cases) {
+    SCOPED_TRACE(one.what);
+    openWithMovie();
+    std::filesystem::permissions(folder, std::filesystem::perms(one.readOnly ? 0500 : 0700));
+    {
+      const test::SizeLimit limit(one.largestFile);
+      const test::OrdinaryPerson without;
+      main_->AddSubExpression("a", 0.2, 0.6);
+    }
+    std::filesystem::permissions(folder, std::filesystem::perms(0700));
+    const Texts shown = session_.takeShown();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].substr(0, one.shown.size()), one.shown);
+    EXPECT_EQ(pictureOf(0), "");
+    main_->AddSubExpression("b", 0.6, 0.8);
+    EXPECT_EQ(pictureOf(1), picture(1));
+    EXPECT_TRUE(session_.document()->bSave());
+    ASSERT_EQ(session_.open(session_.files.documentPath()), "");
+    EXPECT_EQ(session_.expression("video1")->colSubExpressions().size(), 2U);
+    session_.close();
+    std::filesystem::remove_all(folder);
   }
 }
 

@@ -161,6 +161,16 @@ TEST_F(ObjectFailures, WhatCannotBeMadeIsNotAttached) {
     EXPECT_EQ(session_.open(session_.files.documentPath()), "");
     const ExpressionRef video = session_.version("version1")->vdMainVideo();
     const std::size_t count = session_.document()->collObjects().Count();
+    // Without its folder nothing of it is made, not even a place.
+    const std::string folder = session_.folder / "film_files";
+    std::filesystem::rename(folder, folder + ".aside");
+    session_.folder.write("film_files", "in the way");
+    one.make();
+    expectShown({"plain: Errore nella creazione della directory: ~/film_files/ ()"});
+    EXPECT_EQ(session_.version("version1")->vdMainVideo(), video);
+    std::filesystem::remove(folder);
+    std::filesystem::rename(folder + ".aside", folder);
+
     session_.useSchema(without(one.className));
     one.make();
     expectShown({"plain: " + undeclared(one.className)});

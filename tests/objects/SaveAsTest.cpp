@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 
 #include "base/RunTimeError.h"
@@ -9,8 +11,23 @@
 #include "store/IOManager.h"
 #include "support/DocumentSession.h"
 #include "support/DocumentState.h"
+#include "support/Faults.h"
 #include "support/FirstDifference.h"
 #include "support/RandomDocument.h"
+#include "support/ShownBoxes.h"
+
+namespace {
+
+bool syncFails = false;
+
+}  // namespace
+
+/// In place of the system's, since no disk fails on demand.
+extern "C" int syncfs(int file) noexcept {
+  if (!syncFails) return static_cast<int>(::syscall(SYS_syncfs, file));
+  errno = ENOSPC;
+  return -1;
+}
 
 namespace velra {
 namespace {
@@ -64,8 +81,10 @@ TEST(SaveAs, RenamesAsThePlainRuleDoesOnGeneratedDocuments) {
     const Texts plain = statesBelow(*session.document());
     session.close();
     ASSERT_EQ(session.open(session.files.documentPath()), "");
-    session.document()->bSaveAs(target);  // false where segments follow one another in a ring
-    EXPECT_EQ(test::firstDifference(statesBelow(*session.document()), plain), "");
+    const Texts before = statesBelow(*session.document());
+    // Where segments follow one another in a ring there is no order, and all is as it was.
+    const bool saved = session.document()->bSaveAs(target);
+    EXPECT_EQ(test::firstDifference(statesBelow(*session.document()), saved ? plain : before), "");
     EXPECT_TRUE(session.document()->collObjects().checkConsistency());
     EXPECT_TRUE(session.document()->collObjects().references().checkConsistency());
     EXPECT_TRUE(session.document()->io()->checkConsistency(session.document()->collObjects()));
@@ -102,49 +121,122 @@ TEST(SaveAs, GivesTheWholeLayoutAndLeavesTheOldFilesAlone) {
   EXPECT_EQ(after.at("other place/copy.xml").find("film"), std::string::npos);
 }
 
-/// Makes every write beyond a size fail while it lives.
-class SizeLimit {
- public:
-  explicit SizeLimit(rlim_t bytes) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~SizeLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
-  SizeLimit(const SizeLimit&) = delete;
-  SizeLimit& operator=(const SizeLimit&) = delete;
+/// A document with a change, a new object and a segment.
+void openEdited(DocumentSession& session) {
+  session.files.smallLadder();
+  session.files.segment("video2", "video1", 0, 1000);
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  session.object("media1")->setStrTitle(std::string(900, 'x'));
+  session.document()->AddChild("new");
+  session.takeShown();  // the movie of the segment is missing
+}
 
- private:
-  rlimit before_{};
-};
-
-TEST(SaveAs, ATargetThatCannotBeWrittenIsReportedAndNothingIsLost) {
+TEST(SaveAs, AFailedOneLeavesEveryNameAndChangeAndTheNextFindsAllObjects) {
+  const rlim_t any = RLIM_INFINITY;
   const struct {
     const char* what;
-    bool fileInPlaceOfFolder;
+    std::string inTheWay;  // a file, or a folder with a slash
     rlim_t largestFile;
+    bool syncFails;
+    std::string shown;
   } cases[] = {
-      {"a file in place of the data folder", true, RLIM_INFINITY},
-      {"no room", false, 100},
+      {"no data folder", "copy_files", any, false, "Errore nella creazione della directory: ~..."},
+      {"no room", "", 100, false, "File too large (~/copy_files/..."},
+      {"no room for one object", "", 1000, false, "File too large (~/copy_files/copy_media1.xml)"},
+      {"the document's own file", "copy.xml/", any, false, "Is a directory (~/copy.xml)"},
+      {"a disk that fails at the end", "", any, true, "No space left on device (~/copy.xml)"},
   };
   for (const auto& one : cases) {
-    SCOPED_TRACE(one.what);
-    DocumentSession session;
-    session.files.smallLadder();
-    ASSERT_EQ(session.open(session.files.documentPath()), "");
-    const auto before = session.folder.snapshot();
-    if (one.fileInPlaceOfFolder) session.folder.write("copy_files", "in the way");
-    {
-      const SizeLimit limit(one.largestFile);
-      EXPECT_FALSE(session.document()->bSaveAs(session.folder / "copy.xml"));
+    for (const bool again : {false, true}) {
+      SCOPED_TRACE(std::string(one.what) + (again ? ", Save As again" : ", Save"));
+      DocumentSession session;
+      openEdited(session);
+      const Texts state = stateOf(*session.document());
+      const auto files = session.folder.snapshot();
+      const std::string copy = session.folder / "copy.xml";
+      const std::string inTheWay = session.folder / one.inTheWay;
+      if (one.inTheWay.ends_with('/')) fs::create_directory(inTheWay);
+      if (one.inTheWay.ends_with('s')) session.folder.write(one.inTheWay, "");
+      {
+        const test::SizeLimit limit(one.largestFile);
+        syncFails = one.syncFails;
+        EXPECT_FALSE(session.document()->bSaveAs(copy));
+        syncFails = false;
+      }
+      Texts shown = session.takeShown();
+      shown.resize(1);  // a second box says that not all was saved
+      EXPECT_TRUE(test::sameBoxes(shown, {"plain: " + one.shown}, session.folder.path()))
+          << shown[0];
+      EXPECT_EQ(test::firstDifference(stateOf(*session.document()), state), "");
+      if (!one.inTheWay.empty()) fs::remove(inTheWay);
+      // What a failing disk holds of the copy nobody knows, so it stays.
+      if (!one.syncFails) {
+        EXPECT_TRUE(session.folder.snapshot() == files);
+      }
+      EXPECT_EQ(fs::exists(session.folder / "copy_files"), one.syncFails);
+
+      EXPECT_TRUE(again ? session.document()->bSaveAs(copy) : session.document()->bSave());
+      session.close();
+      ASSERT_EQ(session.open(again ? copy : session.files.documentPath()), "");
+      EXPECT_EQ(session.document()->collObjects().Count(), state.size());
+      const ObjectRef media = session.document()->colChilds()[0]->colChilds()[0];
+      EXPECT_EQ(media->strTitle().size(), 900U);
     }
-    const Texts shown = session.takeShown();
-    ASSERT_EQ(shown.size(), 2U);
-    EXPECT_EQ(shown.back(), "plain: One or more objects cannot be saved");
-    session.close();
-    for (const auto& [name, bytes] : before) EXPECT_EQ(session.folder.read(name), bytes) << name;
-    EXPECT_FALSE(bFileExists(session.folder / "copy.xml"));
   }
+}
+
+TEST(SaveAs, ASaveThatDoesNotReachTheDiskHasFailed) {
+  DocumentSession session;
+  openEdited(session);
+  const Texts state = stateOf(*session.document());
+  syncFails = true;
+  EXPECT_FALSE(session.document()->bSave());
+  syncFails = false;
+  EXPECT_EQ(session.takeShown().size(), 2U);
+  EXPECT_EQ(test::firstDifference(stateOf(*session.document()), state), "");
+  EXPECT_TRUE(session.document()->bSave());
+  EXPECT_TRUE(session.document()->collObjects().changedObjects().empty());
+}
+
+TEST(SaveAs, FilesThatCameFromElsewhereAreNeitherOverwrittenNorDeleted) {
+  DocumentSession session;
+  openEdited(session);
+  ObjectRef removed = session.object("version2");
+  session.document()->AddChild("later");
+  const std::string theirs = "<Version><VersionTitle>theirs</VersionTitle></Version>";
+  for (const char* name : {"version2", "version3"}) {
+    session.files.writeRaw(std::string("film_") + name + ".xml", theirs);
+  }
+  session.document()->RemoveObject(removed);
+  EXPECT_TRUE(session.document()->bSave());
+  EXPECT_TRUE(session.takeShown().empty());
+  session.close();
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  EXPECT_EQ(session.document()->colChilds().size(), 2U);
+  EXPECT_EQ(session.object("version4")->strTitle(), "later");
+  for (const char* name : {"version2", "version3"}) {
+    EXPECT_EQ(session.folder.read(std::string("film_files/film_") + name + ".xml"), theirs);
+  }
+}
+
+TEST(SaveAs, AFolderThatCannotBeListedIsToldOfAndRefusesACopy) {
+  DocumentSession session;
+  session.files.smallLadder();
+  const auto before = session.folder.snapshot();
+  const std::string folder = session.folder / "film_files";
+  fs::permissions(folder, fs::perms::owner_write | fs::perms::owner_exec);
+  {
+    const test::OrdinaryPerson without;
+    ASSERT_EQ(session.open(session.files.documentPath()), "");
+  }
+  fs::permissions(folder, fs::perms::owner_all);
+  EXPECT_FALSE(session.document()->bSaveAs(session.folder / "copy.xml"));
+  const std::string unlisted = folder + "/ cannot be listed (Permission denied): ";
+  EXPECT_EQ(session.takeShown(),
+            (Texts{"exclamation: " + unlisted + "the expressions in it are not opened.",
+                   "plain: " + unlisted + "Save As would leave out the expressions in it."}));
+  session.close();
+  EXPECT_EQ(session.folder.snapshot(), before);
 }
 
 }  // namespace

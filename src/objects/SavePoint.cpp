@@ -1,0 +1,102 @@
+#include "objects/SavePoint.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/RunTimeError.h"
+#include "objects/MediaObject.h"
+#include "platform/Files.h"
+#include "protocol/ClassRules.h"
+#include "schema/SEColl.h"
+#include "store/IOManager.h"
+
+namespace velra {
+
+namespace {
+
+bool holdsNames(const SchemaElement& field, const ClassRules& rules) {
+  const std::string& name = field.strLowerName();
+  const auto& single = rules.singleReferences;
+  return field.strName() == rules.identityField || name == rules.relationField ||
+         name == "manifestedby" || field.strName() == MediaObject::kVideoField ||
+         std::find(single.begin(), single.end(), name) != single.end();
+}
+
+}  // namespace
+
+SavePoint::SavePoint(const ObjectList& objects) : objects_(objects) {
+  for (const ObjectRef& object : objects_) {
+    const std::string guid = object->strGUID();
+    if (const auto io = object->io(); io && io->isPromised(guid)) promised_.push_back(guid);
+    if (auto picture = std::dynamic_pointer_cast<MediaObject>(object)) {
+      if (picture->bChanged()) newPictures_.push_back(std::move(picture));
+    } else {
+      keepFields(*object);
+    }
+  }
+}
+
+void SavePoint::keepFields(const DescribedObject& object) {
+  const ClassRules& rules = *findClassRules(object.className());
+  for (SchemaElement& field : object.secol()) {
+    const bool names = holdsNames(field, rules);
+    if (!names && !field.bChanged()) continue;
+    const auto span = asChunk(field.vContent());
+    fields_.push_back({&field, field.bChanged(), names, names ? field.vContent() : Value(),
+                       span ? span->strFile : std::string()});
+  }
+}
+
+void SavePoint::relocated(const std::shared_ptr<MediaObject>& picture, const std::string& from,
+                          const std::string& to) {
+  relocations_.push_back({picture, from, to});
+}
+
+void SavePoint::restoreFields() {
+  for (Field& kept : fields_) {
+    if (kept.holdsNames) {
+      if (const auto span = asChunk(kept.content)) span->strFile = kept.picture;
+      kept.field->setVContent(kept.content);
+    }
+    kept.field->setBChanged(kept.changed);
+  }
+  for (const auto& picture : newPictures_) picture->setBChanged(true);
+}
+
+// True when the picture has left its new name.
+bool SavePoint::bringBack(IOManager& io, const Relocation& one, bool filesStay) {
+  const bool moved =
+      std::find(newPictures_.begin(), newPictures_.end(), one.picture) != newPictures_.end();
+  try {
+    if (!moved) {
+      if (!filesStay) io.withdraw(one.to);
+    } else if (!filesStay) {
+      io.MoveObject(one.to, one.from);
+    } else if (!bFileExists(one.from)) {
+      io.CopyObject(one.to, one.from);
+    } else {
+      return false;  // a picture of the copy lies there
+    }
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+void SavePoint::restore(IOManager& io, bool filesStay) {
+  std::vector<Relocation> stranded;
+  // Backward, since a picture may have taken the name that an earlier one left.
+  for (auto at = relocations_.rbegin(); at != relocations_.rend(); ++at) {
+    if (!bringBack(io, *at, filesStay)) stranded.push_back(*at);
+    std::erase(newNames_, at->to);
+  }
+  restoreFields();
+  // A picture that cannot come back is kept where it is rather than lost.
+  for (const Relocation& one : stranded) one.picture->setStrGUID(one.to);
+  for (const std::string& name : newNames_) {
+    if (!filesStay) io.withdraw(name);
+  }
+  for (const std::string& name : promised_) io.promise(name);
+}
+
+}  // namespace velra
