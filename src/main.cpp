@@ -39,13 +39,6 @@ void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
   }
 }
 
-// The document goes while the windows that it may report to are still there.
-void releaseDocument(ApplicationModule& app, frmMain& rules) {
-  rules.tvwMainTree.clear();
-  rules.tvwExpression.clear();
-  app.gAVDoc.reset();
-}
-
 int run(const std::string& commandLine) {
   const InterfaceLanguage language = interfaceLanguage(environmentLocale());
   QTranslator translator;
@@ -67,7 +60,7 @@ int run(const std::string& commandLine) {
 
   Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
   const int status = QCoreApplication::exec();
-  releaseDocument(app, rules);
+  rules.releaseDocument();  // while the windows that it may report to are still there
   return status;
 }
 

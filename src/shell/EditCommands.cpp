@@ -136,10 +136,15 @@ void frmMain::mnuAddChild() {
   const ObjectRef object = node->Tag;
   const std::string answer = askNewChild(*object);
   if (answer.empty()) return;
+  const auto version = versionHolding(app_.gAVDoc->collObjects(), *object);
+  const bool hadDuration = !version || version->dDuration() != 0;
   if (object->className() == "Media" && !movieFits(*object, answer)) return;
   const auto parent = std::dynamic_pointer_cast<LadderObject>(object);
   if (!parent) return;
+  const std::size_t before = parent->colChilds().size();
   parent->AddChild(answer);
+  const bool refused = parent->colChilds().size() == before;
+  if (refused && !hadDuration) version->ResetDuration();  // that of a movie which is not there
   ResetTree(TreeId::tvwMainTree, nullptr);
   tvwMainTree.ExpandToObject(*object);
   tvwMainTree.makeCurrent(*object);

@@ -126,6 +126,7 @@ void frmMain::openOrFindDocument(const std::string& path, const std::shared_ptr<
   // The file may be an object of a document.
   const std::string document = documentOf(path, *io);
   if (document.empty()) {
+    setStrStatusBarText(path + ": " + message);  // not every message names the file
     app_.ui.messageBox(message, BoxKind::Exclamation);
   } else {
     openWithWantedObject(path, document, io);
@@ -165,11 +166,15 @@ void frmMain::CloseDocument(bool bNoPrompt, bool& goOn) {
   const bool changed = !app_.gAVDoc->collObjects().changedObjects().empty();
   goOn = !changed || bNoPrompt || saveQuestionAnswered();
   if (!goOn) return;
+  releaseDocument();
+  ResetListImageExpression();
+}
+
+void frmMain::releaseDocument() {
   tvwMainTree.clear();
   tvwExpression.clear();
-  MarkUnsavedMediaObjects();
+  if (app_.gAVDoc) MarkUnsavedMediaObjects();
   app_.gAVDoc.reset();
-  ResetListImageExpression();
 }
 
 // Pictures that no saved object points at go with the document.

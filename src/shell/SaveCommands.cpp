@@ -42,10 +42,17 @@ void frmMain::SaveDocumentAs() {
   const std::string base = strSplitPath(former, folder);
   const std::string path = GetFileName(folder + base);
   if (path.empty()) return;
+  const std::string title = app_.gAVDoc->strTitle();
   app_.gAVDoc->setStrTitle(strSplitPath(path, folder));
+  bool saved = false;
   {
     const auto busy = app_.ui.showBusy();
-    if (!avDocument()->bSaveAs(path)) return;
+    saved = avDocument()->bSaveAs(path);
+  }
+  if (!saved) {
+    // The title is the cataloguer's again, and a document without a file stays one.
+    app_.gAVDoc->setStrTitle(title);
+    return;
   }
   bool goOn = false;
   CloseDocument(true, goOn);

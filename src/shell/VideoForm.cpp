@@ -5,9 +5,11 @@
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "forms/FormTabs.h"
+#include "platform/UserInterface.h"
 #include "protocol/MainWindow.h"
 #include "shell/LoadedVideoForm.h"
 #include "shell/VideoFormFace.h"
+#include "values/TimeCode.h"
 
 namespace velra {
 
@@ -26,6 +28,25 @@ class Setting {
   T*& place_;
   T* before_;
 };
+
+bool hasShowableTimes(const Expression& expression) {
+  const auto span = expression.ckGetChunk();
+  try {
+    if (span) SplitTimeCode(span->dStart, 0);
+    if (span) SplitTimeCode(span->dend, 0);
+  } catch (const RunTimeError&) {
+    return false;
+  }
+  return true;
+}
+
+// That of the first segment in which a time is too long, else that of the expression itself.
+std::string fileOfTooLongTime(const Expression& expression) {
+  for (const ExpressionRef& segment : expression.colSubExpressions()) {
+    if (!hasShowableTimes(*segment)) return segment->strGUID();
+  }
+  return expression.strGUID();
+}
 
 }  // namespace
 
@@ -60,9 +81,23 @@ ExpressionRef VideoForm::showOnce(FormOwner& owner) {
   const std::unique_ptr<VideoFormFace> face = services_.faces.makeVideoForm(owner);
   LoadedVideoForm form(services_, obj_.lock(), *arrTabScroll_, *face);
   const Setting mark(loaded_, &form);
-  if (!form.Form_Load()) return nullptr;
+  if (!loads(form)) return nullptr;
   face->showModally();
   return form.next();
+}
+
+// A number that no cataloguer would type costs the form and not the program.
+bool VideoForm::loads(LoadedVideoForm& form) {
+  try {
+    return form.Form_Load();
+  } catch (const RunTimeError& error) {
+    if (error.number() != kOverflow) throw;
+    services_.app.ui.messageBox(fileOfTooLongTime(*obj_.lock()) +
+                                    " holds a number that cannot be " +
+                                    "shown: " + error.description(),
+                                BoxKind::Exclamation);
+    return false;
+  }
 }
 
 VideoForm::Wanted VideoForm::formOf(const ExpressionRef& obj, FormOwner& owner) {

@@ -51,6 +51,7 @@ class VideoForm : public ObjectForm {
   using Wanted = VideoFormServices::Wanted;
 
   ExpressionRef showOnce(FormOwner& owner);
+  bool loads(LoadedVideoForm& form);
   Wanted formOf(const ExpressionRef& obj, FormOwner& owner);
 
   VideoFormServices& services_;

@@ -70,6 +70,9 @@ class frmMain : public MainWindow {
   void mnuImportToFS();
   /// Shows the document, with its node as if it had been clicked: the keyboard begins there.
   void ShowAVDocTitle();
+  /// The document goes without a question, and with it the pictures that no saved object points at:
+  /// the last step of a program that ends as it should.
+  void releaseDocument();
 
   // The Edit menu.
   void ContexMenuManager(const DescribedObject& object, bool fromMainTree);

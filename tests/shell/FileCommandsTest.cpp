@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
+#include "objects/MediaObject.h"
 #include "store/IOManager.h"
 #include "store/ObjectRegistry.h"
 
@@ -65,6 +66,18 @@ TEST(FileCommands, OpeningAnObjectsFileOpensItsDocumentAndFirstShowsTheObjectsFo
     EXPECT_EQ(program.expressionForms.size(), 1u) << name;
     EXPECT_EQ(program.texts(TreeId::tvwMainTree).size(), 10u) << name;
   }
+}
+
+TEST(FileCommands, LeavingTakesThePicturesThatNothingSavedNames) {
+  Program program;
+  program.mainForm.OpenFile(program.sample());
+  auto expected = program.folder.snapshot();
+  std::dynamic_pointer_cast<MediaObject>(program.expression("video3")->objKeyframeObject())
+      ->setBChanged(true);
+  expected.erase("sample/lighthouse_files/lighthouse_mediaobject2.bmp");
+  program.mainForm.releaseDocument();
+  EXPECT_EQ(program.folder.snapshot(), expected);
+  program.mainForm.releaseDocument();  // a program without a document leaves too
 }
 
 TEST(FileCommands, ASavedDocumentEndsInXmlWhateverWasTyped) {

@@ -100,6 +100,14 @@ TEST_F(VideoFormTest, anErrorInTheLoadPassesAndLeavesNothing) {
   EXPECT_EQ(steps.back(), "gone Main") << "other forms open as before";
 }
 
+TEST_F(VideoFormTest, aTimeThatNoPlaceCanHoldCostsTheFormAndItsFileIsNamed) {
+  session.main->child(2)->SetChunk(30, 4e8);
+  session.show();
+  EXPECT_EQ(steps.back(), "gone Main");
+  EXPECT_EQ(session.ui.takeShown(), Steps{"exclamation: B holds a number that cannot be shown: "
+                                          "Overflow: a number is too large for its place"});
+}
+
 TEST_F(VideoFormTest, onlyOKTakesTheFieldsAndNeitherTouchesSegments) {
   const auto edit = [](LoadedVideoForm& form) {
     form.fields().colControls()[0].value = std::string("New title");
