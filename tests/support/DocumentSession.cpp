@@ -8,8 +8,7 @@
 
 namespace velra::test {
 
-DocumentSession::DocumentSession()
-    : app(ui, MessageCatalogue(InterfaceLanguage::Default), machine_, user_) {
+DocumentSession::DocumentSession() {
   app.gMainForm = &window;
   app.objectFactory = &factory;
   useSchema(kSmallSchema);
@@ -20,11 +19,11 @@ DocumentSession::~DocumentSession() {
 }
 
 void DocumentSession::useSchema(const std::string& text) {
-  useSchemaFile(settings_.write("small.xsd", text));
+  useSchemaFile(application_.folder.write("small.xsd", text));
 }
 
 void DocumentSession::useSchemaFile(const std::string& path) {
-  settings_.write("machine.ini", "[SOFTWARE\\Velra]\nXSDPath=" + path + "\n");
+  application_.folder.write("machine.ini", "[SOFTWARE\\Velra]\nXSDPath=" + path + "\n");
 }
 
 std::string DocumentSession::open(const std::string& path) {

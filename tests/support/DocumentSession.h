@@ -4,14 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
 #include "support/DocumentFiles.h"
 #include "support/PlainObjectFactory.h"
 #include "support/RecordingMainWindow.h"
-#include "support/ScriptedUserInterface.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra::test {
 
@@ -24,15 +21,13 @@ class DocumentSession {
 
   TemporaryFolder folder;
   DocumentFiles files{folder};
-  ScriptedUserInterface ui;
 
  private:
-  TemporaryFolder settings_;
-  MachineSettings machine_{settings_ / "machine.ini"};
-  UserSettings user_{settings_ / "velra.ini"};
+  TestApplication application_;
 
  public:
-  ApplicationModule app;
+  ScriptedUserInterface& ui = application_.ui;
+  ApplicationModule& app = application_.app;
   PlainObjectFactory factory{app};
   RecordingMainWindow window;
 

@@ -16,26 +16,21 @@
 
 namespace velra::test {
 
-/// A form that shows nothing and remembers what was asked of it.
-class RecordingForm : public ObjectForm {
+/// A form that shows nothing.
+class PlainForm : public ObjectForm {
  public:
-  std::weak_ptr<DescribedObject> object;
-  int shown = 0;
-  int unloaded = 0;
-
-  void setObject(const std::shared_ptr<DescribedObject>& owner) override { object = owner; }
-  void Show(FormOwner&) override { ++shown; }
-  void Unload() override { ++unloaded; }
+  void setObject(const std::shared_ptr<DescribedObject>&) override {}
+  void Show(FormOwner&) override {}
+  void Unload() override {}
 };
 
-/// Makes the real objects with recording forms, and can tell which of them still live.
+/// Makes the real objects with such forms, and can tell which of them still live.
 class PlainObjectFactory : public ObjectFactory {
  public:
   explicit PlainObjectFactory(ApplicationModule& app) : app_(app) {}
 
   std::vector<std::weak_ptr<DescribedObject>> objects;
-  std::vector<std::weak_ptr<RecordingForm>> forms;
-  int schemaDialogs = 0;
+  std::vector<std::weak_ptr<PlainForm>> forms;
 
   ObjectRef createObject(const std::string& className) override {
     if (ExpressionRef expression = createExpression(className)) return expression;
@@ -53,11 +48,11 @@ class PlainObjectFactory : public ObjectFactory {
   }
   std::shared_ptr<ObjectForm> createForm(const std::string& className) override {
     if (!findClassRules(className)) return nullptr;
-    auto form = std::make_shared<RecordingForm>();
+    auto form = std::make_shared<PlainForm>();
     forms.push_back(form);
     return form;
   }
-  void showSchemaDialog(FormOwner&, SEColl&) override { ++schemaDialogs; }
+  void showSchemaDialog(FormOwner&, SEColl&) override {}
 
  private:
   template <class Object>

@@ -14,8 +14,8 @@ class RecordingMainWindow : public MainWindow {
  public:
   std::vector<std::string> statusTexts;
   std::vector<std::string> removedIcons;
-  std::vector<std::string> addedIcons;  // identifiers of the videos
-  std::vector<std::string> titles;      // that nodes were given
+  std::vector<std::string> titles;  // that nodes were given
+  std::vector<std::string> calls;   // of the others, by name
 
   std::string strStatusBarText() const override {
     return statusTexts.empty() ? std::string() : statusTexts.back();
@@ -24,10 +24,14 @@ class RecordingMainWindow : public MainWindow {
   void UpdateNodeTitle(const DescribedObject& object) override {
     titles.push_back(object.strTitle());
   }
-  void ResetTree(TreeId, const std::shared_ptr<DescribedObject>&) override {}
+  void ResetTree(TreeId tree, const std::shared_ptr<DescribedObject>&) override {
+    calls.emplace_back(tree == TreeId::tvwExpression ? "ResetTree" : "ResetTree left");
+  }
   void RemoveIcon(const std::string& key) override { removedIcons.push_back(key); }
-  void AddSmallKeyFrame(const Expression& video) override { addedIcons.push_back(video.strGUID()); }
-  void UpdateSmallKeyFrames() override {}
+  void AddSmallKeyFrame(const Expression& video) override {
+    calls.push_back("AddSmallKeyFrame " + video.strTitle());
+  }
+  void UpdateSmallKeyFrames() override { calls.emplace_back("UpdateSmallKeyFrames"); }
 
   std::vector<std::string> takeStatusTexts() { return std::exchange(statusTexts, {}); }
 };

@@ -3,9 +3,6 @@
 #include <memory>
 #include <string>
 
-#include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
 #include "schema/CloseList.h"
 #include "schema/SEColl.h"
 #include "schema/SchemaFile.h"
@@ -13,14 +10,13 @@
 #include "support/RecordingMainWindow.h"
 #include "support/ScriptedExpression.h"
 #include "support/ScriptedMediaGraph.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 
 namespace velra::test {
 
 /// What forms of expressions need: global state, a scripted movie, and a main expression "Main" of
 /// 100 seconds with the segments "A" [10, 20] and "B" [30, 40], each with a form of its own.
-class ToolSession {
+class ToolSession : public TestApplication {
  public:
   explicit ToolSession(VideoFormFaces& faces, const std::string& className = "Video")
       : services{app,
@@ -38,11 +34,6 @@ class ToolSession {
     equip(main->child(2));
   }
 
-  TemporaryFolder folder;
-  ScriptedUserInterface ui;
-  MachineSettings machine{folder / "machine.ini"};
-  UserSettings user{folder / "user.ini"};
-  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machine, user};
   DocumentSchemas schemas{app};
   CloseLists closeLists;
   RecordingMainWindow mainWindow;

@@ -3,19 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
-#include "protocol/MainWindow.h"
+#include "support/RecordingMainWindow.h"
 #include "support/ScriptedExpression.h"
 #include "support/ScriptedMediaGraph.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestApplication.h"
 #include "tool/ExpressionTool.h"
 #include "tool/RangeDialog.h"
 #include "tool/ToolFace.h"
@@ -47,27 +42,9 @@ class RecordingFace : public ToolFace {
   void runPendingEvents() override {}
 };
 
-/// A main window that notes what the tool tells it.
-class RecordingMainWindow : public MainWindow {
- public:
-  std::vector<std::string> calls;
-
-  std::string strStatusBarText() const override { return {}; }
-  void setStrStatusBarText(const std::string&) override {}
-  void UpdateNodeTitle(const DescribedObject&) override {}
-  void ResetTree(TreeId tree, const ObjectRef&) override {
-    calls.emplace_back(tree == TreeId::tvwExpression ? "ResetTree" : "ResetTree left");
-  }
-  void RemoveIcon(const std::string&) override {}
-  void AddSmallKeyFrame(const Expression& video) override {
-    calls.push_back("AddSmallKeyFrame " + video.strTitle());
-  }
-  void UpdateSmallKeyFrames() override { calls.emplace_back("UpdateSmallKeyFrames"); }
-};
-
 /// A tool over a scripted movie of 100 seconds at 25 frames a second, and an expression over all of
 /// it. `open` opens the tool as its form does.
-class ToolTest : public ::testing::Test {
+class ToolTest : public ::testing::Test, protected TestApplication {
  protected:
   ToolTest() { app.gMainForm = &mainWindow; }
 
@@ -112,11 +89,6 @@ class ToolTest : public ::testing::Test {
     return {"plain: " + app.LoadResString(message)};
   }
 
-  TemporaryFolder folder;
-  ScriptedUserInterface ui;
-  MachineSettings machine{folder / "machine.conf"};
-  UserSettings user{folder / "user.conf"};
-  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machine, user};
   RecordingMainWindow mainWindow;
   MovieScript movie;
   RangeDialog dialog;
