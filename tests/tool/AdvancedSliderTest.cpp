@@ -37,7 +37,7 @@ class AdvancedSliderTest : public ::testing::Test {
   std::vector<std::string> events;
 };
 
-TEST_F(AdvancedSliderTest, aRangeIsClippedAtTheEndsInItsOwnWay) {
+TEST_F(AdvancedSliderTest, ARangeIsClippedAtTheEndsInItsOwnWay) {
   struct Case {
     double begin, end;
     std::int16_t index;
@@ -64,7 +64,7 @@ TEST_F(AdvancedSliderTest, aRangeIsClippedAtTheEndsInItsOwnWay) {
   }
 }
 
-TEST_F(AdvancedSliderTest, placesComeFromEdgesRoundedToWholeTwips) {
+TEST_F(AdvancedSliderTest, PlacesComeFromEdgesRoundedToWholeTwips) {
   advsld.iAddRange(25, 50, "x");
   EXPECT_EQ(advsld.marks()[0].left, 200 + 2500);
   EXPECT_EQ(advsld.marks()[0].width, 2500);
@@ -75,7 +75,7 @@ TEST_F(AdvancedSliderTest, placesComeFromEdgesRoundedToWholeTwips) {
   EXPECT_THROW(advsld.Resize(40000), RunTimeError);
 }
 
-TEST_F(AdvancedSliderTest, theThumbHasFiveThousandSteps) {
+TEST_F(AdvancedSliderTest, TheThumbHasFiveThousandSteps) {
   struct Case {
     double written, position;
     std::int32_t value;
@@ -94,14 +94,14 @@ TEST_F(AdvancedSliderTest, theThumbHasFiveThousandSteps) {
   EXPECT_EQ(advsld.dPosition(), 0.02) << "a new span moves the thumb only when it is written";
 }
 
-TEST_F(AdvancedSliderTest, aSpanOfNoLengthIsADivisionByZero) {
+TEST_F(AdvancedSliderTest, ASpanOfNoLengthIsADivisionByZero) {
   advsld.setDMax(0);
   EXPECT_THROW(advsld.setDPosition(0), RunTimeError);
   EXPECT_THROW(advsld.iAddRange(0, 0, "x"), RunTimeError);
   EXPECT_THROW(advsld.setDLargeChange(1), RunTimeError);
 }
 
-TEST_F(AdvancedSliderTest, aStretchIsTimeAndNotOrderOfAdding) {
+TEST_F(AdvancedSliderTest, AStretchIsTimeAndNotOrderOfAdding) {
   advsld.setRangeColor(192);
   advsld.setStartRangeColor(49152);
   for (const double begin : {30.0, 10.0, 50.0, 20.0, 10.0}) advsld.iAddRange(begin, 60, "x");
@@ -121,7 +121,7 @@ TEST_F(AdvancedSliderTest, aStretchIsTimeAndNotOrderOfAdding) {
             (std::vector<std::string>{"click 1", "click 1", "click 3", "click 2", "double 2"}));
 }
 
-TEST_F(AdvancedSliderTest, removalLeavesTheSelectionsNumbersBehind) {
+TEST_F(AdvancedSliderTest, RemovalLeavesTheSelectionsNumbersBehind) {
   for (const double begin : {10.0, 20.0, 30.0}) advsld.iAddRange(begin, begin + 5, "x");
   advsld.RemoveSelectedRanges();
   EXPECT_EQ(advsld.Count(), 3) << "nothing was selected";
@@ -137,7 +137,7 @@ TEST_F(AdvancedSliderTest, removalLeavesTheSelectionsNumbersBehind) {
   EXPECT_TRUE(advsld.colSelectedIndexes().empty());
 }
 
-TEST_F(AdvancedSliderTest, anUpdateIgnoresBadIndexesAndDoesNotClamp) {
+TEST_F(AdvancedSliderTest, AnUpdateIgnoresBadIndexesAndDoesNotClamp) {
   advsld.iAddRange(10, 20, "old");
   advsld.UpdateRange(0, 1, 2);
   advsld.UpdateRange(2, 1, 2);
@@ -147,7 +147,7 @@ TEST_F(AdvancedSliderTest, anUpdateIgnoresBadIndexesAndDoesNotClamp) {
   EXPECT_EQ(advsld.marks()[0].width, 20500);
 }
 
-TEST_F(AdvancedSliderTest, theBagHasItsOrderAndItsOddKey) {
+TEST_F(AdvancedSliderTest, TheBagHasItsOrderAndItsOddKey) {
   advsld.iAddRange(10, 20, "x");
   advsld.setIRangeSelectedStart(1);
   PropertyBag bag;
@@ -165,7 +165,7 @@ TEST_F(AdvancedSliderTest, theBagHasItsOrderAndItsOddKey) {
   EXPECT_TRUE(other.Enabled());
 }
 
-TEST_F(AdvancedSliderTest, theBlinkLineTurnsAtEachTick) {
+TEST_F(AdvancedSliderTest, TheBlinkLineTurnsAtEachTick) {
   bool timer = false;
   advsld.events.RunBlinkTimer = [&](bool on) { timer = on; };
   advsld.PutBlinkLine(50);
@@ -179,7 +179,7 @@ TEST_F(AdvancedSliderTest, theBlinkLineTurnsAtEachTick) {
   EXPECT_FALSE(timer || advsld.blinkLine().visible);
 }
 
-TEST_F(AdvancedSliderTest, hitsAndNeighbours) {
+TEST_F(AdvancedSliderTest, HitsAndNeighbours) {
   advsld.iAddRange(10, 20, "x");
   advsld.iAddRange(20, 30, "x");
   advsld.iAddRange(60, 60, "x");  // no width

@@ -7,7 +7,7 @@
 namespace velra {
 namespace {
 
-TEST(RangeDialogTest, aBadEntryGoesBackToTheLastGoodValue) {
+TEST(RangeDialogTest, ABadEntryGoesBackToTheLastGoodValue) {
   struct Case {
     RangeDialog::Field field;
     const char* typed;
@@ -27,7 +27,7 @@ TEST(RangeDialogTest, aBadEntryGoesBackToTheLastGoodValue) {
   for (const Case& row : cases) EXPECT_EQ(dialog.Change(row.field, row.typed), row.shown);
 }
 
-TEST(RangeDialogTest, arrowsStepWithinTheLimits) {
+TEST(RangeDialogTest, ArrowsStepWithinTheLimits) {
   RangeDialog dialog;
   dialog.SetTime(0, 0, 25);
   EXPECT_EQ(dialog.KeyDown(RangeDialog::mm1, RangeDialog::kKeyDown, 0), "0");
@@ -37,7 +37,7 @@ TEST(RangeDialogTest, arrowsStepWithinTheLimits) {
   EXPECT_EQ(dialog.KeyDown(RangeDialog::mm1, RangeDialog::kKeyUp, 0), "59");
 }
 
-TEST(RangeDialogTest, timesGoInAndComeOut) {
+TEST(RangeDialogTest, TimesGoInAndComeOut) {
   RangeDialog dialog;
   dialog.SetTime(3723.48, 7, 25);
   EXPECT_EQ(dialog.text(RangeDialog::hh1), "1");
@@ -51,7 +51,7 @@ TEST(RangeDialogTest, timesGoInAndComeOut) {
   EXPECT_THROW(dialog.SetTime(36000, 36000, 25), RunTimeError);
 }
 
-TEST(RangeDialogTest, theCloseBoxLeavesTheLastAnswer) {
+TEST(RangeDialogTest, TheCloseBoxLeavesTheLastAnswer) {
   RangeDialog dialog;
   EXPECT_FALSE(dialog.bCancel());
   dialog.CancelButton();

@@ -2,82 +2,65 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "support/ScriptedExpression.h"
 
 namespace velra::test {
 namespace {
 
-/// The rules as they read, with a search for every step.
-ExpressionRef plainHead(const ExpressionList& children) {
-  for (const auto& child : children) {
-    bool followed = false;
-    for (const auto& other : children) followed = followed || other->objFollowedBy() == child;
-    if (!followed) return child;
-  }
-  return nullptr;
-}
+using Links = std::vector<const char*>;
 
-ExpressionRef plainPredecessor(const ExpressionList& children, const ExpressionRef& of) {
-  for (const auto& child : children) {
-    if (child->objFollowedBy() == of) return child;
-  }
-  return nullptr;
-}
-
-ExpressionList randomFamily(std::mt19937& random, std::size_t count) {
+/// Segments "a", "b"... in that order; a link "ab" lets b follow a.
+ExpressionList family(std::size_t count, const Links& links) {
   ExpressionList children;
   for (std::size_t i = 0; i < count; ++i) {
-    children.push_back(ScriptedExpression::make("Video", 0, 1));
+    const auto child = ScriptedExpression::make("Video", 0, 1);
+    child->title = std::string(1, static_cast<char>('a' + i));
+    children.push_back(child);
   }
-  // Links run from lower to higher members of a shuffled copy, so that no ring comes about, but
-  // gaps, several heads and shared followers do.
-  ExpressionList order = children;
-  std::shuffle(order.begin(), order.end(), random);
-  for (std::size_t i = 0; i + 1 < count; ++i) {
-    if (random() % 5 == 0) continue;
-    const std::size_t step = random() % 6 == 0 ? 2 : 1;
-    if (i + step < count) order[i]->setObjFollowedBy(order[i + step]);
-  }
+  const auto named = [&](char title) { return children.at(static_cast<std::size_t>(title - 'a')); };
+  for (const char* link : links) named(link[0])->setObjFollowedBy(named(link[1]));
   return children;
 }
 
-TEST(SegmentChainTest, mapsGiveWhatTheSearchesGive) {
-  std::mt19937 random(3);
-  for (int round = 0; round < 200; ++round) {
-    const ExpressionList children = randomFamily(random, 1 + random() % 12);
-    const SegmentChain chain(children);
-    ExpressionList forward;
-    for (auto at = plainHead(children); at; at = at->objFollowedBy()) forward.push_back(at);
-    EXPECT_EQ(chain.forward(), forward);
-    ExpressionList backward;
-    const auto tail = std::find_if(children.begin(), children.end(),
-                                   [](const auto& child) { return !child->objFollowedBy(); });
-    for (auto at = tail == children.end() ? nullptr : *tail; at;
-         at = plainPredecessor(children, at)) {
-      backward.push_back(at);
-    }
-    EXPECT_EQ(chain.backward(), backward);
-    const ChainPositions places(children);
-    for (const auto& child : children) {
-      const auto at = std::find(forward.begin(), forward.end(), child);
-      EXPECT_EQ(places.iChainPosition(child), at == forward.end() ? 0 : at - forward.begin() + 1);
-    }
-  }
+std::string titles(const ExpressionList& segments) {
+  std::string text;
+  for (const ExpressionRef& segment : segments) text += segment->strTitle();
+  return text;
 }
 
-TEST(SegmentChainTest, aRingEnds) {
-  ExpressionList children{ScriptedExpression::make("Video", 0, 1),
-                          ScriptedExpression::make("Video", 1, 2),
-                          ScriptedExpression::make("Video", 2, 3)};
-  children[0]->setObjFollowedBy(children[1]);
-  children[1]->setObjFollowedBy(children[2]);
-  children[2]->setObjFollowedBy(children[1]);
-  const SegmentChain chain(children);
-  EXPECT_EQ(chain.forward().size(), 3u);
-  EXPECT_TRUE(chain.backward().empty());
-  children[2]->setObjFollowedBy(nullptr);
+TEST(SegmentChainTest, RunsFromTheFirstHeadAndBackFromTheFirstTail) {
+  const struct {
+    std::size_t count;
+    Links links;
+    std::string forward;
+    std::string backward;
+  } cases[] = {
+      {0, {}, "", ""},
+      {1, {}, "a", "a"},
+      {3, {}, "a", "a"},
+      {3, {"ab", "bc"}, "abc", "cba"},
+      {4, {"cb", "ba", "dc"}, "dcba", "abcd"},  // against the order of the list
+      {4, {"ab", "cd"}, "ab", "ba"},            // a gap
+      {4, {"ba", "cd"}, "ba", "ab"},
+      {4, {"ac", "bc", "cd"}, "acd", "dca"},  // a follower of two: the first one counts
+      {5, {"bc", "ac", "da", "eb"}, "dac", "cad"},
+      {3, {"ab", "bc", "cb"}, "abc", ""},  // a ring behind a head
+      {2, {"ab", "ba"}, "", ""},
+  };
+  for (const auto& one : cases) {
+    SCOPED_TRACE(&one - cases);
+    const ExpressionList children = family(one.count, one.links);
+    const SegmentChain chain(children);
+    EXPECT_EQ(titles(chain.forward()), one.forward);
+    EXPECT_EQ(titles(chain.backward()), one.backward);
+    const ChainPositions places(children);
+    for (const auto& child : children) {
+      const std::size_t at = one.forward.find(child->strTitle());
+      EXPECT_EQ(places.iChainPosition(child), at == std::string::npos ? 0 : int(at) + 1);
+      EXPECT_EQ(chain.listPosition(child), child->strTitle()[0] - 'a' + 1);
+      child->setObjFollowedBy(nullptr);  // a ring would keep itself alive
+    }
+  }
 }
 
 }  // namespace

@@ -88,7 +88,7 @@ const Rule kRules[] = {
     {"change without length", Path::Modif, 3, 3, 0, "old 3-3"},
 };
 
-TEST_F(SegmentEditorTest, eachPathHasItsOwnRules) {
+TEST_F(SegmentEditorTest, EachPathHasItsOwnRules) {
   for (const Rule& rule : kRules) {
     SCOPED_TRACE(rule.name);
     use("Audio");
@@ -113,7 +113,7 @@ TEST_F(SegmentEditorTest, eachPathHasItsOwnRules) {
   }
 }
 
-TEST_F(SegmentEditorTest, whatIsNotMadeLeavesNoTrace) {
+TEST_F(SegmentEditorTest, WhatIsNotMadeLeavesNoTrace) {
   use("Video");
   ASSERT_TRUE(open());
   face.inDialog = [](RangeDialog& shown) { shown.CancelButton(); };
@@ -134,7 +134,7 @@ TEST_F(SegmentEditorTest, whatIsNotMadeLeavesNoTrace) {
   EXPECT_EQ(spans(), before);
 }
 
-TEST_F(SegmentEditorTest, theTimeCodeBlinksUntilTheSelectionEnds) {
+TEST_F(SegmentEditorTest, TheTimeCodeBlinksUntilTheSelectionEnds) {
   use("Audio");
   ASSERT_TRUE(open());
   press(10);
@@ -153,7 +153,7 @@ TEST_F(SegmentEditorTest, theTimeCodeBlinksUntilTheSelectionEnds) {
   EXPECT_FALSE(face.swapped || face.blinker);
 }
 
-TEST_F(SegmentEditorTest, aNewVideoSegmentReachesStripAndMainWindow) {
+TEST_F(SegmentEditorTest, ANewVideoSegmentReachesStripAndMainWindow) {
   use("Video");
   add("late", 50, 60);
   ASSERT_TRUE(open());
@@ -167,7 +167,7 @@ TEST_F(SegmentEditorTest, aNewVideoSegmentReachesStripAndMainWindow) {
   EXPECT_EQ(mainWindow.calls, (Texts{"AddSmallKeyFrame early", "ResetTree"}));
 }
 
-TEST_F(SegmentEditorTest, removalAsksAndClosesTheChain) {
+TEST_F(SegmentEditorTest, RemovalAsksAndClosesTheChain) {
   useThree();
   tool->Form_KeyUp(ExpressionTool::kDeleteKey, 0);
   EXPECT_TRUE(ui.takeShown().empty()) << "nothing selected";
@@ -192,7 +192,7 @@ TEST_F(SegmentEditorTest, removalAsksAndClosesTheChain) {
   EXPECT_EQ(spans(), Texts{"s10 10-25"});
 }
 
-TEST_F(SegmentEditorTest, whatTheTimelineSelectsGoesFromAllLists) {
+TEST_F(SegmentEditorTest, WhatTheTimelineSelectsGoesFromAllLists) {
   useThree();
   obj->child(2)->SetChunk(70, 80);  // it keeps its place on the strip
   add("inside", 10, 12);            // begins with another
@@ -206,7 +206,7 @@ TEST_F(SegmentEditorTest, whatTheTimelineSelectsGoesFromAllLists) {
   EXPECT_EQ(marked(), "- -");
 }
 
-TEST_F(SegmentEditorTest, aNewSegmentInTheSelectedStretchIsMarked) {
+TEST_F(SegmentEditorTest, ANewSegmentInTheSelectedStretchIsMarked) {
   useThree();
   tool->advsld.MouseDown(1, 0);
   tool->advsld.MouseDown(3, 1);
@@ -216,7 +216,7 @@ TEST_F(SegmentEditorTest, aNewSegmentInTheSelectedStretchIsMarked) {
   EXPECT_EQ(marked(), "XXXX XXXX");
 }
 
-TEST_F(SegmentEditorTest, mergingGoesByListPositionAndKeepsTheFirstTitle) {
+TEST_F(SegmentEditorTest, MergingGoesByListPositionAndKeepsTheFirstTitle) {
   useThree();
   tool->advsld.MouseDown(3, 0);
   tool->advsld.MouseDown(1, 1);
@@ -228,7 +228,7 @@ TEST_F(SegmentEditorTest, mergingGoesByListPositionAndKeepsTheFirstTitle) {
   tool->advsld.Resize(9000);
 }
 
-TEST_F(SegmentEditorTest, aMergeWithReversedBoundsChangesNothing) {
+TEST_F(SegmentEditorTest, AMergeWithReversedBoundsChangesNothing) {
   use("Video");
   add("late", 50, 60);
   add("early", 10, 20);
@@ -242,7 +242,7 @@ TEST_F(SegmentEditorTest, aMergeWithReversedBoundsChangesNothing) {
   EXPECT_EQ(marked(), "XX XX");
 }
 
-TEST_F(SegmentEditorTest, aSegmentOfNoLengthOpensWithASentence) {
+TEST_F(SegmentEditorTest, ASegmentOfNoLengthOpensWithASentence) {
   use("Video", 10, 10);
   add("child", 10, 10);
   ASSERT_TRUE(open());
@@ -254,7 +254,7 @@ TEST_F(SegmentEditorTest, aSegmentOfNoLengthOpensWithASentence) {
   EXPECT_EQ(movie.position, 10);
 }
 
-TEST_F(SegmentEditorTest, boundsAreReachedAndMovedAlongTheChain) {
+TEST_F(SegmentEditorTest, BoundsAreReachedAndMovedAlongTheChain) {
   use("Audio");
   add("B", 20, 30);
   add("A", 0, 10);
@@ -287,7 +287,7 @@ TEST_F(SegmentEditorTest, boundsAreReachedAndMovedAlongTheChain) {
   EXPECT_EQ(tool->advsld.colRanges().Item(1)->dBegin, 15);
 }
 
-TEST_F(SegmentEditorTest, clicksKeepTimelineAndStripInStep) {
+TEST_F(SegmentEditorTest, ClicksKeepTimelineAndStripInStep) {
   use("Video", 5, 100);
   for (const int start : {10, 30, 50}) add("s", start, start + 10);
   add("outside", 1, 3);
@@ -304,7 +304,7 @@ TEST_F(SegmentEditorTest, clicksKeepTimelineAndStripInStep) {
   EXPECT_EQ(movie.position, 52.5);
 }
 
-TEST_F(SegmentEditorTest, theKeyFrameOfTheExpressionItselfChanges) {
+TEST_F(SegmentEditorTest, TheKeyFrameOfTheExpressionItselfChanges) {
   use("Video");
   ASSERT_TRUE(open());
   tool->player.SeekTo(7);
