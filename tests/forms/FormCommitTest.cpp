@@ -98,25 +98,18 @@ TEST_F(FormCommitTest, OnlyTheTitleFieldRenames) {
   EXPECT_EQ(object_.strTitle(), "new");
 }
 
-TEST_F(FormCommitTest, TagsLeadPastFieldsWithoutAControl) {
-  object_.add(tyType::String, "First", "1");
+TEST_F(FormCommitTest, FieldsThatAreReadOnlyOrHaveNoControlKeepAll) {
+  object_.add(tyType::Bool, "Locked", true).setBReadOnly(true);
   object_.add(tyType::String, "Unassigned", {}).setBValid(false);
   object_.add(tyType::String, "Third", "3");
   build();
+  box(1).value = kOff;
   box(2).value = "changed";
   commit();
   EXPECT_FALSE(field(1).bChanged());
+  EXPECT_EQ(field(1).vContent(), Value(true));
   EXPECT_FALSE(field(2).bChanged());
   EXPECT_EQ(field(3).vContent(), Value("changed"));
-}
-
-TEST_F(FormCommitTest, ReadOnlyFieldsKeepAll) {
-  object_.add(tyType::Bool, "Locked", true).setBReadOnly(true);
-  build();
-  box(1).value = kOff;
-  commit();
-  EXPECT_FALSE(field(1).bChanged());
-  EXPECT_EQ(field(1).vContent(), Value(true));
 }
 
 TEST_F(FormCommitTest, SetsCompareInOrder) {

@@ -112,14 +112,8 @@ TEST_F(MetadataFormTest, AnErrorOfTheLoadLeavesAFormThatCanShowAgain) {
   date.setVContent(Date{});
   form.Show(window_);
   EXPECT_EQ(presenter_.shown, 1);
-}
-
-TEST_F(MetadataFormTest, DoesNotKeepItsObject) {
-  auto object = test::objectOfTexts(application_.app, 1);
-  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
-  form.setObject(object);
   object.reset();
-  EXPECT_THROW(form.Show(window_), RunTimeError);
+  EXPECT_THROW(form.Show(window_), RunTimeError) << "it does not keep its object";
 }
 
 TEST_F(MetadataFormTest, PassesOfSetFrameHeight) {

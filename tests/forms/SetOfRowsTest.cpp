@@ -21,20 +21,14 @@ Texts texts(const SetOfRows& control) {
   return result;
 }
 
-TEST(CtlSetOfString, InitIsForOneUse) {
+TEST(CtlSetOfString, IsFilledOnceAndGrowsAtItsEnd) {
   ctlSetOfString control;
   fill(control, {"a", "b"});
   control.Init(5);
-  EXPECT_EQ(texts(control), (Texts{"a", "b"}));
-}
-
-TEST(CtlSetOfString, AddsAnEmptyRowAtTheEnd) {
-  ctlSetOfString control;
-  control.Init(0);
   control.Command1_Click();
-  control.editRow(1, "first");
+  control.editRow(3, "typed");
   control.Command1_Click();
-  EXPECT_EQ(texts(control), (Texts{"first", ""}));
+  EXPECT_EQ(texts(control), (Texts{"a", "b", "typed", ""}));
 }
 
 TEST(CtlSetOfString, RemovesTheTickedRows) {
