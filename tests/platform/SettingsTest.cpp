@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "platform/Files.h"
 #include "platform/MachineSettings.h"
 #include "platform/UserSettings.h"
 #include "support/TemporaryFolder.h"
@@ -14,33 +15,7 @@ using Setting = MachineSettings::Setting;
 
 constexpr const char* kSection = "SOFTWARE\\Velra";
 
-const char* const kFile =
-    "; written by hand\n"
-    "Orphan=before any section\n"
-    "[Other]\n"
-    "XSDPath=elsewhere\n"
-    "\n"
-    "[SOFTWARE\\Velra]\n"
-    "; the schema\n"
-    "XSDPath=/a b/velra.xsd \n"
-    "a line that means nothing\n"
-    "=no name\n"
-    "Escaped=one\\ntwo\\\\three\\x\n"
-    "Empty=\n"
-    "Port=dword:000009cd\n"
-    "Largest=dword:FFFFFFFF\n"
-    "Bytes=hex:00,ff,7F\n"
-    "NoBytes=hex:\n"
-    "Port=dword:00000001\n"
-    "Short=dword:9cd\n"
-    "Signed=dword:-0000001\n"
-    "NoDigits=dword:0000zzzz\n"
-    "HalfByte=hex:0\n"
-    "OpenEnd=hex:00,\n"
-    "Windows=line\r\n"
-    "\n"
-    "[Last]\n"
-    "Name=value\n";
+const std::string kFile = readFile(VELRA_SOURCE_DIR "/tests/data/machine.ini").bytes;
 
 TEST(MachineSettings, ReadsEachKind) {
   const TemporaryFolder folder;

@@ -88,18 +88,16 @@ TEST_F(WriteInPlace, AFullDiskCostsNothing) {
   }
 }
 
-TEST_F(WriteInPlace, AFailedReservationTouchesNothing) {
+TEST_F(WriteInPlace, AFailureTouchesNoOldFileAndLeavesNoNewOne) {
   folder_.write("film.xml", "old");
   const FileStamp before = fileStamp(folder_ / "film.xml");
   disk.reserveError = ENOSPC;
   EXPECT_EQ(writeFileInPlace(folder_ / "film.xml", "longer than before"), systemReason(ENOSPC));
   EXPECT_EQ(fileStamp(folder_ / "film.xml"), before);
-}
-
-TEST_F(WriteInPlace, ANewFileThatFailsLeavesNoFile) {
+  disk = {};
   disk.room = 2;
   EXPECT_EQ(writeFileInPlace(folder_ / "new.xml", "text"), systemReason(ENOSPC));
-  EXPECT_FALSE(bFileExists(folder_ / "new.xml")) << "no empty file stays behind";
+  EXPECT_FALSE(bFileExists(folder_ / "new.xml"));
 }
 
 TEST_F(WriteInPlace, ALimitOnFilesIsAnErrorAndNoEnd) {

@@ -42,15 +42,6 @@ TEST(Value, HasATextAndANumberWhereItCan) {
   }
 }
 
-TEST(Value, SpansAndWordsAreShared) {
-  const Value one = std::make_shared<Chunk>();
-  const Value other = one;
-  asChunk(one)->dend = 2;
-  EXPECT_EQ(asChunk(other)->dend, 2);
-  EXPECT_EQ(asWords(one), nullptr);
-  EXPECT_EQ(asList(one), nullptr);
-}
-
 TEST(Value, WordsAndRangesTakeTheirTimesInTheirOrder) {
   WordColl words;
   words.Add("", "", 1, 2, "word").strTxt += "s";
