@@ -95,6 +95,26 @@ const struct {
      [](const DocumentFiles& files) {
        files.document({"version1", "storage1"});
      }},
+    {"a Version that is a Media, met after a search",
+     [](const DocumentFiles& files) {
+       files.document({"version1", "media2"});
+       files.media("media2", {});
+     }},
+    {"an expression in front of others by its name, and one that is a part of itself",
+     [](const DocumentFiles& files) {
+       files.writeRaw("aaa.xml",
+                      ObjectText("Video").text("VersionGUID", files.id("version1")).xml());
+       files.write("audio2", ObjectText("Audio")
+                                 .text("VersionGUID", files.id("version1"))
+                                 .text("PartOfAudio", files.id("audio2")));
+     }},
+    {"a video that is open before its parent, behind one that is not",
+     [](const DocumentFiles& files) {
+       files.segment("video00", "video1", 0, 1);
+       files.write("video01", ObjectText("Video")
+                                  .text("VersionGUID", files.id("version1"))
+                                  .text("PartOfVideo", files.id("video1")));
+     }},
     {"two main videos of one Version",
      [](const DocumentFiles& files) { files.mainExpression("video2", "version1"); }},
     {"a segment that claims its Version, met after its parent",
