@@ -21,7 +21,7 @@ std::string pathIn(const SchemaElement& field, bool ownedByVideo) {
 }  // namespace
 
 std::shared_ptr<MediaObject> MediaObject::create(ApplicationModule& app) {
-  auto object = std::make_shared<MediaObject>(app);
+  auto object = std::make_shared<MediaObject>();
   if (app.gAVDoc) app.gAVDoc->collObjects().Add(object);
   return object;
 }

@@ -14,7 +14,6 @@ class ApplicationModule;
 /// identifier is a field of its owner.
 class MediaObject : public virtual DescribedObject {
  public:
-  explicit MediaObject(ApplicationModule& app) : app_(app) {}
   ~MediaObject() override;
 
   /// The field that it stands for; its owner tells of each write to it.
@@ -80,7 +79,6 @@ class MediaObject : public virtual DescribedObject {
  private:
   SchemaElement* ownerField() const;
 
-  ApplicationModule& app_;
   std::shared_ptr<IOManager> io_;
   std::weak_ptr<DescribedObject> objOwner_;
   bool ownedByVideo_ = false;
