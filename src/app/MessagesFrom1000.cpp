@@ -3,7 +3,7 @@
 namespace velra {
 namespace {
 
-constexpr Message kMessages[] = {
+constexpr Message kFrom1000[] = {
     {1000, "&File", "&File"},
     {1001, "&Open...", "&Apri..."},
     {1002, "&Find...", "&Trova..."},
@@ -132,7 +132,7 @@ constexpr Message kMessages[] = {
 }  // namespace
 
 std::span<const Message> messagesFrom1000() {
-  return kMessages;
+  return kFrom1000;
 }
 
 }  // namespace velra

@@ -3,7 +3,7 @@
 namespace velra {
 namespace {
 
-constexpr Message kMessages[] = {
+constexpr Message kFrom1100[] = {
     {1100, "Multimedia data", "Dati multimediali"},
     {1101, "Are you sure you want remove the selected (sub)expressions?",
      "Rimuovere davvero le (sotto)espressioni selezionate?"},
@@ -116,7 +116,7 @@ constexpr Message kMessages[] = {
 }  // namespace
 
 std::span<const Message> messagesFrom1100() {
-  return kMessages;
+  return kFrom1100;
 }
 
 }  // namespace velra

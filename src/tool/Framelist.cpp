@@ -10,7 +10,7 @@ namespace velra {
 
 namespace {
 
-constexpr std::int32_t kWhite = 16777215;
+constexpr std::int32_t kWhiteSquare = 16777215;
 constexpr std::int16_t kDefaultImageX = 1000;
 constexpr std::int16_t kDefaultImageY = 750;
 constexpr std::int16_t kCellMargin = 100;
@@ -86,8 +86,8 @@ void Framelist::setISelectedEnd(std::int16_t position) {
 }
 
 void Framelist::ReadProperties(const PropertyBag& bag) {
-  setSquareColor(bag.read("SquareColor", kWhite));
-  setStartSquareColor(bag.read("StartSquareColor", kWhite));
+  setSquareColor(bag.read("SquareColor", kWhiteSquare));
+  setStartSquareColor(bag.read("StartSquareColor", kWhiteSquare));
   setImageX(toInt16(bag.read("ImageX", std::int32_t{kDefaultImageX})));
   setImageY(toInt16(bag.read("ImageY", std::int32_t{kDefaultImageY})));
   setISelectedStart(toInt16(bag.read("iSelectedStart", std::int32_t{-1})));
@@ -96,8 +96,8 @@ void Framelist::ReadProperties(const PropertyBag& bag) {
 
 void Framelist::WriteProperties(PropertyBag& bag) const {
   constexpr std::int32_t kNone = -1;
-  bag.WriteProperty("SquareColor", SquareColor_, kWhite);
-  bag.WriteProperty("StartSquareColor", StartSquareColor_, kWhite);
+  bag.WriteProperty("SquareColor", SquareColor_, kWhiteSquare);
+  bag.WriteProperty("StartSquareColor", StartSquareColor_, kWhiteSquare);
   bag.WriteProperty("ImageX", std::int32_t{ImageX_}, std::int32_t{kDefaultImageX});
   bag.WriteProperty("ImageY", std::int32_t{ImageY_}, std::int32_t{kDefaultImageY});
   bag.WriteProperty("iSelectedStart", std::int32_t{iSelectedStart_}, kNone);
