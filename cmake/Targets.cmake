@@ -24,42 +24,50 @@ if(VELRA_SANITIZE)
   target_link_options(velra_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# One library for one folder of src/. Its headers are reached as "folder/Header.h" and only by
-# targets that link it: the include path of a target holds nothing but a link to its own folder, so
-# an include that points upward does not compile.
+# The link targets for names in a list: a bare name is a folder of src/, which has to stand earlier in
+# src/CMakeLists.txt, so that no link points upward and none runs in a circle.
+function(velra_link_targets result)
+  set(targets)
+  foreach(name IN LISTS ARGN)
+    if(name MATCHES "::")
+      list(APPEND targets ${name})
+    elseif(TARGET velra_${name})
+      list(APPEND targets velra::${name})
+    else()
+      message(FATAL_ERROR "${CMAKE_CURRENT_SOURCE_DIR} links ${name}, which is no folder below it.")
+    endif()
+  endforeach()
+  set(${result} ${targets} PARENT_SCOPE)
+endfunction()
+
+# One library for one folder of src/: PUBLIC are the folders and libraries that its headers include,
+# PRIVATE those that its .cpp files alone include. Its headers are reached as "folder/Header.h" and
+# only by targets that link it: the include path of a target holds nothing but a link to its own
+# folder.
 function(velra_library folder)
-  cmake_parse_arguments(ARG "" "" "LINKS;PRIVATE_LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
+  velra_link_targets(public ${ARG_PUBLIC})
+  velra_link_targets(private ${ARG_PRIVATE})
   set(root ${CMAKE_BINARY_DIR}/include/${folder})
   file(MAKE_DIRECTORY ${root})
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${folder} SYMBOLIC)
-  if(NOT sources)
-    # Interfaces alone.
-    add_library(velra_${folder} INTERFACE)
-    add_library(velra::${folder} ALIAS velra_${folder})
-    target_include_directories(velra_${folder} INTERFACE ${root})
-    target_link_libraries(velra_${folder} INTERFACE ${ARG_LINKS})
-    return()
-  endif()
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   add_library(velra_${folder} STATIC ${sources})
   add_library(velra::${folder} ALIAS velra_${folder})
   target_include_directories(velra_${folder} PUBLIC ${root})
   target_link_libraries(
     velra_${folder}
-    PUBLIC ${ARG_LINKS}
-    PRIVATE velra::flags ${ARG_PRIVATE_LINKS})
+    PUBLIC ${public}
+    PRIVATE velra::flags ${private})
 endfunction()
 
-# One test program for one folder of tests/.
+# One test program for one folder of tests/. LINKS are the folders that its files include.
 function(velra_tests folder)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  velra_link_targets(links ${ARG_LINKS})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
-  if(NOT sources)
-    return()
-  endif()
   add_executable(velra_${folder}_tests ${sources})
-  target_link_libraries(velra_${folder}_tests PRIVATE velra::flags velra_test_support ${ARG_LINKS}
-                                                      GTest::gtest)
+  target_link_libraries(velra_${folder}_tests PRIVATE velra::flags ${links} GTest::gtest)
   target_compile_definitions(velra_${folder}_tests
                              PRIVATE VELRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   gtest_discover_tests(
