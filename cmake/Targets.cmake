@@ -19,9 +19,16 @@ target_compile_options(
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(velra_flags INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 if(VELRA_SANITIZE)
-  target_compile_options(velra_flags INTERFACE -fsanitize=address,undefined
+  target_compile_options(velra_flags INTERFACE -fsanitize=${VELRA_SANITIZE}
                                                -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(velra_flags INTERFACE -fsanitize=address,undefined)
+  target_link_options(velra_flags INTERFACE -fsanitize=${VELRA_SANITIZE})
+endif()
+if(VELRA_COVERAGE)
+  target_compile_options(velra_flags INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(velra_flags INTERFACE --coverage)
+endif()
+if(VELRA_FUZZ)
+  target_compile_options(velra_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # The link targets for names in a list: a bare name is a folder of src/, which has to stand earlier in

@@ -42,13 +42,13 @@ install_packages() {
 }
 
 # Builds the given targets of a preset, by default all. Once a build folder stands, the build itself
-# sees to it that the configuration is up to date.
+# sees to it that the configuration is up to date, but for what the presets say.
 build_preset() {
   local preset=$1
   shift
   (
     cd "$root"
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"
+    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"
     cmake --build "build/$preset" "${@/#/--target=}"
   )
 }
