@@ -9,6 +9,8 @@ class Audio : public ExpressionBase {
  public:
   explicit Audio(ApplicationModule& app);
   ~Audio() override;
+  Audio(const Audio&) = delete;
+  Audio& operator=(const Audio&) = delete;
 
   /// Nothing sets it.
   bool bTranscriptOpen() const { return false; }

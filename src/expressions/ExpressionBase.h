@@ -61,6 +61,8 @@ class ExpressionBase : public ObjectBase, public Expression {
  protected:
   ExpressionBase(ApplicationModule& app, std::string_view className);
   ~ExpressionBase() override;
+  ExpressionBase(const ExpressionBase&) = delete;
+  ExpressionBase& operator=(const ExpressionBase&) = delete;
 
   void setTextField(const std::string& name, const std::string& text) override;
   void openBelow() override { OpenSubExpressions(); }

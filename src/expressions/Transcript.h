@@ -13,6 +13,8 @@ class Transcript : public ExpressionBase {
  public:
   explicit Transcript(ApplicationModule& app);
   ~Transcript() override;
+  Transcript(const Transcript&) = delete;
+  Transcript& operator=(const Transcript&) = delete;
 
   std::shared_ptr<WordColl> WordList() const override;
   void setWordList(const std::shared_ptr<WordColl>& words);

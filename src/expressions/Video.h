@@ -16,6 +16,8 @@ class Video : public ExpressionBase {
  public:
   explicit Video(ApplicationModule& app);
   ~Video() override;
+  Video(const Video&) = delete;
+  Video& operator=(const Video&) = delete;
 
   std::shared_ptr<AVDocument> objParent() const { return objParent_.lock(); }
   void setObjParent(const std::shared_ptr<AVDocument>& parent) { objParent_ = parent; }

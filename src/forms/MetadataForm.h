@@ -18,6 +18,8 @@ class MetadataForm : public ObjectForm {
  public:
   MetadataForm(const MetadataKind& kind, ApplicationModule& app, FormPresenter& presenter);
   ~MetadataForm() override;
+  MetadataForm(const MetadataForm&) = delete;
+  MetadataForm& operator=(const MetadataForm&) = delete;
 
   void setObject(const std::shared_ptr<DescribedObject>& object) override;
 

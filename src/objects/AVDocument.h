@@ -21,6 +21,8 @@ class AVDocument : public LadderObject, public OpenDocument {
  public:
   explicit AVDocument(ApplicationModule& app);
   ~AVDocument() override;
+  AVDocument(const AVDocument&) = delete;
+  AVDocument& operator=(const AVDocument&) = delete;
 
   ObjectRegistry& collObjects() override { return collObjects_; }
   CloseLists& collCloseListTypes() override { return collCloseListTypes_; }

@@ -30,6 +30,8 @@ class LadderObject : public ObjectBase {
  protected:
   LadderObject(ApplicationModule& app, std::string_view className);
   ~LadderObject() override;
+  LadderObject(const LadderObject&) = delete;
+  LadderObject& operator=(const LadderObject&) = delete;
 
   void openBelow() override { OpenChilds(); }
 

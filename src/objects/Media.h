@@ -15,6 +15,8 @@ class Media : public LadderObject {
  public:
   explicit Media(ApplicationModule& app);
   ~Media() override;
+  Media(const Media&) = delete;
+  Media& operator=(const Media&) = delete;
 
   std::shared_ptr<Version> objParent() const { return objParent_.lock(); }
   void setObjParent(const std::shared_ptr<Version>& parent) { objParent_ = parent; }

@@ -14,7 +14,10 @@ class ApplicationModule;
 /// identifier is a field of its owner.
 class MediaObject : public virtual DescribedObject {
  public:
+  MediaObject() = default;
   ~MediaObject() override;
+  MediaObject(const MediaObject&) = delete;
+  MediaObject& operator=(const MediaObject&) = delete;
 
   /// The field that it stands for; its owner tells of each write to it.
   static constexpr const char* kStorageField = "Collocation";

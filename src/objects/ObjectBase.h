@@ -21,6 +21,8 @@ class SchemaFile;
 class ObjectBase : public virtual DescribedObject, private ContentWatcher {
  public:
   ~ObjectBase() override;
+  ObjectBase(const ObjectBase&) = delete;
+  ObjectBase& operator=(const ObjectBase&) = delete;
 
   const std::string& className() const override { return rules_.className; }
   std::shared_ptr<IOManager> io() const override { return io_; }

@@ -15,6 +15,8 @@ class Storage : public ObjectBase {
  public:
   explicit Storage(ApplicationModule& app);
   ~Storage() override;
+  Storage(const Storage&) = delete;
+  Storage& operator=(const Storage&) = delete;
 
   std::shared_ptr<Media> objParent() const { return objParent_.lock(); }
   void setObjParent(const std::shared_ptr<Media>& parent) { objParent_ = parent; }

@@ -16,6 +16,8 @@ class Version : public LadderObject {
  public:
   explicit Version(ApplicationModule& app);
   ~Version() override;
+  Version(const Version&) = delete;
+  Version& operator=(const Version&) = delete;
 
   std::shared_ptr<AVDocument> objParent() const { return objParent_.lock(); }
   void setObjParent(const std::shared_ptr<AVDocument>& parent) { objParent_ = parent; }

@@ -15,6 +15,8 @@ class FileHandle {
   FileHandle(FileHandle&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
   FileHandle& operator=(FileHandle&&) = delete;
   ~FileHandle() { close(); }
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
 
   explicit operator bool() const { return number_ >= 0; }
   int number() const { return number_; }

@@ -18,6 +18,8 @@ class FrameSource {
  public:
   FrameSource();
   ~FrameSource();
+  FrameSource(const FrameSource&) = delete;
+  FrameSource& operator=(const FrameSource&) = delete;
 
   /// "" on success, else one sentence that tells why not. A file of which no picture can be decoded
   /// is refused, and one whose pictures cannot be told their times. Called once.

@@ -19,6 +19,8 @@ class MovieGraph final : public MediaGraph {
  public:
   MovieGraph();
   ~MovieGraph() override;
+  MovieGraph(const MovieGraph&) = delete;
+  MovieGraph& operator=(const MovieGraph&) = delete;
 
   std::string RenderFile(const std::string& path) override;
   void Run() override;

@@ -15,6 +15,8 @@ class PictureConverter {
  public:
   PictureConverter();
   ~PictureConverter();
+  PictureConverter(const PictureConverter&) = delete;
+  PictureConverter& operator=(const PictureConverter&) = delete;
 
   /// The picture in the given size, in its own for 0. Null when it cannot be converted.
   std::shared_ptr<const PictureFrame> convert(const AVFrame& frame, int width = 0, int height = 0);

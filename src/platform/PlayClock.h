@@ -18,6 +18,8 @@ class PlayClock {
   explicit PlayClock(std::unique_ptr<SoundOut> sound);
   PlayClock(PlayClock&& other) noexcept;
   ~PlayClock();
+  PlayClock(const PlayClock&) = delete;
+  PlayClock& operator=(const PlayClock&) = delete;
 
   void start(double seconds);
   void stop();

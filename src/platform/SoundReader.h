@@ -22,6 +22,8 @@ class SoundReader {
 
   SoundReader();
   ~SoundReader();
+  SoundReader(const SoundReader&) = delete;
+  SoundReader& operator=(const SoundReader&) = delete;
 
   /// `origin` is the time in seconds that the container gives to time 0 of the movie; without it
   /// the first block of sound is time 0. "" on success, else one sentence.

@@ -5,9 +5,10 @@
 #include <string_view>
 #include <vector>
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names of libxml2
 struct _xmlDoc;
 struct _xmlNode;
-struct _xmlAttr;
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace velra {
 
@@ -66,6 +67,8 @@ class XmlDocument {
   XmlDocument(XmlDocument&&) noexcept = default;
   XmlDocument& operator=(XmlDocument&&) noexcept = default;
   ~XmlDocument();
+  XmlDocument(const XmlDocument&) = delete;
+  XmlDocument& operator=(const XmlDocument&) = delete;
 
   /// Replaces the content by the file's. On failure the document is empty and `reason` has one line
   /// that tells why, and `load` says in it which file.

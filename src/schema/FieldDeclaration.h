@@ -36,6 +36,8 @@ struct FieldDeclaration {
 /// A hold on a shared declaration, for one thread. It is one pointer wide, where the library's own
 /// is two and counts for all threads: the fields of a large document hold one each, and there are
 /// more than a million of them.
+// One assignment takes copies and moves.
+// NOLINTNEXTLINE(cppcoreguidelines-special-member-functions)
 class DeclarationRef {
  public:
   DeclarationRef() = default;

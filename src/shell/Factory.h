@@ -21,6 +21,8 @@ class Factory : public ObjectFactory {
   /// `makeVideoForm` makes the form of an expression of any class.
   Factory(ApplicationModule& app, FormPresenter& presenter, MakeForm makeVideoForm);
   ~Factory() override;
+  Factory(const Factory&) = delete;
+  Factory& operator=(const Factory&) = delete;
 
   ObjectRef createObject(const std::string& className) override;
   ExpressionRef createExpression(const std::string& className) override;

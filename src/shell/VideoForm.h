@@ -37,6 +37,8 @@ class VideoForm : public ObjectForm {
  public:
   explicit VideoForm(VideoFormServices& services);
   ~VideoForm() override;
+  VideoForm(const VideoForm&) = delete;
+  VideoForm& operator=(const VideoForm&) = delete;
 
   /// kTypeMismatch for an object that is no expression.
   void setObject(const std::shared_ptr<DescribedObject>& object) override;

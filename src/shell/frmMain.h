@@ -28,6 +28,8 @@ class frmMain : public MainWindow {
  public:
   explicit frmMain(ApplicationModule& app);
   ~frmMain() override;
+  frmMain(const frmMain&) = delete;
+  frmMain& operator=(const frmMain&) = delete;
 
   /// Set while the window exists; null without one, as in tests.
   void setFace(MainWindowFace* face);

@@ -20,6 +20,7 @@ class ObjectRegistry;
 class ReferenceIndex {
  public:
   explicit ReferenceIndex(const ObjectRegistry& objects) : objects_(objects) {}
+  ~ReferenceIndex() = default;
   ReferenceIndex(const ReferenceIndex&) = delete;
   ReferenceIndex& operator=(const ReferenceIndex&) = delete;
 
@@ -71,7 +72,7 @@ class ReferenceIndex {
   struct Reference {
     Key key;
     std::uint64_t holder;
-    auto operator<=>(const Reference&) const = default;
+    auto operator<=>(const Reference&) const = default;  // NOLINT(modernize-use-nullptr)
   };
 
   static Key keyOf(const std::string& guid);

@@ -21,6 +21,8 @@ class AdvancedSliderWidget : public PaintedPartsWidget {
   /// The rules must outlive the widget.
   AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* parent);
   ~AdvancedSliderWidget() override;
+  AdvancedSliderWidget(const AdvancedSliderWidget&) = delete;
+  AdvancedSliderWidget& operator=(const AdvancedSliderWidget&) = delete;
 
   /// The width that its rules can count, in pixels: their places are 16-bit numbers of twips.
   static int maximumRulesWidth();

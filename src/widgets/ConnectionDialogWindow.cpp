@@ -14,7 +14,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kTextWidth = 320;  // logical pixels
+constexpr int kSettingWidth = 320;  // logical pixels
 
 }  // namespace
 
@@ -47,7 +47,7 @@ void ConnectionDialogWindow::addBox(const ApplicationModule& app, ConnectionDial
   auto* edit = new QLineEdit(toQString(dialog_.text(box)), this);
   edit->setObjectName(QLatin1String(texts.name));
   edit->setToolTip(plainToolTip(app.LoadResString(texts.toolTip)));
-  edit->setMinimumWidth(kTextWidth);
+  edit->setMinimumWidth(kSettingWidth);
   rows.addRow(toQString(app.LoadResString(texts.caption)), edit);
   connect(edit, &QLineEdit::textChanged, this, [this, box, edit] { changed(box, *edit); });
 }

@@ -15,6 +15,8 @@ class ConnectionDialogWindow : public QDialog {
   /// The dialog must outlive the window.
   ConnectionDialogWindow(const ApplicationModule& app, ConnectionDialog& dialog, QWidget* owner);
   ~ConnectionDialogWindow() override;
+  ConnectionDialogWindow(const ConnectionDialogWindow&) = delete;
+  ConnectionDialogWindow& operator=(const ConnectionDialogWindow&) = delete;
 
   /// Esc and the close box do what Cancel does.
   void reject() override;

@@ -20,6 +20,8 @@ class FramelistWidget : public PaintedPartsWidget {
   /// The rules must outlive the widget.
   FramelistWidget(Framelist& strip, QWidget* parent);
   ~FramelistWidget() override;
+  FramelistWidget(const FramelistWidget&) = delete;
+  FramelistWidget& operator=(const FramelistWidget&) = delete;
 
   void fitRules() override;
   /// Takes a height, and a width if the pictures do not need more.

@@ -35,6 +35,8 @@ class GeneratedFormFace : public QWidget {
 
   GeneratedFormFace(const ApplicationModule& app, Form form, QWidget* parent);
   ~GeneratedFormFace() override;
+  GeneratedFormFace(const GeneratedFormFace&) = delete;
+  GeneratedFormFace& operator=(const GeneratedFormFace&) = delete;
 
   /// The inner size of a form as it is designed.
   static QSize designSize();

@@ -28,6 +28,8 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   /// Loads the window, unseen. Both arguments outlive it.
   MainFormWindow(ApplicationModule& app, frmMain& rules);
   ~MainFormWindow() override;
+  MainFormWindow(const MainFormWindow&) = delete;
+  MainFormWindow& operator=(const MainFormWindow&) = delete;
 
   frmMain& rules() { return rules_; }
   UserInterface& ui();

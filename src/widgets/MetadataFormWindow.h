@@ -14,6 +14,8 @@ class MetadataFormWindow : public QDialog {
   /// The form must outlive the window.
   MetadataFormWindow(const ApplicationModule& app, LoadedForm& form, QWidget* owner);
   ~MetadataFormWindow() override;
+  MetadataFormWindow(const MetadataFormWindow&) = delete;
+  MetadataFormWindow& operator=(const MetadataFormWindow&) = delete;
 
   /// Esc and the close box do what Cancel does.
   void reject() override;

@@ -79,6 +79,8 @@ class PartsAccess : public QAccessibleWidget {
   ~PartsAccess() override {
     for (const QAccessible::Id id : ids_) QAccessible::deleteAccessibleInterface(id);
   }
+  PartsAccess(const PartsAccess&) = delete;
+  PartsAccess& operator=(const PartsAccess&) = delete;
 
   int childCount() const override { return parts_.partCount(); }
 

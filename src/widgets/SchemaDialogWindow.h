@@ -16,6 +16,8 @@ class SchemaDialogWindow : public QDialog {
   /// The dialog must outlive the window.
   SchemaDialogWindow(const ApplicationModule& app, AVDocSchemaDialog& dialog, QWidget* owner);
   ~SchemaDialogWindow() override;
+  SchemaDialogWindow(const SchemaDialogWindow&) = delete;
+  SchemaDialogWindow& operator=(const SchemaDialogWindow&) = delete;
 
   /// Esc and the close box do what Cancel does.
   void reject() override;

@@ -14,7 +14,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kTextWidth = 320;  // logical pixels
+constexpr int kTermWidth = 320;  // logical pixels
 
 }  // namespace
 
@@ -28,7 +28,7 @@ SearchDialogWindow::SearchDialogWindow(const ApplicationModule& app, SearchDialo
   label->setObjectName(QStringLiteral("Label1"));
   label->setBuddy(Text1_);
   Text1_->setObjectName(QStringLiteral("Text1"));
-  Text1_->setMinimumWidth(kTextWidth);
+  Text1_->setMinimumWidth(kTermWidth);
   Text1_->selectAll();
   column->addWidget(label);
   column->addWidget(Text1_);

@@ -16,6 +16,8 @@ class SearchDialogWindow : public QDialog {
   /// The dialog must outlive the window.
   SearchDialogWindow(const ApplicationModule& app, SearchDialog& dialog, QWidget* owner);
   ~SearchDialogWindow() override;
+  SearchDialogWindow(const SearchDialogWindow&) = delete;
+  SearchDialogWindow& operator=(const SearchDialogWindow&) = delete;
 
   /// Esc and the close box do what Cancel does.
   void reject() override;

@@ -15,6 +15,8 @@ class SearchResultWindow : public QDialog {
   /// The dialog must outlive the window.
   SearchResultWindow(const ApplicationModule& app, SearchResultDialog& dialog, QWidget* owner);
   ~SearchResultWindow() override;
+  SearchResultWindow(const SearchResultWindow&) = delete;
+  SearchResultWindow& operator=(const SearchResultWindow&) = delete;
 
   /// Esc and the close box do what Cancel does.
   void reject() override;

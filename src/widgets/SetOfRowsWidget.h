@@ -22,6 +22,8 @@ class SetOfRowsWidget : public QWidget {
   SetOfRowsWidget(SetOfRows& rows, const ApplicationModule& app, const QString& label,
                   QWidget* parent);
   ~SetOfRowsWidget() override;
+  SetOfRowsWidget(const SetOfRowsWidget&) = delete;
+  SetOfRowsWidget& operator=(const SetOfRowsWidget&) = delete;
 
   /// The height, in pixels, at which the captions of the two buttons are whole in the font of a
   /// form.

@@ -19,7 +19,7 @@ namespace {
 constexpr int kGap = 100;
 constexpr int kLeft = 100;
 constexpr int kTop = 450;
-constexpr int kRowHeight = 400;
+constexpr int kPanelRowHeight = 400;
 constexpr int kBackWidth = 1100;
 constexpr int kPictureWidth = 4000;
 constexpr int kPictureHeight = 3000;
@@ -58,7 +58,7 @@ void place(QWidget& widget, int left, int top, int width, int height) {
 ToolPanel::Measures ToolPanel::measures() const {
   const int text = twipsFromPixels(fontMetrics().height() + kAboveCaption);
   Measures is{};
-  is.row = qMax(kRowHeight, text);
+  is.row = qMax(kPanelRowHeight, text);
   is.frameTitle = qMax(kFrameTitle, text);
   is.back = widthOf({BackButt_}, kBackWidth);
   is.playerButton = widthOf(playerButtons_, kButtonWidth);

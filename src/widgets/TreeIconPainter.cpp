@@ -62,7 +62,7 @@ QIcon TreeIconPainter::icon(const std::string& key) {
   auto& kept = picture ? keyFrames_ : named_;
   const QString name = toQString(key);
   if (const QIcon* icon = kept.object(name)) return *icon;
-  const QIcon made = picture ? keyFrameIcon(*picture) : namedIcon(name);
+  QIcon made = picture ? keyFrameIcon(*picture) : namedIcon(name);
   kept.insert(name, new QIcon(made));
   return made;
 }

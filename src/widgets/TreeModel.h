@@ -19,6 +19,8 @@ class TreeModel : public QAbstractItemModel, public TreeWatcher {
   /// The tree outlives the model.
   TreeModel(Tree& tree, IconOfKey iconOf, QObject* parent);
   ~TreeModel() override;
+  TreeModel(const TreeModel&) = delete;
+  TreeModel& operator=(const TreeModel&) = delete;
 
   Tree& tree() { return tree_; }
   TreeNode* node(const QModelIndex& index) const;

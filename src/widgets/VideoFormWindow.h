@@ -19,6 +19,8 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
  public:
   VideoFormWindow(const ApplicationModule& app, QWidget* owner);
   ~VideoFormWindow() override;
+  VideoFormWindow(const VideoFormWindow&) = delete;
+  VideoFormWindow& operator=(const VideoFormWindow&) = delete;
 
   // What the form asks.
   void build(LoadedVideoForm& form) override;

@@ -9,7 +9,8 @@ namespace velra {
 namespace {
 
 QImage imageOf(const PictureFrame& frame) {
-  return {frame.pixels.data(), frame.width, frame.height, frame.width * 4, QImage::Format_RGB32};
+  return {frame.pixels.data(), frame.width, frame.height, qsizetype{4} * frame.width,
+          QImage::Format_RGB32};
 }
 
 }  // namespace
