@@ -17,6 +17,7 @@ class PlayClock {
   /// The sound is the master as long as there is one; it may be null.
   explicit PlayClock(std::unique_ptr<SoundOut> sound);
   PlayClock(PlayClock&& other) noexcept;
+  PlayClock& operator=(PlayClock&&) = delete;
   ~PlayClock();
   PlayClock(const PlayClock&) = delete;
   PlayClock& operator=(const PlayClock&) = delete;

@@ -2,15 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "base/RunTimeError.h"
 #include "platform/BadMovies.h"
+#include "support/ErrorOf.h"
 #include "support/NumberedMovie.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {
 namespace {
+
+using test::errorOf;
 
 std::uint32_t numberAt(const std::string& bytes, std::size_t at) {
   std::uint32_t value = 0;
@@ -36,15 +37,6 @@ PictureFrame bitmapIn(const std::string& bytes) {
     }
   }
   return picture;
-}
-
-int errorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-  return 0;
 }
 
 TEST(FrameGrabber, WritesThatVeryPicture) {

@@ -134,7 +134,7 @@ void strikeButton(const char* name) {
   strike(Qt::Key_Space);
 }
 
-void inTurn(std::vector<std::function<void(QWidget&)>> acts) {
+void inTurn(const std::vector<std::function<void(QWidget&)>>& acts) {
   if (acts.empty()) return;
   whenModal([acts](QWidget& window) {
     acts.front()(window);

@@ -48,7 +48,7 @@ void strikeButton(const char* name);
 
 /// Acts in the modal windows that a command will open one after the other. An act has to close its
 /// window.
-void inTurn(std::vector<std::function<void(QWidget&)>> acts);
+void inTurn(const std::vector<std::function<void(QWidget&)>>& acts);
 /// Answers the next boxes, each of which must show its text.
 struct BoxAnswer {
   std::string text;

@@ -125,7 +125,7 @@ TEST(SearchResults, RowsOpenTheirFormsByMouseAndKeyboard) {
     for (int column = 0; column < model.columnCount(); ++column) {
       headers << model.headerData(column, Qt::Horizontal).toString();
       first << model.index(0, column).data().toString();
-      EXPECT_NEAR(list.columnWidth(column), list.viewport()->width() / 3, 1);
+      EXPECT_NEAR(list.columnWidth(column), list.viewport()->width() / 3.0, 1);
     }
     EXPECT_EQ(headers, (QStringList{QStringLiteral("Type"), QStringLiteral("Title"),
                                     QStringLiteral("Number of founds")}));
