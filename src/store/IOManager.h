@@ -21,7 +21,7 @@ namespace velra {
 class ApplicationModule;
 class ObjectRegistry;
 
-/// The only class that touches object files. One instance belongs to one open document and is
+/// Finds, writes and deletes object files; `FolderScan` reads them for it. One instance belongs to one open document and is
 /// shared by all of its objects; its end deletes the files of removed objects. A server was
 /// foreseen as a second back end and is not there: with `bFileSystem` false the operations do
 /// nothing.
