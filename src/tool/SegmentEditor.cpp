@@ -18,7 +18,6 @@ namespace velra {
 
 namespace {
 
-constexpr int kNotValidInterval = 1102;
 constexpr int kTitlePrompt = 1103;
 constexpr int kTitleBoxTitle = 1104;
 constexpr int kBoundsOverlap = 1120;

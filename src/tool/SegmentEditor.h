@@ -62,6 +62,8 @@ class SegmentEditor {
   ExpressionRef child(std::int16_t position) const;
 
  private:
+  static constexpr int kNotValidInterval = 1102;  // a message
+
   void setTimelineSpan();
   bool isVideo() const;
   std::string caption(const std::string& title, double start, double end) const;

@@ -14,7 +14,6 @@ namespace velra {
 namespace {
 
 constexpr int kAskRemove = 1101;
-constexpr int kNotValidInterval = 1102;
 constexpr int kAskMerge = 1150;
 
 }  // namespace

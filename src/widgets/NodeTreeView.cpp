@@ -12,7 +12,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kFrameWidth = 2;  // pixels: room for the frame of the focus
+constexpr int kTreeFrame = 2;  // pixels: room for the frame of the focus
 
 QColor between(const QColor& one, const QColor& other, float share) {
   const auto mix = [share](float a, float b) { return a + (b - a) * share; };
@@ -35,7 +35,7 @@ void giveInactiveColour(QPalette& palette) {
 
 NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), model_(model) {
   setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(kFrameWidth);
+  setLineWidth(kTreeFrame);
   setHeaderHidden(true);
   setUniformRowHeights(true);  // a row costs nothing until it is seen
   setIconSize(TreeIconPainter::iconSize());
@@ -60,7 +60,7 @@ bool NodeTreeView::event(QEvent* event) {
 void NodeTreeView::paintFrame() {
   QPainter painter(this);
   if (hasFocus()) return paintFocusFrame(painter, rect(), palette());
-  painter.setPen(QPen(palette().base(), kFrameWidth * 2));
+  painter.setPen(QPen(palette().base(), kTreeFrame * 2));
   painter.drawRect(rect());
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
