@@ -21,10 +21,10 @@ namespace velra {
 class ApplicationModule;
 class ObjectRegistry;
 
-/// Finds, writes and deletes object files; `FolderScan` reads them for it. One instance belongs to one open document and is
-/// shared by all of its objects; its end deletes the files of removed objects. A server was
-/// foreseen as a second back end and is not there: with `bFileSystem` false the operations do
-/// nothing.
+/// Finds, writes and deletes object files; `FolderScan` reads them for it. One instance belongs to
+/// one open document and is shared by all of its objects; its end deletes the files of removed
+/// objects. A server was foreseen as a second back end and is not there: with `bFileSystem` false
+/// the operations do nothing.
 class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOManager> {
  public:
   explicit IOManager(ApplicationModule& app);
