@@ -30,7 +30,7 @@ constexpr std::int64_t kTailBytes = 8'000'000;
 constexpr double kMostShare = 3;
 
 // For a stream that does not tell its rate.
-constexpr double kUsualFrame = 0.04;
+constexpr double kAssumedFrame = 0.04;
 
 constexpr char kNoSureTimes[] = "The times of its pictures cannot be told.";
 
@@ -39,7 +39,7 @@ class MovieIndexer {
   MovieIndexer(PictureReader& reader, MovieIndex& index)
       : reader_(reader), input_(reader.input()), index_(index) {
     frameTime_ = reader.statedFrameTime();
-    if (frameTime_ <= 0) frameTime_ = kUsualFrame;
+    if (frameTime_ <= 0) frameTime_ = kAssumedFrame;
   }
 
   std::string run() {

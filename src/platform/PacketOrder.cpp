@@ -28,7 +28,7 @@ bool showsAfter(const OrderedPacket& a, const OrderedPacket& b) {
 
 struct PacketOrder::Parser {
   struct Close {
-    void operator()(AVCodecParserContext* context) const { av_parser_close(context); }
+    void operator()(AVCodecParserContext* parser) const { av_parser_close(parser); }
   };
   std::unique_ptr<AVCodecParserContext, Close> context;
   AvCodec codec;

@@ -10,13 +10,13 @@ namespace velra {
 
 namespace {
 
-constexpr std::chrono::seconds kScanLimit{3};
+constexpr std::chrono::seconds kTailLimit{3};
 constexpr double kTailSeconds = 2;
 
 }  // namespace
 
 PacketTail readTail(MovieInput& input) {
-  const auto stop = std::chrono::steady_clock::now() + kScanLimit;
+  const auto stop = std::chrono::steady_clock::now() + kTailLimit;
   const AvPacket packet(av_packet_alloc());
   PacketTail tail;
   while (std::chrono::steady_clock::now() < stop && input.read(*packet)) {

@@ -5,12 +5,12 @@ namespace velra {
 namespace {
 
 // Stamps that fall by more seconds than this begin anew; where leaps count at all.
-constexpr double kMostFall = 0.5;
+constexpr double kFurthestBack = 0.5;
 
 }  // namespace
 
 bool PictureClock::leaps(double ahead) const {
-  return std::isfinite(leap_) && (ahead > leap_ || ahead < -kMostFall);
+  return std::isfinite(leap_) && (ahead > leap_ || ahead < -kFurthestBack);
 }
 
 void PictureClock::restart(double time, double offset) {
