@@ -30,6 +30,8 @@ class PacketOrder {
   /// ticks from one packet to the next begin a new row.
   PacketOrder(const AVStream& stream, bool bareStamps, double leap, Receiver receiver);
   ~PacketOrder();
+  PacketOrder(const PacketOrder&) = delete;
+  PacketOrder& operator=(const PacketOrder&) = delete;
 
   void take(const AVPacket& packet);
 

@@ -24,6 +24,8 @@ class PictureReader {
 
   PictureReader();
   ~PictureReader();
+  PictureReader(const PictureReader&) = delete;
+  PictureReader& operator=(const PictureReader&) = delete;
 
   /// "" on success, else one sentence that tells why not. Called once.
   std::string open(const std::string& path);

@@ -196,7 +196,8 @@ std::vector<std::string> makeBlindMovies(const TemporaryFolder& folder) {
   std::string empty = bytesOf("mpeg4-25.avi");
   const std::string chunk = "00dc";
   for (std::size_t at = empty.find("movi"); (at = empty.find(chunk, at)) < empty.find("idx1");) {
-    const auto size = static_cast<std::size_t>(byteAt(empty, at + 4) + 256 * byteAt(empty, at + 5));
+    const int bytes = byteAt(empty, at + 4) + 256 * byteAt(empty, at + 5);
+    const auto size = static_cast<std::size_t>(bytes);
     empty.replace(at + 8, size, std::string(size, '\0'));
     at += 8 + size;
   }

@@ -14,7 +14,8 @@ bool isBright(const PictureFrame& picture, int column, double row) {
   int sum = 0;
   for (int dy = -2; dy < 2; ++dy) {
     for (int dx = -2; dx < 2; ++dx) {
-      sum += picture.pixels[static_cast<std::size_t>(((y + dy) * picture.width + x + dx) * 4 + 1)];
+      const int pixel = (y + dy) * picture.width + x + dx;
+      sum += picture.pixels[4 * static_cast<std::size_t>(pixel) + 1];
     }
   }
   return sum / 16 > 127;

@@ -29,6 +29,7 @@ class ScriptedExpression : public StubObject, public Expression {
   ExpressionList children;
   double frameRate = 0;
   double keyFrameTime = -1;
+  Picture keyFrame;                 // the benchmark of the strip gives some
   bool refusesNewSegments = false;  // as when a new object cannot be initialised
   std::shared_ptr<SEColl> fields;
   std::shared_ptr<ObjectForm> form;
@@ -91,7 +92,7 @@ class ScriptedExpression : public StubObject, public Expression {
   std::shared_ptr<WordColl> WordList() const override { return words; }
   double dFrameRate() const override { return frameRate; }
   void setDFrameRate(double framesPerSecond) override { frameRate = framesPerSecond; }
-  Picture picKeyFrame() const override { return {}; }
+  Picture picKeyFrame() const override { return keyFrame; }
   Picture picKeyFrameSmall() const override { return {}; }
   double dGetKeyFrameTime() const override { return keyFrameTime; }
   void SetKeyFrameTime(double seconds) override { keyFrameTime = seconds; }
