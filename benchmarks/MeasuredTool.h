@@ -7,7 +7,7 @@
 
 #include "Measure.h"
 #include "support/ToolSession.h"
-#include "widgets/VideoFormWindow.h"
+#include "widgets/tool/VideoFormWindow.h"
 
 class QPoint;
 

@@ -7,11 +7,11 @@
 #include <thread>
 
 #include "BenchMovies.h"
-#include "platform/FrameGrabber.h"
-#include "platform/FrameSource.h"
-#include "platform/MediaGraph.h"
-#include "platform/MovieProbe.h"
-#include "platform/PictureConverter.h"
+#include "platform/movie/FrameGrabber.h"
+#include "platform/movie/FrameSource.h"
+#include "platform/movie/MediaGraph.h"
+#include "platform/movie/MovieProbe.h"
+#include "platform/movie/PictureConverter.h"
 
 namespace velra::bench {
 

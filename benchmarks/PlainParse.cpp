@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace velra::bench {
 

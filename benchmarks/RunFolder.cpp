@@ -11,7 +11,7 @@
 #include <string_view>
 
 #include "base/Paths.h"
-#include "platform/FileHandle.h"
+#include "platform/files/FileHandle.h"
 
 namespace velra::bench {
 

@@ -9,8 +9,8 @@
 
 #include "MeasuredTool.h"
 #include "shell/LoadedVideoForm.h"
-#include "widgets/AdvancedSliderWidget.h"
-#include "widgets/FramelistWidget.h"
+#include "widgets/tool/AdvancedSliderWidget.h"
+#include "widgets/tool/FramelistWidget.h"
 
 namespace velra::bench {
 

@@ -4,7 +4,7 @@
 
 #include "MeasuredTool.h"
 #include "shell/LoadedVideoForm.h"
-#include "widgets/AdvancedSliderWidget.h"
+#include "widgets/tool/AdvancedSliderWidget.h"
 
 namespace velra::bench {
 

@@ -8,9 +8,9 @@
 #include "BenchSession.h"
 #include "DocumentMaker.h"
 #include "RunFolder.h"
-#include "widgets/MainFormWindow.h"
-#include "widgets/NodeTreeView.h"
-#include "widgets/TreeIconPainter.h"
+#include "widgets/main/MainFormWindow.h"
+#include "widgets/main/NodeTreeView.h"
+#include "widgets/main/TreeIconPainter.h"
 
 namespace velra::bench {
 

@@ -5,18 +5,18 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "platform/MachineSettings.h"
-#include "platform/MediaGraph.h"
-#include "platform/UserSettings.h"
+#include "platform/movie/MediaGraph.h"
+#include "platform/settings/MachineSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "shell/Factory.h"
 #include "shell/Start.h"
 #include "shell/VideoForm.h"
 #include "shell/frmMain.h"
 #include "widgets/GuardedApplication.h"
-#include "widgets/MainFormWindow.h"
-#include "widgets/QtFormPresenter.h"
 #include "widgets/QtUserInterface.h"
-#include "widgets/QtVideoForms.h"
+#include "widgets/forms/QtFormPresenter.h"
+#include "widgets/main/MainFormWindow.h"
+#include "widgets/tool/QtVideoForms.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 
 #include "base/Arithmetic.h"
 #include "base/Text.h"
-#include "platform/MachineSettings.h"
 #include "platform/UserInterface.h"
+#include "platform/settings/MachineSettings.h"
 
 namespace velra {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "base/RunTimeError.h"
 #include "objects/MediaObject.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "protocol/ClassRules.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"

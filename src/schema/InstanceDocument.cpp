@@ -1,7 +1,7 @@
 #include "schema/InstanceDocument.h"
 
 #include "base/Paths.h"
-#include "platform/XmlShell.h"
+#include "platform/xml/XmlShell.h"
 
 namespace velra {
 

@@ -6,7 +6,7 @@
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 #include "schema/SEColl.h"
 #include "schema/SchemaElement.h"
 #include "schema/SchemaFile.h"

@@ -5,7 +5,7 @@
 #include "base/Arithmetic.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "platform/XmlWriter.h"
+#include "platform/xml/XmlWriter.h"
 #include "schema/SchemaElement.h"
 
 namespace velra {

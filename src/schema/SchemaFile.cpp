@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "app/ApplicationModule.h"
-#include "platform/XmlShell.h"
+#include "platform/xml/XmlShell.h"
 #include "schema/SchemaReader.h"
 
 namespace velra {

@@ -6,8 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/Files.h"
-#include "platform/XmlDocument.h"
+#include "platform/files/Files.h"
+#include "platform/xml/XmlDocument.h"
 #include "schema/FieldDeclaration.h"
 
 namespace velra {

@@ -4,7 +4,7 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Text.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 #include "schema/CloseList.h"
 #include "schema/SEColl.h"
 

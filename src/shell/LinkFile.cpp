@@ -4,8 +4,8 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Text.h"
-#include "platform/Files.h"
 #include "platform/UserInterface.h"
+#include "platform/files/Files.h"
 
 namespace velra {
 

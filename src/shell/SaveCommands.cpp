@@ -3,8 +3,8 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "objects/AVDocument.h"
-#include "platform/Files.h"
 #include "platform/UserInterface.h"
+#include "platform/files/Files.h"
 #include "shell/frmMain.h"
 #include "store/IOManager.h"
 

@@ -1,7 +1,7 @@
 #include "shell/SystemInfo.h"
 
 #include "app/ApplicationModule.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace velra {
 

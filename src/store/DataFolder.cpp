@@ -8,7 +8,7 @@
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/IOManager.h"
 
 namespace velra {

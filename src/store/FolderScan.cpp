@@ -5,7 +5,7 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 #include "protocol/ClassRules.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SchemaFile.h"

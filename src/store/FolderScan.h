@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/RunTimeError.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "protocol/DescribedObject.h"
 #include "schema/InstanceDocument.h"
 #include "schema/SEColl.h"

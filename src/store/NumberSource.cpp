@@ -5,7 +5,7 @@
 
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {

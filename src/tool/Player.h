@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/MediaGraph.h"
+#include "platform/movie/MediaGraph.h"
 #include "protocol/Expression.h"
 
 namespace velra {

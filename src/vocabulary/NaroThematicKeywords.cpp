@@ -3,7 +3,7 @@
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "platform/UserInterface.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
 namespace velra {
 namespace {

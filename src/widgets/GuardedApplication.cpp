@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "widgets/MessageBoxes.h"
 #include "widgets/QtText.h"
+#include "widgets/dialogs/MessageBoxes.h"
 
 namespace velra {
 

@@ -10,9 +10,9 @@
 #include <QMessageBox>
 
 #include "widgets/BusyCursor.h"
-#include "widgets/FileFilters.h"
-#include "widgets/MessageBoxes.h"
 #include "widgets/QtText.h"
+#include "widgets/dialogs/FileFilters.h"
+#include "widgets/dialogs/MessageBoxes.h"
 
 namespace velra {
 

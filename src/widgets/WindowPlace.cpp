@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <string>
 
-#include "platform/UserSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "widgets/QtText.h"
 #include "widgets/Twips.h"
 

@@ -7,7 +7,7 @@
 #include "base/RunTimeError.h"
 #include "expressions/Video.h"
 #include "objects/MediaObject.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
 #include "support/DocumentSession.h"

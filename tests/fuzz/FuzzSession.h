@@ -7,8 +7,8 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
+#include "platform/settings/MachineSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,8 +2,8 @@
 
 #include "base/RunTimeError.h"
 #include "fuzz/FuzzSession.h"
-#include "platform/XmlDocument.h"
-#include "platform/XmlWriter.h"
+#include "platform/xml/XmlDocument.h"
+#include "platform/xml/XmlWriter.h"
 #include "schema/CloseList.h"
 #include "schema/InstanceWriter.h"
 #include "schema/SEColl.h"

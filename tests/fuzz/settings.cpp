@@ -1,7 +1,7 @@
 // A settings file: what it says survives the writing of another value.
 
 #include "fuzz/FuzzSession.h"
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static velra::fuzz::FuzzSession session;

@@ -6,7 +6,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "fuzz/FuzzSession.h"
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 #include "values/Date.h"
 #include "values/TimeCode.h"
 

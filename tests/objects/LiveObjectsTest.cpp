@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "objects/MediaObject.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
 #include "support/DocumentSession.h"

@@ -5,7 +5,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "schema/SEColl.h"
 #include "support/DocumentSession.h"
 #include "support/RandomDocument.h"

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "base/RunTimeError.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
 #include "support/DocumentSession.h"

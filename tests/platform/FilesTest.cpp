@@ -1,4 +1,4 @@
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

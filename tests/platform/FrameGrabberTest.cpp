@@ -1,4 +1,4 @@
-#include "platform/FrameGrabber.h"
+#include "platform/movie/FrameGrabber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
-#include "platform/FrameSource.h"
+#include "platform/movie/FrameSource.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
 
-#include "platform/MovieProbe.h"
 #include "platform/OddMovies.h"
-#include "platform/PictureConverter.h"
+#include "platform/movie/MovieProbe.h"
+#include "platform/movie/PictureConverter.h"
 #include "support/NumberedMovie.h"
 
 namespace velra {

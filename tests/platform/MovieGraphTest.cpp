@@ -1,4 +1,4 @@
-#include "platform/MovieGraph.h"
+#include "platform/movie/MovieGraph.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <filesystem>
 
 #include "platform/BadMovies.h"
-#include "platform/MovieProbe.h"
 #include "platform/OddMovies.h"
 #include "platform/PlayedMovie.h"
+#include "platform/movie/MovieProbe.h"
 #include "support/NumberedMovie.h"
 
 namespace velra {

@@ -1,11 +1,11 @@
-#include "platform/MovieProbe.h"
+#include "platform/movie/MovieProbe.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 
 #include "platform/BadMovies.h"
-#include "platform/FrameSource.h"
+#include "platform/movie/FrameSource.h"
 #include "support/NumberedMovie.h"
 
 namespace velra {

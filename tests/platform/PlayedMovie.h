@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/MediaGraph.h"
+#include "platform/movie/MediaGraph.h"
 
 namespace velra::test {
 

@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 
-#include "platform/Files.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
+#include "platform/files/Files.h"
+#include "platform/settings/MachineSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {

@@ -1,4 +1,4 @@
-#include "platform/SoundClock.h"
+#include "platform/sound/SoundClock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "platform/SoundReader.h"
+#include "platform/sound/SoundReader.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 
-#include "platform/FrameSource.h"
+#include "platform/movie/FrameSource.h"
 #include "support/NumberedMovie.h"
 
 namespace velra {

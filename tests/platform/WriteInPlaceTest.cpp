@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "support/TemporaryFolder.h"
 
 namespace {

@@ -1,12 +1,12 @@
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
 #include "base/Text.h"
-#include "platform/XmlShell.h"
-#include "platform/XmlWriter.h"
+#include "platform/xml/XmlShell.h"
+#include "platform/xml/XmlWriter.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {

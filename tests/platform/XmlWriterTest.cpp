@@ -1,10 +1,10 @@
-#include "platform/XmlShell.h"
-#include "platform/XmlWriter.h"
+#include "platform/xml/XmlShell.h"
+#include "platform/xml/XmlWriter.h"
 
 #include <gtest/gtest.h>
 
 #include "base/RunTimeError.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
 namespace velra {
 namespace {

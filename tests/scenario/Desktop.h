@@ -10,21 +10,21 @@
 
 #include "app/ApplicationModule.h"
 #include "objects/AVDocument.h"
-#include "platform/MachineSettings.h"
-#include "platform/MediaGraph.h"
-#include "platform/UserSettings.h"
+#include "platform/movie/MediaGraph.h"
+#include "platform/settings/MachineSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "scenario/Hands.h"
 #include "shell/Factory.h"
 #include "shell/Start.h"
 #include "shell/VideoForm.h"
 #include "shell/frmMain.h"
 #include "support/TemporaryFolder.h"
-#include "widgets/MainFormWindow.h"
 #include "widgets/ModalAnswer.h"
-#include "widgets/QtFormPresenter.h"
 #include "widgets/QtText.h"
 #include "widgets/QtUserInterface.h"
-#include "widgets/QtVideoForms.h"
+#include "widgets/forms/QtFormPresenter.h"
+#include "widgets/main/MainFormWindow.h"
+#include "widgets/tool/QtVideoForms.h"
 
 namespace velra::test {
 

@@ -11,7 +11,7 @@
 #include <QTest>
 
 #include "widgets/ModalAnswer.h"
-#include "widgets/PaintedParts.h"
+#include "widgets/tool/PaintedParts.h"
 
 namespace velra::test {
 

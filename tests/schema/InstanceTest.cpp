@@ -3,9 +3,9 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "platform/Files.h"
-#include "platform/XmlDocument.h"
-#include "platform/XmlWriter.h"
+#include "platform/files/Files.h"
+#include "platform/xml/XmlDocument.h"
+#include "platform/xml/XmlWriter.h"
 #include "schema/CloseList.h"
 #include "schema/ObjectFiles.h"
 #include "schema/SEColl.h"

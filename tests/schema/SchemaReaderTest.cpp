@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "schema/CloseList.h"
 #include "schema/SchemaElement.h"
 #include "support/TestApplication.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "Program.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/SubTreeRemoval.h"
 #include "support/FormObject.h"
 

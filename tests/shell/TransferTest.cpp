@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Program.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/IOManager.h"
 
 namespace velra {

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "base/Paths.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/NumberSource.h"
 #include "store/ObjectRegistry.h"
 #include "store/ReferenceIndex.h"

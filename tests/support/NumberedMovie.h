@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/MediaGraph.h"
+#include "platform/movie/MediaGraph.h"
 
 namespace velra::test {
 

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/MediaGraph.h"
+#include "platform/movie/MediaGraph.h"
 
 namespace velra::test {
 

@@ -1,6 +1,6 @@
 #include "support/SmallSchema.h"
 
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace velra::test {
 

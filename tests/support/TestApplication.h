@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/ApplicationModule.h"
-#include "platform/MachineSettings.h"
-#include "platform/UserSettings.h"
+#include "platform/settings/MachineSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TemporaryFolder.h"
 

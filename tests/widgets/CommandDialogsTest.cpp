@@ -13,9 +13,9 @@
 #include "shell/SearchResultDialog.h"
 #include "support/FormObject.h"
 #include "widgets/ModalAnswer.h"
-#include "widgets/QtFormPresenter.h"
 #include "widgets/QtText.h"
-#include "widgets/TreeIconPainter.h"
+#include "widgets/forms/QtFormPresenter.h"
+#include "widgets/main/TreeIconPainter.h"
 
 namespace velra {
 namespace {

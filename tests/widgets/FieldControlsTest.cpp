@@ -1,4 +1,4 @@
-#include "widgets/FieldControls.h"
+#include "widgets/forms/FieldControls.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -13,7 +13,7 @@
 #include "vocabulary/NaroThematicKeywords.h"
 #include "widgets/AccessibilityWalk.h"
 #include "widgets/FormWindowTest.h"
-#include "widgets/XmlText.h"
+#include "widgets/forms/XmlText.h"
 
 namespace velra {
 namespace {

@@ -1,4 +1,4 @@
-#include "widgets/QtFormPresenter.h"
+#include "widgets/forms/QtFormPresenter.h"
 
 #include <gtest/gtest.h>
 

@@ -13,7 +13,7 @@
 #include "forms/LoadedForm.h"
 #include "forms/MetadataKinds.h"
 #include "support/FormObject.h"
-#include "widgets/MetadataFormWindow.h"
+#include "widgets/forms/MetadataFormWindow.h"
 
 namespace velra::test {
 

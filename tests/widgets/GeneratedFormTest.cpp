@@ -1,4 +1,4 @@
-#include "widgets/GeneratedFormFace.h"
+#include "widgets/forms/GeneratedFormFace.h"
 
 #include <QGroupBox>
 #include <QPushButton>

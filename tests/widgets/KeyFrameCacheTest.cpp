@@ -1,4 +1,4 @@
-#include "widgets/KeyFrameCache.h"
+#include "widgets/main/KeyFrameCache.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include "support/TemporaryFolder.h"
 #include "values/Picture.h"
 #include "widgets/QtText.h"
-#include "widgets/TreeIconPainter.h"
+#include "widgets/main/TreeIconPainter.h"
 
 namespace velra {
 namespace {

@@ -1,4 +1,4 @@
-#include "widgets/MainFormWindow.h"
+#include "widgets/main/MainFormWindow.h"
 
 #include <gtest/gtest.h>
 

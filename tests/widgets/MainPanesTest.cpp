@@ -1,4 +1,4 @@
-#include "widgets/MainPanes.h"
+#include "widgets/main/MainPanes.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +7,12 @@
 #include <QLabel>
 #include <QTest>
 
-#include "platform/UserSettings.h"
+#include "platform/settings/UserSettings.h"
 #include "support/TemporaryFolder.h"
-#include "widgets/MainStatusBar.h"
-#include "widgets/NodeTreeView.h"
-#include "widgets/TreeModel.h"
 #include "widgets/WindowPlace.h"
+#include "widgets/main/MainStatusBar.h"
+#include "widgets/main/NodeTreeView.h"
+#include "widgets/main/TreeModel.h"
 
 namespace velra {
 namespace {

@@ -10,7 +10,7 @@
 #include "support/NumberedMovie.h"
 #include "support/ToolSession.h"
 #include "widgets/ModalAnswer.h"
-#include "widgets/VideoFormWindow.h"
+#include "widgets/tool/VideoFormWindow.h"
 
 namespace velra::test {
 namespace {

@@ -8,8 +8,8 @@
 #include <QPushButton>
 
 #include "support/TemporaryFolder.h"
-#include "widgets/FileFilters.h"
 #include "widgets/ModalAnswer.h"
+#include "widgets/dialogs/FileFilters.h"
 
 namespace velra {
 namespace {

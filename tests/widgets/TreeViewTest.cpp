@@ -7,10 +7,10 @@
 
 #include "shell/TreeIcons.h"
 #include "support/TemporaryFolder.h"
-#include "widgets/NodeTreeView.h"
 #include "widgets/QtText.h"
-#include "widgets/TreeIconPainter.h"
-#include "widgets/TreeModel.h"
+#include "widgets/main/NodeTreeView.h"
+#include "widgets/main/TreeIconPainter.h"
+#include "widgets/main/TreeModel.h"
 
 namespace velra {
 namespace {

@@ -1,4 +1,4 @@
-#include "widgets/VideoFormWindow.h"
+#include "widgets/tool/VideoFormWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -16,10 +16,10 @@
 
 #include "shell/LoadedVideoForm.h"
 #include "support/ToolSession.h"
-#include "widgets/AdvancedSliderWidget.h"
-#include "widgets/FramelistWidget.h"
 #include "widgets/ModalAnswer.h"
-#include "widgets/PaintedPartsAccess.h"
+#include "widgets/tool/AdvancedSliderWidget.h"
+#include "widgets/tool/FramelistWidget.h"
+#include "widgets/tool/PaintedPartsAccess.h"
 
 namespace velra::test {
 namespace {

@@ -1,0 +1,176 @@
+#include "platform/movie/FrameSource.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include "platform/movie/FrameTime.h"
+#include "platform/movie/MovieInput.h"
+#include "platform/movie/PacketTail.h"
+#include "values/TimeCode.h"
+
+namespace velra {
+
+namespace {
+
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
+
+// Closer than this many pictures ahead it is cheaper to decode on than to seek.
+constexpr double kDecodeOnPictures = 40;
+
+// A decoder that starts inside a group gives its first picture later than was asked; so far back
+// the next attempt starts, and each further one by a factor.
+constexpr double kFirstStepBack = 0.6;
+constexpr double kStepBackFactor = 2.5;
+
+// A claimed length may be wrong by so many seconds.
+constexpr double kClaimSlack = 1.1;
+
+// Two times of one picture that were counted on different ways differ by less.
+constexpr double kSameTime = 1e-6;
+
+// For pictures without a time of their own in a file that tells nothing.
+constexpr double kUsualFrame = 0.04;
+constexpr int kMeasuredPictures = 24;
+
+}  // namespace
+
+FrameSource::FrameSource() = default;
+
+FrameSource::~FrameSource() = default;
+
+void FrameSource::cancel() {
+  reader_.input().cancel();
+}
+
+std::string FrameSource::open(const std::string& path) {
+  if (std::string reason = reader_.open(path); !reason.empty()) return reason;
+  frameTime_ = reader_.statedFrameTime();
+  if (std::string reason = indexMovie(reader_, index_); !reason.empty()) return reason;
+  setFrameTime();
+  reader_.input().settle();
+  return {};
+}
+
+bool FrameSource::hasPictures() const {
+  return reader_.input().has(MovieTrack::Pictures);
+}
+
+void FrameSource::setFrameTime() {
+  const bool stampedPictures = reader_.input().stamps() == MovieStamps::OfPictures;
+  const double usual = stampedPictures ? index_.usualDistance() * reader_.tick() : 0;
+  frameTime_ = chooseFrameTime(reader_.statedFrameTime(), usual, reader_.tick(), index_.pictures);
+  reader_.setClock(frameTime_ > 0 ? frameTime_ : kUsualFrame, index_.leap);
+  if (frameTime_ <= 0) frameTime_ = medianDistance();
+}
+
+double FrameSource::medianDistance() {
+  std::vector<double> distances;
+  bool ended = !reader_.rewind();
+  while (!ended && distances.size() < kMeasuredPictures) {
+    const Found picture = step(ended);
+    if (picture && !ended) distances.push_back(picture->end - picture->time);
+  }
+  if (distances.empty()) return kUsualFrame;
+  const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
+  std::nth_element(distances.begin(), middle, distances.end());
+  return *middle;
+}
+
+double FrameSource::origin() const {
+  const double stamp = offsetAt(0);
+  return std::isnan(stamp) ? 0 : stamp;
+}
+
+// What the stamps exceed times by at a time.
+double FrameSource::offsetAt(double seconds) const {
+  if (index_.leaps) return index_.offsetAt(seconds + index_.first) + index_.first;
+  const double stamp = reader_.firstStamp();
+  return std::isnan(stamp) ? index_.offset + index_.first : stamp;
+}
+
+FrameSource::Found FrameSource::at(double seconds) {
+  const double time = std::isnan(seconds) ? 0 : std::max(0.0, inWholeMilliseconds(seconds));
+  return find(time + std::min(kNearFrame, frameTime_ / 4));
+}
+
+FrameSource::Found FrameSource::after(const MoviePicture& picture) {
+  return std::isinf(picture.end) ? nullptr : find(picture.end + kSameTime);
+}
+
+// The picture whose span holds a time.
+FrameSource::Found FrameSource::find(double target) {
+  if (Found known = cache_.find(target)) return known;
+  const double ahead = target - reader_.time().value_or(kInfinite);
+  if (ahead >= 0 && ahead < kDecodeOnPictures * frameTime_) return decodeOn(target);
+  return index_.byKeys ? seekByKeys(target) : seekTo(target);
+}
+
+FrameSource::Found FrameSource::step(bool& ended) {
+  Found picture = reader_.step(ended);
+  if (picture) cache_.add(picture);
+  return picture;
+}
+
+FrameSource::Found FrameSource::decodeOn(double target) {
+  bool ended = false;
+  Found picture;
+  while (!ended) {
+    if (Found next = step(ended)) picture = std::move(next);
+    if (picture && target < picture->end) return picture;
+  }
+  return reader_.input().cancelled() ? nullptr : picture;
+}
+
+FrameSource::Found FrameSource::seekTo(double target) {
+  const double claimed = reader_.input().claimedLength();
+  const bool behindEnd = claimed <= 0 || target > claimed - kClaimSlack || index_.known();
+  const double sought = behindEnd ? std::min(target, duration()) : target;
+  double back = 0;
+  while (!reader_.input().cancelled()) {
+    const double from = sought - back;
+    if (from <= 0) break;
+    if (reader_.startBehind(from, offsetAt(from)) && *reader_.time() <= target) {
+      return decodeOn(target);
+    }
+    back = back == 0 ? kFirstStepBack : back * kStepBackFactor;
+  }
+  return reader_.rewind() ? decodeOn(target) : nullptr;
+}
+
+// A key that does not come, as in a damaged file, leaves those before it.
+FrameSource::Found FrameSource::seekByKeys(double target) {
+  const KeyPlace* key = index_.keyBefore(target + index_.first);
+  while (key != nullptr && !reader_.input().cancelled()) {
+    if (reader_.isFirst(*key)) break;
+    if (reader_.startAt(*key, index_.first) && *reader_.time() <= target) return decodeOn(target);
+    key = key == index_.keys.data() ? nullptr : std::prev(key);
+  }
+  return reader_.rewind() ? decodeOn(target) : nullptr;
+}
+
+double FrameSource::duration() {
+  if (duration_ < 0) duration_ = measure();
+  return duration_;
+}
+
+// Container lengths are wrong by up to three pictures. The packets know it without decoding, unless
+// one at the end has no time of its own.
+double FrameSource::measure() {
+  if (index_.known()) return index_.length(frameTime_);
+  const double offset = offsetAt(0);
+  const double first = std::isnan(offset) ? 0 : offset;
+  const PacketTail tail =
+      findTail(reader_.input(), static_cast<std::int64_t>(std::llround(first / reader_.tick())));
+  reader_.forget();
+  const double last = tail.any ? static_cast<double>(tail.last) * reader_.tick() - first : 0;
+  if (tail.any && !tail.missing) return last + frameTime_;
+  duration_ = std::max(reader_.input().claimedLength() - 1, last);  // for the search
+  const Found picture = seekTo(kInfinite);
+  return picture ? picture->time + frameTime_ : 0;
+}
+
+}  // namespace velra

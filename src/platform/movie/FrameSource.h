@@ -1,0 +1,76 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/movie/FrameGrabber.h"
+#include "platform/movie/MovieIndex.h"
+#include "platform/movie/PictureCache.h"
+#include "platform/movie/PictureReader.h"
+
+namespace velra {
+
+/// The pictures of a movie by their times. Time 0 is the first picture that comes out of the
+/// decoder, whatever offset the container carries. The picture for t is the last one that starts at
+/// or before t, where t is taken in whole milliseconds, as files keep it, and `kNearFrame` before a
+/// start counts as that picture. One thread, but for `cancel`.
+class FrameSource {
+ public:
+  FrameSource();
+  ~FrameSource();
+  FrameSource(const FrameSource&) = delete;
+  FrameSource& operator=(const FrameSource&) = delete;
+
+  /// "" on success, else one sentence that tells why not. A file of which no picture can be decoded
+  /// is refused, and one whose pictures cannot be told their times. Called once.
+  std::string open(const std::string& path);
+
+  /// True when the file has a track of pictures, also when they cannot be decoded.
+  bool hasPictures() const;
+
+  /// The picture for a time in seconds: the first one for times before it, the last one for times
+  /// behind the end. Null when the file cannot be read any more, or after `cancel`.
+  std::shared_ptr<const MoviePicture> at(double seconds);
+
+  /// The picture behind one; null behind the last.
+  std::shared_ptr<const MoviePicture> after(const MoviePicture& picture);
+
+  /// Seconds from the first picture to the end of the last; measured at the first call.
+  double duration();
+
+  /// Seconds a picture: what the file tells, or the usual distance where that is another.
+  double frameTime() const { return frameTime_; }
+
+  /// The coded size of the first picture, without correction of the aspect.
+  PixelSize size() const { return reader_.size(); }
+
+  /// The time in seconds that the container gives to the first picture.
+  double origin() const;
+
+  /// Makes the running call and all later ones fail soon. From any thread.
+  void cancel();
+
+  /// Seeks of the container so far: what a test or a measurement wants to keep low.
+  int seeks() const { return reader_.starts(); }
+
+ private:
+  using Found = std::shared_ptr<const MoviePicture>;
+
+  void setFrameTime();
+  double medianDistance();
+  Found find(double target);
+  Found step(bool& ended);
+  Found decodeOn(double target);
+  Found seekTo(double target);
+  Found seekByKeys(double target);
+  double offsetAt(double seconds) const;
+  double measure();
+
+  PictureReader reader_;
+  MovieIndex index_;
+  PictureCache cache_;
+  double frameTime_ = 0;
+  double duration_ = -1;  // not measured yet
+};
+
+}  // namespace velra

@@ -1,0 +1,32 @@
+#include "platform/movie/FrameTime.h"
+
+#include <cmath>
+#include <initializer_list>
+
+namespace velra {
+
+namespace {
+
+// An average over a movie that lacks pictures differs from the usual distance by more.
+constexpr double kSameShare = 0.005;
+
+// Rates that films and television have, and those a thousandth slower.
+constexpr double kRates[] = {10, 12, 12.5, 15, 24, 25, 30, 48, 50, 60, 100, 120};
+constexpr double kSlower = 1.001;
+
+}  // namespace
+
+double chooseFrameTime(double stated, double usual, double tick, std::int64_t pictures) {
+  const bool same = stated > 0 && std::abs(usual - stated) < stated * kSameShare;
+  const double frame = usual > 0 && !same ? usual : stated;
+  // What adds up to no more than the rounding to ticks by the end of the movie is that rounding.
+  const double most = 1.5 * tick / static_cast<double>(pictures > 0 ? pictures : 1);
+  for (const double rate : kRates) {
+    for (const double standard : {1 / rate, kSlower / rate}) {
+      if (pictures > 1 && std::abs(frame - standard) < most) return standard;
+    }
+  }
+  return frame;
+}
+
+}  // namespace velra

@@ -1,0 +1,134 @@
+#include "platform/movie/MovieIndex.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+#include "platform/movie/MovieInput.h"
+#include "platform/movie/PictureClock.h"
+#include "platform/movie/PictureReader.h"
+
+namespace velra {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+// So long is read in each case; what is not read by then is told by its stamps, if these can be
+// trusted.
+constexpr milliseconds kScanLimit{100};
+
+// Stamps of bytes come several times a second, and a recording that begins anew shows by them.
+constexpr double kLeapOfBytes = 10;
+constexpr double kLeapOfPictures = 3600;
+
+// Holds a key at any usual rate.
+constexpr std::int64_t kTailBytes = 8'000'000;
+
+// How much more or less time the rest of a file may take for its bytes than its beginning.
+constexpr double kMostShare = 3;
+
+// For a stream that does not tell its rate.
+constexpr double kAssumedFrame = 0.04;
+
+constexpr char kNoSureTimes[] = "The times of its pictures cannot be told.";
+
+class MovieIndexer {
+ public:
+  MovieIndexer(PictureReader& reader, MovieIndex& index)
+      : reader_(reader), input_(reader.input()), index_(index) {
+    frameTime_ = reader.statedFrameTime();
+    if (frameTime_ <= 0) frameTime_ = kAssumedFrame;
+  }
+
+  std::string run() {
+    if (!input_.hasBareStamps()) {
+      if (input_.stamps() == MovieStamps::OfPictures) readPictures();
+      return index_.leaps && index_.lost ? kNoSureTimes : "";
+    }
+    readBytes(kScanLimit);
+    if (!index_.complete && trustsStamps()) return {};
+    if (!index_.complete) readBytes(MovieInput::kOpenLimit);
+    if (!index_.complete)
+      return "Its pictures carry no sure times, and they are too many to count.";
+    index_.byKeys = true;
+    index_.leap = kLeapOfBytes;
+    findFirst();
+    return {};
+  }
+
+ private:
+  void take(PictureIndex&& read) { static_cast<PictureIndex&>(index_) = std::move(read); }
+
+  PictureIndex read(double leap, milliseconds limit) {
+    return indexPictures(input_, frameTime_, leap, std::chrono::steady_clock::now() + limit);
+  }
+
+  // Not every way leads to the start; on another the first picture is missing.
+  void readPictures() {
+    const double first = reader_.firstStamp();
+    const auto ticks = static_cast<std::int64_t>(std::llround(first / reader_.tick()));
+    for (int way = 0; way < MovieInput::kWaysToStart && !std::isnan(first); ++way) {
+      if (!input_.toStart(way, ticks)) continue;
+      take(read(kLeapOfPictures, kScanLimit));
+      index_.sure = index_.sure && !(index_.offset > first + frameTime_ / 2);
+      if (index_.sure) break;
+    }
+    if (!index_.known()) index_.leaps = false;
+    if (index_.known()) index_.leap = kLeapOfPictures;
+    index_.first = index_.known() ? first - index_.offset : 0;
+  }
+
+  void readBytes(milliseconds limit) {
+    if (!input_.seekByte(0)) return;
+    take(read(kLeapOfBytes, limit));
+  }
+
+  // Where keys have stamps, these lead to every picture, unless they leap farther on.
+  bool trustsStamps() {
+    const double first = reader_.firstStamp();
+    const std::int64_t bytes = input_.bytes();
+    if (std::isnan(first) || !index_.stampedKeys || index_.leaps || index_.bytes <= 0) return false;
+    const double expected =
+        index_.last * static_cast<double>(bytes) / static_cast<double>(index_.bytes);
+    if (!input_.seekByte(std::max<std::int64_t>(0, bytes - kTailBytes))) return false;
+    const PictureIndex tail = read(kLeapOfBytes, kScanLimit);
+    if (!tail.complete || std::isnan(tail.offset) || tail.leaps) return false;
+    const double last = tail.offset + tail.last - first;
+    if (last < expected / kMostShare || last > expected * kMostShare) return false;
+    index_.stampedLength = last + tail.lastFields * frameTime_ / PictureClock::kFields;
+    return true;
+  }
+
+  void findFirst() {
+    const double stamp = reader_.firstStamp();
+    if (!std::isnan(stamp) && !std::isnan(index_.offset)) {
+      index_.first = stamp - index_.offset;
+      return;
+    }
+    const auto key = std::find_if(index_.keys.begin(), index_.keys.end(),
+                                  [&](const KeyPlace& one) { return reader_.isFirst(one); });
+    index_.first = key == index_.keys.end() ? 0 : key->time;
+  }
+
+  PictureReader& reader_;
+  MovieInput& input_;
+  MovieIndex& index_;
+  double frameTime_;
+};
+
+}  // namespace
+
+double MovieIndex::length(double frameTime) const {
+  if (stampedLength >= 0) return stampedLength;
+  return last - first + lastFields * frameTime / PictureClock::kFields;
+}
+
+std::string indexMovie(PictureReader& reader, MovieIndex& index) {
+  std::string reason = MovieIndexer(reader, index).run();
+  reader.forget();
+  return reason;
+}
+
+}  // namespace velra

@@ -1,0 +1,130 @@
+#include "platform/movie/PictureIndex.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "platform/movie/LibAv.h"
+#include "platform/movie/MovieInput.h"
+#include "platform/movie/PacketOrder.h"
+#include "platform/movie/PictureClock.h"
+
+namespace velra {
+
+namespace {
+
+// More different distances than that say nothing.
+constexpr std::size_t kMostDistances = 1000;
+
+// Such a share of the pictures is most of them.
+constexpr double kMost = 0.6;
+
+// Takes the packets in the order in which their pictures are shown.
+class IndexMaker {
+ public:
+  IndexMaker(double frameTime, double leap, double tick, PictureIndex& index)
+      : clock_(frameTime, leap), tick_(tick), index_(index) {}
+
+  void take(const OrderedPacket& packet) {
+    const bool stamped = packet.ticks != kNoTime;
+    const double stamp =
+        stamped ? static_cast<double>(packet.ticks) * tick_ : PictureClock::kUnknown;
+    const double time = clock_.take(stamp, packet.fields);
+    if (std::isnan(firstOffset_)) firstOffset_ = clock_.offset();
+    index_.last = time;
+    index_.lastFields = packet.fields;
+    ++index_.pictures;
+    if (stamped && lastTicks_ != kNoTime) addDistance(packet.ticks - lastTicks_);
+    lastTicks_ = packet.ticks;
+    if (packet.key) addKey(packet, time, stamped);
+  }
+
+  void finish() {
+    index_.leaps = clock_.leapt();
+    index_.stampedKeys = stampedKeys_ > 0 && stampedKeys_ * 2 >= keys_;
+    // The first stamp may come only after the first keys.
+    index_.offset = firstOffset_;
+    for (KeyPlace& key : index_.keys) {
+      if (std::isnan(key.offset)) key.offset = firstOffset_;
+    }
+  }
+
+ private:
+  void addDistance(std::int64_t ticks) {
+    if (ticks > 0 && index_.distances.size() < kMostDistances) ++index_.distances[ticks];
+  }
+
+  void addKey(const OrderedPacket& packet, double time, bool stamped) {
+    ++keys_;
+    if (stamped) ++stampedKeys_;
+    if (!index_.keys.empty() && time < index_.keys.back().time + PictureIndex::kKeyDistance) return;
+    index_.keys.push_back({packet.position, packet.behind, packet.size, time, clock_.offset()});
+  }
+
+  PictureClock clock_;
+  double tick_;
+  PictureIndex& index_;
+  std::int64_t lastTicks_ = kNoTime;
+  std::int64_t keys_ = 0;
+  std::int64_t stampedKeys_ = 0;
+  double firstOffset_ = PictureClock::kUnknown;
+};
+
+}  // namespace
+
+const KeyPlace* PictureIndex::keyBefore(double time) const {
+  const auto behind = std::upper_bound(keys.begin(), keys.end(), time,
+                                       [](double t, const KeyPlace& key) { return t < key.time; });
+  return behind == keys.begin() ? nullptr : &*std::prev(behind);
+}
+
+double PictureIndex::offsetAt(double time) const {
+  const KeyPlace* key = keyBefore(time);
+  return key != nullptr ? key->offset : offset;
+}
+
+double PictureIndex::usualDistance() const {
+  std::int64_t count = 0;
+  for (const auto& [ticks, times] : distances) count += times;
+  std::int64_t median = 0;
+  std::int64_t below = 0;
+  for (const auto& [ticks, times] : distances) {
+    median = ticks;
+    below += times;
+    if (below * 2 >= count) break;
+  }
+  double sum = 0;
+  double used = 0;
+  for (const auto& [ticks, times] : distances) {
+    if (std::abs(ticks - median) > 1) continue;
+    sum += static_cast<double>(ticks) * times;
+    used += times;
+  }
+  return used > kMost * static_cast<double>(count) ? sum / used : 0;
+}
+
+PictureIndex indexPictures(MovieInput& input, double frameTime, double leap,
+                           std::chrono::steady_clock::time_point stop) {
+  PictureIndex index;
+  const AVStream& stream = *input.stream();
+  const double tick = av_q2d(stream.time_base);
+  IndexMaker maker(frameTime, leap, tick, index);
+  PacketOrder order(stream, input.hasBareStamps(), leap / tick,
+                    [&](const OrderedPacket& packet) { maker.take(packet); });
+  const AvPacket packet(av_packet_alloc());
+  while (std::chrono::steady_clock::now() < stop) {
+    if (!input.read(*packet)) {
+      index.complete = input.atEnd();
+      break;
+    }
+    index.bytes = std::max(index.bytes, packet->pos);
+    order.take(*packet);
+  }
+  order.finish();
+  maker.finish();
+  index.sure = order.sure();
+  index.lost = order.lost();
+  return index;
+}
+
+}  // namespace velra

@@ -1,0 +1,46 @@
+#include "platform/settings/UserSettings.h"
+
+#include <cstdlib>
+
+#include "base/Paths.h"
+#include "platform/files/Files.h"
+
+namespace velra {
+namespace {
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+void makeFolders(const std::string& folder) {
+  if (bFolderExists(folder)) return;
+  const std::string above = strAbsolutePath(folder + "/..");
+  if (above != folder) makeFolders(above);
+  makeFolder(folder);
+}
+
+}  // namespace
+
+UserSettings::UserSettings(std::string path) : path_(std::move(path)), file_(path_) {}
+
+std::string UserSettings::defaultPath() {
+  // A relative path there would mean another place in each folder.
+  const std::string wanted = environment("XDG_CONFIG_HOME");
+  const std::string folder = wanted.starts_with('/') ? wanted : environment("HOME") + "/.config";
+  return strAbsolutePath("velra/velra.ini", folder);
+}
+
+std::string UserSettings::read(const std::string& section, const std::string& key,
+                               const std::string& defaultText) const {
+  const auto line = file_.find(section, key);
+  return line ? unescapedLine(*line) : defaultText;
+}
+
+void UserSettings::write(const std::string& section, const std::string& key,
+                         const std::string& text) {
+  makeFolders(strAbsolutePath(folderOf(path_)));
+  file_.set(section, key, escapedLine(text));
+}
+
+}  // namespace velra

@@ -1,0 +1,25 @@
+#include "platform/sound/SoundLength.h"
+
+#include "platform/movie/LibAv.h"
+#include "platform/movie/MovieInput.h"
+#include "platform/movie/PacketTail.h"
+#include "platform/movie/TrackDecoder.h"
+
+namespace velra {
+
+double soundLength(const std::string& path) {
+  MovieInput input;
+  TrackDecoder decoder;
+  if (!input.open(path).empty() || !input.choose(MovieTrack::Sound)) return 0;
+  const AVStream* stream = input.stream();
+  if (!decoder.open(*stream).empty()) return 0;
+  const AvFrame first = decoder.next(input);
+  if (!first) return 0;
+  const std::int64_t start =
+      first->best_effort_timestamp == kNoTime ? 0 : first->best_effort_timestamp;
+  const PacketTail tail = findTail(input, start);
+  if (!tail.any || tail.missing) return input.claimedLength();
+  return static_cast<double>(tail.last + tail.duration - start) * av_q2d(stream->time_base);
+}
+
+}  // namespace velra

@@ -1,0 +1,67 @@
+#include "platform/xml/XmlChecks.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <optional>
+#include <string_view>
+
+#include "base/RunTimeError.h"
+#include "platform/xml/XmlLibrary.h"
+
+namespace velra::xml {
+namespace {
+
+/// The length of the UTF-8 sequence at the front and its code point; nothing when it is malformed.
+struct CodePoint {
+  std::size_t length;
+  std::uint32_t value;
+};
+std::optional<CodePoint> firstCodePoint(std::string_view text) {
+  int length = static_cast<int>(text.size());
+  const int value = xmlGetUTF8Char(reinterpret_cast<const xmlChar*>(text.data()), &length);
+  if (value < 0) return std::nullopt;
+  return CodePoint{static_cast<std::size_t>(length), static_cast<std::uint32_t>(value)};
+}
+
+bool isXmlCharacter(std::uint32_t value) {
+  if (value < 0x20) return value == 0x9 || value == 0xA || value == 0xD;
+  return value <= 0xD7FF || (value >= 0xE000 && value <= 0xFFFD) ||
+         (value >= 0x10000 && value <= 0x10FFFF);
+}
+
+std::string characterName(std::uint32_t value, const char* format) {
+  char buffer[16];
+  std::snprintf(buffer, sizeof buffer, format, value);
+  return buffer;
+}
+
+}  // namespace
+
+void checkText(const std::string& text, const std::string& owner) {
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    const auto byte = static_cast<unsigned char>(rest.front());
+    if (byte >= 0x20 && byte < 0x80) {
+      rest.remove_prefix(1);
+      continue;
+    }
+    const auto point = byte < 0x80 ? CodePoint{1, byte} : firstCodePoint(rest);
+    if (!point) {
+      raise(kInvalidArgument, owner + ": the byte " + characterName(byte, "%02X") + " is no text");
+    }
+    if (!isXmlCharacter(point->value)) {
+      raise(kInvalidArgument,
+            owner + ": a file cannot hold the character " + characterName(point->value, "U+%04X"));
+    }
+    rest.remove_prefix(point->length);
+  }
+}
+
+void checkName(const std::string& name) {
+  const bool whole = name.find('\0') == std::string::npos;
+  if (!whole || xmlValidateName(bytesOf(name), 0) != 0) {
+    raise(kInvalidArgument, "\"" + name + "\" is no name of an element or attribute");
+  }
+}
+
+}  // namespace velra::xml

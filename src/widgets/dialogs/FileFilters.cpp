@@ -1,0 +1,36 @@
+#include "widgets/dialogs/FileFilters.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include "widgets/QtText.h"
+
+namespace velra {
+
+namespace {
+
+QString withoutBrackets(const QString& description) {
+  static const QRegularExpression closing(QStringLiteral("\\s*\\([^()]*\\)\\s*$"));
+  QString text = description;
+  return text.remove(closing);
+}
+
+QString spacedPatterns(const QString& patterns) {
+  QStringList each = patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+  each.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+  return each.join(QLatin1Char(' '));
+}
+
+}  // namespace
+
+QString fileDialogFilter(const std::string& pairs) {
+  const QStringList pieces = toQString(pairs).split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+    filters << withoutBrackets(pieces[i]) + QStringLiteral(" (") + spacedPatterns(pieces[i + 1]) +
+                   QLatin1Char(')');
+  }
+  return filters.join(QStringLiteral(";;"));
+}
+
+}  // namespace velra

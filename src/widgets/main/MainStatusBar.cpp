@@ -1,0 +1,64 @@
+#include "widgets/main/MainStatusBar.h"
+
+#include <QDateTime>
+#include <QLabel>
+#include <QLocale>
+
+namespace velra {
+
+namespace {
+
+constexpr int kRedrawMilliseconds = 50;
+constexpr int kClockMilliseconds = 1000;
+
+}  // namespace
+
+MainStatusBar::MainStatusBar(QWidget* parent)
+    : QStatusBar(parent),
+      text_(addPanel("sbStatusBar_1", "Status", 1)),
+      date_(addPanel("sbStatusBar_2", "Date", 0)),
+      time_(addPanel("sbStatusBar_3", "Time", 0)) {
+  setObjectName(QStringLiteral("sbStatusBar"));
+  text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // never widens the window
+  later_.setSingleShot(true);
+  connect(&later_, &QTimer::timeout, this, &MainStatusBar::drawText);
+  connect(&clock_, &QTimer::timeout, this, &MainStatusBar::updateClock);
+  clock_.start(kClockMilliseconds);
+  updateClock();
+}
+
+QLabel* MainStatusBar::addPanel(const char* name, const char* accessibleName, int stretch) {
+  auto* label = new QLabel(this);
+  label->setObjectName(QLatin1String(name));
+  label->setAccessibleDescription(QLatin1String(accessibleName));
+  label->setTextFormat(Qt::PlainText);
+  label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+  label->setMargin(2);
+  addPermanentWidget(label, stretch);
+  return label;
+}
+
+void MainStatusBar::showText(const QString& text) {
+  pending_ = text;
+  if (sinceDrawn_.isValid() && sinceDrawn_.elapsed() < kRedrawMilliseconds) {
+    if (!later_.isActive()) later_.start(kRedrawMilliseconds);
+    return;
+  }
+  drawText();
+}
+
+void MainStatusBar::drawText() {
+  text_->setText(pending_);
+  text_->setToolTip(pending_.toHtmlEscaped());  // whole, also in a narrow window
+  text_->repaint();
+  sinceDrawn_.start();
+}
+
+void MainStatusBar::updateClock() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QLocale locale;
+  date_->setText(locale.toString(now.date(), QLocale::ShortFormat));
+  time_->setText(locale.toString(now.time(), QLocale::ShortFormat));
+}
+
+}  // namespace velra

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "widgets/tool/PaintedPartsWidget.h"
+
+class QStyleOptionSlider;
+
+namespace velra {
+
+class AdvancedSlider;
+
+/// Paints the timeline and hands mouse and keys to its rules. The arrows move by one picture, Page
+/// Up and Page Down by a page, Home and End to the ends; with Ctrl, Left and Right select a range,
+/// with Shift a stretch of them; Return goes into the selected range.
+class AdvancedSliderWidget : public PaintedPartsWidget {
+  Q_OBJECT
+
+ public:
+  /// The rules must outlive the widget.
+  AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* parent);
+  ~AdvancedSliderWidget() override;
+  AdvancedSliderWidget(const AdvancedSliderWidget&) = delete;
+  AdvancedSliderWidget& operator=(const AdvancedSliderWidget&) = delete;
+
+  /// The width that its rules can count, in pixels: their places are 16-bit numbers of twips.
+  static int maximumRulesWidth();
+
+  void fitRules() override;
+
+  QSize sizeHint() const override;
+
+  // The slider, for screen readers.
+  double seconds() const;
+  double firstSecond() const;
+  double lastSecond() const;
+  double stepSeconds() const;
+  void moveTo(double seconds);
+
+  // The ranges.
+  int partCount() const override;
+  QRect partRect(int part) const override;
+  QString partName(int part) const override;
+  bool partSelected(int part) const override;
+  int currentPart() const override;
+
+ protected:
+  int partAt(const QPoint& place) const override;
+  void selectPart(int part, int shift) override;
+  void openPart(int part) override;
+  bool takeKey(const QKeyEvent& event) override;
+  void paintParts(QPainter& painter, const QRect& dirty) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void thumbMoved();
+  QStyleOptionSlider sliderOption() const;
+  QRect sliderRect() const;
+  int thumbLength() const;
+  std::int32_t valueAt(int x) const;
+  void page(int direction);
+  bool moveThumbByKey(int key);
+  bool selectByKey(const QKeyEvent& event);
+
+  AdvancedSlider& advsld_;
+  QTimer Timer1_;
+  QElapsedTimer sinceAnnounced_;
+  bool dragging_ = false;
+  int grip_ = 0;  // from the thumb's centre to where the mouse holds it
+};
+
+}  // namespace velra

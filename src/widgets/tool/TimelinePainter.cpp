@@ -1,0 +1,74 @@
+#include "widgets/tool/TimelinePainter.h"
+
+#include <QPainter>
+#include <QWidget>
+#include <algorithm>
+
+#include "widgets/RuleColours.h"
+#include "widgets/Twips.h"
+
+namespace velra {
+
+namespace {
+
+constexpr double kBodyTwips = 375;
+constexpr int kLeastWidth = 3;
+constexpr int kBlinkLineHalf = 100;  // twips above and below the row's middle
+const QColor kGround(248, 248, 246);
+const QColor kGroundDisabled(214, 214, 212);
+const QColor kGroundEdge(120, 120, 120);
+const QColor kOutline(30, 30, 30);
+
+}  // namespace
+
+QRect TimelinePainter::markRect(const AdvancedSlider::Mark& mark) {
+  const int body = pixelsFromTwips(kBodyTwips);
+  const int left = pixelsFromTwips(mark.left);
+  const int right = pixelsFromTwips(mark.left + mark.width);
+  return {left, (kMarkRowHeight - body) / 2, std::max(kLeastWidth, right - left), body};
+}
+
+void TimelinePainter::paint(const AdvancedSlider& advsld) {
+  paintGround(advsld);
+  painter_.save();
+  painter_.setClipRect(0, 0, widget_.width(), kMarkRowHeight);
+  for (const AdvancedSlider::Mark& mark : advsld.marks()) paintMark(mark);
+  if (advsld.blinkLine().visible) paintBlinkLine(advsld.blinkLine());
+  painter_.restore();
+}
+
+void TimelinePainter::paintGround(const AdvancedSlider& advsld) {
+  painter_.setPen(kGroundEdge);
+  painter_.setBrush(advsld.Enabled() ? kGround : kGroundDisabled);
+  painter_.drawRect(0, 1, widget_.width() - 1, kMarkRowHeight - 3);
+}
+
+void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
+  const QRect body = markRect(mark);
+  const QColor colour = colourOf(mark.colour);
+  const int end = std::min(2, body.width());
+  if (body.width() <= 2 * end) {
+    painter_.fillRect(body, colour);  // the two ends are all of it
+  } else {
+    QColor inside = colour;
+    inside.setAlpha(mark.borderWidth == AdvancedSlider::kSelectedBorder ? 70 : 25);
+    painter_.fillRect(body, inside);
+    // The line of the span, as thick as the rules say, and an end at each side of it.
+    painter_.fillRect(body.left(), body.center().y() - mark.borderWidth / 2, body.width(),
+                      mark.borderWidth, colour);
+    painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
+    painter_.fillRect(body.right() + 1 - end, body.top(), end, body.height(), colour);
+  }
+  if (mark.borderWidth != AdvancedSlider::kSelectedBorder) return;
+  painter_.setPen(kOutline);
+  painter_.setBrush(Qt::NoBrush);
+  painter_.drawRect(body.adjusted(0, 0, -1, -1));
+}
+
+void TimelinePainter::paintBlinkLine(const AdvancedSlider::BlinkLine& line) {
+  const int half = pixelsFromTwips(kBlinkLineHalf);
+  painter_.fillRect(pixelsFromTwips(line.x) - 1, kMarkRowHeight / 2 - half, 2, 2 * half,
+                    colourOf(line.colour));
+}
+
+}  // namespace velra

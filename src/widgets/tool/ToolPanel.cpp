@@ -1,0 +1,181 @@
+#include "widgets/tool/ToolPanel.h"
+
+#include <QFontDatabase>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextCursor>
+
+#include "app/ApplicationModule.h"
+#include "tool/ExpressionTool.h"
+#include "widgets/QtText.h"
+#include "widgets/tool/AdvancedSliderWidget.h"
+#include "widgets/tool/StripView.h"
+#include "widgets/tool/VideoPictureWidget.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kBackCaption = 1040;
+constexpr int kLongParagraph = 2000;  // characters: more than two minutes of speech
+
+struct ButtonLooks {
+  const char* name;
+  const char* caption;
+  const char* toolTip;
+  void (*command)(ExpressionTool&);
+};
+
+constexpr ButtonLooks kPlayerButtons[] = {
+    {"cmdPlay", ">", "Play movie", [](ExpressionTool& tool) { tool.player.cmdPlay(); }},
+    {"cmdPause", "ll", "Pause movie", [](ExpressionTool& tool) { tool.player.cmdPause(); }},
+    {"cmdStop", "Stop", "Stop movie", [](ExpressionTool& tool) { tool.player.cmdStop(); }},
+    {"cmdRewind", "-1", "step one frame backward",
+     [](ExpressionTool& tool) { tool.player.cmdRewind(); }},
+    {"cmdForward", "+1", "step one frame forward",
+     [](ExpressionTool& tool) { tool.player.cmdForward(); }},
+};
+
+// The tool tips of the two last but one name the bound that moves, and not the side of the button.
+constexpr ButtonLooks kSegmentButtons[] = {
+    {"cmdSel", "|", "Select Start/End point of new segment",
+     [](ExpressionTool& tool) { tool.segments.SelectSegmentPoint(); }},
+    {"cmdNew", "|-|", "Create new segment",
+     [](ExpressionTool& tool) { tool.segments.NewSegmentByDialog(); }},
+    {"cmdModif", "<->", "Modify selected segment",
+     [](ExpressionTool& tool) { tool.segments.ModifySelectedSegment(); }},
+    {"cmdCanc", "X", "Remove selected segment",
+     [](ExpressionTool& tool) { tool.segments.ConfirmRemoveSegments(); }},
+    {"cmdMerge", "- + -", "Merge the selected Expresions",
+     [](ExpressionTool& tool) { tool.segments.MergeSelectedSegments(); }},
+    {"cmdPrev", "<--", "Move previous segment bound",
+     [](ExpressionTool& tool) { tool.segments.MoveToPreviousBound(); }},
+    {"cmdNext", "-->", "Move to next segment bound",
+     [](ExpressionTool& tool) { tool.segments.MoveToNextBound(); }},
+    {"cmdExpandLeft", "|>", "Extend rigth bound",
+     [](ExpressionTool& tool) { tool.segments.ExtendPreviousSegment(); }},
+    {"cmdExpandRight", "<|", "Extend left bound",
+     [](ExpressionTool& tool) { tool.segments.ExtendNextSegment(); }},
+    {"cmdKeyFrame", "K", "Set a new keyframe",
+     [](ExpressionTool& tool) { tool.segments.ChangeKeyFrame(); }},
+};
+
+}  // namespace
+
+ToolPanel::ToolPanel(const ApplicationModule& app, ExpressionTool& tool, QWidget* parent)
+    : QWidget(parent),
+      tool_(tool),
+      picVideoWindow_(new VideoPictureWidget(this)),
+      advsld_(new AdvancedSliderWidget(tool.advsld, this)),
+      stripView_(new StripView(tool.Framelist1, this)) {
+  setObjectName(QStringLiteral("ToolPanel"));
+  setAutoFillBackground(true);
+  picVideoWindow_->setObjectName(QStringLiteral("picVideoWindow"));
+  advsld_->setObjectName(QStringLiteral("advsld"));
+  makePlayer(app);
+  makeTranscript();
+  makeSegmentControls();
+  makeTabOrder();
+}
+
+QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, const char* toolTip,
+                                   Command command, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(QLatin1String(name));
+  button->setToolTip(QLatin1String(toolTip));
+  // The captions are signs; what is spoken is what they do.
+  button->setAccessibleName(QLatin1String(toolTip));
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this, command] { command(tool_); });
+  return button;
+}
+
+void ToolPanel::makePlayer(const ApplicationModule& app) {
+  BackButt_ = makeButton(
+      "BackButt", toQString(app.LoadResString(kBackCaption)), "To the parent (sub)expression",
+      [](ExpressionTool& tool) { tool.BackButt(); }, this);
+  txtTime_ = new QLineEdit(QStringLiteral("00:00:00:00"), this);
+  txtTime_->setObjectName(QStringLiteral("txtTime"));
+  txtTime_->setToolTip(QStringLiteral("TimeCode"));
+  txtTime_->setAccessibleName(QStringLiteral("TimeCode"));
+  txtTime_->setReadOnly(true);
+  txtTime_->setAlignment(Qt::AlignCenter);
+  txtTime_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  for (const ButtonLooks& looks : kPlayerButtons) {
+    playerButtons_ << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
+                                 looks.command, this);
+  }
+}
+
+void ToolPanel::makeTranscript() {
+  rtbTrans_ = new QPlainTextEdit(this);
+  rtbTrans_->setObjectName(QStringLiteral("rtbTrans"));
+  rtbTrans_->setAccessibleName(QStringLiteral("Transcript"));
+  rtbTrans_->setReadOnly(true);
+  rtbTrans_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  rtbTrans_->setTabChangesFocus(true);
+  rtbTrans_->setUndoRedoEnabled(false);
+}
+
+void ToolPanel::makeSegmentControls() {
+  VideoFrame_ = new QGroupBox(QStringLiteral("Segment controls"), this);
+  VideoFrame_->setObjectName(QStringLiteral("VideoFrame"));
+  for (const ButtonLooks& looks : kSegmentButtons) {
+    segmentButtons_ << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
+                                  looks.command, VideoFrame_);
+  }
+}
+
+void ToolPanel::makeTabOrder() {
+  QList<QWidget*> order{BackButt_, txtTime_};
+  for (QPushButton* button : playerButtons_) order << button;
+  order << rtbTrans_;
+  for (QPushButton* button : segmentButtons_) order << button;
+  order << advsld_ << stripView_->widget();
+  for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+void ToolPanel::focusFirst() {
+  playerButtons_.first()->setFocus(Qt::TabFocusReason);
+}
+
+void ToolPanel::showTimeCode(const QString& text) {
+  txtTime_->setText(text);
+}
+
+void ToolPanel::swapTimeCodeColours(bool swapped) {
+  QPalette colours = palette();
+  if (swapped) {
+    const QColor ground = colours.color(QPalette::Base);
+    colours.setColor(QPalette::Base, colours.color(QPalette::Text));
+    colours.setColor(QPalette::Text, ground);
+  }
+  txtTime_->setPalette(colours);
+}
+
+void ToolPanel::showTranscript(const QString& text) {
+  rtbTrans_->clear();
+  appendTranscript(text);
+}
+
+// A paragraph is laid out as a whole for each new word, so that a long text is several of them.
+void ToolPanel::appendTranscript(const QString& text) {
+  QTextCursor end(rtbTrans_->document());
+  end.movePosition(QTextCursor::End);
+  end.beginEditBlock();
+  for (qsizetype at = 0; at < text.size();) {
+    if (end.block().length() > kLongParagraph) end.insertBlock();
+    const qsizetype blank = text.indexOf(QLatin1Char(' '), at + kLongParagraph);
+    const qsizetype stop = blank < 0 ? text.size() : blank;
+    end.insertText(text.mid(at, stop - at));
+    at = stop;
+  }
+  end.endEditBlock();
+  rtbTrans_->verticalScrollBar()->setValue(rtbTrans_->verticalScrollBar()->maximum());
+}
+
+}  // namespace velra
