@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Everything that comes from outside, in one place; ./run and ./test install it.
 find_package(PkgConfig REQUIRED)
 find_package(LibXml2 REQUIRED)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Flags that every target of ours shares.
 add_library(velra_flags INTERFACE)
 add_library(velra::flags ALIAS velra_flags)

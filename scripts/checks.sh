@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
 # The checks of ./test that run no program of ours. Sourced by bash, after common.sh.
 
@@ -7,9 +8,24 @@ check_format() {
     fail "The sources above differ from .clang-format; clang-format -i puts them right."
 }
 
+# The files that a program of the first line runs.
+runnable_files() {
+  grep -rlE --exclude-dir=build --exclude-dir=.git -m1 '^#!/' .
+}
+
+check_licences() {
+  local without
+  without=$({
+    runnable_files
+    find src tests benchmarks cmake CMakeLists.txt scripts/*.sh \
+      -name '*.h' -o -name '*.cpp' -o -name '*.cmake' -o -name CMakeLists.txt -o -name '*.sh'
+  } | xargs grep -LE '^(//|#) SPDX-License-Identifier: GPL-3.0-or-later$' || true)
+  [ -z "$without" ] || fail "These files name no licence in an SPDX line:"$'\n'"$without"
+}
+
 check_scripts() {
   local scripts
-  mapfile -t scripts < <(grep -rlE --exclude-dir=build --exclude-dir=.git -m1 '^#!.*/.*sh$' .)
+  mapfile -t scripts < <(runnable_files | xargs grep -lE -m1 '^#!.*sh$')
   shellcheck -x -P SCRIPTDIR "${scripts[@]}" || fail "shellcheck has found what is above."
 }
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
 # What ./run and ./test share. Sourced by bash; `root` is the checkout.
 set -euo pipefail

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
 # How ./test and ./fuzz run a fuzzer. Sourced by bash, after common.sh.
 

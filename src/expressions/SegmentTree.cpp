@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The tree of segments of an expression: opening, adding, linking, removing.
 #include <algorithm>
 #include <string_view>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // How a document is saved, and what of that is taken back when it fails.
 #include <utility>
 

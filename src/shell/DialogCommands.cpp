@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The commands of the main window that open a dialog: search and connection.
 #include "app/ApplicationModule.h"
 #include "shell/DialogPresenter.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The Edit menu of the main window and the Delete key on its trees.
 #include <algorithm>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The File menu of the main window: the only code that replaces the open document.
 #include <algorithm>
 #include <utility>

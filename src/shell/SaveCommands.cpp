@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The commands of the File menu that write the open document.
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"

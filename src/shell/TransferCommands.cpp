@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The two commands that take a document out of the file system and back. No server stands on the
 // other side: a document taken out is written nowhere, and its files stay as they are.
 #include "app/ApplicationModule.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Where the files of a document lie, and the names that nobody else gives.
 #include <sys/random.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The searches of IOManager through the files of a folder.
 #include <algorithm>
 #include <utility>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The way of IOManager from any object's file up to its document.
 #include "app/ApplicationModule.h"
 #include "platform/UserInterface.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The ranges of the timeline: adding, placing, selecting, removing.
 #include "tool/AdvancedSlider.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Layout, scrolling and the mouse of the strip.
 #include "tool/Framelist.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The segment editor's two-press selection, its walks along the chain, and its clicks.
 #include "tool/SegmentEditor.h"
 

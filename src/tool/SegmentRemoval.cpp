@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The segment editor's removals and merges, and what is selected after them.
 #include "tool/SegmentEditor.h"
 

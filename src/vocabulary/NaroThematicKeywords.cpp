@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "vocabulary/NaroThematicKeywords.h"
 
 #include "app/ApplicationModule.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Arithmetic.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // An object's file: read, written, and read again, which must give the same file as before.
 
 #include "base/RunTimeError.h"

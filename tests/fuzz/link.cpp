@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A file that names an object of a server.
 
 #include "fuzz/FuzzSession.h"

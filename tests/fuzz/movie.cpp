@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A movie file: its size, its length, and a still in its middle.
 
 #include "base/RunTimeError.h"

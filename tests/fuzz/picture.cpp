@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A key-frame picture.
 
 #include "base/RunTimeError.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A schema that an archive wrote: every class is asked for.
 
 #include "base/RunTimeError.h"

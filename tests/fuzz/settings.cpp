@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A settings file: what it says survives the writing of another value.
 
 #include "fuzz/FuzzSession.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The texts of dates, numbers and time codes, and of lines in a settings file: what is read and
 // written again reads as the same.
 

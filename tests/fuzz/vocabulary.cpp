@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The five-language vocabulary.
 
 #include "base/RunTimeError.h"

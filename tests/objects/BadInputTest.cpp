@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Objects whose document or children cannot be found.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What can be wrong with one object of a document: the box that tells of it, and what opens
 // besides.
 #include <gtest/gtest.h>

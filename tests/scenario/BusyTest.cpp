@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the window does while long work runs.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A day of cutting in the real tool with the sample's movie: by the mouse, and by the keyboard
 // alone.
 #include <gtest/gtest.h>

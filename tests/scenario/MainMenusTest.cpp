@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The menus and the tool bar of the real main window, and what they bring up.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What a hundred openings of the tool leave behind: nothing.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A cataloguer's day in the real windows, by mouse and keyboard and the names of the controls.
 #include <gtest/gtest.h>
 

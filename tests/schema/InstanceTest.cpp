@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // How fields come out of an object's file and go back into it.
 #include <gtest/gtest.h>
 

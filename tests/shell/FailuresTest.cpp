@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What can fail in the file commands: the boxes that tell of it, and what goes on afterwards.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The registry and the source of numbers, compared with plain walks under random operations.
 #include <gtest/gtest.h>
 

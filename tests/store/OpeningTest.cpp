@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What an opening makes of its files: links, registrations, boxes and their order.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The pictures carry their numbers. What counts is what the tool's window has painted.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Where the keyboard's focus goes on a generated form.
 #include <QGroupBox>
 #include <QPushButton>

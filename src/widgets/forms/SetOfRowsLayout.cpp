@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Where the parts of a set of rows stand, and what of it is in sight.
 #include <QCheckBox>
 #include <QPushButton>

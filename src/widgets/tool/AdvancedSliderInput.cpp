@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The mouse and the keys on the timeline.
 #include "widgets/tool/AdvancedSliderWidget.h"
 

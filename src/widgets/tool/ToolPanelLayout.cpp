@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Where the controls of the tool's tab stand. Twips, from the form's top left corner.
 #include "widgets/tool/ToolPanel.h"
 
