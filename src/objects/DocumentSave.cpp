@@ -143,7 +143,7 @@ bool AVDocument::bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDo
       return false;
     }
   }
-  const IOManager::Naming naming(*io(), strAVDocPathName);
+  const IOManager::Naming naming(*io(), collObjects_, strAVDocPathName);
   const std::string schemaPath = app().strXSDPath();
   ReferenceIndex& references = collObjects_.references();
   ReferenceIndex::Batch batch(references);

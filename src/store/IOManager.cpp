@@ -50,11 +50,8 @@ std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, const std::str
   if (className == "AVDocument") return withSeparator(strAbsolutePath(folder)) + base + ".xml";
   std::string message = strMakeDataFolder(strAVDocPathName);
   if (!message.empty()) return message;
-  collObjects.setFreedListener([self = weak_from_this()](const std::string& key) {
-    if (const auto io = self.lock()) io->numbers_.freed(key);
-  });
   const std::string prefix = dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(className);
-  return *promised_.insert(numbers_.take(collObjects, prefix, "." + extension)).first;
+  return *promised_.insert(collObjects.numbers().take(prefix, "." + extension)).first;
 }
 
 std::string IOManager::strOpen(XmlDocument& objDOMDocument, const std::string& strGUID) {
@@ -104,7 +101,7 @@ std::string IOManager::strDeleteFile(const std::string& strGUID) {
 void IOManager::withdraw(const std::string& strGUID) {
   strDeleteFile(strGUID);
   promised_.erase(strGUID);
-  numbers_.fileWent(strGUID);
+  if (naming_) naming_->fileWent(strGUID);
 }
 
 std::string IOManager::strWhatIs(const std::string& strGUID) {
@@ -126,8 +123,8 @@ void IOManager::MoveObject(const std::string& source, const std::string& destina
   const std::string from = strAbsolutePath(source);
   const std::string to = strAbsolutePath(destination);
   MoveFileTo(from, to);
-  numbers_.fileWent(from);
-  numbers_.fileCame(to);
+  if (naming_) naming_->fileWent(from);
+  if (naming_) naming_->fileCame(to);
   promised_.erase(to);
 }
 
@@ -137,15 +134,15 @@ void IOManager::CopyObject(const std::string& source, const std::string& destina
   // Copying replaces, and what has come under a promised name is another program's.
   if (isPromised(to) && bFileExists(to)) raise(kFileAlreadyExists, to);
   CopyFileTo(strAbsolutePath(source), to);
-  numbers_.fileCame(to);
+  if (naming_) naming_->fileCame(to);
   promised_.erase(to);
 }
 
-bool IOManager::checkConsistency(ObjectRegistry& collObjects) const {
+bool IOManager::checkConsistency() const {
   for (const auto& [folder, scan] : scans_) {
     if (!scan.checkConsistency()) return false;
   }
-  return numbers_.checkConsistency(collObjects);
+  return true;
 }
 
 IOManager::Opening::Opening(IOManager& io) : io_(io) {
@@ -162,7 +159,14 @@ IOManager::Opening::~Opening() {
   for (auto& [folder, scan] : io_.scans_) scan.endOpening();
 }
 
-IOManager::Naming::Naming(IOManager& io, const std::string& strAVDocPathName)
-    : listing_(io.numbers_, dataFolderOf(strAVDocPathName)) {}
+IOManager::Naming::Naming(IOManager& io, ObjectRegistry& collObjects,
+                          const std::string& strAVDocPathName)
+    : io_(io), listing_(collObjects.numbers(), dataFolderOf(strAVDocPathName)) {
+  io_.naming_ = &listing_;
+}
+
+IOManager::Naming::~Naming() {
+  io_.naming_ = nullptr;
+}
 
 }  // namespace velra

@@ -124,14 +124,18 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// names.
   class Naming {
    public:
-    Naming(IOManager& io, const std::string& strAVDocPathName);
+    Naming(IOManager& io, ObjectRegistry& collObjects, const std::string& strAVDocPathName);
+    ~Naming();
+    Naming(const Naming&) = delete;
+    Naming& operator=(const Naming&) = delete;
 
    private:
+    IOManager& io_;
     NumberSource::Listing listing_;
   };
 
-  /// True when the indexes give what objects and files say; for tests.
-  bool checkConsistency(ObjectRegistry& collObjects) const;
+  /// True when what is known of the searched folders agrees with itself; for tests.
+  bool checkConsistency() const;
 
   /// The fields of a file that a search has read already; nothing when it has to be read.
   std::optional<LoadedFields> takeLoadedFields(const std::string& strGUID,
@@ -156,7 +160,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   ApplicationModule& app_;
   bool bFileSystem_ = true;
   std::vector<std::string> colGUIDToRemove_;
-  NumberSource numbers_;
+  NumberSource::Listing* naming_ = nullptr;  // while a Naming lives
   std::map<std::string, FolderScan> scans_;  // by the folder's normal form
   std::set<std::string> fresh_;              // folders that this opening has looked at
   unsigned scanGeneration_ = 0;              // of the current folder, when the scans were made

@@ -43,6 +43,18 @@ NumberSource::Listing::~Listing() {
   numbers_.listedNames_.clear();
 }
 
+void NumberSource::Listing::fileCame(const std::string& path) {
+  const std::string& folder = numbers_.listedFolder_;
+  if (path.starts_with(folder)) numbers_.listedNames_.insert(path.substr(folder.size()));
+}
+
+void NumberSource::Listing::fileWent(const std::string& path) {
+  const std::string& folder = numbers_.listedFolder_;
+  if (!path.starts_with(folder)) return;
+  numbers_.listedNames_.erase(path.substr(folder.size()));
+  numbers_.freed(path);
+}
+
 bool NumberSource::fileTaken(const std::string& path) const {
   if (!listedFolder_.empty() && path.starts_with(listedFolder_)) {
     return listedNames_.contains(path.substr(listedFolder_.size()));
@@ -50,11 +62,11 @@ bool NumberSource::fileTaken(const std::string& path) const {
   return bFileExists(path);
 }
 
-std::string NumberSource::takeFromGaps(ObjectRegistry& objects, Family& family,
-                                       const std::string& prefix, const std::string& suffix) {
+std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix,
+                                       const std::string& suffix) {
   for (auto gap = family.gaps.begin(); gap != family.gaps.end();) {
     std::string path = prefix + std::to_string(*gap) + suffix;
-    if (objects.find(path)) {
+    if (objects_.find(path)) {
       gap = family.gaps.erase(gap);
     } else if (fileTaken(path)) {
       // Within a listing files neither come nor go, so the gap is closed for good.
@@ -66,15 +78,14 @@ std::string NumberSource::takeFromGaps(ObjectRegistry& objects, Family& family,
   return {};
 }
 
-std::string NumberSource::take(ObjectRegistry& objects, const std::string& prefix,
-                               const std::string& suffix) {
+std::string NumberSource::take(const std::string& prefix, const std::string& suffix) {
   Family& family = families_[{prefix, suffix}];
   if (family.key.empty()) family.key = strAbsolutePath(prefix);
-  std::string path = takeFromGaps(objects, family, prefix, suffix);
+  std::string path = takeFromGaps(family, prefix, suffix);
   if (!path.empty()) return path;
   for (; family.frontier <= kHighestNumber; ++family.frontier) {
     path = prefix + std::to_string(family.frontier) + suffix;
-    if (objects.find(path)) continue;
+    if (objects_.find(path)) continue;
     if (!fileTaken(path)) return path;
     if (listedFolder_.empty()) family.gaps.insert(family.frontier);
   }
@@ -88,22 +99,11 @@ void NumberSource::freed(const std::string& key) {
   }
 }
 
-void NumberSource::fileCame(const std::string& path) {
-  if (listedFolder_.empty() || !path.starts_with(listedFolder_)) return;
-  listedNames_.insert(path.substr(listedFolder_.size()));
-}
-
-void NumberSource::fileWent(const std::string& path) {
-  if (listedFolder_.empty() || !path.starts_with(listedFolder_)) return;
-  listedNames_.erase(path.substr(listedFolder_.size()));
-  freed(path);
-}
-
-bool NumberSource::checkConsistency(ObjectRegistry& objects) const {
+bool NumberSource::checkConsistency() const {
   for (const auto& [name, family] : families_) {
     for (int number = 1; number < family.frontier; ++number) {
       const std::string path = name.first + std::to_string(number) + name.second;
-      const bool taken = objects.find(path) || (!listedFolder_.empty() && fileTaken(path));
+      const bool taken = objects_.find(path) || (!listedFolder_.empty() && fileTaken(path));
       if (!taken && !family.gaps.contains(number)) return false;
     }
   }

@@ -38,7 +38,7 @@ bool ObjectRegistry::Remove(const DescribedObject& object) {
   const ObjectRef kept = entry->second;  // its end must not meet a half-changed list
   objects_.erase(entry);
   kept->setObjectListener(nullptr);
-  tellFreed(key);
+  numbers_.freed(key);
   return true;
 }
 
@@ -113,15 +113,11 @@ void ObjectRegistry::identifierChanged(const DescribedObject& object) {
   if (key == old) return;
   unindex(at->second);
   at->second = indexed(at->second.number, std::move(key));
-  tellFreed(old);
+  numbers_.freed(old);
 }
 
 ObjectRegistry::Place ObjectRegistry::indexed(std::uint64_t number, std::string key) {
   return {number, &*byKey_.emplace(std::move(key), number)};
-}
-
-void ObjectRegistry::tellFreed(const std::string& key) const {
-  if (freedListener_) freedListener_(key);
 }
 
 void ObjectRegistry::unindex(const Place& place) {
@@ -138,7 +134,7 @@ void ObjectRegistry::rekeyAfterFolderChange() {
   for (auto& [object, place] : places_) {
     const std::string& old = place.key();
     place = indexed(place.number, strAbsolutePath(object->strGUID()));
-    if (place.key() != old) tellFreed(old);
+    if (place.key() != old) numbers_.freed(old);
   }
 }
 
@@ -165,7 +161,7 @@ bool ObjectRegistry::checkConsistency() const {
     for (auto at = first; at != last; ++at) indexed = indexed || at->second == number;
     if (!indexed || (object->bChanged() && !changed_.contains(number))) return false;
   }
-  return true;
+  return numbers_.checkConsistency();
 }
 
 }  // namespace velra

@@ -2,14 +2,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <set>
 #include <string>
 #include <unordered_map>
-#include <utility>
 
 #include "protocol/DescribedObject.h"
+#include "store/NumberSource.h"
 #include "store/ReferenceIndex.h"
 
 namespace velra {
@@ -57,10 +56,8 @@ class ObjectRegistry : private ObjectListener {
 
   ReferenceIndex& references() { return references_; }
 
-  /// Called with the normal form of every identifier that goes out of use.
-  void setFreedListener(std::function<void(const std::string&)> listener) {
-    freedListener_ = std::move(listener);
-  }
+  /// The numbers of new files; it hears of every identifier that goes out of use.
+  NumberSource& numbers() { return numbers_; }
 
   void clear();
 
@@ -83,7 +80,6 @@ class ObjectRegistry : private ObjectListener {
   void rekeyAfterFolderChange();
   Place indexed(std::uint64_t number, std::string key);
   void unindex(const Place& place);
-  void tellFreed(const std::string& key) const;
   const ObjectRef* firstWithKey(const std::string& key, std::uint64_t& number) const;
 
   Sequence objects_;
@@ -91,8 +87,8 @@ class ObjectRegistry : private ObjectListener {
   Keys byKey_;                       // by the normal form of the identifier
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   ReferenceIndex references_{*this};
+  NumberSource numbers_{*this};
   std::uint64_t next_ = 1;
-  std::function<void(const std::string&)> freedListener_;
   unsigned folderGeneration_ = 0;
 };
 

@@ -45,7 +45,6 @@ class Indexes {
   explicit Indexes(unsigned seed) : random_(seed) {
     for (const char* name : {"here", "there"}) std::filesystem::create_directory(folder_ / name);
     changeCurrentFolder(folder_ / "here");
-    objects_.setFreedListener([this](const std::string& key) { numbers_.freed(key); });
   }
 
   void step() {
@@ -78,12 +77,11 @@ class Indexes {
     EXPECT_EQ(objects_.positionOf(guid), plainPosition(objects_, guid)) << guid;
     EXPECT_EQ(nextNumber(), plainNumber(objects_, prefix()));
     EXPECT_TRUE(objects_.checkConsistency());
-    EXPECT_TRUE(numbers_.checkConsistency(objects_));
   }
 
  private:
   std::string prefix() const { return folder_ / "here/film_version"; }
-  std::string nextNumber() { return numbers_.take(objects_, prefix(), ".xml"); }
+  std::string nextNumber() { return objects_.numbers().take(prefix(), ".xml"); }
   std::string anyPath() { return prefix() + std::to_string(upTo(random_, 7) + 1) + ".xml"; }
 
   std::string anyIdentifier() {
@@ -110,24 +108,23 @@ class Indexes {
   void createFile() {
     const std::string path = anyPath();
     folder_.write("here/" + strFileName(path), "x");
-    numbers_.fileCame(path);
+    if (listing_) listing_->fileCame(path);
   }
   void deleteFile() {
     const std::string path = anyPath();
-    if (std::filesystem::remove(path)) numbers_.fileWent(path);
+    if (std::filesystem::remove(path) && listing_) listing_->fileWent(path);
   }
   void listOrNot() {
     if (listing_) {
       listing_.reset();
     } else {
-      listing_.emplace(numbers_, folder_ / "here");
+      listing_.emplace(objects_.numbers(), folder_ / "here");
     }
   }
 
   std::mt19937 random_;
   TemporaryFolder folder_;
   ObjectRegistry objects_;
-  NumberSource numbers_;
   std::optional<NumberSource::Listing> listing_;
 };
 
@@ -144,14 +141,7 @@ TEST(Indexes, AnswerAsThePlainWalksDo) {
 
 TEST(Indexes, SayWhenTheyWereNotTold) {
   ObjectRegistry objects;
-  NumberSource numbers;
-  for (int i = 0; i < 3; ++i) {
-    objects.Add(std::make_shared<StubObject>(numbers.take(objects, "/a/film_media", ".xml")));
-  }
-  EXPECT_EQ(numbers.take(objects, "/a/film_media", ".xml"), "/a/film_media4.xml");
-  EXPECT_TRUE(numbers.checkConsistency(objects));
-  objects.Remove(*objects.Item(2));  // nobody listens
-  EXPECT_FALSE(numbers.checkConsistency(objects));
+  objects.Add(std::make_shared<StubObject>("/a/film_media1.xml"));
   EXPECT_TRUE(objects.checkConsistency());
   dynamic_cast<StubObject&>(*objects.Item(1)).setSecretly("/a/film_media9.xml");
   EXPECT_FALSE(objects.checkConsistency());
@@ -198,12 +188,12 @@ TEST(Indexes, ReferencesToldOfOverAndOverAreKeptOnce) {
 
 TEST(Indexes, NumbersEndAt32767) {
   ObjectRegistry objects;
-  NumberSource numbers;
+  NumberSource& numbers = objects.numbers();
   for (int number = 1; number <= 32767; ++number) {
     objects.Add(std::make_shared<StubObject>("/v" + std::to_string(number)));
   }
-  EXPECT_THROW(numbers.take(objects, "/v", ""), RunTimeError);
-  EXPECT_EQ(numbers.take(objects, "/w", ""), "/w1");
+  EXPECT_THROW(numbers.take("/v", ""), RunTimeError);
+  EXPECT_EQ(numbers.take("/w", ""), "/w1");
 }
 
 }  // namespace
