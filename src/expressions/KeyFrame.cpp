@@ -11,6 +11,7 @@
 #include "platform/movie/FrameGrabber.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SEColl.h"
+#include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ObjectRegistry.h"
 

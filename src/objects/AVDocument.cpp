@@ -61,9 +61,9 @@ std::int16_t AVDocument::iAlreadyLoaded(const std::string& guid) {
 
 std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                                 const std::shared_ptr<IOManager>& io) {
-  const IOManager::Opening opening(*io);
+  const FolderScans::Opening opening(io->scans());
   std::string message = LadderObject::strOpen(guid, form, io);
-  unlisted_ = io->strUnlisted();
+  unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {
     app().ui.messageBox(unlisted_ + ": the expressions in it are not opened.",
                         BoxKind::Exclamation);

@@ -14,6 +14,7 @@
 #include "protocol/Expression.h"
 #include "protocol/MainWindow.h"
 #include "schema/SEColl.h"
+#include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
 
@@ -68,7 +69,7 @@ bool AVDocument::bSaveAllObjects() {
 bool AVDocument::bSave() {
   for (const ObjectRef& object : collObjects_.changedObjects()) {
     const std::string guid = object->strGUID();
-    if (io()->isPromised(guid) && bFileExists(guid)) renumber(*object);
+    if (io()->names().isPromised(guid) && bFileExists(guid)) renumber(*object);
   }
   SavePoint before(collObjects_.changedObjects());
   if (!bSaveAllObjects()) return refused({});
@@ -143,7 +144,7 @@ bool AVDocument::bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDo
       return false;
     }
   }
-  const IOManager::Naming naming(*io(), collObjects_, strAVDocPathName);
+  const NewFileNames::Listing listing(io()->names(), collObjects_, strAVDocPathName);
   const std::string schemaPath = app().strXSDPath();
   ReferenceIndex& references = collObjects_.references();
   ReferenceIndex::Batch batch(references);

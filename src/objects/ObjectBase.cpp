@@ -102,7 +102,7 @@ void ObjectBase::EditAttributesForm(FormOwner& owner) {
 }
 
 std::string ObjectBase::loadFields(const std::string& guid) {
-  if (auto loaded = io_->takeLoadedFields(guid, rules_.className)) {
+  if (auto loaded = io_->scans().takeFields(guid, rules_.className)) {
     secol_ = std::move(loaded->secol);
     domDoc_ = std::move(loaded->domDoc);
     domSchema_ = std::move(loaded->domSchema);

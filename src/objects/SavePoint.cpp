@@ -28,7 +28,7 @@ bool holdsNames(const SchemaElement& field, const ClassRules& rules) {
 SavePoint::SavePoint(const ObjectList& objects) : objects_(objects) {
   for (const ObjectRef& object : objects_) {
     const std::string guid = object->strGUID();
-    if (const auto io = object->io(); io && io->isPromised(guid)) promised_.push_back(guid);
+    if (const auto io = object->io(); io && io->names().isPromised(guid)) promised_.push_back(guid);
     if (auto picture = std::dynamic_pointer_cast<MediaObject>(object)) {
       if (picture->bChanged()) newPictures_.push_back(std::move(picture));
     } else {
@@ -97,7 +97,7 @@ void SavePoint::restore(IOManager& io, bool filesStay) {
   for (const std::string& name : newNames_) {
     if (!filesStay) io.withdraw(name);
   }
-  for (const std::string& name : promised_) io.promise(name);
+  for (const std::string& name : promised_) io.names().promise(name);
 }
 
 }  // namespace velra

@@ -8,6 +8,7 @@
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "shell/frmMain.h"
+#include "store/DataFolder.h"
 #include "store/IOManager.h"
 
 namespace velra {

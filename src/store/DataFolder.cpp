@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/DataFolder.h"
 
-// Where the files of a document lie, and the names that nobody else gives.
 #include <sys/random.h>
 
 #include <array>
@@ -11,7 +11,6 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/files/Files.h"
-#include "store/IOManager.h"
 
 namespace velra {
 
@@ -21,9 +20,9 @@ std::string dataFolderOf(const std::string& strAVDocPathName) {
   return withSeparator(strAbsolutePath(folder)) + base + "_files/";
 }
 
-std::string IOManager::strMakeDataFolder(const std::string& strAVDocPathName) const {
+std::string strMakeDataFolder(const ApplicationModule& app, const std::string& strAVDocPathName) {
   const std::string folder = dataFolderOf(strAVDocPathName);
-  return !bFileSystem_ || bFolderExists(folder) ? std::string() : strMakeFolder(app_, folder);
+  return bFolderExists(folder) ? std::string() : strMakeFolder(app, folder);
 }
 
 std::string strMakeFolder(const ApplicationModule& app, const std::string& path) {

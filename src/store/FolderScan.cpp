@@ -78,7 +78,10 @@ void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
       read(app, document, file);
       continue;
     }
-    file = ScannedFile{file.name, {}, true, loaded->className(), {}, {}, {}, {}, {}, {}};
+    ScannedFile answered;
+    answered.name = std::move(file.name);
+    answered.className = loaded->className();
+    file = std::move(answered);
     const ClassRules* rules = findClassRules(loaded->className());
     if (rules) noteRelations(loaded->secol(), *rules, file);
   }
@@ -97,11 +100,10 @@ void FolderScan::takeOver(std::vector<ScannedFile>& before) {
 void FolderScan::read(ApplicationModule& app, OpenDocument& document, ScannedFile& file) {
   const std::string path = folder_ + file.name;
   const FileStamp stamp = fileStamp(path);
-  if (file.known && file.stamp == stamp && stamp.exists) return;
+  if (file.stamp == stamp && stamp.exists) return;
   ScannedFile fresh;
   fresh.name = std::move(file.name);
   fresh.stamp = stamp;
-  fresh.known = true;
   XmlDocument parsed;
   if (parsed.load(path)) {
     fresh.className = parsed.documentElement().baseName();
@@ -151,13 +153,13 @@ std::optional<LoadedFields> FolderScan::takeFields(const std::string& name,
   if (at == byName_.end()) return std::nullopt;
   ScannedFile& file = files_[at->second];
   if (file.className != className || !file.fields) return std::nullopt;
-  file.known = false;  // its object answers from now on; without one it is read again
+  file.stamp = {};  // its object answers from now on; without one it is read again
   return std::exchange(file.fields, std::nullopt);
 }
 
 void FolderScan::endOpening() {
   // What a loaded object answers need not be kept beside it.
-  std::erase_if(files_, [](const ScannedFile& file) { return !file.known; });
+  std::erase_if(files_, [](const ScannedFile& file) { return !file.stamp.exists; });
   files_.shrink_to_fit();
   for (ScannedFile& file : files_) file.fields.reset();
   index();

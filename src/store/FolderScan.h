@@ -31,8 +31,7 @@ struct LoadedFields {
 /// One XML file of a folder, as a search meets it.
 struct ScannedFile {
   std::string name;
-  FileStamp stamp;
-  bool known = false;                 // read, or answered by a loaded object
+  FileStamp stamp;                    // when it was read; of no file while a loaded object answers
   std::string className;              // base name of the root; "" for a file that cannot be parsed
   std::string reason;                 // the parser's reason for that
   std::string message;                // why an object of the class cannot be read from it

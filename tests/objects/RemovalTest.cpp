@@ -59,7 +59,7 @@ void checkIndexes(AVDocument& document) {
   EXPECT_EQ(objects.changedObjects(), plainChanged(objects));
   EXPECT_TRUE(objects.checkConsistency());
   EXPECT_TRUE(objects.references().checkConsistency());
-  EXPECT_TRUE(document.io()->checkConsistency());
+  EXPECT_TRUE(document.io()->scans().checkConsistency());
 }
 
 ObjectRef firstVersion(const AVDocument& document) {

@@ -88,7 +88,7 @@ TEST(SaveAs, RenamesAsThePlainRuleDoesOnGeneratedDocuments) {
     EXPECT_EQ(test::firstDifference(statesBelow(*session.document()), saved ? plain : before), "");
     EXPECT_TRUE(session.document()->collObjects().checkConsistency());
     EXPECT_TRUE(session.document()->collObjects().references().checkConsistency());
-    EXPECT_TRUE(session.document()->io()->checkConsistency());
+    EXPECT_TRUE(session.document()->io()->scans().checkConsistency());
   }
 }
 

@@ -50,7 +50,7 @@ std::string opened(DocumentSession& session) {
   ObjectRegistry& objects = session.document()->collObjects();
   for (const auto& [number, object] : objects.sequence()) text += described(*object) + "\n";
   EXPECT_TRUE(objects.checkConsistency());
-  EXPECT_TRUE(!session.document()->io() || session.document()->io()->checkConsistency());
+  EXPECT_TRUE(!session.document()->io() || session.document()->io()->scans().checkConsistency());
   return replaceAll(replaceAll(text, session.folder.path() + "/", ""), "film_files/film_", "");
 }
 
@@ -192,7 +192,7 @@ TEST(Opening, ASearchAfterwardsSeesWhatOthersHaveChanged) {
     found.push_back(strFileName(segment->strGUID()));
   }
   EXPECT_EQ(found, (Texts{"film_audio2.xml", "other.XML"}));
-  EXPECT_TRUE(session.document()->io()->checkConsistency());
+  EXPECT_TRUE(session.document()->io()->scans().checkConsistency());
 }
 
 }  // namespace

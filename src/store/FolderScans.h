@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "schema/SchemaFile.h"
+#include "store/FolderScan.h"
+
+namespace velra {
+
+class ApplicationModule;
+
+/// The folders that searches for objects of a document look through, and how long what is known of
+/// them counts. Within an opening a folder is listed by the first search in it and taken for
+/// unchanged from then on; the fields that were read ahead wait for the objects that will be made
+/// of the files. Outside of one, each search lists its folder anew, and reads again what has
+/// changed since.
+class FolderScans {
+ public:
+  explicit FolderScans(ApplicationModule& app) : app_(app) {}
+
+  /// While an object of this kind lives, an opening is on. They nest, since every search is one of
+  /// its own and most are parts of a larger one: the outermost counts.
+  class Opening {
+   public:
+    explicit Opening(FolderScans& scans);
+    ~Opening();
+    Opening(const Opening&) = delete;
+    Opening& operator=(const Opening&) = delete;
+
+   private:
+    FolderScans& scans_;
+    std::unique_ptr<DocumentSchemas::Hold> hold_;
+  };
+
+  /// What is known of a folder's files now; kNoObject without an open document.
+  FolderScan& of(const std::string& folder);
+
+  /// The fields of a file that the opening has read already; nothing when it has to be read.
+  std::optional<LoadedFields> takeFields(const std::string& guid, const std::string& className);
+
+  /// Which folder could not be searched since the opening began, and why; "" when all could.
+  const std::string& unlisted() const { return unlisted_; }
+
+  /// True when the scans agree with themselves; for tests.
+  bool checkConsistency() const;
+
+ private:
+  struct Folder {
+    FolderScan scan;
+    unsigned listedIn = 0;  // the opening that has listed it
+  };
+
+  ApplicationModule& app_;
+  std::map<std::string, Folder> folders_;  // by normal form
+  unsigned generation_ = 0;  // of the current folder, which relative references follow
+  unsigned opening_ = 0;     // number of the last one, from 1
+  int depth_ = 0;            // of nested openings; 0 when none is on
+  std::string unlisted_;
+};
+
+}  // namespace velra
