@@ -31,7 +31,7 @@ ApplicationModule::ApplicationModule(UserInterface& userInterface, MessageCatalo
 
 void ApplicationModule::WarnNotFoundOnce(const std::string& name) {
   if (gNotFound.contains(name)) return;
-  ui.askOkCancel(name + " " + LoadResString(1092));
+  ui.askOkCancel(name + " " + LoadResString(Message::NotFound));
   gNotFound.insert(name);
 }
 

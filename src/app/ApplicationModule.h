@@ -51,7 +51,7 @@ class ApplicationModule {
 
   static constexpr std::int32_t kCrossLanguageOff = 5;
 
-  std::string LoadResString(int id) const { return messages.text(id); }
+  std::string LoadResString(Message message) const { return messages.text(message); }
 
   /// Says once for each name, until a document is opened or created, that it was not found.
   void WarnNotFoundOnce(const std::string& name);

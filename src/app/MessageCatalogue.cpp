@@ -9,7 +9,7 @@
 namespace velra {
 namespace {
 
-const Message* findMessage(int id) {
+const MessageRow* findMessage(int id) {
   const auto rows = id < 1100 ? messagesFrom1000() : messagesFrom1100();
   const int position = id - rows.front().id;
   if (position < 0 || position >= static_cast<int>(rows.size())) return nullptr;
@@ -33,7 +33,7 @@ std::string environmentLocale() {
 }
 
 std::string MessageCatalogue::text(int id) const {
-  const Message* message = findMessage(id);
+  const MessageRow* message = findMessage(id);
   if (!message) return {};
   const bool italian = language_ == InterfaceLanguage::Italian && message->italian;
   return italian ? message->italian : message->text;

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "app/Message.h"
+
 namespace velra {
 
 enum class InterfaceLanguage { Default, Italian };
@@ -22,6 +24,7 @@ class MessageCatalogue {
   /// The text of an id in the language; the default text where that language has none; "" for an id
   /// that the catalogue does not hold.
   std::string text(int id) const;
+  std::string text(Message message) const { return text(static_cast<int>(message)); }
 
   bool holds(int id) const;
 

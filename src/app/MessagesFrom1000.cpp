@@ -4,7 +4,7 @@
 namespace velra {
 namespace {
 
-constexpr Message kFrom1000[] = {
+constexpr MessageRow kFrom1000[] = {
     {1000, "&File", "&File"},
     {1001, "&Open...", "&Apri..."},
     {1002, "&Find...", "&Trova..."},
@@ -132,7 +132,7 @@ constexpr Message kFrom1000[] = {
 
 }  // namespace
 
-std::span<const Message> messagesFrom1000() {
+std::span<const MessageRow> messagesFrom1000() {
   return kFrom1000;
 }
 

@@ -4,7 +4,7 @@
 namespace velra {
 namespace {
 
-constexpr Message kFrom1100[] = {
+constexpr MessageRow kFrom1100[] = {
     {1100, "Multimedia data", "Dati multimediali"},
     {1101, "Are you sure you want remove the selected (sub)expressions?",
      "Rimuovere davvero le (sotto)espressioni selezionate?"},
@@ -116,7 +116,7 @@ constexpr Message kFrom1100[] = {
 
 }  // namespace
 
-std::span<const Message> messagesFrom1100() {
+std::span<const MessageRow> messagesFrom1100() {
   return kFrom1100;
 }
 

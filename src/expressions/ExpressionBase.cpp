@@ -25,9 +25,6 @@ std::string guidIn(const SchemaElement& field) {
   return text ? *text : std::string();
 }
 
-constexpr int kPartOfMessage = 1088;
-constexpr int kFollowedByMessage = 1089;
-
 }  // namespace
 
 ExpressionBase::ExpressionBase(ApplicationModule& app, std::string_view className)
@@ -59,11 +56,11 @@ void ExpressionBase::setTextField(const std::string& name, const std::string& te
   field->setBValid(true);
 }
 
-std::string ExpressionBase::typedText(const std::string& lowerName, int messageId) const {
+std::string ExpressionBase::typedText(const std::string& lowerName, Message message) const {
   const SchemaElement* field = secol().relationField(lowerName);
   if (!field) return {};
   if (field->tyType() != tyType::String) {
-    app().ui.messageBox(app().LoadResString(messageId));
+    app().ui.messageBox(app().LoadResString(message));
     return {};
   }
   return field->bValid() ? toText(field->vContent()) : std::string();
@@ -80,12 +77,13 @@ void ExpressionBase::setStrVersionGUID(const std::string& guid) {
   if (field && guid.empty()) field->setBValid(false);
 }
 
+// The texts name two relations of a Video alone, and are shown for these as well.
 std::string ExpressionBase::strGetPartOf() const {
-  return typedText(rules().partOfField, kPartOfMessage);
+  return typedText(rules().partOfField, Message::HasAudioMustBeString);
 }
 
 std::string ExpressionBase::strFollowedBy() const {
-  return typedText(rules().followedByField, kFollowedByMessage);
+  return typedText(rules().followedByField, Message::HasTranscriptMustBeString);
 }
 
 bool ExpressionBase::bCheckIfOwnRelative(const std::string& ofClass,

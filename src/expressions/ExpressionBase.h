@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Message.h"
 #include "objects/ObjectBase.h"
 #include "protocol/Expression.h"
 
@@ -76,7 +77,7 @@ class ExpressionBase : public ObjectBase, public Expression {
 
   /// A relation field that must be of a type: its text, "" when it is not assigned; a field of
   /// another type shows the message and counts as empty.
-  std::string typedText(const std::string& lowerName, int messageId) const;
+  std::string typedText(const std::string& lowerName, Message message) const;
 
  private:
   std::shared_ptr<ExpressionBase> makeSegment(const std::string& title);

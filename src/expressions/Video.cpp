@@ -15,8 +15,6 @@ namespace velra {
 namespace {
 
 constexpr std::string_view kFrameRateField = "FrameRate";
-constexpr int kHasAudioMessage = 1088;
-constexpr int kWrongClassMessage = 1090;
 
 Video& asVideo(ExpressionBase& segment) {
   auto* video = dynamic_cast<Video*>(&segment);
@@ -86,14 +84,14 @@ void Video::finishSegment(ExpressionBase& segment) {
 }
 
 void Video::OpenAudio() {
-  const std::string guid = typedText("hasaudio", kHasAudioMessage);
+  const std::string guid = typedText("hasaudio", Message::HasAudioMustBeString);
   if (guid.empty()) return;
   if (const ObjectRef loaded = document().loadedObject(guid)) {
     const auto audio = std::dynamic_pointer_cast<Audio>(loaded);
     if (audio) {
       objAudio_ = audio;
     } else {
-      app().ui.messageBox("Audio: " + app().LoadResString(kWrongClassMessage));
+      app().ui.messageBox("Audio: " + app().LoadResString(Message::ClassNameMismatch));
     }
     return;
   }

@@ -51,8 +51,9 @@ bool CrossLanguageFields::bCLConsistent(const SEColl& secol) {
 
 // The way out of a document whose form no language opens.
 std::string CrossLanguageFields::withoutKeywords(const std::string& field) const {
-  return field + " has no keyword; the form opens with \"" + app_.LoadResString(1163) +
-         "\" in the menu \"" + app_.LoadResString(1140) + "\"";
+  return field + " has no keyword; the form opens with \"" +
+         app_.LoadResString(Message::CrossLanguageDisabled) + "\" in the menu \"" +
+         app_.LoadResString(Message::Language) + "\"";
 }
 
 bool CrossLanguageFields::keywordsAreKnown(const SchemaElement& field) const {

@@ -33,7 +33,7 @@ void LoadedForm::Form_Load() {
   if (kind_.crossLanguage && app_.iLanguage != ApplicationModule::kCrossLanguageOff) {
     crossLanguage_ = std::make_unique<CrossLanguageFields>(app_);
     if (!crossLanguage_->bCLConsistent(secol)) {
-      app_.ui.messageBox(app_.LoadResString(1148));
+      app_.ui.messageBox(app_.LoadResString(Message::CrossLanguageInconsistent));
       raise(kFormUnloaded);
     }
   }

@@ -40,7 +40,7 @@ void relocateKeyFrame(Expression& video, ObjectRegistry& objects, IOManager& io,
 
 bool AVDocument::refused(const std::string& message) {
   if (!message.empty()) app().ui.messageBox(message);
-  app().ui.messageBox(app().LoadResString(1095));
+  app().ui.messageBox(app().LoadResString(Message::ObjectsNotSaved));
   return false;
 }
 

@@ -25,7 +25,7 @@ LadderObject::~LadderObject() = default;
 const StringList* LadderObject::relation() const {
   const SchemaElement* field = secol().relationField(rules().relationField);
   if (field && field->tyType() != tyType::SetOfGUIDs) {
-    app().ui.messageBox(app().LoadResString(1086));
+    app().ui.messageBox(app().LoadResString(Message::RelationsMustBeGuids));
     return nullptr;
   }
   return field && field->bValid() ? asList(field->vContent()) : nullptr;
@@ -46,7 +46,8 @@ void LadderObject::OpenChilds() {
 ObjectRef LadderObject::childOf(const std::string& guid) {
   if (ObjectRef loaded = document().loadedObject(guid)) {
     if (loaded->className() == rules().childClass) return loaded;
-    app().ui.messageBox(rules().childClass + ": " + app().LoadResString(1090));
+    app().ui.messageBox(rules().childClass + ": " +
+                        app().LoadResString(Message::ClassNameMismatch));
     return nullptr;
   }
   ObjectRef child = app().objectFactory->createObject(rules().childClass);

@@ -136,7 +136,7 @@ std::string ObjectBase::strOpen(const std::string& guid, const std::shared_ptr<O
   std::string message = strLoadXML(guid, form, io);
   if (!message.empty()) return message;
   if (app_.gMainForm) {
-    app_.gMainForm->setStrStatusBarText(app_.LoadResString(1136) + " " +
+    app_.gMainForm->setStrStatusBarText(app_.LoadResString(Message::OpeningObject) + " " +
                                         std::to_string(document().collObjects().Count()) + " (" +
                                         strTitle() + ")");
   }

@@ -100,8 +100,8 @@ std::vector<std::size_t> savingOrder(const std::vector<Waiting>& changed) {
 
 bool saveOne(ApplicationModule& app, DescribedObject& object, int counter) {
   if (app.gMainForm) {
-    app.gMainForm->setStrStatusBarText(app.LoadResString(1137) + " " + std::to_string(counter) +
-                                       " (" + object.strTitle() + ")");
+    app.gMainForm->setStrStatusBarText(app.LoadResString(Message::SavingObject) + " " +
+                                       std::to_string(counter) + " (" + object.strTitle() + ")");
   }
   return object.bSave();
 }

@@ -122,7 +122,8 @@ std::string strReadInstance(const ApplicationModule& app, const XmlDocument& dom
                             const std::string& strClassName, const ClassDeclaration& declaration,
                             std::vector<SchemaElement>& elements) {
   const XmlNode root = domDoc.documentElement();
-  if (root.baseName() != strClassName) return strClassName + ": " + app.LoadResString(1090);
+  if (root.baseName() != strClassName)
+    return strClassName + ": " + app.LoadResString(Message::ClassNameMismatch);
   for (XmlNode node = root.firstElement(); node; node = node.nextElement()) {
     const auto named = node.prefix().empty() ? declaration.offsets.find(node.baseName())
                                              : declaration.offsets.find(node.nodeName());

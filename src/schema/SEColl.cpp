@@ -134,7 +134,8 @@ std::string SEColl::strLoadParsed(InstanceDocument& domDoc, const XmlDocument& p
   if (!domSchema) return {};
   const std::string message = strLoadType(*domSchema, strClassName);
   if (!message.empty())
-    return domSchema->message().empty() ? app_.LoadResString(1072) + message : message;
+    return domSchema->message().empty() ? app_.LoadResString(Message::SchemaLoadError) + message
+                                        : message;
   return strReadInstance(app_, parsed, strClassName,
                          domSchema->classDeclaration(strClassName, lists_), elements_);
 }
@@ -153,7 +154,7 @@ std::string SEColl::strInitAsNew(InstanceDocument& domDoc, const std::string&,
                                  const std::string& vClassName) {
   domDoc = InstanceDocument::create(vClassName);
   domSchema = schemas_.file(strSchemaPath);
-  if (!domSchema) return app_.LoadResString(1075);
+  if (!domSchema) return app_.LoadResString(Message::NoSchemaReference);
   if (!domSchema->message().empty()) return domSchema->message();
   domDoc.setSchemaPath(strSchemaPath);
   return strLoadType(*domSchema, vClassName);

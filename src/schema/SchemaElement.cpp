@@ -12,8 +12,6 @@ namespace velra {
 
 namespace {
 
-constexpr int kNotAssigned = 1081;
-
 const CloseList& listNamed(const CloseLists& lists, const std::string& name) {
   const CloseList* list = lists.find(name);
   if (!list) raise(kInvalidArgument, name);
@@ -132,7 +130,7 @@ bool SchemaElement::bIsHumanReadable() const {
 void SchemaElement::Init(const ApplicationModule& app, const CloseLists& lists) {
   switch (tyType()) {
     case tyType::String:
-      return setVContent(app.LoadResString(kNotAssigned));
+      return setVContent(app.LoadResString(Message::NotAssigned));
     case tyType::Integer:
       return setVContent(std::int16_t{0});
     case tyType::Date:
@@ -140,7 +138,7 @@ void SchemaElement::Init(const ApplicationModule& app, const CloseLists& lists) 
     case tyType::Bool:
       return setVContent(false);
     case tyType::SetOfStrings:
-      return setVContent(StringList{app.LoadResString(kNotAssigned)});
+      return setVContent(StringList{app.LoadResString(Message::NotAssigned)});
     case tyType::Real:
       return setVContent(0.0);
     case tyType::CloseList:

@@ -11,7 +11,8 @@ namespace velra {
 
 SchemaFile::SchemaFile(const ApplicationModule& app, std::string path)
     : app_(app), path_(std::move(path)), stamp_(fileStamp(path_)) {
-  if (!document_.load(path_)) message_ = app_.LoadResString(1072) + document_.reason();
+  if (!document_.load(path_))
+    message_ = app_.LoadResString(Message::SchemaLoadError) + document_.reason();
 }
 
 std::string SchemaFile::rootPrefix() const {

@@ -70,11 +70,11 @@ XmlNode SchemaReader::topLevel(const std::string& name) const {
 
 std::string SchemaReader::loadClass(const std::string& strType) {
   const XmlNode declaration = topLevel(strType);
-  if (!declaration) return app_.LoadResString(1073) + strType;
+  if (!declaration) return app_.LoadResString(Message::TypeNotDefined) + strType;
   const XmlNode complexType = lastChildNamed(declaration, {"complexType"});
-  if (!complexType) return strType + ":" + app_.LoadResString(1074);
+  if (!complexType) return strType + ":" + app_.LoadResString(Message::NeedsComplexType);
   XmlNode content = lastChildNamed(complexType, {"sequence", "all", "complexContent"});
-  if (!content) return strType + ":" + app_.LoadResString(1076);
+  if (!content) return strType + ":" + app_.LoadResString(Message::NeedsContent);
   // Only what stands last decides on inheritance: a complexContent with anything behind it is taken
   // for a plain content model.
   if (nameOf(lastChild(complexType)) == "complexContent") {
@@ -82,18 +82,19 @@ std::string SchemaReader::loadClass(const std::string& strType) {
     std::string message = loadInherited(complexContent, strType, content);
     if (!message.empty()) return message;
   }
-  if (iChildElements(content) == 0) return strType + ":" + app_.LoadResString(1077);
+  if (iChildElements(content) == 0)
+    return strType + ":" + app_.LoadResString(Message::NoChildElements);
   return strReadElements(content, strType);
 }
 
 std::string SchemaReader::loadInherited(const XmlNode& complexContent, const std::string& strType,
                                         XmlNode& body) {
   const XmlNode extension = lastChildNamed(complexContent, {"extension"});
-  if (!extension) return strType + ":" + app_.LoadResString(1076);
+  if (!extension) return strType + ":" + app_.LoadResString(Message::NeedsContent);
   std::string message = strLoadBaseType(attributeByBaseName(extension, "base"));
   if (!message.empty()) return message;
   body = lastChildNamed(extension, {"sequence", "all"});
-  return body ? std::string() : strType + ":" + app_.LoadResString(1087);
+  return body ? std::string() : strType + ":" + app_.LoadResString(Message::NeedsSequence);
 }
 
 std::string SchemaReader::strLoadBaseType(const std::string& strBase) {
@@ -103,10 +104,11 @@ std::string SchemaReader::strLoadBaseType(const std::string& strBase) {
         node.baseName() == "complexType" && hasAttributeWithValue(node, "name", strBase);
     if (matches) base = node;
   }
-  if (!base) return app_.LoadResString(1073) + strBase;
+  if (!base) return app_.LoadResString(Message::TypeNotDefined) + strBase;
   const XmlNode content = lastChildNamed(base, {"sequence", "all"});
-  if (!content) return strBase + ":" + app_.LoadResString(1076);
-  if (iChildElements(content) == 0) return strBase + ":" + app_.LoadResString(1077);
+  if (!content) return strBase + ":" + app_.LoadResString(Message::NeedsContent);
+  if (iChildElements(content) == 0)
+    return strBase + ":" + app_.LoadResString(Message::NoChildElements);
   return strReadElements(content, strBase);
 }
 
@@ -120,8 +122,8 @@ std::string SchemaReader::strReadElements(const XmlNode& node, const std::string
     field.strComment = child.text();
     const std::string type = attributeByBaseName(child, "type");
     if (type.empty() || field.strName.empty()) {
-      return strType + ":" + app_.LoadResString(1078) + std::to_string(result_.fields.size() + 1) +
-             app_.LoadResString(1079);
+      return strType + ":" + app_.LoadResString(Message::SchemaElementPrefix) +
+             std::to_string(result_.fields.size() + 1) + app_.LoadResString(Message::NoTypeOrName);
     }
     if (field.strName.find("GUID") != std::string::npos) field.bReadOnly = true;
     mapType(prefix, type, field);

@@ -56,7 +56,7 @@ void ConnectionDialog::Text2_Change() {
 }
 
 void ConnectionDialog::restorePort() {
-  app_.ui.messageBox(app_.LoadResString(1162), BoxKind::Exclamation);
+  app_.ui.messageBox(app_.LoadResString(Message::PortNotPositive), BoxKind::Exclamation);
   const std::string last = std::to_string(settings_.iPort);
   // The store may hold a negative number, and to put the same text back changes nothing.
   if (text(Box::Text2) != last) change(Box::Text2, last);

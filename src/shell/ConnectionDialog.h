@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/ApplicationModule.h"
+#include "app/Message.h"
 
 namespace velra {
 
@@ -22,11 +23,14 @@ class ConnectionDialog {
   enum class Box : std::size_t { Text1, Text2, Text3, Text4 };
   struct BoxTexts {
     const char* name;
-    int caption;  // ids of messages
-    int toolTip;
+    Message caption;
+    Message toolTip;
   };
   static constexpr std::array<BoxTexts, 4> kBoxes{
-      {{"Text1", 1151, 1152}, {"Text2", 1153, 1154}, {"Text3", 1155, 1156}, {"Text4", 1157, 1158}}};
+      {{"Text1", Message::ServerAddress, Message::ServerAddressTip},
+       {"Text2", Message::Port, Message::PortTip},
+       {"Text3", Message::Datamanager, Message::DatamanagerTip},
+       {"Text4", Message::HttpServer, Message::HttpServerTip}}};
 
   /// strAddress, iPort, strName and strHTTP.
   const ConnectionSettings& settings() const { return settings_; }

@@ -29,11 +29,13 @@ constexpr double kShorterBy = 1.0;
 
 struct MainExpressionTexts {
   const char* kind;
-  int prompt;
-  int title;
+  Message prompt;
+  Message title;
 };
 constexpr MainExpressionTexts kMainExpressions[] = {
-    {"Video", 1122, 1123}, {"Audio", 1124, 1125}, {"Transcript", 1126, 1127}};
+    {"Video", Message::MainVideoPrompt, Message::MainVideoName},
+    {"Audio", Message::MainAudioPrompt, Message::MainAudioName},
+    {"Transcript", Message::MainTranscriptPrompt, Message::MainTranscriptName}};
 
 MenuState withAddEntries(MenuState menus, bool addChild, bool addMainExpr) {
   menus.mnuAddChild = addChild;
@@ -96,10 +98,12 @@ void frmMain::mnuEditAttributes() {
 std::string frmMain::askNewChild(const DescribedObject& parent) {
   const std::string& className = parent.className();
   if (className == "AVDocument") {
-    return app_.ui.inputBox(app_.LoadResString(1106), app_.LoadResString(1107));
+    return app_.ui.inputBox(app_.LoadResString(Message::VersionTitlePrompt),
+                            app_.LoadResString(Message::VersionTitle));
   }
   if (className == "Version") {
-    return app_.ui.inputBox(app_.LoadResString(1108), app_.LoadResString(1109));
+    return app_.ui.inputBox(app_.LoadResString(Message::MediaFormatPrompt),
+                            app_.LoadResString(Message::MediaFormat));
   }
   if (className == "Media") return askMovie();
   app_.ui.beep();
@@ -108,7 +112,8 @@ std::string frmMain::askNewChild(const DescribedObject& parent) {
 
 std::string frmMain::askMovie() {
   if (!app_.gAVDoc->io()->bFileSystem()) return {};
-  const auto chosen = app_.ui.openFileDialog(app_.LoadResString(1110), kMovieFilter);
+  const auto chosen =
+      app_.ui.openFileDialog(app_.LoadResString(Message::StorageMoviePrompt), kMovieFilter);
   if (!chosen) return {};
   // File dialogs may leave another folder as the current one.
   changeCurrentFolder(folderOf(app_.gAVDoc->strGUID()));
@@ -118,7 +123,7 @@ std::string frmMain::askMovie() {
 bool frmMain::movieFits(const DescribedObject& media, const std::string& movie) {
   const double duration = dMovieDuration(movie);
   if (duration == 0) {
-    app_.ui.messageBox(app_.LoadResString(1113));
+    app_.ui.messageBox(app_.LoadResString(Message::FormatNotValid));
     return false;
   }
   const auto version = versionHolding(app_.gAVDoc->collObjects(), media);
@@ -126,7 +131,7 @@ bool frmMain::movieFits(const DescribedObject& media, const std::string& movie) 
   if (version->dDuration() == 0) {
     version->setDDuration(duration);
   } else if (version->dDuration() - duration > kShorterBy) {
-    app_.ui.messageBox(app_.LoadResString(1114));
+    app_.ui.messageBox(app_.LoadResString(Message::DurationDiffers));
     return false;
   }
   return true;
@@ -159,7 +164,7 @@ void frmMain::AddMainExpr(const std::string& kind) {
   if (!version) return;
   const std::string path = version->strGetMediaObjectPath();
   if (path.empty()) {
-    app_.ui.messageBox(app_.LoadResString(1112));
+    app_.ui.messageBox(app_.LoadResString(Message::StorageFirst));
     return;
   }
   std::string name;
@@ -178,8 +183,9 @@ void frmMain::AddMainExpr(const std::string& kind) {
 void frmMain::DeleteNode(TreeId id) {
   const TreeNode* node = tree(id).selected();
   if (!node || node->Tag->className() == "AVDocument") return;
-  const bool confirmed = app_.ui.askYesNo(app_.LoadResString(1138) + " " + node->Text + " " +
-                                          app_.LoadResString(1139));
+  const bool confirmed =
+      app_.ui.askYesNo(app_.LoadResString(Message::AskRemoveObject) + " " + node->Text + " " +
+                       app_.LoadResString(Message::AndAllItsChildren));
   if (!confirmed) return;
   ObjectRef object = node->Tag;
   const bool wasVersion = object->className() == "Version";

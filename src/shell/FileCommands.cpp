@@ -55,7 +55,7 @@ bool frmMain::needsDocument() {
 }
 
 // The status line names the command as its menu does, and what came of it.
-void frmMain::tellDone(int command, const std::string& outcome) {
+void frmMain::tellDone(Message command, const std::string& outcome) {
   std::string caption = replaceAll(app_.LoadResString(command), "&", "");
   setStrStatusBarText(replaceAll(std::move(caption), "...", "") + ": " + outcome);
 }
@@ -83,7 +83,8 @@ void frmMain::OpenFile(const std::string& strFile) {
   if (!link.empty()) {
     OpenDoc(link, false);
   } else {
-    app_.ui.messageBox(app_.LoadResString(1159) + ": " + strFile, BoxKind::Exclamation);
+    app_.ui.messageBox(app_.LoadResString(Message::FileNotValid) + ": " + strFile,
+                       BoxKind::Exclamation);
   }
 }
 
@@ -155,8 +156,8 @@ void frmMain::showOpenedDocument() {
 }
 
 bool frmMain::saveQuestionAnswered() {
-  const auto answer =
-      app_.ui.askYesNoCancel(app_.LoadResString(1098) + " " + app_.gAVDoc->strTitle() + "?");
+  const auto answer = app_.ui.askYesNoCancel(app_.LoadResString(Message::SaveModifications) + " " +
+                                             app_.gAVDoc->strTitle() + "?");
   if (answer == Answer::Yes) {
     const auto busy = app_.ui.showBusy();
     app_.gAVDoc->bSave();
@@ -196,7 +197,7 @@ void frmMain::mnuFileNew() {
   app_.gAVDoc = NewDocument();
   app_.gNotFound.clear();
   ShowAVDocTitle();
-  tellDone(1004, app_.gAVDoc->strTitle());
+  tellDone(Message::New, app_.gAVDoc->strTitle());
 }
 
 std::shared_ptr<AVDocument> frmMain::NewDocument() {
@@ -206,7 +207,7 @@ std::shared_ptr<AVDocument> frmMain::NewDocument() {
   const std::string guid = io->strCreateGUID(document->collObjects(), *document, "AVDocument.xml");
   const std::string schemaPath = app_.strXSDPath();
   if (schemaPath.empty()) {
-    app_.ui.messageBox(app_.LoadResString(1133));
+    app_.ui.messageBox(app_.LoadResString(Message::SchemaNotFound));
     return nullptr;
   }
   const std::string message =

@@ -19,7 +19,8 @@ constexpr std::uint64_t kLongestLine = 65536;
 
 std::string strReadFirstLine(ApplicationModule& app, const std::string& path) {
   if (!bFileExists(path) && !bFolderExists(path)) {
-    app.ui.messageBox(app.LoadResString(1131) + " " + path, BoxKind::Exclamation);
+    app.ui.messageBox(app.LoadResString(Message::ObjectNotFound) + " " + path,
+                      BoxKind::Exclamation);
     return {};
   }
   std::string line = readStart(path, kLongestLine).bytes;

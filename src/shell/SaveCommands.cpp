@@ -66,7 +66,7 @@ void frmMain::SaveDocumentAs() {
   AddAllSmallKeyFrames();
   if (message.empty()) {
     ShowAVDocTitle();
-    tellDone(1130, path);
+    tellDone(Message::SaveAs, path);
   } else {
     app_.ui.messageBox(message, BoxKind::Exclamation);
     app_.gAVDoc.reset();

@@ -12,7 +12,7 @@ namespace velra {
 void LoadThematicKeywords(ApplicationModule& app) {
   app.objNaroThematicKeywords = std::make_shared<NaroThematicKeywords>();
   if (app.objNaroThematicKeywords->bSetFromXMLFile(app, app.strThematicKeywordsPath())) return;
-  app.ui.messageBox(app.LoadResString(1146));
+  app.ui.messageBox(app.LoadResString(Message::VocabularyUnavailable));
   app.objNaroThematicKeywords.reset();
 }
 

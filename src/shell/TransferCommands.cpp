@@ -15,8 +15,8 @@ void frmMain::transferObjects(bool toFileSystem) {
   for (const ObjectRef& object : app_.gAVDoc->collObjects().all()) {
     if (const auto io = object->io()) io->setBFileSystem(toFileSystem);
     if (object->className() != "Storage") continue;
-    object->setStrTitle(
-        app_.ui.inputBox(app_.LoadResString(1166) + object->strTitle(), "Collocation"));
+    object->setStrTitle(app_.ui.inputBox(
+        app_.LoadResString(Message::CollocationPrompt) + object->strTitle(), "Collocation"));
   }
   app_.gAVDoc->io()->setBFileSystem(toFileSystem);
   app_.gAVDoc->io()->bConnectToDM();  // there is nothing to connect to

@@ -161,7 +161,7 @@ void frmMain::setLanguage(std::int32_t language) {
   applyMenus(menus);
   app_.iLanguage = language;
   if (language == ApplicationModule::kCrossLanguageOff) {
-    app_.ui.messageBox(app_.LoadResString(1164));
+    app_.ui.messageBox(app_.LoadResString(Message::DisablingCrossLanguage));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "app/Message.h"
 #include "protocol/DescribedObject.h"
 #include "protocol/MainWindow.h"
 #include "shell/ConnectionDialog.h"
@@ -98,7 +99,7 @@ class frmMain : public MainWindow {
   std::shared_ptr<AVDocument> avDocument() const;
   bool documentIsOpen() const;
   bool needsDocument();
-  void tellDone(int command, const std::string& outcome);
+  void tellDone(Message command, const std::string& outcome);
   std::shared_ptr<ObjectForm> frmAVDocFormInstance();
 
   TreeNode* selectedNode();

@@ -31,7 +31,7 @@ std::string strMakeFolder(const ApplicationModule& app, const std::string& path)
   const bool taken = fileStamp(name).exists;
   const std::string reason = taken ? std::string() : makeFolder(name);
   if (!taken && reason.empty()) return {};
-  return app.LoadResString(1094) + " " + path + " (" + reason + ")";
+  return app.LoadResString(Message::FolderNotCreated) + " " + path + " (" + reason + ")";
 }
 
 std::string strMakeGUIDText() {

@@ -47,7 +47,7 @@ void IOManager::withdraw(const std::string& strGUID) {
 std::string IOManager::strOpen(XmlDocument& objDOMDocument, const std::string& strGUID) {
   objDOMDocument = XmlDocument();
   if (!bFileSystem_) return {};
-  if (!bFileExists(strGUID)) return app_.LoadResString(1131) + " " + strGUID;
+  if (!bFileExists(strGUID)) return app_.LoadResString(Message::ObjectNotFound) + " " + strGUID;
   return objDOMDocument.load(strGUID) ? std::string() : "XML Parser: " + objDOMDocument.reason();
 }
 

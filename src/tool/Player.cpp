@@ -19,8 +19,6 @@ namespace velra {
 
 namespace {
 
-constexpr int kNoItemSelected = 1091;
-
 double numberOf(const std::string& text) {
   const auto number = toNumber(text);
   if (!number) raise(kTypeMismatch, text);
@@ -44,7 +42,7 @@ Chunk& Player::ckChunk() const {
 bool Player::LoadMovie(const std::string& path) {
   bPlaying_ = false;
   if (path.empty()) {
-    parts_.app.ui.messageBox(parts_.app.LoadResString(kNoItemSelected));
+    parts_.app.ui.messageBox(parts_.app.LoadResString(Message::ItemNotSelected));
     ckChunk_ = obj_->ckGetChunk();
     return true;
   }

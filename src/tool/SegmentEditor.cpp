@@ -19,11 +19,6 @@ namespace velra {
 
 namespace {
 
-constexpr int kTitlePrompt = 1103;
-constexpr int kTitleBoxTitle = 1104;
-constexpr int kBoundsOverlap = 1120;
-constexpr int kAskKeyFrame = 1176;
-constexpr int kKeyFrameUpdated = 1177;
 constexpr double kPagesOfTheTimeline = 100;
 
 }  // namespace
@@ -35,7 +30,7 @@ bool SegmentEditor::isVideo() const {
   return obj_->className() == "Video";
 }
 
-void SegmentEditor::tell(int message) {
+void SegmentEditor::tell(Message message) {
   parts_.app.ui.messageBox(parts_.app.LoadResString(message));
 }
 
@@ -92,8 +87,9 @@ void SegmentEditor::LoadSegments() {
 }
 
 void SegmentEditor::CreateSegment(double start, double end) {
-  const std::string title = parts_.app.ui.inputBox(parts_.app.LoadResString(kTitlePrompt),
-                                                   parts_.app.LoadResString(kTitleBoxTitle));
+  const std::string title =
+      parts_.app.ui.inputBox(parts_.app.LoadResString(Message::SegmentTitlePrompt),
+                             parts_.app.LoadResString(Message::SegmentTitle));
   if (!title.empty()) addSegment(title, start, end);
 }
 
@@ -133,8 +129,9 @@ void SegmentEditor::NewSegmentByDialog() {
   if (!askBounds(position, position)) return;
   const double start = parts_.dialog.dGetStartTime();
   const double end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
-  if (end < start) return tell(kNotValidInterval);
-  if (!bBoundsAreFree(obj_->colSubExpressions(), start, end)) return tell(kBoundsOverlap);
+  if (end < start) return tell(Message::NotValidInterval);
+  if (!bBoundsAreFree(obj_->colSubExpressions(), start, end))
+    return tell(Message::IntervalOverlaps);
   CreateSegment(start, end);
 }
 
@@ -146,7 +143,7 @@ void SegmentEditor::ModifySelectedSegment() {
   if (!askBounds(span->dStart, span->dend)) return;
   const double start = parts_.dialog.dGetStartTime();
   const double end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
-  if (end < start) return tell(kNotValidInterval);
+  if (end < start) return tell(Message::NotValidInterval);
   setBounds(segment, position, start, end);
 }
 
@@ -158,10 +155,10 @@ void SegmentEditor::setBounds(const ExpressionRef& segment, std::int16_t positio
 
 void SegmentEditor::ChangeKeyFrame() {
   if (!isVideo()) return;
-  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskKeyFrame))) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskUpdateKeyFrame))) return;
   obj_->SetKeyFrameTime(parts_.player.CurrentPosition());
   if (parts_.app.gMainForm) parts_.app.gMainForm->UpdateSmallKeyFrames();
-  tell(kKeyFrameUpdated);
+  tell(Message::KeyFrameUpdated);
 }
 
 }  // namespace velra

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Message.h"
 #include "protocol/Expression.h"
 
 namespace velra {
@@ -63,12 +64,10 @@ class SegmentEditor {
   ExpressionRef child(std::int16_t position) const;
 
  private:
-  static constexpr int kNotValidInterval = 1102;  // a message
-
   void setTimelineSpan();
   bool isVideo() const;
   std::string caption(const std::string& title, double start, double end) const;
-  void tell(int message);
+  void tell(Message message);
   bool hasSelection() const;
   void beginSelection();
   void endSelection();

@@ -15,13 +15,7 @@
 
 namespace velra {
 
-namespace {
-
-constexpr int kStartInsideSegment = 1118;
-constexpr int kEndInsideSegment = 1119;
-constexpr int kIntervalHoldsSegment = 1149;
-
-}  // namespace
+namespace {}  // namespace
 
 void SegmentEditor::SelectSegmentPoint() {
   if (!parts_.player.hasMovie()) return;
@@ -34,7 +28,8 @@ void SegmentEditor::SelectSegmentPoint() {
 
 void SegmentEditor::beginSelection() {
   dSelStart_ = parts_.player.CurrentPosition();
-  if (!bPointIsFree(obj_->colSubExpressions(), dSelStart_)) return tell(kStartInsideSegment);
+  if (!bPointIsFree(obj_->colSubExpressions(), dSelStart_))
+    return tell(Message::StartInsideSegment);
   bSelecting_ = true;
   parts_.face.runBlinkerTimer(true);
   parts_.advsld.PutBlinkLine(dSelStart_);
@@ -46,9 +41,10 @@ void SegmentEditor::endSelection() {
   dSelEnd_ = parts_.player.CurrentPosition();
   parts_.advsld.RemoveBlinkLine();
   const ExpressionList& children = obj_->colSubExpressions();
-  if (!bPointIsFree(children, dSelEnd_)) return tell(kEndInsideSegment);
+  if (!bPointIsFree(children, dSelEnd_)) return tell(Message::EndInsideSegment);
   // Tested in the order of the presses: backward, nothing can lie between the points.
-  if (!bIntervalHoldsNoSegment(children, dSelStart_, dSelEnd_)) return tell(kIntervalHoldsSegment);
+  if (!bIntervalHoldsNoSegment(children, dSelStart_, dSelEnd_))
+    return tell(Message::IntervalHoldsSegments);
   CreateSegment(std::min(dSelStart_, dSelEnd_), std::max(dSelStart_, dSelEnd_));
 }
 

@@ -13,16 +13,11 @@
 
 namespace velra {
 
-namespace {
-
-constexpr int kAskRemove = 1101;
-constexpr int kAskMerge = 1150;
-
-}  // namespace
+namespace {}  // namespace
 
 void SegmentEditor::ConfirmRemoveSegments() {
   if (!hasSelection()) return;
-  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskRemove))) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskRemoveSegments))) return;
   RemoveSelectedSegments();
   showSelection();
   resetTree();
@@ -60,13 +55,13 @@ void SegmentEditor::showSelection() {
 
 void SegmentEditor::MergeSelectedSegments() {
   if (!hasSelection()) return;
-  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(kAskMerge))) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskMergeSegments))) return;
   const std::int16_t a = parts_.advsld.iRangeSelectedStart();
   const std::int16_t b = parts_.advsld.iRangeSelectedEnd();
   // Positions in the list decide here, not times, so that the bounds can come out reversed.
   const double start = spanOf(*child(a < b ? a : b))->dStart;
   const double end = spanOf(*child(a < b ? b : a))->dend;
-  if (end < start) return tell(kNotValidInterval);
+  if (end < start) return tell(Message::NotValidInterval);
   const std::string title = child(a)->strTitle();
   RemoveSelectedSegments();
   addSegment(title, start, end);

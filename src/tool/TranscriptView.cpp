@@ -11,8 +11,6 @@ namespace velra {
 
 namespace {
 
-constexpr int kNoTranscript = 1097;
-
 bool startsEarlier(const WordItem& a, const WordItem& b) {
   return a.dStart < b.dStart;
 }
@@ -30,7 +28,7 @@ void TranscriptView::OpenTranscriptView(Expression& obj) {
 
 void TranscriptView::showNothing() {
   words_.reset();
-  text_ = "<" + app_.LoadResString(kNoTranscript) + ">";
+  text_ = "<" + app_.LoadResString(Message::NoTranscript) + ">";
   if (onText) onText(text_);
 }
 

@@ -12,7 +12,7 @@ namespace {
 /// Reads the children of an entry into a list, stopping at the first error text. Every child must
 /// be an element: a comment or a text among them is a fault that no rule foresees.
 template <class Entry>
-std::string readChildren(const ApplicationModule& app, const XmlNode& element, int emptyEnglish,
+std::string readChildren(const ApplicationModule& app, const XmlNode& element, Message emptyEnglish,
                          std::vector<std::shared_ptr<Entry>>& entries) {
   entries.clear();
   for (XmlNode child = element.firstChild(); child; child = child.nextSibling()) {
@@ -51,26 +51,26 @@ void VocabularyEntry::readNames(const XmlNode& element) {
 
 std::string ThematicKeyword::strSetFromDOMElement(const ApplicationModule& app,
                                                   const XmlNode& element) {
-  if (element.baseName() != "Keyword") return app.LoadResString(1171);
+  if (element.baseName() != "Keyword") return app.LoadResString(Message::SubthemeHoldsOthers);
   readNames(element);
   return {};
 }
 
 std::string Subtheme::strSetFromDOMElement(const ApplicationModule& app, const XmlNode& element) {
-  if (element.baseName() != "Subtheme") return app.LoadResString(1172);
+  if (element.baseName() != "Subtheme") return app.LoadResString(Message::ThemeHoldsOthers);
   readNames(element);
-  return readChildren(app, element, 1173, colKeywords_);
+  return readChildren(app, element, Message::KeywordWithoutEnglish, colKeywords_);
 }
 
 std::string Theme::strSetFromDOMElement(const ApplicationModule& app, const XmlNode& element) {
   readNames(element);
-  return readChildren(app, element, 1168, colSubthemes_);
+  return readChildren(app, element, Message::SubthemeWithoutEnglish, colSubthemes_);
 }
 
 bool NaroThematicKeywords::bSetFromXMLFile(ApplicationModule& app, const std::string& path) {
   XmlDocument document;
   if (!document.load(path)) {
-    app.ui.messageBox(app.LoadResString(1147) + document.reason());
+    app.ui.messageBox(app.LoadResString(Message::VocabularyLoadError) + document.reason());
     return false;
   }
   const std::string error = strSetFromRoot(app, document.documentElement());
@@ -81,14 +81,15 @@ bool NaroThematicKeywords::bSetFromXMLFile(ApplicationModule& app, const std::st
 
 std::string NaroThematicKeywords::strSetFromRoot(const ApplicationModule& app,
                                                  const XmlNode& root) {
-  if (root.baseName() != "NaroThematicKeywords") return app.LoadResString(1169);
+  if (root.baseName() != "NaroThematicKeywords")
+    return app.LoadResString(Message::VocabularyRootMissing);
   colThemes_.clear();
   for (XmlNode child = root.firstElement(); child; child = child.nextElement()) {
     if (child.baseName() != "Theme") continue;
     auto theme = std::make_shared<Theme>();
     std::string error = theme->strSetFromDOMElement(app, child);
     if (!error.empty()) return error;
-    if (theme->strEnglish.empty()) return app.LoadResString(1170);
+    if (theme->strEnglish.empty()) return app.LoadResString(Message::ThemeWithoutEnglish);
     colThemes_.push_back(std::move(theme));
   }
   return {};

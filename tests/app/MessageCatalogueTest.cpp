@@ -20,7 +20,7 @@ const MessageCatalogue kItalian(InterfaceLanguage::Italian);
 TEST(MessageCatalogue, HoldsEveryIdOnceAndInOrder) {
   int next = 1000;
   for (const auto rows : {messagesFrom1000(), messagesFrom1100()}) {
-    for (const Message& row : rows) EXPECT_EQ(row.id, next++);
+    for (const MessageRow& row : rows) EXPECT_EQ(row.id, next++);
   }
   EXPECT_EQ(next, 1178);
   EXPECT_EQ(kDefault.text(1177), "Keyframe updated.");
@@ -36,7 +36,7 @@ TEST(MessageCatalogue, HoldsEveryIdOnceAndInOrder) {
 TEST(MessageCatalogue, TranslationsKeepTheShapeOfTheirText) {
   const std::set<int> untranslated = {1032, 1033, 1034, 1044, 1045, 1046, 1047, 1048, 1049, 1050};
   for (const auto rows : {messagesFrom1000(), messagesFrom1100()}) {
-    for (const Message& row : rows) {
+    for (const MessageRow& row : rows) {
       ASSERT_EQ(row.italian == nullptr, untranslated.contains(row.id)) << row.id;
       const std::string text = row.text;
       const std::string italian = kItalian.text(row.id);

@@ -74,7 +74,7 @@ TEST_F(SchemaDialogTest, ANewTickGivesTheDefault) {
     dialog.setTicked(2, true);
     dialog.OKButton_Click();
   });
-  EXPECT_EQ(field(1).vContent(), Value(application_.app.LoadResString(1081)));
+  EXPECT_EQ(field(1).vContent(), Value(application_.app.messages.text(1081)));
   EXPECT_EQ(field(2).vContent(), Value("01/01/2001"));
   for (const std::size_t position : {1u, 2u}) {
     EXPECT_TRUE(field(position).bValid());

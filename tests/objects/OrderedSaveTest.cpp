@@ -29,7 +29,7 @@ bool plainSave(DocumentSession& session, const ObjectRegistry& objects,
       again = true;
       ++counter;
       if (object->bReferedStillToBeSaved()) continue;
-      session.window.setStrStatusBarText(session.app.LoadResString(1137) + " " +
+      session.window.setStrStatusBarText(session.app.messages.text(1137) + " " +
                                          std::to_string(counter) + " (" + object->strTitle() + ")");
       if (!object->bSave()) return false;
       saved = true;

@@ -35,7 +35,7 @@ class CuttingDay : public ::testing::Test {
  protected:
   using Files = std::map<std::string, std::string>;
 
-  std::string text(int id) { return desktop->app.LoadResString(id); }
+  std::string text(int id) { return desktop->app.messages.text(id); }
   QStringList expressions() { return desktop->texts("tvwExpression"); }
 
   void openDocument() {

@@ -112,7 +112,7 @@ TEST_F(MainMenus, FindAsksAndListsWhatHoldsTheText) {
 TEST_F(MainMenus, EachEntryChoosesItsLanguage) {
   desktop_.start("");
   const char* const entries[] = {"mnuItalian", "mnuDutch", "mnuGerman", "mnuFrench"};
-  person_.willAnswer(desktop_.app.LoadResString(1164), kPlain, "cmdOK");
+  person_.willAnswer(desktop_.app.messages.text(1164), kPlain, "cmdOK");
   person_.choose("mnuLanguage", "mnuCLDisabled");
   for (int language = 4; language > 0; --language) {
     person_.choose("mnuLanguage", entries[language - 1]);

@@ -18,7 +18,7 @@ class ConnectionTest : public ::testing::Test {
   std::string stored() { return program_.folder.read("machine.ini"); }
 
   test::Program program_;
-  const std::string refusal_ = "exclamation: " + program_.app.LoadResString(1162);
+  const std::string refusal_ = "exclamation: " + program_.app.messages.text(1162);
 };
 
 TEST_F(ConnectionTest, OffersDefaultsAndStoresWhatIsTyped) {

@@ -17,7 +17,7 @@ class TransferTest : public ::testing::Test {
   Texts questions(const Texts& storages) const {
     Texts texts;
     for (const std::string& title : storages) {
-      texts.push_back("input: " + program_.app.LoadResString(1166) + title + " | Collocation");
+      texts.push_back("input: " + program_.app.messages.text(1166) + title + " | Collocation");
     }
     return texts;
   }
@@ -101,7 +101,7 @@ TEST_F(TransferTest, ImportToAPlaceThatCannotBeWrittenLosesNoFile) {
   program_.ui.filesToSave = {program_.folder / "no such folder/beacon.xml"};
   program_.mainForm.mnuImportToFS();
   const Texts shown = program_.ui.takeShown();
-  EXPECT_NE(std::find(shown.begin(), shown.end(), "plain: " + program_.app.LoadResString(1095)),
+  EXPECT_NE(std::find(shown.begin(), shown.end(), "plain: " + program_.app.messages.text(1095)),
             shown.end());
   EXPECT_EQ(program_.folder.snapshot(), before);
 }

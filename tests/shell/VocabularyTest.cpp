@@ -14,7 +14,7 @@ using Texts = std::vector<std::string>;
 
 class ProgramVocabularyTest : public ::testing::Test {
  protected:
-  std::string message(int id) const { return "plain: " + program_.app.LoadResString(id); }
+  std::string message(int id) const { return "plain: " + program_.app.messages.text(id); }
 
   /// "Edit Metadata" on the document's node. The names of the controls with what they show.
   Texts controls() {

@@ -97,7 +97,7 @@ TEST_F(SegmentEditorTest, EachPathHasItsOwnRules) {
     ASSERT_TRUE(open());
     ui.inputs = {"new"};
     const Texts shown = perform(rule);
-    const Texts box{"input: " + app.LoadResString(1103) + " | " + app.LoadResString(1104)};
+    const Texts box{"input: " + app.messages.text(1103) + " | " + app.messages.text(1104)};
     const bool asksTitle = rule.message == 0 && rule.path != Path::Modif;
     if (rule.message == 1118) {
       ui.inputs.clear();  // the second press was the first of a new selection
@@ -176,7 +176,7 @@ TEST_F(SegmentEditorTest, RemovalAsksAndClosesTheChain) {
   tool->Form_KeyUp(ExpressionTool::kDeleteKey, 1);
   EXPECT_TRUE(ui.takeShown().empty()) << "Shift and Delete do nothing";
   tool->Form_KeyUp(ExpressionTool::kDeleteKey, 0);
-  EXPECT_EQ(ui.takeShown(), Texts{"yes-no: " + app.LoadResString(1101)});
+  EXPECT_EQ(ui.takeShown(), Texts{"yes-no: " + app.messages.text(1101)});
   EXPECT_EQ(spans().size(), 3u);
   ui.yesNo = {true, true};
   segments().ConfirmRemoveSegments();
@@ -223,7 +223,7 @@ TEST_F(SegmentEditorTest, MergingGoesByListPositionAndKeepsTheFirstTitle) {
   tool->advsld.MouseDown(1, 1);
   ui.yesNo = {true};
   segments().MergeSelectedSegments();
-  EXPECT_EQ(ui.takeShown(), Texts{"yes-no: " + app.LoadResString(1150)});
+  EXPECT_EQ(ui.takeShown(), Texts{"yes-no: " + app.messages.text(1150)});
   EXPECT_EQ(spans(), Texts{"s50 10-60"});
   EXPECT_EQ(marked(), "- -") << "two numbers and one segment";
   tool->advsld.Resize(9000);
@@ -317,7 +317,7 @@ TEST_F(SegmentEditorTest, TheKeyFrameOfTheExpressionItselfChanges) {
   EXPECT_EQ(obj->keyFrameTime, 7);
   EXPECT_EQ(mainWindow.calls, Texts{"UpdateSmallKeyFrames"});
   EXPECT_EQ(ui.takeShown(),
-            (Texts{"yes-no: " + app.LoadResString(1176), "plain: " + app.LoadResString(1177)}));
+            (Texts{"yes-no: " + app.messages.text(1176), "plain: " + app.messages.text(1177)}));
 }
 
 }  // namespace

@@ -87,7 +87,7 @@ class ToolTest : public ::testing::Test, protected TestApplication {
     return all;
   }
   std::vector<std::string> plain(int message) const {
-    return {"plain: " + app.LoadResString(message)};
+    return {"plain: " + app.messages.text(message)};
   }
 
   RecordingMainWindow mainWindow;

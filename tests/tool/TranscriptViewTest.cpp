@@ -51,7 +51,7 @@ TEST_F(TranscriptViewTest, WordsComeAtTheirStartAndNotAfterAJump) {
 }
 
 TEST_F(TranscriptViewTest, WithoutAWordListTheBoxSaysSo) {
-  const std::string none = "<" + app.LoadResString(1097) + ">";
+  const std::string none = "<" + app.messages.text(1097) + ">";
   use("Video");
   view.OpenTranscriptView(*obj);
   EXPECT_EQ(view.text(), none);

@@ -69,10 +69,10 @@ TEST_F(VocabularyTest, SaysWhatIsWrongWithAFile) {
   };
   for (const auto& one : cases) {
     EXPECT_FALSE(load(one.content)) << one.content;
-    EXPECT_EQ(ui.takeShown(), Texts{"plain: " + app.LoadResString(one.message)}) << one.content;
+    EXPECT_EQ(ui.takeShown(), Texts{"plain: " + app.messages.text(one.message)}) << one.content;
   }
   EXPECT_FALSE(loadFile("<Other/>"));
-  EXPECT_EQ(ui.takeShown(), Texts{"plain: " + app.LoadResString(1169)});
+  EXPECT_EQ(ui.takeShown(), Texts{"plain: " + app.messages.text(1169)});
 }
 
 TEST_F(VocabularyTest, PutsTheReasonBehindTheMessage) {

@@ -45,7 +45,7 @@ class CommandDialogs : public ::testing::Test {
 TEST_F(CommandDialogs, SearchAsksAndRemembers) {
   SearchDialog dialog;
   whenModal([&](QWidget& window) {
-    EXPECT_EQ(fromQString(window.windowTitle()), app_.LoadResString(1121));
+    EXPECT_EQ(fromQString(window.windowTitle()), app_.messages.text(1121));
     QLineEdit& text = child<QLineEdit>(window, "Text1");
     EXPECT_EQ(text.text(), QString());
     EXPECT_EQ(child<QLabel>(window, "Label1").text(), QStringLiteral("Find What:"));
@@ -87,7 +87,7 @@ TEST_F(CommandDialogs, ConnectionHasItsTextsAndRefusesPorts) {
                                                   "Datamanager Text3|Http Server Text4"));
     for (const auto& box : ConnectionDialog::kBoxes) {
       QLineEdit& edit = child<QLineEdit>(window, box.name);
-      EXPECT_EQ(fromQString(edit.toolTip()), app_.LoadResString(box.toolTip));
+      EXPECT_EQ(fromQString(edit.toolTip()), app_.messages.text(box.toolTip));
     }
     EXPECT_EQ(child<QLineEdit>(window, "Text3").text(), QStringLiteral("<b>name</b>"));
     QLineEdit& port = child<QLineEdit>(window, "Text2");
@@ -100,7 +100,7 @@ TEST_F(CommandDialogs, ConnectionHasItsTextsAndRefusesPorts) {
   });
   dialog.Show(presenter_, owner_);
   EXPECT_EQ(application_.ui.takeShown(),
-            std::vector<std::string>{"exclamation: " + app_.LoadResString(1162)});
+            std::vector<std::string>{"exclamation: " + app_.messages.text(1162)});
   EXPECT_TRUE(dialog.bChanged());
   EXPECT_EQ(dialog.settings().iPort, 8);
   EXPECT_EQ(dialog.settings().strAddress, "host");

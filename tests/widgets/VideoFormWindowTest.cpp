@@ -129,7 +129,7 @@ TEST_F(VideoFormWindowTest, escEndsASelectionAndDeleteAsksWhereverTheFocusIs) {
     QTest::keyClick(&row, Qt::Key_Delete);
   });
   EXPECT_EQ(session.ui.takeShown(),
-            std::vector<std::string>{"yes-no: " + session.app.LoadResString(1101)});
+            std::vector<std::string>{"yes-no: " + session.app.messages.text(1101)});
   EXPECT_EQ(session.main->children.size(), 1u);
 }
 

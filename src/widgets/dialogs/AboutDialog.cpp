@@ -24,7 +24,7 @@ constexpr int kTitlePoints = 16;
 
 AboutDialog::AboutDialog(const ApplicationModule& app, QWidget* owner) : QDialog(owner), app_(app) {
   setObjectName(QStringLiteral("frmAbout"));
-  setWindowTitle(toQString(app.LoadResString(1061)));
+  setWindowTitle(toQString(app.LoadResString(Message::AboutTitle)));
   auto* column = new QVBoxLayout(this);
   column->setSizeConstraint(QLayout::SetFixedSize);
   QLabel* title = addLabel("lblTitle", QCoreApplication::applicationName());
@@ -32,7 +32,7 @@ AboutDialog::AboutDialog(const ApplicationModule& app, QWidget* owner) : QDialog
   font.setPointSize(kTitlePoints);
   title->setFont(font);
   addLabel("lblVersion", programVersion());
-  addLabel("lblDisclaimer", toQString(app.LoadResString(1064)))->setWordWrap(true);
+  addLabel("lblDisclaimer", toQString(app.LoadResString(Message::Disclaimer)))->setWordWrap(true);
   addButtons();
 }
 
@@ -48,11 +48,11 @@ QLabel* AboutDialog::addLabel(const char* name, const QString& text) {
 void AboutDialog::addButtons() {
   auto* buttons = new QDialogButtonBox(this);
   QPushButton* ok =
-      buttons->addButton(toQString(app_.LoadResString(1063)), QDialogButtonBox::AcceptRole);
+      buttons->addButton(toQString(app_.LoadResString(Message::OK)), QDialogButtonBox::AcceptRole);
   ok->setObjectName(QStringLiteral("cmdOK"));
   ok->setDefault(true);
-  QPushButton* info =
-      buttons->addButton(toQString(app_.LoadResString(1062)), QDialogButtonBox::ActionRole);
+  QPushButton* info = buttons->addButton(toQString(app_.LoadResString(Message::SystemInfo)),
+                                         QDialogButtonBox::ActionRole);
   info->setObjectName(QStringLiteral("cmdSysInfo"));
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   connect(info, &QPushButton::clicked, this, &AboutDialog::StartSysInfo);

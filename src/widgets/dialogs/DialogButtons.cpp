@@ -11,10 +11,10 @@ namespace velra {
 DialogButtons::DialogButtons(const ApplicationModule& app, const char* okName,
                              const char* cancelName, QWidget* parent)
     : QDialogButtonBox(parent) {
-  QPushButton* ok = addButton(toQString(app.LoadResString(1063)), AcceptRole);
+  QPushButton* ok = addButton(toQString(app.LoadResString(Message::OK)), AcceptRole);
   ok->setObjectName(QLatin1String(okName));
   ok->setDefault(true);
-  QPushButton* cancel = addButton(toQString(app.LoadResString(1068)), RejectRole);
+  QPushButton* cancel = addButton(toQString(app.LoadResString(Message::Cancel)), RejectRole);
   cancel->setObjectName(QLatin1String(cancelName));
 }
 

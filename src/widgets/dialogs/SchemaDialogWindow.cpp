@@ -25,7 +25,7 @@ SchemaDialogWindow::SchemaDialogWindow(const ApplicationModule& app, AVDocSchema
                                        QWidget* owner)
     : QDialog(owner), dialog_(dialog), ListView1_(new QTreeWidget(this)) {
   setObjectName(QStringLiteral("AVDocSchemaDialog"));
-  setWindowTitle(titleFromCaption(app.LoadResString(1084)));
+  setWindowTitle(titleFromCaption(app.LoadResString(Message::EditFlags)));
   setModal(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(ListView1_);

@@ -23,7 +23,7 @@ SearchDialogWindow::SearchDialogWindow(const ApplicationModule& app, SearchDialo
                                        QWidget* owner)
     : QDialog(owner), dialog_(dialog), Text1_(new QLineEdit(toQString(dialog.strText()), this)) {
   setObjectName(QStringLiteral("SearchDialog"));
-  setWindowTitle(toQString(app.LoadResString(1121)));
+  setWindowTitle(toQString(app.LoadResString(Message::SearchPrompt)));
   auto* column = new QVBoxLayout(this);
   auto* label = new QLabel(QStringLiteral("Find What:"), this);
   label->setObjectName(QStringLiteral("Label1"));

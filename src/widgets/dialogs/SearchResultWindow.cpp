@@ -39,7 +39,7 @@ SearchResultWindow::SearchResultWindow(const ApplicationModule& app, SearchResul
                                        QWidget* owner)
     : QDialog(owner), dialog_(dialog), ListView1_(new QTreeView(this)) {
   setObjectName(QStringLiteral("SearchResultDialog"));
-  setWindowTitle(titleFromCaption(app.LoadResString(1002)));
+  setWindowTitle(titleFromCaption(app.LoadResString(Message::Find)));
   auto* column = new QVBoxLayout(this);
   column->addWidget(ListView1_);
   makeList();

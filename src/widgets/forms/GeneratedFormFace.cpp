@@ -114,8 +114,8 @@ QPushButton* GeneratedFormFace::makeButton(const char* name, const QString& capt
 }
 
 void GeneratedFormFace::makeButtons(const ApplicationModule& app) {
-  OKButt_ = makeButton("OKButt", toQString(app.LoadResString(1063)));
-  CancelButt_ = makeButton("CancelButt", toQString(app.LoadResString(1068)));
+  OKButt_ = makeButton("OKButt", toQString(app.LoadResString(Message::OK)));
+  CancelButt_ = makeButton("CancelButt", toQString(app.LoadResString(Message::Cancel)));
   const int band = pixelsFromTwips(form_layout::kAroundViewport - form_layout::kTabsHeight);
   extraBand_ = std::max(0, OKButt_->height() + 2 * HScroll1_->sizeHint().height() - band);
   connect(OKButt_, &QPushButton::clicked, this, &GeneratedFormFace::okClicked);

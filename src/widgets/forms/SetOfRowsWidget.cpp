@@ -21,8 +21,8 @@ namespace velra {
 
 namespace {
 
-QString plainCaption(const ApplicationModule& app, int id) {
-  return toQString(app.LoadResString(id)).remove(u'&');
+QString plainCaption(const ApplicationModule& app, Message message) {
+  return toQString(app.LoadResString(message)).remove(u'&');
 }
 
 }  // namespace
@@ -53,15 +53,15 @@ SetOfRowsWidget::~SetOfRowsWidget() {
 }
 
 void SetOfRowsWidget::makeButtons(const ApplicationModule& app) {
-  const auto make = [&](const char* name, int captionId) {
-    auto* button = new QPushButton(plainCaption(app, captionId), this);
+  const auto make = [&](const char* name, Message caption) {
+    auto* button = new QPushButton(plainCaption(app, caption), this);
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(button->text() + u' ' + label_);
     button->setAutoDefault(false);
     return button;
   };
-  Command1_ = make("Command1", 1004);
-  Command2_ = make("Command2", 1005);
+  Command1_ = make("Command1", Message::New);
+  Command2_ = make("Command2", Message::Delete);
   connect(Command1_, &QPushButton::clicked, this, [this] { addClicked(); });
   connect(Command2_, &QPushButton::clicked, this, [this] { rows_.Command2_Click(); });
 }

@@ -4,6 +4,8 @@
 #include <QKeySequence>
 #include <span>
 
+#include "app/Message.h"
+
 namespace velra {
 
 class MainFormWindow;
@@ -19,7 +21,7 @@ struct MenuEntry {
   };
 
   const char* name;  // of the QAction or QMenu
-  int caption = 0;   // id of the text
+  Message caption = Message::None;
   Kind kind = Kind::Command;
   /// What it calls. Null: the command has no function, and says so.
   void (*run)(MainFormWindow& window) = nullptr;
@@ -34,7 +36,7 @@ std::span<const MenuEntry> mainMenus();
 /// One button of the tool bar.
 struct ToolButton {
   const char* key;
-  int toolTip = 0;                // id of the text
+  Message toolTip;
   const char* icon;               // name of the icon
   const char* literal = nullptr;  // what is said in a box; null: nothing happens
 };

@@ -52,7 +52,7 @@ MainFormWindow::MainFormWindow(ApplicationModule& app, frmMain& rules)
   connectTree(panes_->expressionTree(), TreeId::tvwExpression);
   setMinimumWidth(pixelsFromTwips(kLeastWindowWidth));
   restorePlace(*this, app_.userSettings);
-  panes_->setHeadings(text(1099), text(1100));
+  panes_->setHeadings(text(Message::BibliographicData), text(Message::MultimediaData));
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setSingleShot(true);
   connect(&timer1_, &QTimer::timeout, this, [this] { delete splash_; });
@@ -69,8 +69,8 @@ UserInterface& MainFormWindow::ui() {
   return app_.ui;
 }
 
-QString MainFormWindow::text(int id) const {
-  return toQString(app_.LoadResString(id));
+QString MainFormWindow::text(Message message) const {
+  return toQString(app_.LoadResString(message));
 }
 
 void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include "app/Message.h"
 #include "shell/MainWindowFace.h"
 #include "widgets/main/TreeIconPainter.h"
 #include "widgets/main/TreeModel.h"
@@ -34,7 +35,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
 
   frmMain& rules() { return rules_; }
   UserInterface& ui();
-  QString text(int id) const;
+  QString text(Message message) const;
 
   void showSplash();
   void showAbout();

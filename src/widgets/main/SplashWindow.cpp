@@ -48,12 +48,13 @@ SplashWindow::SplashWindow(const ApplicationModule& app, QWidget* owner)
     : QWidget(owner, Qt::SplashScreen | Qt::WindowDoesNotAcceptFocus) {
   setObjectName(QStringLiteral("frmSplash"));
   setAttribute(Qt::WA_ShowWithoutActivating);
-  const auto text = [&app](int id) { return toQString(app.LoadResString(id)); };
+  const auto text = [&app](Message message) { return toQString(app.LoadResString(message)); };
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   grid->setHorizontalSpacing(kMargin);
   grid->addWidget(newPicture(this), 0, 0, 4, 1, Qt::AlignTop);
-  QLabel* companyProduct = newLabel(this, "lblCompanyProduct", text(1058), kCompanyProductPoints);
+  QLabel* companyProduct =
+      newLabel(this, "lblCompanyProduct", text(Message::ProductDescription), kCompanyProductPoints);
   companyProduct->setWordWrap(true);
   companyProduct->setMinimumWidth(kTextPixels);
   grid->addWidget(companyProduct, 0, 1);
@@ -61,9 +62,9 @@ SplashWindow::SplashWindow(const ApplicationModule& app, QWidget* owner)
       newLabel(this, "lblProductName", QCoreApplication::applicationName(), kProductNamePoints), 1,
       1);
   grid->addWidget(newLabel(this, "lblVersion", programVersion()), 2, 1);
-  grid->addWidget(newLabel(this, "lblPlatform", text(1057)), 3, 1);
-  grid->addWidget(newLabel(this, "lblCopyright", text(1054)), 4, 1);
-  grid->addWidget(newLabel(this, "lblLicenseTo", text(1060)), 5, 1);
+  grid->addWidget(newLabel(this, "lblPlatform", text(Message::PlatformName)), 3, 1);
+  grid->addWidget(newLabel(this, "lblCopyright", text(Message::Copyright)), 4, 1);
+  grid->addWidget(newLabel(this, "lblLicenseTo", text(Message::Licence)), 5, 1);
   adjustSize();
   move(owner->screen()->availableGeometry().center() - rect().center());
 }

@@ -21,7 +21,6 @@ namespace velra {
 
 namespace {
 
-constexpr int kBackCaption = 1040;
 constexpr int kLongParagraph = 2000;  // characters: more than two minutes of speech
 
 struct ButtonLooks {
@@ -97,7 +96,7 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
 
 void ToolPanel::makePlayer(const ApplicationModule& app) {
   BackButt_ = makeButton(
-      "BackButt", toQString(app.LoadResString(kBackCaption)), "To the parent (sub)expression",
+      "BackButt", toQString(app.LoadResString(Message::BackTip)), "To the parent (sub)expression",
       [](ExpressionTool& tool) { tool.BackButt(); }, this);
   txtTime_ = new QLineEdit(QStringLiteral("00:00:00:00"), this);
   txtTime_->setObjectName(QStringLiteral("txtTime"));
