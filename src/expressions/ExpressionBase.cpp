@@ -49,10 +49,7 @@ bool ExpressionBase::isSingleReference(const SchemaElement& element) const {
 void ExpressionBase::setTextField(const std::string& name, const std::string& text) {
   SchemaElement* field = secol().field(name);
   if (!field) return;
-  if (toText(field->vContent()) != text) {
-    field->setVContent(text);
-    field->setBChanged(true);
-  }
+  if (toText(field->vContent()) != text) return field->assign(text);
   field->setBValid(true);
 }
 
@@ -88,12 +85,12 @@ std::string ExpressionBase::strFollowedBy() const {
 
 bool ExpressionBase::bCheckIfOwnRelative(const std::string& ofClass,
                                          const std::string& guid) const {
-  return ofClass == "Version" && io()->bGUIDComp(relationText(kVersionGuidField), guid);
+  return ofClass == "Version" && io()->bGUIDComp(secol().relationText(kVersionGuidField), guid);
 }
 
 bool ExpressionBase::bCheckIfSubExpression(const std::string& ofClass,
                                            const std::string& guid) const {
-  return ofClass == className() && io()->bGUIDComp(relationText(rules().partOfField), guid);
+  return ofClass == className() && io()->bGUIDComp(secol().relationText(rules().partOfField), guid);
 }
 
 std::shared_ptr<Chunk> ExpressionBase::ckGetChunk() const {
@@ -107,9 +104,7 @@ void ExpressionBase::SetChunk(double dStart, double dend) {
   auto chunk = std::make_shared<Chunk>();
   chunk->dStart = dStart;
   chunk->dend = dend;
-  field->setVContent(std::move(chunk));
-  field->setBValid(true);
-  field->setBChanged(true);
+  field->assign(std::move(chunk));
 }
 
 std::string ExpressionBase::strGetMediaObjectPath() const {
@@ -152,8 +147,7 @@ void ExpressionBase::RenameAllRelativesGUID(const std::string& oldGUID,
   for (SchemaElement& field : secol()) {
     if (!isSingleReference(field) || !field.bValid()) continue;
     if (!io()->bGUIDComp(guidIn(field), oldGUID)) continue;
-    field.setVContent(newGUID);
-    field.setBChanged(true);
+    field.assign(newGUID);
   }
 }
 

@@ -128,24 +128,20 @@ ExpressionRef ExpressionBase::siblingAfter(double time) const {
 void ExpressionBase::SetPartOf(const std::string& guid) {
   SchemaElement* field = secol().relationField(rules().partOfField);
   if (!field) return;
-  field->setVContent(guid);
-  field->setBChanged(true);
-  field->setBValid(true);
+  field->assign(guid);
 }
 
 void ExpressionBase::SetFollowedBy(const std::string& guid) {
   SchemaElement* field = secol().relationField(rules().followedByField);
   if (!field) return;
-  if (!guid.empty()) field->setVContent(guid);
-  field->setBChanged(true);
-  field->setBValid(!guid.empty());
+  if (guid.empty()) return field->unassign();
+  field->assign(guid);
 }
 
 void ExpressionBase::ClearPartOf(const std::string& guid) {
   SchemaElement* field = secol().relationField(rules().partOfField);
-  if (!field || !io()->bGUIDComp(relationText(rules().partOfField), guid)) return;
-  field->setBValid(false);
-  field->setBChanged(true);
+  if (!field || !io()->bGUIDComp(secol().relationText(rules().partOfField), guid)) return;
+  field->unassign();
 }
 
 void ExpressionBase::RemoveReferenceObj(DescribedObject& removed) {

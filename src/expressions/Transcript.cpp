@@ -23,10 +23,7 @@ std::shared_ptr<WordColl> Transcript::WordList() const {
 
 void Transcript::setWordList(const std::shared_ptr<WordColl>& words) {
   for (SchemaElement& field : secol()) {
-    if (field.strLowerName() != kWordListField) continue;
-    field.setVContent(words);
-    field.setBChanged(true);
-    field.setBValid(true);
+    if (field.strLowerName() == kWordListField) field.assign(words);
   }
 }
 

@@ -40,8 +40,7 @@ void Video::setDFrameRate(double framesPerSecond) {
   SchemaElement* field = secol().field(kFrameRateField);
   if (!field) return;
   if (isEmpty(field->vContent()) || toReal(field->vContent()) != framesPerSecond) {
-    field->setVContent(framesPerSecond);
-    field->setBChanged(true);
+    return field->assign(framesPerSecond);
   }
   field->setBValid(true);
 }

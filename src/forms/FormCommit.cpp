@@ -43,11 +43,9 @@ void commitSet(SchemaElement& field, const StringList& strings) {
   if (toCollection(field.vContent()) != strings) field.setBChanged(true);
   // A field that an earlier edit has changed is made anew too.
   if (!field.bChanged()) return;
+  if (!strings.empty()) return field.assign(strings);
   field.setVContent({});
-  field.setBValid(false);
-  if (strings.empty()) return;
-  field.setBValid(true);
-  field.setVContent(strings);
+  field.unassign();
 }
 
 void commitForm(const FormFields& form, SEColl& secol, SpecialFields* special,

@@ -21,23 +21,17 @@ const Theme& firstTheme(const ApplicationModule& app) {
   return firstOf(app.objNaroThematicKeywords->colThemes());
 }
 
-void assign(SchemaElement& field, Value value) {
-  field.setVContent(std::move(value));
-  field.setBChanged(true);
-  field.setBValid(true);
-}
-
 }  // namespace
 
 void InitCrossLanguageFields(const ApplicationModule& app, SEColl& fields) {
   for (SchemaElement& field : fields) {
     if (field.strName() == "Themes") {
-      assign(field, firstTheme(app).strEnglish);
+      field.assign(firstTheme(app).strEnglish);
     } else if (field.strName() == "Subthemes") {
-      assign(field, firstOf(firstTheme(app).colSubthemes()).strEnglish);
+      field.assign(firstOf(firstTheme(app).colSubthemes()).strEnglish);
     } else if (field.strName() == "ThematicKeywords") {
       const Subtheme& subtheme = firstOf(firstTheme(app).colSubthemes());
-      assign(field, StringList{firstOf(subtheme.colKeywords()).strEnglish});
+      field.assign(StringList{firstOf(subtheme.colKeywords()).strEnglish});
     }
   }
 }

@@ -95,18 +95,17 @@ void LadderObject::addReference(const std::string& guid) {
 }
 
 SchemaElement* LadderObject::fieldHolding(const std::string& guid, std::size_t& offset) {
-  SchemaElement* field = secol().relationField(rules().relationField);
-  const StringList* list = field && field->bValid() ? asList(field->vContent()) : nullptr;
+  const StringList* list = secol().relationList(rules().relationField);
   if (!list) return nullptr;
   const auto at = std::find_if(list->begin(), list->end(), [&](const std::string& member) {
     return io()->bGUIDComp(member, guid);
   });
   offset = static_cast<std::size_t>(at - list->begin());
-  return at == list->end() ? nullptr : field;
+  return at == list->end() ? nullptr : secol().relationField(rules().relationField);
 }
 
 void LadderObject::visitReferences(ReferenceVisitor& visitor) const {
-  if (const StringList* list = relationList(rules().relationField)) {
+  if (const StringList* list = secol().relationList(rules().relationField)) {
     for (const std::string& guid : *list) visitor.identifier(guid);
   }
   for (const ObjectRef& child : colChilds_) visitor.object(*child);
@@ -114,7 +113,7 @@ void LadderObject::visitReferences(ReferenceVisitor& visitor) const {
 
 bool LadderObject::bCheckIfOwnRelative(const std::string& ofClass, const std::string& guid) const {
   if (ofClass != rules().childClass) return false;
-  const StringList* list = relationList(rules().relationField);
+  const StringList* list = secol().relationList(rules().relationField);
   return list && std::any_of(list->begin(), list->end(), [&](const std::string& member) {
            return io()->bGUIDComp(member, guid);
          });
@@ -140,7 +139,7 @@ void LadderObject::removeReference(const std::string& guid) {
   // An empty set is never kept: the field is assigned with a member or not at all.
   if (!asList(field->vContent())->empty()) return;
   field->setVContent({});
-  field->setBValid(false);
+  field->unassign();
 }
 
 void LadderObject::RemoveReferenceObj(DescribedObject& removed) {

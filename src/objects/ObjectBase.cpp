@@ -64,9 +64,7 @@ void ObjectBase::setStrTitle(const std::string& title) {
 void ObjectBase::setTextField(const std::string& name, const std::string& text) {
   SchemaElement* field = secol().field(name);
   if (!field || toText(field->vContent()) == text) return;
-  field->setVContent(text);
-  field->setBChanged(true);
-  field->setBValid(true);
+  field->assign(text);
 }
 
 void ObjectBase::strInitGUID(const std::string& guid) {
@@ -174,12 +172,12 @@ void ObjectBase::bindForm(const std::shared_ptr<ObjectForm>& form) {
 
 // The registry keeps identifiers, references and what is to be saved in indexes, so it must hear of
 // every write.
-void ObjectBase::contentChanged(const SchemaElement& element, FieldWrite write) {
+void ObjectBase::contentChanged(const SchemaElement& element, ReferenceChange change) {
   fieldChanged(element);
   if (!listener_) return;
   if (element.bChanged()) listener_->markedChanged(*this);
   if (element.strName() == rules_.identityField) listener_->identifierChanged(*this);
-  if (write == FieldWrite::MayRefer && isReference(element)) {
+  if (change == ReferenceChange::MayAdd && isReference(element)) {
     listener_->referencesAdded(*this);
   }
 }
@@ -233,17 +231,6 @@ bool ObjectBase::canNameChild() const {
 
 std::string ObjectBase::schemaPrefix() const {
   return domSchema_ ? domSchema_->rootPrefix() : std::string();
-}
-
-std::string ObjectBase::relationText(std::string_view lowerName) const {
-  const SchemaElement* field = secol().relationField(lowerName);
-  const auto* text = field ? std::get_if<std::string>(&field->vContent()) : nullptr;
-  return text ? *text : std::string();
-}
-
-const StringList* ObjectBase::relationList(std::string_view lowerName) const {
-  const SchemaElement* field = secol().relationField(lowerName);
-  return field && field->bValid() ? asList(field->vContent()) : nullptr;
 }
 
 }  // namespace velra

@@ -101,15 +101,10 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   /// The prefix that new objects below this one are made with.
   std::string schemaPrefix() const;
 
-  /// The text of a relation field, assigned or not; "" for a field that is absent or holds no text.
-  std::string relationText(std::string_view lowerName) const;
-  /// The set in a relation field; null when it is absent or not assigned.
-  const StringList* relationList(std::string_view lowerName) const;
-
  private:
   std::string loadFields(const std::string& guid);
   void bindForm(const std::shared_ptr<ObjectForm>& form);
-  void contentChanged(const SchemaElement& element, FieldWrite write) override;
+  void contentChanged(const SchemaElement& element, ReferenceChange change) override;
 
   ApplicationModule& app_;
   const ClassRules& rules_;

@@ -40,9 +40,7 @@ void Version::setDDuration(double seconds) {
   if (!field) return;
   auto chunk = std::make_shared<Chunk>();
   chunk->dend = seconds;
-  field->setVContent(std::move(chunk));
-  field->setBValid(true);
-  field->setBChanged(true);
+  field->assign(std::move(chunk));
 }
 
 bool Version::bCheckForSorages() const {

@@ -11,9 +11,9 @@ namespace velra {
 namespace {
 
 // Finds one text in many values; the text is lowered once.
-class bTextMatches {
+class TextMatcher {
  public:
-  bTextMatches(const std::string& text, bool matchCase)
+  TextMatcher(const std::string& text, bool matchCase)
       : text_(matchCase ? text : toLower(text)), matchCase_(matchCase) {}
 
   bool operator()(const std::string& value) const {
@@ -28,7 +28,7 @@ class bTextMatches {
   bool matchCase_;
 };
 
-long hitsIn(const SchemaElement& element, const bTextMatches& matches) {
+long hitsIn(const SchemaElement& element, const TextMatcher& matches) {
   long hits = 0;
   if (element.tyType() == tyType::String) {
     const auto* text = std::get_if<std::string>(&element.vContent());
@@ -49,7 +49,7 @@ long hitsIn(const SchemaElement& element, const bTextMatches& matches) {
 }  // namespace
 
 std::int16_t SEColl::iSearchText(const std::string& strText, bool bMatchCase) const {
-  const bTextMatches matches(strText, bMatchCase);
+  const TextMatcher matches(strText, bMatchCase);
   long hits = 0;
   for (const SchemaElement& element : elements_) {
     if (element.bValid()) hits += hitsIn(element, matches);

@@ -99,6 +99,17 @@ const SchemaElement* SEColl::relationField(std::string_view strLowerName) const 
   return firstOf(elements_, hasLowerName(strLowerName));
 }
 
+std::string SEColl::relationText(std::string_view strLowerName) const {
+  const SchemaElement* field = relationField(strLowerName);
+  const auto* text = field ? std::get_if<std::string>(&field->vContent()) : nullptr;
+  return text ? *text : std::string();
+}
+
+const StringList* SEColl::relationList(std::string_view strLowerName) const {
+  const SchemaElement* field = relationField(strLowerName);
+  return field && field->bValid() ? asList(field->vContent()) : nullptr;
+}
+
 std::int16_t SEColl::iNumValid() const {
   return toInt16(static_cast<double>(
       std::count_if(elements_.begin(), elements_.end(),

@@ -51,6 +51,10 @@ class SEColl {
   const SchemaElement* field(std::string_view strName) const;
   SchemaElement* relationField(std::string_view strLowerName);
   const SchemaElement* relationField(std::string_view strLowerName) const;
+  /// The text of a relation field, assigned or not; "" for a field that is absent or holds no text.
+  std::string relationText(std::string_view strLowerName) const;
+  /// The set in a relation field; null when it is absent or not assigned.
+  const StringList* relationList(std::string_view strLowerName) const;
 
   std::int16_t iNumValid() const;
   std::int16_t iNumValidAndReadable() const;

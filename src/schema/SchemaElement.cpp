@@ -34,38 +34,49 @@ void SchemaElement::changeDeclaration(const std::function<void(FieldDeclaration&
   declaration_ = DeclarationRef(std::move(own));
 }
 
-void SchemaElement::notify(FieldWrite write) {
-  if (watcher_) watcher_->contentChanged(*this, write);
+void SchemaElement::tellWatcher(ReferenceChange change) {
+  if (watcher_) watcher_->contentChanged(*this, change);
+}
+
+void SchemaElement::assign(Value content) {
+  vContent_ = std::move(content);
+  bChanged_ = true;
+  setBValid(true);
+}
+
+void SchemaElement::unassign() {
+  bChanged_ = true;
+  setBValid(false);
 }
 
 void SchemaElement::setBValid(bool valid) {
   bValid_ = valid;
-  notify(valid ? FieldWrite::MayRefer : FieldWrite::RefersToNoMore);
+  tellWatcher(valid ? ReferenceChange::MayAdd : ReferenceChange::AddsNone);
 }
 
 void SchemaElement::setBChanged(bool changed) {
   if (!changed && !bChanged_) return;  // each save asks it of every field
   bChanged_ = changed;
-  notify(FieldWrite::RefersToNoMore);
+  tellWatcher(ReferenceChange::AddsNone);
 }
 
 void SchemaElement::setVContent(Value content) {
   vContent_ = std::move(content);
-  notify(isEmpty(vContent_) ? FieldWrite::RefersToNoMore : FieldWrite::MayRefer);
+  tellWatcher(isEmpty(vContent_) ? ReferenceChange::AddsNone : ReferenceChange::MayAdd);
 }
 
 void SchemaElement::changeList(const std::function<void(StringList&)>& change) {
   StringList* list = asList(vContent_);
   if (!list) return;
   change(*list);
-  notify(FieldWrite::MayRefer);
+  tellWatcher(ReferenceChange::MayAdd);
 }
 
 void SchemaElement::removeFromList(std::size_t offset) {
   StringList* list = asList(vContent_);
   if (!list || offset >= list->size()) return;
   list->erase(list->begin() + static_cast<std::ptrdiff_t>(offset));
-  notify(FieldWrite::RefersToNoMore);
+  tellWatcher(ReferenceChange::AddsNone);
 }
 
 void SchemaElement::setBReadOnly(bool readOnly) {

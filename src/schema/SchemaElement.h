@@ -14,14 +14,14 @@ class ApplicationModule;
 class CloseLists;
 class SchemaElement;
 
-/// What a write can mean for the references in a field: new ones, or at most fewer.
-enum class FieldWrite { MayRefer, RefersToNoMore };
+/// What a write can do to the references in a field: add some, or at most take some away.
+enum class ReferenceChange { MayAdd, AddsNone };
 
 /// Told of every write to a field that it watches; an index over identifiers keeps itself true so.
 class ContentWatcher {
  public:
   virtual ~ContentWatcher() = default;
-  virtual void contentChanged(const SchemaElement& element, FieldWrite write) = 0;
+  virtual void contentChanged(const SchemaElement& element, ReferenceChange change) = 0;
 };
 
 /// One field of an object: what the schema says of it, its value and its flags.
@@ -40,6 +40,12 @@ class SchemaElement {
   const std::string& strLowerName() const { return declaration().strLowerName; }
   const std::string& strCloseList() const { return declaration().strCloseList; }
   velra::tyType tyType() const { return declaration().type; }
+
+  /// Sets the value and marks the field as assigned and changed, in one write for the watcher.
+  void assign(Value content);
+  /// Marks the field as not assigned any more, and changed. The value stays: a parent counts
+  /// whether its field is assigned or not.
+  void unassign();
 
   void setBValid(bool valid);
   void setBChanged(bool changed);
@@ -71,7 +77,7 @@ class SchemaElement {
  private:
   const FieldDeclaration& declaration() const;
   void changeDeclaration(const std::function<void(FieldDeclaration&)>& change);
-  void notify(FieldWrite write);
+  void tellWatcher(ReferenceChange change);
 
   DeclarationRef declaration_;
   Value vContent_;

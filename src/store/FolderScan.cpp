@@ -20,26 +20,18 @@ std::string relationKey(FolderScan::Relation relation, const std::string& classN
   return (relation == FolderScan::Relation::Own ? "own|" : "part|") + className + "|" + path;
 }
 
-// The text of a relation field, assigned or not; "" for a field that holds no text.
-std::string relationText(const SEColl& secol, std::string_view lowerName) {
-  const SchemaElement* field = secol.relationField(lowerName);
-  const auto* text = field ? std::get_if<std::string>(&field->vContent()) : nullptr;
-  return text ? *text : std::string();
-}
-
 void noteRelations(const SEColl& secol, const ClassRules& rules, ScannedFile& file) {
   file.ownRelatives.clear();
   if (!rules.relationField.empty()) {
-    const SchemaElement* field = secol.relationField(rules.relationField);
-    const StringList* list = field && field->bValid() ? asList(field->vContent()) : nullptr;
+    const StringList* list = secol.relationList(rules.relationField);
     for (const std::string& guid : list ? *list : StringList{}) {
       file.ownRelatives.push_back(strAbsolutePath(guid));
     }
   }
   if (rules.partOfField.empty()) return;
-  const std::string version = relationText(secol, kVersionGuidField);
+  const std::string version = secol.relationText(kVersionGuidField);
   if (!version.empty()) file.ownRelatives.push_back(strAbsolutePath(version));
-  const std::string parent = relationText(secol, rules.partOfField);
+  const std::string parent = secol.relationText(rules.partOfField);
   file.partOf = parent.empty() ? std::string() : strAbsolutePath(parent);
 }
 
