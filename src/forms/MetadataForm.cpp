@@ -2,26 +2,11 @@
 #include "forms/MetadataForm.h"
 
 #include "base/RunTimeError.h"
+#include "base/ScopedValue.h"
 #include "forms/FormPresenter.h"
 #include "forms/LoadedForm.h"
 
 namespace velra {
-
-namespace {
-
-/// Forgets the loaded form when its show ends, by an error too.
-class LoadedMark {
- public:
-  LoadedMark(LoadedForm*& place, LoadedForm& form) : place_(place) { place_ = &form; }
-  ~LoadedMark() { place_ = nullptr; }
-  LoadedMark(const LoadedMark&) = delete;
-  LoadedMark& operator=(const LoadedMark&) = delete;
-
- private:
-  LoadedForm*& place_;
-};
-
-}  // namespace
 
 MetadataForm::MetadataForm(const MetadataKind& kind, ApplicationModule& app,
                            FormPresenter& presenter)
@@ -39,7 +24,7 @@ void MetadataForm::Show(FormOwner& owner) {
   if (!object) raise(kNoObject);
   if (!arrTabScroll_) arrTabScroll_ = std::make_unique<TabScroll>();
   LoadedForm form(app_, kind_, object, *arrTabScroll_);
-  const LoadedMark mark(loaded_, form);
+  const ScopedValue mark(loaded_, &form);
   form.Form_Load();
   presenter_.showForm(owner, form);
 }

@@ -5,6 +5,7 @@
 
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
+#include "base/ScopedValue.h"
 #include "forms/FormTabs.h"
 #include "platform/UserInterface.h"
 #include "protocol/MainWindow.h"
@@ -15,20 +16,6 @@
 namespace velra {
 
 namespace {
-
-/// Sets a pointer for as long as it lives, and puts the old value back, after an error too.
-template <class T>
-class Setting {
- public:
-  Setting(T*& place, T* value) : place_(place), before_(std::exchange(place, value)) {}
-  ~Setting() { place_ = before_; }
-  Setting(const Setting&) = delete;
-  Setting& operator=(const Setting&) = delete;
-
- private:
-  T*& place_;
-  T* before_;
-};
 
 bool hasShowableTimes(const Expression& expression) {
   const auto span = expression.ckGetChunk();
@@ -81,7 +68,7 @@ ExpressionRef VideoForm::showOnce(FormOwner& owner) {
   if (!arrTabScroll_) arrTabScroll_ = std::make_unique<TabScroll>();
   const std::unique_ptr<VideoFormFace> face = services_.faces.makeVideoForm(owner);
   LoadedVideoForm form(services_, obj_.lock(), *arrTabScroll_, *face);
-  const Setting mark(loaded_, &form);
+  const ScopedValue mark(loaded_, &form);
   if (!loads(form)) return nullptr;
   face->showModally();
   return form.next();
@@ -103,7 +90,7 @@ bool VideoForm::loads(LoadedVideoForm& form) {
 
 VideoForm::Wanted VideoForm::formOf(const ExpressionRef& obj, FormOwner& owner) {
   Wanted found;
-  const Setting mark(services_.wanted, &found);
+  const ScopedValue mark(services_.wanted, &found);
   MainWindow* mainWindow = services_.app.gMainForm;
   obj->ShowForm(mainWindow ? *mainWindow : owner);
   return found;
