@@ -70,12 +70,12 @@ class MovieIndexer {
   void readPictures() {
     const double first = reader_.firstStamp();
     const auto ticks = static_cast<std::int64_t>(std::llround(first / reader_.tick()));
-    for (int way = 0; way < MovieInput::kWaysToStart && !std::isnan(first); ++way) {
-      if (!input_.toStart(way, ticks)) continue;
+    const auto arrived = [&] {
       take(read(kLeapOfPictures, kScanLimit));
       index_.sure = index_.sure && !(index_.offset > first + frameTime_ / 2);
-      if (index_.sure) break;
-    }
+      return index_.sure;
+    };
+    if (!std::isnan(first)) input_.toStart(ticks, arrived);
     if (!index_.known()) index_.leaps = false;
     if (index_.known()) index_.leap = kLeapOfPictures;
     index_.first = index_.known() ? first - index_.offset : 0;

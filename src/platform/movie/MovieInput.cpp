@@ -27,6 +27,8 @@ constexpr int kProbedBytes = 256 * 1024;
 // How many packets in a row may be unreadable before the rest of a damaged file is given up.
 constexpr int kBadReads = 200;
 
+constexpr int kWaysToStart = 5;
+
 std::string whyNotPlainFile(const std::string& path) {
   struct stat info {};
   if (::stat(path.c_str(), &info) != 0) {
@@ -210,7 +212,14 @@ bool MovieInput::seekByte(std::int64_t position) {
   return sought(av_seek_frame(context_->format.get(), -1, position, AVSEEK_FLAG_BYTE));
 }
 
-bool MovieInput::toStart(int way, std::int64_t firstTicks) {
+bool MovieInput::toStart(std::int64_t firstTicks, const std::function<bool()>& arrived) {
+  for (int way = 0; way < kWaysToStart; ++way) {
+    if (goToStart(way, firstTicks) && arrived()) return true;
+  }
+  return false;
+}
+
+bool MovieInput::goToStart(int way, std::int64_t firstTicks) {
   AVFormatContext* format = context_->format.get();
   allow(kReadLimit);
   switch (way) {

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -93,10 +94,9 @@ class MovieInput {
   /// be decoded, though no key picture comes out.
   bool hidesKey() const { return hidesKey_; }
 
-  /// Goes to the start of the file. No single way works for all containers: the caller tries
-  /// 0, 1... up to `kWaysToStart` - 1 until the first picture comes.
-  static constexpr int kWaysToStart = 5;
-  bool toStart(int way, std::int64_t firstTicks);
+  /// Goes to the start of the file. No single way works for all containers, so they are tried one
+  /// after another until `arrived` finds there what it needs. False when none leads there.
+  bool toStart(std::int64_t firstTicks, const std::function<bool()>& arrived);
 
   /// Makes the running call and all later ones fail soon. From any thread.
   void cancel() { cancelled_ = true; }
@@ -108,6 +108,7 @@ class MovieInput {
   static int interrupted(void* self);
   void allow(std::chrono::seconds limit);
   std::string openFormat();
+  bool goToStart(int way, std::int64_t firstTicks);
   bool reopen();
   bool sought(int result);
 

@@ -41,11 +41,12 @@ PacketTail findTail(MovieInput& input, std::int64_t firstTicks) {
       if (const PacketTail tail = readTail(input); tail.any) return tail;
     }
   }
-  for (int way = 0; way < MovieInput::kWaysToStart; ++way) {
-    if (!input.toStart(way, firstTicks)) continue;
-    if (const PacketTail tail = readTail(input); tail.any) return tail;
-  }
-  return {};
+  PacketTail tail;
+  input.toStart(firstTicks, [&] {
+    tail = readTail(input);
+    return tail.any;
+  });
+  return tail;
 }
 
 }  // namespace velra

@@ -104,20 +104,21 @@ void PictureReader::forget() {
 }
 
 bool PictureReader::rewind() {
-  for (int way = 0; way < MovieInput::kWaysToStart; ++way) {
-    current_.reset();
-    ++starts_;
-    if (!input_->toStart(way, firstTicks_ == kNoTime ? 0 : firstTicks_)) continue;
-    decoder_->flush();
-    AvFrame frame = decoder_->next(*input_);
-    if (!frame || frame->pkt_size != firstBytes_) continue;
-    if (ticksOf(*frame, *input_) != firstTicks_) continue;
-    clock_.restart(0, firstStamp_);
-    take(*frame);
-    current_ = std::make_unique<Current>(Current{std::move(frame), 0});
-    return true;
-  }
-  return false;
+  current_.reset();
+  return input_->toStart(firstTicks_ == kNoTime ? 0 : firstTicks_,
+                         [this] { return decodesFirst(); });
+}
+
+bool PictureReader::decodesFirst() {
+  ++starts_;
+  decoder_->flush();
+  AvFrame frame = decoder_->next(*input_);
+  if (!frame || frame->pkt_size != firstBytes_) return false;
+  if (ticksOf(*frame, *input_) != firstTicks_) return false;
+  clock_.restart(0, firstStamp_);
+  take(*frame);
+  current_ = std::make_unique<Current>(Current{std::move(frame), 0});
+  return true;
 }
 
 // Pictures before the first whole one lean on others that were not decoded.

@@ -78,6 +78,7 @@ class PictureReader {
   struct Current;
 
   bool takeFirst();
+  bool decodesFirst();
   double stampOf(const AVFrame& frame) const;
   bool hasOwnStamp(const AVFrame& frame) const;
   double take(const AVFrame& frame);

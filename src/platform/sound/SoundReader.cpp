@@ -107,7 +107,11 @@ bool SoundReader::takeFirst(double seconds) {
 
 bool SoundReader::startBehind(double seconds) {
   const double ticks = (seconds + origin_) / av_q2d(input_->stream()->time_base);
-  if (!input_->seek(static_cast<std::int64_t>(ticks))) return false;
+  return input_->seek(static_cast<std::int64_t>(ticks)) && decodesFirst();
+}
+
+// After a seek: the block that comes first.
+bool SoundReader::decodesFirst() {
   decoder_->flush();
   converter_->resampler.reset();
   converter_->block = decoder_->next(*input_);
@@ -115,14 +119,7 @@ bool SoundReader::startBehind(double seconds) {
 }
 
 bool SoundReader::rewind() {
-  for (int way = 0; way < MovieInput::kWaysToStart; ++way) {
-    if (!input_->toStart(way, firstTicks_)) continue;
-    decoder_->flush();
-    converter_->resampler.reset();
-    converter_->block = decoder_->next(*input_);
-    if (converter_->block) return true;
-  }
-  return false;
+  return input_->toStart(firstTicks_, [this] { return decodesFirst(); });
 }
 
 double SoundReader::timeOfBlock() const {

@@ -45,6 +45,7 @@ class SoundReader {
   bool takeFirst(double seconds);
   bool startBehind(double seconds);
   bool rewind();
+  bool decodesFirst();
   double timeOfBlock() const;
   void place(std::vector<std::int16_t>& samples);
   std::int64_t distance(double seconds) const;
