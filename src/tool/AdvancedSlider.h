@@ -36,6 +36,7 @@ class AdvancedSlider {
   struct Slider {
     static constexpr std::int32_t kMin = 0;
     static constexpr std::int32_t kMax = 5000;
+    static constexpr double kThumbMargin = 200;  // its centre keeps this far from both ends
     double left = 0;
     double width = 0;
     std::int32_t value = 0;

@@ -10,13 +10,6 @@
 
 namespace velra {
 
-namespace {
-
-// The thumb's centre stays this far inside the slider at both ends.
-constexpr double kThumbMargin = 200;
-
-}  // namespace
-
 void AdvancedSlider::repaint() const {
   if (events.Repaint) events.Repaint();
 }
@@ -27,8 +20,8 @@ double AdvancedSlider::share(double seconds) const {
 }
 
 double AdvancedSlider::x(double seconds) const {
-  const std::int16_t left = toInt16(Slider1_.left + kThumbMargin);
-  const std::int16_t width = toInt16(Slider1_.width - 2 * kThumbMargin);
+  const std::int16_t left = toInt16(Slider1_.left + Slider::kThumbMargin);
+  const std::int16_t width = toInt16(Slider1_.width - 2 * Slider::kThumbMargin);
   return left + share(seconds) * width;
 }
 
@@ -36,8 +29,8 @@ void AdvancedSlider::place(std::size_t index) {
   const Range& range = *colRanges_.Item(index);
   Mark& mark = marks_[index - 1];
   mark.left = x(range.dBegin);
-  mark.width =
-      (range.dend - range.dBegin) / (dMax_ - dMin_) * toInt16(Slider1_.width - 2 * kThumbMargin);
+  mark.width = (range.dend - range.dBegin) / (dMax_ - dMin_) *
+               toInt16(Slider1_.width - 2 * Slider::kThumbMargin);
 }
 
 std::int16_t AdvancedSlider::Count() const {

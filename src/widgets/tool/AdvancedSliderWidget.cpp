@@ -17,7 +17,6 @@ namespace {
 
 constexpr int kBlinkInterval = 500;
 constexpr int kSliderHeight = 24;  // pixels
-constexpr double kThumbMarginTwips = 200;
 constexpr double kRulesWidthTwips = 33000;
 constexpr double kNarrowTwips = 60;  // a mark too narrow to hit answers this far on both sides
 constexpr int kAnnounceInterval = 400;
@@ -127,7 +126,7 @@ QStyleOptionSlider AdvancedSliderWidget::sliderOption() const {
   option.maximum = AdvancedSlider::Slider::kMax;
   option.sliderPosition = option.sliderValue = advsld_.slider().value;
   // The thumb's centre runs between the points where the marks of both ends stand.
-  const int inset = pixelsFromTwips(kThumbMarginTwips) - thumbLength() / 2;
+  const int inset = pixelsFromTwips(AdvancedSlider::Slider::kThumbMargin) - thumbLength() / 2;
   option.rect = sliderRect().adjusted(inset, 0, -inset, 0);
   return option;
 }
@@ -145,7 +144,7 @@ void AdvancedSliderWidget::fitRules() {
 }
 
 std::int32_t AdvancedSliderWidget::valueAt(int x) const {
-  const double margin = kThumbMarginTwips / kTwipsPerPixel;
+  const double margin = AdvancedSlider::Slider::kThumbMargin / kTwipsPerPixel;
   return qRound((x - margin) / (width() - 2 * margin) * AdvancedSlider::Slider::kMax);
 }
 
