@@ -12,7 +12,7 @@
 #include "tool/Player.h"
 #include "tool/RangeDialog.h"
 #include "tool/SegmentChain.h"
-#include "tool/SegmentTests.h"
+#include "tool/SegmentSpans.h"
 #include "tool/ToolFace.h"
 
 namespace velra {

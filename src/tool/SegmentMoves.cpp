@@ -10,7 +10,7 @@
 #include "tool/Framelist.h"
 #include "tool/Player.h"
 #include "tool/SegmentChain.h"
-#include "tool/SegmentTests.h"
+#include "tool/SegmentSpans.h"
 #include "tool/ToolFace.h"
 
 namespace velra {

@@ -9,7 +9,7 @@
 #include "platform/UserInterface.h"
 #include "tool/AdvancedSlider.h"
 #include "tool/Framelist.h"
-#include "tool/SegmentTests.h"
+#include "tool/SegmentSpans.h"
 
 namespace velra {
 

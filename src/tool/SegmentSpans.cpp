@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tool/SegmentTests.h"
+#include "tool/SegmentSpans.h"
 
 #include <algorithm>
 

@@ -5,6 +5,9 @@
 
 namespace velra {
 
+/// The span of a segment; kNoObject when it has none.
+std::shared_ptr<Chunk> spanOf(const Expression& segment);
+
 /// Whether times may become bounds of a new segment. All take seconds and look at every child; one
 /// without a span raises kNoObject.
 
@@ -17,8 +20,5 @@ bool bIntervalHoldsNoSegment(const ExpressionList& children, double from, double
 
 /// False when one of the times lies strictly inside a child.
 bool bBoundsAreFree(const ExpressionList& children, double from, double to);
-
-/// The span of a segment; kNoObject when it has none.
-std::shared_ptr<Chunk> spanOf(const Expression& segment);
 
 }  // namespace velra

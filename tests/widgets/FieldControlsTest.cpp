@@ -14,7 +14,7 @@
 #include "vocabulary/NaroThematicKeywords.h"
 #include "widgets/AccessibilityWalk.h"
 #include "widgets/FormWindowTest.h"
-#include "widgets/forms/XmlText.h"
+#include "widgets/forms/StorableText.h"
 
 namespace velra {
 namespace {
@@ -101,9 +101,9 @@ TEST_F(FieldControlsTest, UntouchedTextsStayByteForByte) {
 }
 
 TEST_F(FieldControlsTest, CharactersThatNoFileCanHoldStayOut) {
-  EXPECT_EQ(xmlText(QString::fromUtf16(u"a\u0001\tb\n\uFFFE\U0001F3A5")),
+  EXPECT_EQ(storableText(QString::fromUtf16(u"a\u0001\tb\n\uFFFE\U0001F3A5")),
             QString::fromUtf16(u"a\tb\n\U0001F3A5"));
-  EXPECT_EQ(xmlText(QString(QChar(0xD83C)) + u'x' + QChar(0xDFA5)), QStringLiteral("x"));
+  EXPECT_EQ(storableText(QString(QChar(0xD83C)) + u'x' + QChar(0xDFA5)), QStringLiteral("x"));
   object_->add(tyType::String, "T", "");
   object_->add(tyType::SetOfStrings, "S", StringList{""});
   open();

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/RunTimeError.h"
+#include "platform/xml/XmlCharacter.h"
 #include "platform/xml/XmlLibrary.h"
 
 namespace velra::xml {
@@ -22,12 +23,6 @@ std::optional<CodePoint> firstCodePoint(std::string_view text) {
   const int value = xmlGetUTF8Char(reinterpret_cast<const xmlChar*>(text.data()), &length);
   if (value < 0) return std::nullopt;
   return CodePoint{static_cast<std::size_t>(length), static_cast<std::uint32_t>(value)};
-}
-
-bool isXmlCharacter(std::uint32_t value) {
-  if (value < 0x20) return value == 0x9 || value == 0xA || value == 0xD;
-  return value <= 0xD7FF || (value >= 0xE000 && value <= 0xFFFD) ||
-         (value >= 0x10000 && value <= 0x10FFFF);
 }
 
 std::string characterName(std::uint32_t value, const char* format) {

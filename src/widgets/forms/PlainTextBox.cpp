@@ -4,7 +4,7 @@
 #include <QMimeData>
 #include <QTextDocument>
 
-#include "widgets/forms/XmlText.h"
+#include "widgets/forms/StorableText.h"
 
 namespace velra {
 
@@ -24,11 +24,11 @@ QString PlainTextBox::enteredText() const {
   QString text = document()->toRawText();
   text.replace(QChar::ParagraphSeparator, u'\n');
   text.replace(QChar::LineSeparator, u'\n');
-  return xmlText(text);
+  return storableText(text);
 }
 
 void PlainTextBox::insertFromMimeData(const QMimeData* source) {
-  insertPlainText(xmlText(source->text()));
+  insertPlainText(storableText(source->text()));
 }
 
 }  // namespace velra

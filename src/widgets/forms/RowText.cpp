@@ -3,12 +3,12 @@
 
 #include <QFocusEvent>
 
-#include "widgets/forms/XmlText.h"
+#include "widgets/forms/StorableText.h"
 
 namespace velra {
 
 RowText::RowText(QWidget* parent) : QLineEdit(parent) {
-  setValidator(new XmlTextValidator(this));
+  setValidator(new StorableTextValidator(this));
 }
 
 void RowText::focusInEvent(QFocusEvent* event) {

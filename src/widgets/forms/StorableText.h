@@ -8,10 +8,10 @@ namespace velra {
 
 /// The text without the characters that no XML file can hold: control characters but for tab and
 /// line ends, halves of a pair, and two that are no characters.
-QString xmlText(const QString& text);
+QString storableText(const QString& text);
 
 /// Keeps such characters out of a line edit, typed or pasted.
-class XmlTextValidator : public QValidator {
+class StorableTextValidator : public QValidator {
  public:
   using QValidator::QValidator;
   State validate(QString& input, int& position) const override;
