@@ -6,7 +6,7 @@
 
 namespace velra {
 
-/// The numbers that rules and traps name.
+/// The numbers by which failures are told apart where they are caught, and shown.
 enum ErrorNumber : int {
   kInvalidArgument = 5,
   kOverflow = 6,
@@ -25,8 +25,8 @@ enum ErrorNumber : int {
   kInvalidPicture = 481,
 };
 
-/// A failure that no rule expects. It is caught in one place at the top of the program, and where a
-/// rule names a trap; everywhere else it passes through.
+/// A failure that its callers do not foresee. It is caught in one place at the top of the program,
+/// and where a command can go on without what failed; everywhere else it passes through.
 class RunTimeError : public std::runtime_error {
  public:
   RunTimeError(int number, const std::string& description);

@@ -5,7 +5,7 @@
 
 namespace velra {
 
-/// The sound expression of a Version: the rules of all expressions and nothing besides.
+/// The sound expression of a Version: what all expressions do and nothing besides.
 class Audio : public ExpressionBase {
  public:
   explicit Audio(ApplicationModule& app);

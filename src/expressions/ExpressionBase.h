@@ -11,7 +11,7 @@
 
 namespace velra {
 
-/// The rules that Video, Audio and Transcript share. What is a class's own are the small virtual
+/// What Video, Audio and Transcript share. What is a class's own are the small virtual
 /// steps and the names of its fields.
 class ExpressionBase : public ObjectBase, public Expression {
  public:

@@ -84,8 +84,8 @@ void ExpressionBase::linkIntoChain(ExpressionBase& segment, double dStart, doubl
 
 namespace {
 
-// The rule of the walk over siblings: the nearest counts, but one at distance 0 leaves the place
-// open to any later candidate.
+// Of the siblings in a walk the nearest counts, but one at distance 0 leaves the place open to any
+// later candidate.
 class Nearest {
  public:
   void consider(const ExpressionRef& sibling, double distance) {

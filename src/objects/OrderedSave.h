@@ -7,10 +7,10 @@ class ApplicationModule;
 class DescribedObject;
 class ObjectRegistry;
 
-/// Saves every changed object but the document after those that it waits for. The rule walks all
-/// objects from the last to the first, again and again, and saves what need not wait; this does so
-/// in one go, in the same order and with the same numbers on the status line. False when an object
-/// could not be saved, or when objects wait for one another in a ring.
+/// Saves every changed object but the document after those that it waits for. The order
+/// and the numbers on the status line are those of a walk over all objects from the last to the
+/// first, again and again, that saves what need not wait; this does so in one go. False when an
+/// object could not be saved, or when objects wait for one another in a ring.
 bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
                             const DescribedObject& document);
 

@@ -7,8 +7,8 @@
 
 namespace velra {
 
-/// What the rules know of a class by name: its fields and how it refers to others. Fields of exact
-/// name and relation fields, whose names are lower-cased, are told apart in the comments.
+/// What the program knows of a class by name: its fields and how it refers to others. Fields of
+/// exact name and relation fields, whose names are lower-cased, are told apart in the comments.
 struct ClassRules {
   std::string className;
   std::string identityField;    // exact

@@ -11,8 +11,8 @@ namespace velra {
 class ObjectRegistry;
 
 /// Finds the lowest free number for a new file of a class. A number is taken when an object of the
-/// registry has the path as its identifier or a file of the path exists. The rule counts from 1
-/// each time; what is kept here only saves asking again what is known to be taken by an object.
+/// registry has the path as its identifier or a file of the path exists. Each call
+/// counts from 1; what is kept here only saves asking again what is known to be taken by an object.
 class NumberSource {
  public:
   explicit NumberSource(ObjectRegistry& objects) : objects_(objects) {}

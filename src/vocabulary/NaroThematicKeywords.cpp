@@ -10,7 +10,7 @@ namespace velra {
 namespace {
 
 /// Reads the children of an entry into a list, stopping at the first error text. Every child must
-/// be an element: a comment or a text among them is a fault that no rule foresees.
+/// be an element: a comment or a text among them raises a run-time error.
 template <class Entry>
 std::string readChildren(const ApplicationModule& app, const XmlNode& element, Message emptyEnglish,
                          std::vector<std::shared_ptr<Entry>>& entries) {

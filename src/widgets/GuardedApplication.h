@@ -9,7 +9,7 @@
 
 namespace velra {
 
-/// The one place where failures that no rule expects end up: each event and the start run under its
+/// The one place where failures that nobody foresaw end up: each event and the start run under its
 /// guard. Such a failure is printed on standard error, shown in a critical box, and ends the
 /// program with status 1 at that point. No step of the shutdown runs, since the document may be in
 /// any state: nothing of it is deleted or written.

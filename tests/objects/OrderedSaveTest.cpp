@@ -16,7 +16,7 @@ using test::StubObject;
 using test::upTo;
 using Texts = std::vector<std::string>;
 
-/// The plain rule: walks from the last to the first, until one finds nothing changed.
+/// The plain way: walks from the last to the first, until one finds nothing changed.
 bool plainSave(DocumentSession& session, const ObjectRegistry& objects,
                const DescribedObject& document) {
   for (bool again = true; again;) {

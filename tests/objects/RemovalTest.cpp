@@ -28,7 +28,7 @@ void removeByIndex(AVDocument& document, const ObjectRef& object) {
   document.RemoveObject(removed);
 }
 
-/// The plain rule asks every object about each removed one: those that the index leaves out must
+/// The plain way asks every object about each removed one: those that the index leaves out must
 /// have nothing to forget.
 void askAllOthers(AVDocument& document, DescribedObject& removed) {
   const ObjectList holders = document.collObjects().references().holdersOf(removed);
@@ -47,7 +47,7 @@ void removePlainly(AVDocument& document, const ObjectRef& object) {
   }
 }
 
-/// The plain rule for what a save has to write: all objects are asked.
+/// The plain way to tell what a save has to write: all objects are asked.
 ObjectList plainChanged(const ObjectRegistry& objects) {
   ObjectList changed = objects.all();
   std::erase_if(changed, [](const ObjectRef& object) { return !object->bChanged(); });

@@ -39,7 +39,7 @@ using test::DocumentSession;
 using test::stateOf;
 using Texts = std::vector<std::string>;
 
-/// The plain rule up to the saving: each name is counted from 1 and every object is asked for each
+/// The plain way up to the saving: each name is counted from 1 and every object is asked for each
 /// rename.
 void renamePlainly(AVDocument& document, const std::string& path) {
   ObjectRegistry& objects = document.collObjects();

@@ -15,7 +15,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// The plain rule for the head of a chain: every member is asked about each.
+/// The plain way to the head of a chain: every member is asked about each.
 ExpressionRef plainHead(const ExpressionList& members) {
   for (const ExpressionRef& member : members) {
     const bool followed = std::any_of(members.begin(), members.end(), [&](const auto& other) {

@@ -5,8 +5,8 @@
 
 namespace velra::test {
 
-/// A schema of all seven classes with the fields that rules name, and with every value type on the
-/// document.
+/// A schema of all seven classes with the fields that they look for by name, and with every value
+/// type on the document.
 extern const std::string kSmallSchema;
 
 }  // namespace velra::test

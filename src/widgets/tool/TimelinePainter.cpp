@@ -54,7 +54,7 @@ void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
     QColor inside = colour;
     inside.setAlpha(mark.borderWidth == AdvancedSlider::kSelectedBorder ? 70 : 25);
     painter_.fillRect(body, inside);
-    // The line of the span, as thick as the rules say, and an end at each side of it.
+    // The line of the span, as thick as its border, and an end at each side of it.
     painter_.fillRect(body.left(), body.center().y() - mark.borderWidth / 2, body.width(),
                       mark.borderWidth, colour);
     painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
