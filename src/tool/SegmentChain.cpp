@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool/SegmentChain.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "base/Arithmetic.h"
@@ -23,23 +24,20 @@ ExpressionList walk(const ExpressionRef& start, const Step& step) {
 
 SegmentChain::SegmentChain(const ExpressionList& children) {
   for (const ExpressionRef& child : children) {
-    entries_.try_emplace(child.get(), Entry{entries_.size() + 1, nullptr});
-  }
-  linkPredecessors(children);
-}
-
-void SegmentChain::linkPredecessors(const ExpressionList& children) {
-  for (const ExpressionRef& child : children) {
     const ExpressionRef follower = child->objFollowedBy();
     if (!follower && !tail_) tail_ = child;
-    const auto entry = entries_.find(follower.get());
-    if (entry != entries_.end() && !entry->second.predecessor) entry->second.predecessor = child;
+    if (follower) predecessors_.try_emplace(follower.get(), child);
   }
-  for (const ExpressionRef& child : children) {
-    if (entries_.at(child.get()).predecessor) continue;
-    head_ = child;
-    return;
-  }
+  const auto isHead = [&](const ExpressionRef& child) {
+    return !predecessors_.contains(child.get());
+  };
+  const auto head = std::find_if(children.begin(), children.end(), isHead);
+  if (head != children.end()) head_ = *head;
+}
+
+ExpressionRef SegmentChain::predecessorOf(const ExpressionRef& child) const {
+  const auto entry = predecessors_.find(child.get());
+  return entry == predecessors_.end() ? nullptr : entry->second;
 }
 
 ExpressionList SegmentChain::forward() const {
@@ -47,13 +45,7 @@ ExpressionList SegmentChain::forward() const {
 }
 
 ExpressionList SegmentChain::backward() const {
-  return walk(tail_, [&](const ExpressionRef& at) { return entries_.at(at.get()).predecessor; });
-}
-
-std::int16_t SegmentChain::listPosition(const ExpressionRef& child) const {
-  const auto entry = entries_.find(child.get());
-  const std::size_t position = entry == entries_.end() ? 0 : entry->second.position;
-  return toInt16(static_cast<double>(position));
+  return walk(tail_, [&](const ExpressionRef& at) { return predecessorOf(at); });
 }
 
 ChainPositions::ChainPositions(const ExpressionList& children) {

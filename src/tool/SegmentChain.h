@@ -21,18 +21,10 @@ class SegmentChain {
   /// the same follower the first is its predecessor. Empty without a tail.
   ExpressionList backward() const;
 
-  /// The child's place from 1 in the list; 0 when it is none of the children.
-  std::int16_t listPosition(const ExpressionRef& child) const;
-
  private:
-  struct Entry {
-    std::size_t position = 0;
-    ExpressionRef predecessor;
-  };
+  ExpressionRef predecessorOf(const ExpressionRef& child) const;
 
-  void linkPredecessors(const ExpressionList& children);
-
-  std::unordered_map<const Expression*, Entry> entries_;
+  std::unordered_map<const Expression*, ExpressionRef> predecessors_;
   ExpressionRef head_;
   ExpressionRef tail_;
 };

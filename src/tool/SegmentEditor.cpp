@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool/SegmentEditor.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "app/ApplicationModule.h"
-#include "base/RunTimeError.h"
 #include "platform/UserInterface.h"
 #include "protocol/MainWindow.h"
 #include "tool/AdvancedSlider.h"
 #include "tool/Framelist.h"
 #include "tool/Player.h"
 #include "tool/RangeDialog.h"
-#include "tool/SegmentChain.h"
 #include "tool/SegmentSpans.h"
 #include "tool/ToolFace.h"
 
@@ -23,32 +21,14 @@ constexpr double kPagesOfTheTimeline = 100;
 
 }  // namespace
 
-SegmentEditor::SegmentEditor(ExpressionRef obj, Parts parts)
-    : obj_(std::move(obj)), parts_(parts) {}
-
-bool SegmentEditor::isVideo() const {
-  return obj_->className() == "Video";
-}
+SegmentEditor::SegmentEditor(const ExpressionRef& obj, Parts parts)
+    : obj_(obj),
+      parts_(parts),
+      lists_(obj, {parts.app, parts.player, parts.advsld, parts.Framelist1}),
+      selection_(parts.advsld, parts.face) {}
 
 void SegmentEditor::tell(Message message) {
   parts_.app.ui.messageBox(parts_.app.LoadResString(message));
-}
-
-bool SegmentEditor::hasSelection() const {
-  return parts_.advsld.iRangeSelectedStart() != -1;
-}
-
-ExpressionRef SegmentEditor::child(std::int16_t position) const {
-  const ExpressionList& children = obj_->colSubExpressions();
-  if (position < 1 || static_cast<std::size_t>(position) > children.size()) {
-    raise(kSubscriptOutOfRange);
-  }
-  return children[static_cast<std::size_t>(position) - 1];
-}
-
-std::string SegmentEditor::caption(const std::string& title, double start, double end) const {
-  return "'" + title + "': From " + parts_.player.TimeToText(start) + " To " +
-         parts_.player.TimeToText(end);
 }
 
 void SegmentEditor::resetTree() {
@@ -74,16 +54,32 @@ void SegmentEditor::LoadSegments() {
   if (!parts_.player.hasMovie()) return advsld.setEnabled(false);
   setTimelineSpan();
   advsld.setDLargeChange((advsld.dMax() - advsld.dMin()) / kPagesOfTheTimeline);
-  const ExpressionList& children = obj_->colSubExpressions();
-  const ChainPositions places(children);
-  for (const ExpressionRef& segment : children) {
-    const auto times = spanOf(*segment);
-    const std::string text = caption(segment->strTitle(), times->dStart, times->dend);
-    advsld.iAddRange(times->dStart, times->dend, text);
-    if (segment->className() == "Video") {
-      parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment), text);
-    }
+  lists_.fill();
+}
+
+void SegmentEditor::SelectSegmentPoint() {
+  if (!parts_.player.hasMovie()) return;
+  if (selection_.waits()) {
+    endSelection(parts_.player.CurrentPosition());
+  } else {
+    beginSelection(parts_.player.CurrentPosition());
   }
+}
+
+void SegmentEditor::beginSelection(double position) {
+  if (!bPointIsFree(lists_.children(), position)) return tell(Message::StartInsideSegment);
+  selection_.begin(position);
+}
+
+void SegmentEditor::endSelection(double position) {
+  selection_.end();
+  const double start = selection_.start();
+  if (!bPointIsFree(lists_.children(), position)) return tell(Message::EndInsideSegment);
+  // Tested in the order of the presses: backward, nothing can lie between the points.
+  if (!bIntervalHoldsNoSegment(lists_.children(), start, position)) {
+    return tell(Message::IntervalHoldsSegments);
+  }
+  CreateSegment(std::min(start, position), std::max(start, position));
 }
 
 void SegmentEditor::CreateSegment(double start, double end) {
@@ -94,67 +90,115 @@ void SegmentEditor::CreateSegment(double start, double end) {
 }
 
 void SegmentEditor::addSegment(const std::string& title, double start, double end) {
-  const std::string text = caption(title, start, end);
-  const std::int16_t position = parts_.advsld.iAddRange(start, end, text);
-  const std::size_t before = obj_->colSubExpressions().size();
-  obj_->AddSubExpression(title, start, end);
-  const bool made = obj_->colSubExpressions().size() > before;
-  if (!made && position > 0) {
-    // Its message has been shown; a range without a segment would put the lists out of step.
-    parts_.advsld.takeBackLastRange();
-  } else if (made && isVideo()) {
-    addPicture(position, text);
-  }
-  showSelection();
+  lists_.add(title, start, end);
+  lists_.showSelection();
   resetTree();
 }
 
-void SegmentEditor::addPicture(std::int16_t position, const std::string& segmentCaption) {
-  const ExpressionRef segment = child(position);
-  const ChainPositions places(obj_->colSubExpressions());
-  parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment),
-                              segmentCaption);
-  if (parts_.app.gMainForm) parts_.app.gMainForm->AddSmallKeyFrame(*segment);
-}
-
-bool SegmentEditor::askBounds(double start, double end) {
+// Gives the bounds that were typed; false when the person cancels, or has been told why not.
+bool SegmentEditor::askBounds(double& start, double& end) {
   parts_.dialog.SetTime(start, end, parts_.player.dFrameRate());
   parts_.face.showRangeDialog(parts_.dialog);
-  return !parts_.dialog.bCancel();
+  if (parts_.dialog.bCancel()) return false;
+  start = parts_.dialog.dGetStartTime();
+  end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
+  if (end < start) tell(Message::NotValidInterval);
+  return end >= start;
 }
 
 void SegmentEditor::NewSegmentByDialog() {
   if (!parts_.player.hasMovie()) return;
-  const double position = parts_.player.CurrentPosition();
-  if (!askBounds(position, position)) return;
-  const double start = parts_.dialog.dGetStartTime();
-  const double end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
-  if (end < start) return tell(Message::NotValidInterval);
-  if (!bBoundsAreFree(obj_->colSubExpressions(), start, end))
-    return tell(Message::IntervalOverlaps);
+  double start = parts_.player.CurrentPosition();
+  double end = start;
+  if (!askBounds(start, end)) return;
+  if (!bBoundsAreFree(lists_.children(), start, end)) return tell(Message::IntervalOverlaps);
   CreateSegment(start, end);
 }
 
 void SegmentEditor::ModifySelectedSegment() {
-  if (!parts_.player.hasMovie() || !hasSelection()) return;
-  const std::int16_t position = parts_.advsld.iRangeSelectedStart();
-  const ExpressionRef segment = child(position);
-  const auto span = spanOf(*segment);
-  if (!askBounds(span->dStart, span->dend)) return;
-  const double start = parts_.dialog.dGetStartTime();
-  const double end = parts_.player.withinMovie(parts_.dialog.dGetEndTime());
-  if (end < start) return tell(Message::NotValidInterval);
-  setBounds(segment, position, start, end);
+  if (!parts_.player.hasMovie() || !lists_.hasSelection()) return;
+  const ExpressionRef segment = lists_.clickedSegment();
+  Chunk bounds = *spanOf(*segment);
+  if (askBounds(bounds.dStart, bounds.dend)) {
+    lists_.setBounds(segment, bounds.dStart, bounds.dend);
+  }
 }
 
-void SegmentEditor::setBounds(const ExpressionRef& segment, std::int16_t position, double start,
-                              double end) {
-  segment->SetChunk(start, end);
-  parts_.advsld.UpdateRange(position, start, end);
+void SegmentEditor::ConfirmRemoveSegments() {
+  if (!lists_.hasSelection()) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskRemoveSegments))) return;
+  lists_.removeSelected();
+  lists_.showSelection();
+  resetTree();
+}
+
+void SegmentEditor::MergeSelectedSegments() {
+  if (!lists_.hasSelection()) return;
+  if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskMergeSegments))) return;
+  // Positions in the list decide here, not times, so that the bounds can come out reversed.
+  const double start = spanOf(*lists_.firstSelected())->dStart;
+  const double end = spanOf(*lists_.lastSelected())->dend;
+  if (end < start) return tell(Message::NotValidInterval);
+  const std::string title = lists_.clickedSegment()->strTitle();
+  lists_.removeSelected();
+  addSegment(title, start, end);
+}
+
+void SegmentEditor::ExtendPreviousSegment() {
+  if (!parts_.player.hasMovie()) return;
+  const double position = parts_.player.CurrentPosition();
+  const ExpressionRef segment = segmentEndingBy(lists_.children(), position);
+  if (!segment || spanOf(*segment)->dend == position) return;
+  lists_.setBounds(segment, spanOf(*segment)->dStart, position);
+}
+
+void SegmentEditor::ExtendNextSegment() {
+  if (!parts_.player.hasMovie()) return;
+  const double position = parts_.player.CurrentPosition();
+  const ExpressionRef segment = segmentStartingFrom(lists_.children(), position);
+  if (!segment || spanOf(*segment)->dStart == position) return;
+  lists_.setBounds(segment, position, spanOf(*segment)->dend);
+}
+
+void SegmentEditor::MoveToNextBound() {
+  if (!parts_.player.hasMovie()) return;
+  const auto bound = boundAfter(lists_.children(), parts_.player.CurrentPosition());
+  if (bound) seekTo(*bound);
+}
+
+void SegmentEditor::MoveToPreviousBound() {
+  if (!parts_.player.hasMovie()) return;
+  const auto bound = boundBefore(lists_.children(), parts_.player.CurrentPosition());
+  if (bound) seekTo(*bound);
+}
+
+// A span may reach further than its movie.
+void SegmentEditor::seekTo(double seconds) {
+  parts_.player.SeekTo(parts_.player.withinMovie(seconds));
+}
+
+void SegmentEditor::seekToChild(std::int16_t position) {
+  if (!parts_.player.hasMovie()) return;
+  parts_.advsld.setDPosition(spanOf(*child(position))->dStart);
+  timelineScrolled();
+}
+
+void SegmentEditor::timelineClicked(std::int16_t index) {
+  seekToChild(index);
+  lists_.selectAsTimeline();
+}
+
+void SegmentEditor::stripClicked(std::int16_t position) {
+  seekToChild(position);
+  lists_.selectAsStrip();
+}
+
+void SegmentEditor::timelineScrolled() {
+  if (parts_.player.hasMovie()) seekTo(parts_.advsld.dPosition());
 }
 
 void SegmentEditor::ChangeKeyFrame() {
-  if (!isVideo()) return;
+  if (!lists_.isVideo()) return;
   if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskUpdateKeyFrame))) return;
   obj_->SetKeyFrameTime(parts_.player.CurrentPosition());
   if (parts_.app.gMainForm) parts_.app.gMainForm->UpdateSmallKeyFrames();

@@ -3,10 +3,11 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "app/Message.h"
 #include "protocol/Expression.h"
+#include "tool/SegmentLists.h"
+#include "tool/TimeSelection.h"
 
 namespace velra {
 
@@ -17,9 +18,8 @@ class Player;
 class RangeDialog;
 class ToolFace;
 
-/// Cuts the timeline of an expression into segments, its children. Three lists run side by side:
-/// the children, the ranges of the timeline and, for a Video, the pictures of the strip; position k
-/// means the same segment in all. All work goes into objects in memory. Times are seconds.
+/// Cuts the timeline of an expression into segments, its children: decides what a button or a click
+/// does, and asks. All work goes into objects in memory. Times are seconds.
 class SegmentEditor {
  public:
   struct Parts {
@@ -31,7 +31,7 @@ class SegmentEditor {
     ToolFace& face;
   };
 
-  SegmentEditor(ExpressionRef obj, Parts parts);
+  SegmentEditor(const ExpressionRef& obj, Parts parts);
 
   /// Fills timeline and strip; without a movie the timeline is disabled and stays empty.
   void LoadSegments();
@@ -51,9 +51,9 @@ class SegmentEditor {
   void ChangeKeyFrame();
 
   /// Ends a half-made selection, as Esc does.
-  void CancelSelection();
-  void BlinkerTimer();
-  bool bSelecting() const { return bSelecting_; }
+  void CancelSelection() { selection_.end(); }
+  void BlinkerTimer() { selection_.tick(); }
+  bool bSelecting() const { return selection_.waits(); }
 
   // Clicks on timeline and strip keep the two in step and jump to the segment.
   void timelineClicked(std::int16_t index);
@@ -61,35 +61,24 @@ class SegmentEditor {
   void timelineScrolled();
 
   /// The child at a list position from 1; kSubscriptOutOfRange for none.
-  ExpressionRef child(std::int16_t position) const;
+  ExpressionRef child(std::int16_t position) const { return lists_.child(position); }
 
  private:
   void setTimelineSpan();
-  bool isVideo() const;
-  std::string caption(const std::string& title, double start, double end) const;
   void tell(Message message);
-  bool hasSelection() const;
-  void beginSelection();
-  void endSelection();
-  void stopBlinking();
+  void beginSelection(double position);
+  void endSelection(double position);
   void CreateSegment(double start, double end);
   void addSegment(const std::string& title, double start, double end);
-  void addPicture(std::int16_t position, const std::string& segmentCaption);
-  void RemoveSelectedSegments();
-  void removePictures(const std::vector<std::int16_t>& indexes);
-  void showSelection();
-  void copySelectionToStrip();
-  bool askBounds(double start, double end);
-  void setBounds(const ExpressionRef& segment, std::int16_t position, double start, double end);
+  bool askBounds(double& start, double& end);
+  void seekTo(double seconds);
   void seekToChild(std::int16_t position);
   void resetTree();
 
   ExpressionRef obj_;
   Parts parts_;
-  bool bSelecting_ = false;
-  bool bBlinkOn_ = false;
-  double dSelStart_ = 0;
-  double dSelEnd_ = 0;
+  SegmentLists lists_;
+  TimeSelection selection_;
 };
 
 }  // namespace velra

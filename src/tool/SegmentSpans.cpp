@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/RunTimeError.h"
+#include "tool/SegmentChain.h"
 
 namespace velra {
 
@@ -29,6 +30,38 @@ bool bIntervalHoldsNoSegment(const ExpressionList& children, double from, double
 
 bool bBoundsAreFree(const ExpressionList& children, double from, double to) {
   return bPointIsFree(children, from) && bPointIsFree(children, to);
+}
+
+std::optional<double> boundAfter(const ExpressionList& children, double time) {
+  for (const ExpressionRef& segment : SegmentChain(children).forward()) {
+    const auto span = spanOf(*segment);
+    if (span->dStart > time) return span->dStart;
+    if (span->dend > time) return span->dend;
+  }
+  return std::nullopt;
+}
+
+ExpressionRef segmentStartingFrom(const ExpressionList& children, double time) {
+  for (const ExpressionRef& segment : SegmentChain(children).forward()) {
+    if (spanOf(*segment)->dStart >= time) return segment;
+  }
+  return nullptr;
+}
+
+std::optional<double> boundBefore(const ExpressionList& children, double time) {
+  for (const ExpressionRef& segment : SegmentChain(children).backward()) {
+    const auto span = spanOf(*segment);
+    if (span->dend < time) return span->dend;
+    if (span->dStart < time) return span->dStart;
+  }
+  return std::nullopt;
+}
+
+ExpressionRef segmentEndingBy(const ExpressionList& children, double time) {
+  for (const ExpressionRef& segment : SegmentChain(children).backward()) {
+    if (spanOf(*segment)->dend <= time) return segment;
+  }
+  return nullptr;
 }
 
 }  // namespace velra

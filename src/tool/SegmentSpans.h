@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
+#include <optional>
+
 #include "protocol/Expression.h"
 
 namespace velra {
@@ -20,5 +23,15 @@ bool bIntervalHoldsNoSegment(const ExpressionList& children, double from, double
 
 /// False when one of the times lies strictly inside a child.
 bool bBoundsAreFree(const ExpressionList& children, double from, double to);
+
+/// Along the chain of the children, from its head: the first bound behind a time, and the first
+/// segment that starts at the time or behind it; nothing when there is none.
+std::optional<double> boundAfter(const ExpressionList& children, double time);
+ExpressionRef segmentStartingFrom(const ExpressionList& children, double time);
+
+/// The same backwards from the chain's tail: the first bound before a time, and the first segment
+/// that ends at the time or before it.
+std::optional<double> boundBefore(const ExpressionList& children, double time);
+ExpressionRef segmentEndingBy(const ExpressionList& children, double time);
 
 }  // namespace velra
