@@ -2,8 +2,10 @@
 #include "objects/OrderedSave.h"
 
 #include <algorithm>
+#include <numeric>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "app/ApplicationModule.h"
@@ -21,27 +23,6 @@ struct Waiting {
   std::vector<std::size_t> waiters;  // who waits for this one, by place
   std::size_t waitsFor = 0;
   int pass = kNever;  // in which walk it is saved; walks count from 1
-};
-
-// Sums over the places from one to the last, under changes of single places.
-class CountFrom {
- public:
-  explicit CountFrom(std::size_t size) : sums_(size + 1, 0) {
-    for (std::size_t place = 0; place < size; ++place) add(place, 1);
-  }
-  void add(std::size_t place, int change) {
-    for (std::size_t i = sums_.size() - 1 - place; i < sums_.size(); i += i & (~i + 1)) {
-      sums_[i] += change;
-    }
-  }
-  int from(std::size_t place) const {
-    int sum = 0;
-    for (std::size_t i = sums_.size() - 1 - place; i > 0; i -= i & (~i + 1)) sum += sums_[i];
-    return sum;
-  }
-
- private:
-  std::vector<int> sums_;
 };
 
 std::vector<Waiting> changedObjects(ObjectRegistry& objects, const DescribedObject& document) {
@@ -68,7 +49,8 @@ void linkWaiters(std::vector<Waiting>& changed) {
 
 // An object is saved in the same walk as the last one that it waits for if that one stands behind
 // it, since walks go backward; else in the next.
-void findPasses(std::vector<Waiting>& changed) {
+std::vector<Waiting> withPasses(std::vector<Waiting> changed) {
+  linkWaiters(changed);
   std::vector<std::size_t> ready;
   std::vector<int> earliest(changed.size(), 1);
   for (std::size_t i = 0; i < changed.size(); ++i) {
@@ -84,18 +66,7 @@ void findPasses(std::vector<Waiting>& changed) {
       if (--changed[waiter].waitsFor == 0) ready.push_back(waiter);
     }
   }
-}
-
-std::vector<std::size_t> savingOrder(const std::vector<Waiting>& changed) {
-  std::vector<std::size_t> order;
-  for (std::size_t i = 0; i < changed.size(); ++i) {
-    if (changed[i].pass != kNever) order.push_back(i);
-  }
-  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-    if (changed[a].pass != changed[b].pass) return changed[a].pass < changed[b].pass;
-    return a > b;
-  });
-  return order;
+  return changed;
 }
 
 bool saveOne(ApplicationModule& app, DescribedObject& object, int counter) {
@@ -110,21 +81,24 @@ bool saveOne(ApplicationModule& app, DescribedObject& object, int counter) {
 
 bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
                             const DescribedObject& document) {
-  std::vector<Waiting> changed = changedObjects(objects, document);
-  linkWaiters(changed);
-  findPasses(changed);
-  const std::vector<std::size_t> order = savingOrder(changed);
-  CountFrom stillChanged(changed.size());
-  for (std::size_t first = 0; first < order.size();) {
-    const int pass = changed[order[first]].pass;
-    std::size_t last = first;
-    for (; last < order.size() && changed[order[last]].pass == pass; ++last) {
-      const std::size_t place = order[last];
-      if (!saveOne(app, *changed[place].object, 1 + stillChanged.from(place))) return false;
+  const std::vector<Waiting> changed = withPasses(changedObjects(objects, document));
+  std::vector<std::size_t> left(changed.size());  // places, from the last to the first
+  std::iota(left.rbegin(), left.rend(), std::size_t{0});
+  for (int pass = 1; !left.empty(); ++pass) {
+    std::vector<std::size_t> later;
+    int counter = 1;
+    for (const std::size_t place : left) {
+      ++counter;  // also for those that wait on: a walk meets them too
+      if (changed[place].pass != pass) {
+        later.push_back(place);
+      } else if (!saveOne(app, *changed[place].object, counter)) {
+        return false;
+      }
     }
-    for (; first < last; ++first) stillChanged.add(order[first], -1);
+    if (later.size() == left.size()) return false;  // the rest waits in a ring
+    left = std::move(later);
   }
-  return order.size() == changed.size();
+  return true;
 }
 
 }  // namespace velra
