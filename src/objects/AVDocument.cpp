@@ -7,6 +7,7 @@
 #include "base/Arithmetic.h"
 #include "base/RunTimeError.h"
 #include "objects/CrossLanguageDefaults.h"
+#include "objects/DocumentSave.h"
 #include "objects/Media.h"
 #include "objects/Storage.h"
 #include "objects/Version.h"
@@ -69,6 +70,18 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
                         BoxKind::Exclamation);
   }
   return message;
+}
+
+bool AVDocument::bSave() {
+  return DocumentSave(app(), *this).bSave();
+}
+
+bool AVDocument::bSaveAs(const std::string& strAVDocPathName) {
+  return DocumentSave(app(), *this).bSaveAs(strAVDocPathName);
+}
+
+bool AVDocument::bSaveOwnFileAs(const std::string& path) {
+  return secol().bSaveAs(domDoc(), path, *io());
 }
 
 void AVDocument::ShowForm(FormOwner& owner) {

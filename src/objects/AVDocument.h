@@ -14,8 +14,6 @@
 
 namespace velra {
 
-class SavePoint;
-
 /// The open document: the top of the ladder, the registry of every object that was loaded for it,
 /// and what drives opening and saving.
 class AVDocument : public LadderObject, public OpenDocument {
@@ -56,6 +54,13 @@ class AVDocument : public LadderObject, public OpenDocument {
   /// Identifiers of the files of objects that were removed since the document was opened.
   const std::deque<std::string>& colObjRemoved() const { return colObjRemoved_; }
 
+  /// Which folder could not be searched when the document was opened, and why; else "".
+  const std::string& strUnlisted() const { return unlisted_; }
+
+  /// Writes the document's own file alone: if it has changed; in any case under another path.
+  bool bSaveOwnFile() { return LadderObject::bSave(); }
+  bool bSaveOwnFileAs(const std::string& path);
+
  protected:
   OpenDocument& document() const override;
   void registerSelf() override;
@@ -63,20 +68,11 @@ class AVDocument : public LadderObject, public OpenDocument {
   void adopt(DescribedObject& child) override;
 
  private:
-  enum class SaveOutcome { Done, NotWritten, NotSynced };
-
-  bool refused(const std::string& message);
-  void renumber(DescribedObject& object);
-  bool bSaveAllObjects();
-  SaveOutcome saveAsFrom(SavePoint& before, const std::string& strAVDocPathName);
-  bool bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName);
-  bool bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName);
   void noteRemoved(const ObjectRef& removed);
-  void markRemovedFiles();
 
   CloseLists collCloseListTypes_;
   DocumentSchemas schemas_;
-  std::string unlisted_;  // which folder was not searched when it was opened, and why
+  std::string unlisted_;
   // A vector that grows makes the allocator sweep all that a removal has freed so far.
   std::deque<std::string> colObjRemoved_;
   ObjectRegistry collObjects_;  // last: its objects go first

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-// How a document is saved, and what of that is taken back when it fails.
-#include <utility>
+#include "objects/DocumentSave.h"
 
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
@@ -13,7 +11,6 @@
 #include "platform/files/Files.h"
 #include "protocol/Expression.h"
 #include "protocol/MainWindow.h"
-#include "schema/SEColl.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
@@ -38,119 +35,119 @@ void relocateKeyFrame(Expression& video, ObjectRegistry& objects, IOManager& io,
 
 }  // namespace
 
-bool AVDocument::refused(const std::string& message) {
-  if (!message.empty()) app().ui.messageBox(message);
-  app().ui.messageBox(app().LoadResString(Message::ObjectsNotSaved));
+DocumentSave::DocumentSave(ApplicationModule& app, AVDocument& document)
+    : app_(app), document_(document), objects_(document.collObjects()), io_(*document.io()) {}
+
+bool DocumentSave::refused(const std::string& message) {
+  if (!message.empty()) app_.ui.messageBox(message);
+  app_.ui.messageBox(app_.LoadResString(Message::ObjectsNotSaved));
   return false;
 }
 
 // Its file came since the number was given, from another program: the object takes the next one.
-void AVDocument::renumber(DescribedObject& object) {
+void DocumentSave::renumber(DescribedObject& object) {
   const std::string oldGUID = object.strGUID();
-  const ObjectList holders = collObjects_.references().holdersOf(oldGUID);
-  const std::string newGUID = io()->strCreateGUID(collObjects_, object, strGUID());
-  io()->withdraw(oldGUID);
+  const ObjectList holders = objects_.references().holdersOf(oldGUID);
+  const std::string newGUID = io_.strCreateGUID(objects_, object, document_.strGUID());
+  io_.withdraw(oldGUID);
   object.setStrGUID(newGUID);
   for (const ObjectRef& holder : holders) holder->RenameAllRelativesGUID(oldGUID, newGUID);
   if (object.className() != "Video") return;
-  app().gMainForm->RemoveIcon(oldGUID);
-  app().gMainForm->AddSmallKeyFrame(dynamic_cast<const Expression&>(object));
+  app_.gMainForm->RemoveIcon(oldGUID);
+  app_.gMainForm->AddSmallKeyFrame(dynamic_cast<const Expression&>(object));
 }
 
-bool AVDocument::bSaveAllObjects() {
-  if (!io()->bFileSystem()) return false;
+bool DocumentSave::bSaveAllObjects() {
+  if (!io_.bFileSystem()) return false;
   // One without changes has nothing to write, so only the others are asked.
-  for (const ObjectRef& object : collObjects_.changedObjects()) {
-    if (object.get() != this && !object->bSave()) return false;
+  for (const ObjectRef& object : objects_.changedObjects()) {
+    if (object.get() != &document_ && !object->bSave()) return false;
   }
   return true;
 }
 
-bool AVDocument::bSave() {
-  for (const ObjectRef& object : collObjects_.changedObjects()) {
+bool DocumentSave::bSave() {
+  for (const ObjectRef& object : objects_.changedObjects()) {
     const std::string guid = object->strGUID();
-    if (io()->names().isPromised(guid) && bFileExists(guid)) renumber(*object);
+    if (io_.names().isPromised(guid) && bFileExists(guid)) renumber(*object);
   }
-  SavePoint before(collObjects_.changedObjects());
+  SavePoint before(objects_.changedObjects());
   if (!bSaveAllObjects()) return refused({});
-  const bool saved = LadderObject::bSave();
-  const std::string failure = io()->strFlush();
+  const bool saved = document_.bSaveOwnFile();
+  const std::string failure = io_.strFlush();
   if (!failure.empty()) {
     // Nobody knows what reached the disk, so all of it is to be written again.
     before.restoreFlags();
-    return refused(failure + " (" + strGUID() + ")");
+    return refused(failure + " (" + document_.strGUID() + ")");
   }
-  markRemovedFiles();
+  for (const std::string& guid : document_.colObjRemoved()) io_.RemoveGUID(guid);
+  io_.keepFilesOf(objects_);
   return saved;
 }
 
-void AVDocument::markRemovedFiles() {
-  for (const std::string& guid : colObjRemoved_) io()->RemoveGUID(guid);
-  io()->keepFilesOf(collObjects_);
-}
-
-bool AVDocument::bSaveAs(const std::string& strAVDocPathName) {
-  if (!unlisted_.empty()) {
-    app().ui.messageBox(unlisted_ + ": Save As would leave out the expressions in it.");
+bool DocumentSave::bSaveAs(const std::string& strAVDocPathName) {
+  const std::string& unlisted = document_.strUnlisted();
+  if (!unlisted.empty()) {
+    app_.ui.messageBox(unlisted + ": Save As would leave out the expressions in it.");
     return false;
   }
   const bool hadFolder = bFolderExists(dataFolderOf(strAVDocPathName));
-  SavePoint before(collObjects_.all());
-  const SaveOutcome outcome = saveAsFrom(before, strAVDocPathName);
-  if (outcome == SaveOutcome::Done) return true;
-  before.restore(*io(), outcome == SaveOutcome::NotSynced);
+  SavePoint before(objects_.all());
+  const Outcome outcome = saveAsFrom(before, strAVDocPathName);
+  if (outcome == Outcome::Done) return true;
+  before.restore(io_, outcome == Outcome::NotSynced);
   if (!hadFolder) removeFolderIfEmpty(dataFolderOf(strAVDocPathName));
   return false;
 }
 
-AVDocument::SaveOutcome AVDocument::saveAsFrom(SavePoint& before,
+DocumentSave::Outcome DocumentSave::saveAsFrom(SavePoint& before,
                                                const std::string& strAVDocPathName) {
   if (!bRenamedAndSaved(before, strAVDocPathName)) {
     refused({});
-    return SaveOutcome::NotWritten;
+    return Outcome::NotWritten;
   }
-  setStrSchemaPath(app().strXSDPath());
-  setStrGUID(strAVDocPathName);
-  if (!secol().bSaveAs(domDoc(), strAVDocPathName, *io())) return SaveOutcome::NotWritten;
-  if (!io()->strSaveFailure().empty()) {
-    app().ui.messageBox(io()->strSaveFailure());
-    return SaveOutcome::NotWritten;
+  document_.setStrSchemaPath(app_.strXSDPath());
+  document_.setStrGUID(strAVDocPathName);
+  if (!document_.bSaveOwnFileAs(strAVDocPathName)) return Outcome::NotWritten;
+  if (!io_.strSaveFailure().empty()) {
+    app_.ui.messageBox(io_.strSaveFailure());
+    return Outcome::NotWritten;
   }
-  const std::string failure = io()->strFlush();
+  const std::string failure = io_.strFlush();
   if (!failure.empty()) {
     refused(failure + " (" + strAVDocPathName + ")");
-    return SaveOutcome::NotSynced;
+    return Outcome::NotSynced;
   }
-  io()->keepFilesOf(collObjects_);
-  return SaveOutcome::Done;
+  io_.keepFilesOf(objects_);
+  return Outcome::Done;
 }
 
 // A folder that cannot be written or a disk that is full ends the command and not the program.
-bool AVDocument::bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName) {
+bool DocumentSave::bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName) {
   try {
     return bSaveAllObjectsAs(before, strAVDocPathName);
   } catch (const RunTimeError& error) {
-    app().ui.messageBox(error.description());
+    app_.ui.messageBox(error.description());
     return false;
   }
 }
 
-bool AVDocument::bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName) {
+bool DocumentSave::bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName) {
   // The folder comes before the first name: what tells that there is none must not become one.
-  if (collObjects_.Count() > 1) {
-    const std::string message = io()->strMakeDataFolder(strAVDocPathName);
+  if (objects_.Count() > 1) {
+    const std::string message = io_.strMakeDataFolder(strAVDocPathName);
     if (!message.empty()) {
-      app().ui.messageBox(message);
+      app_.ui.messageBox(message);
       return false;
     }
   }
-  const NewFileNames::Listing listing(io()->names(), collObjects_, strAVDocPathName);
-  const std::string schemaPath = app().strXSDPath();
-  ReferenceIndex& references = collObjects_.references();
+  const NewFileNames::Listing listing(io_.names(), objects_, strAVDocPathName);
+  const std::string schemaPath = app_.strXSDPath();
+  ReferenceIndex& references = objects_.references();
   ReferenceIndex::Batch batch(references);
-  for (const ObjectRef& object : collObjects_.all()) {
-    if (object.get() == this || object->className() == "MediaObject") continue;
-    const std::string newGUID = io()->strCreateGUID(collObjects_, *object, strAVDocPathName);
+  for (const ObjectRef& object : objects_.all()) {
+    if (object.get() == &document_ || object->className() == "MediaObject") continue;
+    const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);
     before.named(newGUID);
     const std::string oldGUID = object->strGUID();
     object->setStrGUID(newGUID);
@@ -160,11 +157,11 @@ bool AVDocument::bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDo
     }
     batch.renamed(oldGUID, newGUID);
     auto* video = dynamic_cast<Expression*>(object.get());
-    if (video && io()->bFileSystem()) {
-      relocateKeyFrame(*video, collObjects_, *io(), strAVDocPathName, before);
+    if (video && io_.bFileSystem()) {
+      relocateKeyFrame(*video, objects_, io_, strAVDocPathName, before);
     }
   }
-  return bSaveInDependencyOrder(app(), collObjects_, *this);
+  return bSaveInDependencyOrder(app_, objects_, document_);
 }
 
 }  // namespace velra
