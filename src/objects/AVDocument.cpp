@@ -62,6 +62,7 @@ std::int16_t AVDocument::iAlreadyLoaded(const std::string& guid) {
 
 std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                                 const std::shared_ptr<IOManager>& io) {
+  app().gAVDoc = std::dynamic_pointer_cast<AVDocument>(shared_from_this());
   const FolderScans::Opening opening(io->scans());
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();

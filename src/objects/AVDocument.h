@@ -29,6 +29,8 @@ class AVDocument : public LadderObject, public OpenDocument {
   std::int16_t iAlreadyLoaded(const std::string& guid) override;
   ObjectRef loadedObject(const std::string& guid) override { return collObjects_.find(guid); }
 
+  /// Becomes the open document first, in place of what was: all that is read below it joins the
+  /// registry of that one and is read by its schema. It stays so when the opening fails.
   std::string strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                       const std::shared_ptr<IOManager>& io) override;
 

@@ -28,11 +28,11 @@ void DocumentSession::useSchemaFile(const std::string& path) {
 }
 
 std::string DocumentSession::open(const std::string& path) {
-  app.gAVDoc = std::make_shared<AVDocument>(app);
-  factory.objects.push_back(app.gAVDoc);
+  const auto document = std::make_shared<AVDocument>(app);
+  factory.objects.push_back(document);
   changeCurrentFolder(folderOf(path));
-  return app.gAVDoc->strOpen(path, factory.createForm("AVDocument"),
-                             std::make_shared<IOManager>(app));
+  return document->strOpen(path, factory.createForm("AVDocument"),
+                           std::make_shared<IOManager>(app));
 }
 
 void DocumentSession::create() {
