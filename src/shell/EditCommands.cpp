@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/EditCommands.h"
 
-// The Edit menu of the main window and the Delete key on its trees.
 #include <algorithm>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "base/RunTimeError.h"
-#include "objects/AVDocument.h"
 #include "objects/LadderObject.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "platform/movie/MovieProbe.h"
-#include "protocol/ClassRules.h"
-#include "shell/MainWindowFace.h"
-#include "shell/frmMain.h"
+#include "protocol/OpenDocument.h"
+#include "shell/MainTrees.h"
+#include "shell/TreeClicks.h"
 #include "store/IOManager.h"
+#include "store/ObjectRegistry.h"
 
 namespace velra {
 
@@ -37,28 +36,6 @@ constexpr MainExpressionTexts kMainExpressions[] = {
     {"Audio", Message::MainAudioPrompt, Message::MainAudioName},
     {"Transcript", Message::MainTranscriptPrompt, Message::MainTranscriptName}};
 
-MenuState withAddEntries(MenuState menus, bool addChild, bool addMainExpr) {
-  menus.mnuAddChild = addChild;
-  menus.mnuAddMainExpr = addMainExpr;
-  return menus;
-}
-
-MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fromMainTree) {
-  const std::string& className = object.className();
-  if (className == "AVDocument" || className == "Media") return withAddEntries(menus, true, false);
-  if (className == "Storage" || isExpressionClass(className)) {
-    return withAddEntries(menus, false, false);
-  }
-  const auto* version = dynamic_cast<const Version*>(&object);
-  if (!version) return menus;
-  if (fromMainTree) return withAddEntries(menus, true, false);
-  MenuState open = withAddEntries(menus, false, true);
-  open.mnuAddMainVideo = !version->vdMainVideo();
-  open.mnuAddMainAudio = !version->auMainAudio();
-  open.mnuAddMainTranscript = !version->trMainTranscript();
-  return open;
-}
-
 std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
   for (const auto& [number, object] : objects.sequence()) {
     auto version = std::dynamic_pointer_cast<Version>(object);
@@ -73,29 +50,29 @@ std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const Described
 
 }  // namespace
 
-void frmMain::ContexMenuManager(const DescribedObject& object, bool fromMainTree) {
-  applyMenus(menusOf(menus_, object, fromMainTree));
+EditCommands::EditCommands(ApplicationModule& app, FormOwner& window, MainTrees& trees,
+                           const TreeClicks& clicks)
+    : app_(app),
+      window_(window),
+      trees_(trees),
+      clicks_(clicks),
+      mainTree_(trees.tree(TreeId::tvwMainTree)),
+      exprTree_(trees.tree(TreeId::tvwExpression)) {}
+
+ObjectRef EditCommands::selectedObject() const {
+  const TreeNode* node = clicks_.selectedNode();
+  return mainTree_.root() && node ? node->Tag : nullptr;
 }
 
-TreeNode* frmMain::selectedNode() {
-  return (bFromMainTree_ ? tvwMainTree : tvwExpression).selected();
+void EditCommands::mnuEditMetadata() {
+  if (const ObjectRef object = selectedObject()) object->ShowForm(window_);
 }
 
-void frmMain::mnuEditMetadata() {
-  const TreeNode* node = selectedNode();
-  if (!tvwMainTree.root() || !node) return;
-  const ObjectRef object = node->Tag;
-  object->ShowForm(*this);
+void EditCommands::mnuEditAttributes() {
+  if (const ObjectRef object = selectedObject()) object->EditAttributesForm(window_);
 }
 
-void frmMain::mnuEditAttributes() {
-  const TreeNode* node = selectedNode();
-  if (!tvwMainTree.root() || !node) return;
-  const ObjectRef object = node->Tag;
-  object->EditAttributesForm(*this);
-}
-
-std::string frmMain::askNewChild(const DescribedObject& parent) {
+std::string EditCommands::askNewChild(const DescribedObject& parent) {
   const std::string& className = parent.className();
   if (className == "AVDocument") {
     return app_.ui.inputBox(app_.LoadResString(Message::VersionTitlePrompt),
@@ -110,7 +87,7 @@ std::string frmMain::askNewChild(const DescribedObject& parent) {
   return {};
 }
 
-std::string frmMain::askMovie() {
+std::string EditCommands::askMovie() {
   if (!app_.gAVDoc->io()->bFileSystem()) return {};
   const auto chosen =
       app_.ui.openFileDialog(app_.LoadResString(Message::StorageMoviePrompt), kMovieFilter);
@@ -120,7 +97,7 @@ std::string frmMain::askMovie() {
   return bFileExists(*chosen) ? *chosen : std::string();
 }
 
-bool frmMain::movieFits(const DescribedObject& media, const std::string& movie) {
+bool EditCommands::movieFits(const DescribedObject& media, const std::string& movie) {
   const double duration = dMovieDuration(movie);
   if (duration == 0) {
     app_.ui.messageBox(app_.LoadResString(Message::FormatNotValid));
@@ -137,9 +114,9 @@ bool frmMain::movieFits(const DescribedObject& media, const std::string& movie) 
   return true;
 }
 
-void frmMain::mnuAddChild() {
-  const TreeNode* node = tvwMainTree.selected();
-  if (!tvwMainTree.root() || !node) return;
+void EditCommands::mnuAddChild() {
+  const TreeNode* node = mainTree_.selected();
+  if (!mainTree_.root() || !node) return;
   const ObjectRef object = node->Tag;
   const std::string answer = askNewChild(*object);
   if (answer.empty()) return;
@@ -152,14 +129,14 @@ void frmMain::mnuAddChild() {
   parent->AddChild(answer);
   const bool refused = parent->colChilds().size() == before;
   if (refused && !hadDuration) version->ResetDuration();  // that of a movie which is not there
-  ResetTree(TreeId::tvwMainTree, nullptr);
-  tvwMainTree.ExpandToObject(*object);
-  tvwMainTree.makeCurrent(*object);
+  trees_.ResetTree(TreeId::tvwMainTree, nullptr);
+  mainTree_.ExpandToObject(*object);
+  mainTree_.makeCurrent(*object);
 }
 
-void frmMain::AddMainExpr(const std::string& kind) {
-  const TreeNode* node = tvwExpression.selected();
-  if (!tvwMainTree.root() || !node) return;
+void EditCommands::AddMainExpr(const std::string& kind) {
+  const TreeNode* node = exprTree_.selected();
+  if (!mainTree_.root() || !node) return;
   const auto version = std::dynamic_pointer_cast<Version>(node->Tag);
   if (!version) return;
   const std::string path = version->strGetMediaObjectPath();
@@ -176,12 +153,12 @@ void frmMain::AddMainExpr(const std::string& kind) {
   const double duration = dMovieDuration(path);
   version->AddMainExpression(name, kind, 0, duration);
   version->setDDuration(duration);
-  ResetTree(TreeId::tvwExpression, version);
-  tvwExpression.makeCurrent(*version);
+  trees_.ResetTree(TreeId::tvwExpression, version);
+  exprTree_.makeCurrent(*version);
 }
 
-void frmMain::DeleteNode(TreeId id) {
-  const TreeNode* node = tree(id).selected();
+void EditCommands::DeleteNode(TreeId id) {
+  const TreeNode* node = trees_.tree(id).selected();
   if (!node || node->Tag->className() == "AVDocument") return;
   const bool confirmed =
       app_.ui.askYesNo(app_.LoadResString(Message::AskRemoveObject) + " " + node->Text + " " +
@@ -196,20 +173,20 @@ void frmMain::DeleteNode(TreeId id) {
       app_.ui.messageBox(message);
       return;
     }
-    RemoveIcon(object->strGUID());
+    trees_.RemoveIcon(object->strGUID());
     app_.gAVDoc->RemoveObject(object);
   }
   showTreesWithout(id, wasVersion);
 }
 
-void frmMain::showTreesWithout(TreeId id, bool wasVersion) {
+void EditCommands::showTreesWithout(TreeId id, bool wasVersion) {
   if (id == TreeId::tvwExpression && !wasVersion) {
-    const ObjectRef version = tvwExpression.root()->Tag;
-    ResetTree(TreeId::tvwExpression, version);
+    const ObjectRef version = exprTree_.root()->Tag;
+    trees_.ResetTree(TreeId::tvwExpression, version);
     return;
   }
-  ResetTree(TreeId::tvwMainTree, nullptr);
-  ResetTree(TreeId::tvwExpression, nullptr);
+  trees_.ResetTree(TreeId::tvwMainTree, nullptr);
+  trees_.ResetTree(TreeId::tvwExpression, nullptr);
 }
 
 }  // namespace velra

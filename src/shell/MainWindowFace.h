@@ -7,7 +7,8 @@
 
 namespace velra {
 
-/// The pixels of the main window: what `frmMain` asks of them. It decides nothing.
+/// The pixels of the main window: what its rules ask of them. It decides nothing. The window is
+/// Qt's and stands above this folder, so that this is the wall between the two.
 class MainWindowFace {
  public:
   virtual ~MainWindowFace() = default;
@@ -18,8 +19,6 @@ class MainWindowFace {
   virtual void popUpEditMenu() = 0;
   /// The tree icons changed: the trees paint themselves anew.
   virtual void iconsChanged() = 0;
-  /// Closes the window, which ends the program.
-  virtual void closeWindow() = 0;
 };
 
 }  // namespace velra

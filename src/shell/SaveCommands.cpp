@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/SaveCommands.h"
 
-// The commands of the File menu that write the open document.
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "objects/AVDocument.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
-#include "shell/frmMain.h"
+#include "shell/DocumentClosing.h"
+#include "shell/MainTrees.h"
+#include "shell/OpenCommands.h"
+#include "shell/OpenedDocument.h"
+#include "shell/TreeClicks.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
 
 namespace velra {
 
-void frmMain::mnuFileSave() {
+void SaveCommands::mnuFileSave() {
   if (!app_.gAVDoc) return;
   if (app_.gAVDoc->strTitle() == kUnsavedTitle) {
     SaveDocumentAs();
@@ -23,13 +27,13 @@ void frmMain::mnuFileSave() {
   app_.gAVDoc->bSave();
 }
 
-void frmMain::mnuFileSaveAs() {
-  if (needsDocument()) SaveDocumentAs();
+void SaveCommands::mnuFileSaveAs() {
+  if (needsDocument(app_)) SaveDocumentAs();
 }
 
 // A document of another ending could not be opened again. The dialog has asked about the name
 // without it.
-std::string frmMain::GetFileName(const std::string& proposed) {
+std::string SaveCommands::GetFileName(const std::string& proposed) {
   std::string path =
       app_.ui.saveFileDialog("Save As", "All Files (*.xml)|*.xml", proposed).value_or("");
   if (path.empty() || toLower(strExtension(path)) == "xml") return path;
@@ -39,7 +43,7 @@ std::string frmMain::GetFileName(const std::string& proposed) {
   return free ? path : GetFileName(path);
 }
 
-void frmMain::SaveDocumentAs() {
+void SaveCommands::SaveDocumentAs() {
   std::string folder;
   const std::string former = app_.gAVDoc->strGUID();
   const std::string base = strSplitPath(former, folder);
@@ -50,23 +54,21 @@ void frmMain::SaveDocumentAs() {
   bool saved = false;
   {
     const auto busy = app_.ui.showBusy();
-    saved = avDocument()->bSaveAs(path);
+    saved = openedDocument(app_)->bSaveAs(path);
   }
   if (!saved) {
     // The title is the cataloguer's again, and a document without a file stays one.
     app_.gAVDoc->setStrTitle(title);
     return;
   }
-  bool goOn = false;
-  CloseDocument(true, goOn);
+  closing_.CloseDocument(true);
   removeFolderIfEmpty(dataFolderOf(former));
-  app_.gAVDoc = std::make_shared<AVDocument>(app_);
   app_.gNotFound.clear();
-  const std::string message = openDocument(path, std::make_shared<IOManager>(app_));
-  AddAllSmallKeyFrames();
+  const std::string message = opening_.open(path, std::make_shared<IOManager>(app_));
+  trees_.AddAllSmallKeyFrames();
   if (message.empty()) {
-    ShowAVDocTitle();
-    tellDone(Message::SaveAs, path);
+    clicks_.ShowAVDocTitle();
+    tellDone(app_, window_, Message::SaveAs, path);
   } else {
     app_.ui.messageBox(message, BoxKind::Exclamation);
     app_.gAVDoc.reset();

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/TransferCommands.h"
 
-// The two commands that take a document out of the file system and back. No server stands on the
-// other side: a document taken out is written nowhere, and its files stay as they are.
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "objects/AVDocument.h"
 #include "platform/UserInterface.h"
-#include "shell/frmMain.h"
+#include "shell/DocumentClosing.h"
+#include "shell/OpenCommands.h"
+#include "shell/OpenedDocument.h"
+#include "shell/SaveCommands.h"
 #include "store/IOManager.h"
 
 namespace velra {
 
-void frmMain::transferObjects(bool toFileSystem) {
+void TransferCommands::transferObjects(bool toFileSystem) {
   for (const ObjectRef& object : app_.gAVDoc->collObjects().all()) {
     if (const auto io = object->io()) io->setBFileSystem(toFileSystem);
     if (object->className() != "Storage") continue;
@@ -23,18 +25,17 @@ void frmMain::transferObjects(bool toFileSystem) {
 }
 
 // A failed save has been reported, and what was saved before is opened all the same.
-void frmMain::saveAndReopen(const std::string& path, bool bFileSystem) {
+void TransferCommands::saveAndReopen(const std::string& path, bool bFileSystem) {
   {
     const auto busy = app_.ui.showBusy();
-    avDocument()->bSaveAs(path);
+    openedDocument(app_)->bSaveAs(path);
   }
-  bool goOn = false;
-  CloseDocument(true, goOn);
-  OpenDoc(path, bFileSystem);
+  closing_.CloseDocument(true);
+  opening_.OpenDoc(path, bFileSystem);
 }
 
-void frmMain::mnuExportToDB() {
-  if (!needsDocument()) return;
+void TransferCommands::mnuExportToDB() {
+  if (!needsDocument(app_)) return;
   transferObjects(false);
   OpenDocument& document = *app_.gAVDoc;
   const std::string identifier =
@@ -42,9 +43,9 @@ void frmMain::mnuExportToDB() {
   saveAndReopen(identifier, false);
 }
 
-void frmMain::mnuImportToFS() {
-  if (!needsDocument()) return;
-  const std::string path = GetFileName("./" + app_.gAVDoc->strTitle());
+void TransferCommands::mnuImportToFS() {
+  if (!needsDocument(app_)) return;
+  const std::string path = saving_.GetFileName("./" + app_.gAVDoc->strTitle());
   if (path.empty()) return;
   std::string folder;
   app_.gAVDoc->setStrTitle(strSplitPath(path, folder));

@@ -41,12 +41,13 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   void showAbout();
   void toggleToolBar();
   void toggleStatusBar();
+  /// Closes the window, which ends the program.
+  void closeWindow();
 
   void showStatusText(const std::string& text) override;
   void showMenuState(const MenuState& state) override;
   void popUpEditMenu() override;
   void iconsChanged() override;
-  void closeWindow() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/DocumentClosing.h"
+
+#include "app/ApplicationModule.h"
+#include "platform/UserInterface.h"
+#include "protocol/OpenDocument.h"
+#include "shell/MainTrees.h"
+#include "store/IOManager.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+bool DocumentClosing::saveQuestionAnswered() {
+  const auto answer = app_.ui.askYesNoCancel(app_.LoadResString(Message::SaveModifications) + " " +
+                                             app_.gAVDoc->strTitle() + "?");
+  if (answer == Answer::Yes) {
+    const auto busy = app_.ui.showBusy();
+    app_.gAVDoc->bSave();
+  }
+  return answer != Answer::Cancel;
+}
+
+bool DocumentClosing::CloseDocument(bool bNoPrompt) {
+  const bool changed = !app_.gAVDoc->collObjects().changedObjects().empty();
+  if (changed && !bNoPrompt && !saveQuestionAnswered()) return false;
+  releaseDocument();
+  trees_.ResetListImageExpression();
+  return true;
+}
+
+void DocumentClosing::releaseDocument() {
+  trees_.clear();
+  if (app_.gAVDoc) MarkUnsavedMediaObjects();
+  app_.gAVDoc.reset();
+}
+
+// Pictures that no saved object points at go with the document.
+void DocumentClosing::MarkUnsavedMediaObjects() {
+  for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
+    if (object->className() != "MediaObject" || !object->bChanged()) continue;
+    app_.gAVDoc->io()->RemoveGUID(object->strGUID());
+  }
+}
+
+}  // namespace velra

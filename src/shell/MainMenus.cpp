@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/MainMenus.h"
+
+#include "app/ApplicationModule.h"
+#include "objects/Version.h"
+#include "platform/UserInterface.h"
+#include "protocol/ClassRules.h"
+#include "protocol/OpenDocument.h"
+#include "shell/MainWindowFace.h"
+#include "shell/OpenedDocument.h"
+#include "store/IOManager.h"
+
+namespace velra {
+
+namespace {
+
+MenuState withAddEntries(MenuState menus, bool addChild, bool addMainExpr) {
+  menus.mnuAddChild = addChild;
+  menus.mnuAddMainExpr = addMainExpr;
+  return menus;
+}
+
+MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fromMainTree) {
+  const std::string& className = object.className();
+  if (className == "AVDocument" || className == "Media") return withAddEntries(menus, true, false);
+  if (className == "Storage" || isExpressionClass(className)) {
+    return withAddEntries(menus, false, false);
+  }
+  const auto* version = dynamic_cast<const Version*>(&object);
+  if (!version) return menus;
+  if (fromMainTree) return withAddEntries(menus, true, false);
+  MenuState open = withAddEntries(menus, false, true);
+  open.mnuAddMainVideo = !version->vdMainVideo();
+  open.mnuAddMainAudio = !version->auMainAudio();
+  open.mnuAddMainTranscript = !version->trMainTranscript();
+  return open;
+}
+
+}  // namespace
+
+MainMenus::MainMenus(ApplicationModule& app, MainWindowFace& face) : app_(app), face_(face) {
+  state_.language = app_.iLanguage;
+}
+
+void MainMenus::apply(const MenuState& state) {
+  if (state_ == state) return;
+  state_ = state;
+  face_.showMenuState(state_);
+}
+
+void MainMenus::mnuFile_Click() {
+  MenuState menus = state_;
+  const std::shared_ptr<IOManager> io = documentIsOpen(app_) ? app_.gAVDoc->io() : nullptr;
+  menus.mnuExportToDB = io && io->bFileSystem();
+  menus.mnuImportToFS = io && !io->bFileSystem();
+  apply(menus);
+}
+
+void MainMenus::ContexMenuManager(const DescribedObject& object, bool fromMainTree) {
+  apply(menusOf(state_, object, fromMainTree));
+}
+
+void MainMenus::setLanguage(std::int32_t language) {
+  if (state_.language == language) return;
+  MenuState menus = state_;
+  menus.language = language;
+  apply(menus);
+  app_.iLanguage = language;
+  if (language == ApplicationModule::kCrossLanguageOff) {
+    app_.ui.messageBox(app_.LoadResString(Message::DisablingCrossLanguage));
+  }
+}
+
+}  // namespace velra

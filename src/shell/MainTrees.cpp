@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/MainTrees.h"
+
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/RunTimeError.h"
+#include "objects/Version.h"
+#include "protocol/OpenDocument.h"
+#include "shell/MainWindowFace.h"
+#include "shell/TreeBuilder.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+void MainTrees::clear() {
+  tvwMainTree_.clear();
+  tvwExpression_.clear();
+}
+
+void MainTrees::showDocument() {
+  tvwMainTree_.clear();
+  if (!app_.gAVDoc) raise(kNoObject);
+  tvwMainTree_.replace(BuildMainTree(app_.gAVDoc));
+}
+
+void MainTrees::showVersion(const ObjectRef& version, std::unique_ptr<TreeNode> former) {
+  const auto object = std::dynamic_pointer_cast<Version>(version);
+  if (!object) raise(kTypeMismatch);
+  tvwExpression_.replace(BuildExprTree(object, icons_, std::move(former)));
+}
+
+void MainTrees::ResetTree(TreeId id, const ObjectRef& version) {
+  std::unique_ptr<TreeNode> former = tree(id).take();
+  if (id == TreeId::tvwMainTree) {
+    showDocument();
+  } else if (version) {
+    showVersion(version, std::move(former));
+  }
+}
+
+void MainTrees::UpdateNodeTitle(const DescribedObject& object) {
+  const std::string title = object.strTitle();
+  tvwMainTree_.walk([&](TreeNode& node) {
+    if (node.Tag.get() == &object) tvwMainTree_.setText(node, title);
+    return true;
+  });
+  if (TreeNode* node = tvwExpression_.find(object)) tvwExpression_.setText(*node, title);
+}
+
+void MainTrees::RemoveIcon(const std::string& key) {
+  icons_.remove(key);
+  face_.iconsChanged();
+}
+
+void MainTrees::AddSmallKeyFrame(const Expression& video) {
+  icons_.addKeyFrame(video.strGUID(), video.picKeyFrameSmall());
+  face_.iconsChanged();
+}
+
+// A main Video has no key frame and keeps its plain icon.
+void MainTrees::AddAllSmallKeyFrames() {
+  if (!app_.gAVDoc) return;
+  for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
+    if (object->className() != "Video") continue;
+    const auto* video = dynamic_cast<const Expression*>(object.get());
+    if (video && video->objMainExpr()) {
+      icons_.addKeyFrame(video->strGUID(), video->picKeyFrameSmall());
+    }
+  }
+  face_.iconsChanged();
+}
+
+void MainTrees::ResetListImageExpression() {
+  icons_.removeKeyFrames();
+  face_.iconsChanged();
+}
+
+}  // namespace velra

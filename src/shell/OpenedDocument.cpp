@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/OpenedDocument.h"
+
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/Text.h"
+#include "objects/AVDocument.h"
+#include "platform/UserInterface.h"
+#include "protocol/MainWindow.h"
+
+namespace velra {
+
+std::shared_ptr<AVDocument> openedDocument(const ApplicationModule& app) {
+  return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);
+}
+
+bool documentIsOpen(const ApplicationModule& app) {
+  return app.gAVDoc && app.gAVDoc->collObjects().Count() > 0;
+}
+
+bool needsDocument(ApplicationModule& app) {
+  if (documentIsOpen(app)) return true;
+  app.ui.messageBox("No document is open.", BoxKind::Exclamation);
+  return false;
+}
+
+void tellDone(const ApplicationModule& app, MainWindow& window, Message command,
+              const std::string& outcome) {
+  std::string caption = replaceAll(app.LoadResString(command), "&", "");
+  window.setStrStatusBarText(replaceAll(std::move(caption), "...", "") + ": " + outcome);
+}
+
+}  // namespace velra
