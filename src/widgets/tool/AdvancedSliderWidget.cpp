@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/tool/AdvancedSliderWidget.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionSlider>
 
 #include "tool/AdvancedSlider.h"
 #include "widgets/QtText.h"
+#include "widgets/ShiftArgument.h"
 #include "widgets/Twips.h"
 #include "widgets/tool/PaintedPartsEvents.h"
 #include "widgets/tool/TimelinePainter.h"
@@ -16,7 +17,6 @@ namespace velra {
 namespace {
 
 constexpr int kBlinkInterval = 500;
-constexpr int kSliderHeight = 24;  // pixels
 constexpr double kRulesWidthTwips = 33000;
 constexpr double kNarrowTwips = 60;  // a mark too narrow to hit answers this far on both sides
 constexpr int kAnnounceInterval = 400;
@@ -24,7 +24,9 @@ constexpr int kAnnounceInterval = 400;
 }  // namespace
 
 AdvancedSliderWidget::AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* parent)
-    : PaintedPartsWidget(QStringLiteral("Timeline"), parent), advsld_(advsld) {
+    : PaintedPartsWidget(QStringLiteral("Timeline"), parent),
+      advsld_(advsld),
+      slider_(advsld, *this) {
   setMaximumWidth(maximumRulesWidth());
   setEnabled(advsld_.Enabled());
   Timer1_.setInterval(kBlinkInterval);
@@ -48,11 +50,11 @@ int AdvancedSliderWidget::maximumRulesWidth() {
 }
 
 QSize AdvancedSliderWidget::sizeHint() const {
-  return {pixelsFromTwips(9000), TimelinePainter::kMarkRowHeight + kSliderHeight};
+  return {pixelsFromTwips(9000), TimelinePainter::kMarkRowHeight + TimelineSlider::kHeight};
 }
 
 void AdvancedSliderWidget::thumbMoved() {
-  update(sliderRect());
+  update(slider_.rect());
   if (sinceAnnounced_.isValid() && sinceAnnounced_.elapsed() < kAnnounceInterval) return;
   sinceAnnounced_.restart();
   announceValue(*this, advsld_.dPosition());
@@ -106,36 +108,10 @@ int AdvancedSliderWidget::partAt(const QPoint& place) const {
   return advsld_.iRangeAt(twipsFromPixels(place.x()) + kTwipsPerPixel / 2.0, kNarrowTwips) - 1;
 }
 
-QRect AdvancedSliderWidget::sliderRect() const {
-  return {0, TimelinePainter::kMarkRowHeight, width(), kSliderHeight};
-}
-
-int AdvancedSliderWidget::thumbLength() const {
-  return style()->pixelMetric(QStyle::PM_SliderLength, nullptr, this);
-}
-
-QStyleOptionSlider AdvancedSliderWidget::sliderOption() const {
-  QStyleOptionSlider option;
-  option.initFrom(this);
-  option.state |= QStyle::State_Horizontal;
-  option.state.setFlag(QStyle::State_HasFocus, false);  // the focus frame goes around the whole
-  option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
-  option.activeSubControls = dragging_ ? QStyle::SC_SliderHandle : QStyle::SC_None;
-  option.orientation = Qt::Horizontal;
-  option.minimum = AdvancedSlider::Slider::kMin;
-  option.maximum = AdvancedSlider::Slider::kMax;
-  option.sliderPosition = option.sliderValue = advsld_.slider().value;
-  // The thumb's centre runs between the points where the marks of both ends stand.
-  const int inset = pixelsFromTwips(AdvancedSlider::Slider::kThumbMargin) - thumbLength() / 2;
-  option.rect = sliderRect().adjusted(inset, 0, -inset, 0);
-  return option;
-}
-
 void AdvancedSliderWidget::paintParts(QPainter& painter, const QRect& dirty) {
   // The thumb moves often, and alone.
   if (dirty.top() < TimelinePainter::kMarkRowHeight) TimelinePainter(painter, *this).paint(advsld_);
-  const QStyleOptionSlider slider = sliderOption();
-  style()->drawComplexControl(QStyle::CC_Slider, &slider, &painter, this);
+  slider_.paint(painter);
 }
 
 void AdvancedSliderWidget::fitRules() {
@@ -143,9 +119,66 @@ void AdvancedSliderWidget::fitRules() {
   if (advsld_.slider().width != twips) advsld_.Resize(twips);
 }
 
-std::int32_t AdvancedSliderWidget::valueAt(int x) const {
-  const double margin = AdvancedSlider::Slider::kThumbMargin / kTwipsPerPixel;
-  return qRound((x - margin) / (width() - 2 * margin) * AdvancedSlider::Slider::kMax);
+void AdvancedSliderWidget::mousePressEvent(QMouseEvent* event) {
+  const QPoint place = event->position().toPoint();
+  if (partAt(place) >= 0) return PaintedPartsWidget::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton && slider_.rect().contains(place)) slider_.press(place);
+}
+
+void AdvancedSliderWidget::mouseMoveEvent(QMouseEvent* event) {
+  slider_.drag(event->position().toPoint());
+}
+
+void AdvancedSliderWidget::mouseReleaseEvent(QMouseEvent*) {
+  slider_.release();
+  update();
+}
+
+void AdvancedSliderWidget::selectPart(int part, int shift) {
+  advsld_.MouseDown(static_cast<std::int16_t>(part + 1), shift);
+}
+
+void AdvancedSliderWidget::openPart(int part) {
+  advsld_.DoubleClick(static_cast<std::int16_t>(part + 1));
+}
+
+bool AdvancedSliderWidget::moveThumbByKey(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Down:
+      advsld_.UserSteps(false);
+      return true;
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+      advsld_.UserSteps(true);
+      return true;
+    case Qt::Key_PageUp:
+      slider_.page(-1);
+      return true;
+    case Qt::Key_PageDown:
+      slider_.page(1);
+      return true;
+    case Qt::Key_Home:
+      advsld_.UserMovesThumb(AdvancedSlider::Slider::kMin);
+      return true;
+    case Qt::Key_End:
+      advsld_.UserMovesThumb(AdvancedSlider::Slider::kMax);
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool AdvancedSliderWidget::selectByKey(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) return false;
+  const std::int16_t range = advsld_.iNeighbour(event.key() == Qt::Key_Right);
+  if (range > 0) selectPart(range - 1, shiftArgument(event.modifiers() & ~Qt::ControlModifier));
+  return true;
+}
+
+bool AdvancedSliderWidget::takeKey(const QKeyEvent& event) {
+  const bool control = event.modifiers().testFlag(Qt::ControlModifier);
+  return control ? selectByKey(event) : moveThumbByKey(event.key());
 }
 
 }  // namespace velra

@@ -5,8 +5,7 @@
 #include <QTimer>
 
 #include "widgets/tool/PaintedPartsWidget.h"
-
-class QStyleOptionSlider;
+#include "widgets/tool/TimelineSlider.h"
 
 namespace velra {
 
@@ -58,19 +57,13 @@ class AdvancedSliderWidget : public PaintedPartsWidget {
 
  private:
   void thumbMoved();
-  QStyleOptionSlider sliderOption() const;
-  QRect sliderRect() const;
-  int thumbLength() const;
-  std::int32_t valueAt(int x) const;
-  void page(int direction);
   bool moveThumbByKey(int key);
   bool selectByKey(const QKeyEvent& event);
 
   AdvancedSlider& advsld_;
   QTimer Timer1_;
+  TimelineSlider slider_;
   QElapsedTimer sinceAnnounced_;
-  bool dragging_ = false;
-  int grip_ = 0;  // from the thumb's centre to where the mouse holds it
 };
 
 }  // namespace velra

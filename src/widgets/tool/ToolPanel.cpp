@@ -67,15 +67,14 @@ constexpr ButtonLooks kSegmentButtons[] = {
 }  // namespace
 
 ToolPanel::ToolPanel(const ApplicationModule& app, ExpressionTool& tool, QWidget* parent)
-    : QWidget(parent),
-      tool_(tool),
-      picVideoWindow_(new VideoPictureWidget(this)),
-      advsld_(new AdvancedSliderWidget(tool.advsld, this)),
-      stripView_(new StripView(tool.Framelist1, this)) {
+    : QWidget(parent), tool_(tool) {
+  controls_.picVideoWindow = new VideoPictureWidget(this);
+  controls_.advsld = new AdvancedSliderWidget(tool.advsld, this);
+  controls_.stripView = new StripView(tool.Framelist1, this);
   setObjectName(QStringLiteral("ToolPanel"));
   setAutoFillBackground(true);
-  picVideoWindow_->setObjectName(QStringLiteral("picVideoWindow"));
-  advsld_->setObjectName(QStringLiteral("advsld"));
+  controls_.picVideoWindow->setObjectName(QStringLiteral("picVideoWindow"));
+  controls_.advsld->setObjectName(QStringLiteral("advsld"));
   makePlayer(app);
   makeTranscript();
   makeSegmentControls();
@@ -95,56 +94,57 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
 }
 
 void ToolPanel::makePlayer(const ApplicationModule& app) {
-  BackButt_ = makeButton(
+  controls_.BackButt = makeButton(
       "BackButt", toQString(app.LoadResString(Message::BackTip)), "To the parent (sub)expression",
       [](ExpressionTool& tool) { tool.BackButt(); }, this);
-  txtTime_ = new QLineEdit(QStringLiteral("00:00:00:00"), this);
-  txtTime_->setObjectName(QStringLiteral("txtTime"));
-  txtTime_->setToolTip(QStringLiteral("TimeCode"));
-  txtTime_->setAccessibleName(QStringLiteral("TimeCode"));
-  txtTime_->setReadOnly(true);
-  txtTime_->setAlignment(Qt::AlignCenter);
-  txtTime_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  controls_.txtTime = new QLineEdit(QStringLiteral("00:00:00:00"), this);
+  controls_.txtTime->setObjectName(QStringLiteral("txtTime"));
+  controls_.txtTime->setToolTip(QStringLiteral("TimeCode"));
+  controls_.txtTime->setAccessibleName(QStringLiteral("TimeCode"));
+  controls_.txtTime->setReadOnly(true);
+  controls_.txtTime->setAlignment(Qt::AlignCenter);
+  controls_.txtTime->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   for (const ButtonLooks& looks : kPlayerButtons) {
-    playerButtons_ << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
-                                 looks.command, this);
+    controls_.playerButtons << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
+                                          looks.command, this);
   }
 }
 
 void ToolPanel::makeTranscript() {
-  rtbTrans_ = new QPlainTextEdit(this);
-  rtbTrans_->setObjectName(QStringLiteral("rtbTrans"));
-  rtbTrans_->setAccessibleName(QStringLiteral("Transcript"));
-  rtbTrans_->setReadOnly(true);
-  rtbTrans_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  rtbTrans_->setTabChangesFocus(true);
-  rtbTrans_->setUndoRedoEnabled(false);
+  controls_.rtbTrans = new QPlainTextEdit(this);
+  controls_.rtbTrans->setObjectName(QStringLiteral("rtbTrans"));
+  controls_.rtbTrans->setAccessibleName(QStringLiteral("Transcript"));
+  controls_.rtbTrans->setReadOnly(true);
+  controls_.rtbTrans->setTextInteractionFlags(Qt::TextSelectableByMouse |
+                                              Qt::TextSelectableByKeyboard);
+  controls_.rtbTrans->setTabChangesFocus(true);
+  controls_.rtbTrans->setUndoRedoEnabled(false);
 }
 
 void ToolPanel::makeSegmentControls() {
-  VideoFrame_ = new QGroupBox(QStringLiteral("Segment controls"), this);
-  VideoFrame_->setObjectName(QStringLiteral("VideoFrame"));
+  controls_.VideoFrame = new QGroupBox(QStringLiteral("Segment controls"), this);
+  controls_.VideoFrame->setObjectName(QStringLiteral("VideoFrame"));
   for (const ButtonLooks& looks : kSegmentButtons) {
-    segmentButtons_ << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
-                                  looks.command, VideoFrame_);
+    controls_.segmentButtons << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
+                                           looks.command, controls_.VideoFrame);
   }
 }
 
 void ToolPanel::makeTabOrder() {
-  QList<QWidget*> order{BackButt_, txtTime_};
-  for (QPushButton* button : playerButtons_) order << button;
-  order << rtbTrans_;
-  for (QPushButton* button : segmentButtons_) order << button;
-  order << advsld_ << stripView_->widget();
+  QList<QWidget*> order{controls_.BackButt, controls_.txtTime};
+  for (QPushButton* button : controls_.playerButtons) order << button;
+  order << controls_.rtbTrans;
+  for (QPushButton* button : controls_.segmentButtons) order << button;
+  order << controls_.advsld << controls_.stripView->widget();
   for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void ToolPanel::focusFirst() {
-  playerButtons_.first()->setFocus(Qt::TabFocusReason);
+  controls_.playerButtons.first()->setFocus(Qt::TabFocusReason);
 }
 
 void ToolPanel::showTimeCode(const QString& text) {
-  txtTime_->setText(text);
+  controls_.txtTime->setText(text);
 }
 
 void ToolPanel::swapTimeCodeColours(bool swapped) {
@@ -154,17 +154,17 @@ void ToolPanel::swapTimeCodeColours(bool swapped) {
     colours.setColor(QPalette::Base, colours.color(QPalette::Text));
     colours.setColor(QPalette::Text, ground);
   }
-  txtTime_->setPalette(colours);
+  controls_.txtTime->setPalette(colours);
 }
 
 void ToolPanel::showTranscript(const QString& text) {
-  rtbTrans_->clear();
+  controls_.rtbTrans->clear();
   appendTranscript(text);
 }
 
 // A paragraph is laid out as a whole for each new word, so that a long text is several of them.
 void ToolPanel::appendTranscript(const QString& text) {
-  QTextCursor end(rtbTrans_->document());
+  QTextCursor end(controls_.rtbTrans->document());
   end.movePosition(QTextCursor::End);
   end.beginEditBlock();
   for (qsizetype at = 0; at < text.size();) {
@@ -175,7 +175,20 @@ void ToolPanel::appendTranscript(const QString& text) {
     at = stop;
   }
   end.endEditBlock();
-  rtbTrans_->verticalScrollBar()->setValue(rtbTrans_->verticalScrollBar()->maximum());
+  controls_.rtbTrans->verticalScrollBar()->setValue(
+      controls_.rtbTrans->verticalScrollBar()->maximum());
+}
+
+QSize ToolPanel::leastSize() const {
+  return ToolPanelLayout(*this, controls_).leastSize();
+}
+
+void ToolPanel::LayoutControls() {
+  const ToolPanelLayout layout(*this, controls_);
+  layout.placePlayerControls();
+  layout.placeSegmentControls();
+  controls_.advsld->fitRules();
+  controls_.stripView->fit();
 }
 
 }  // namespace velra

@@ -3,18 +3,12 @@
 
 #include <QWidget>
 
-class QGroupBox;
-class QLineEdit;
-class QPlainTextEdit;
-class QPushButton;
+#include "widgets/tool/ToolPanelLayout.h"
 
 namespace velra {
 
-class AdvancedSliderWidget;
 class ApplicationModule;
 class ExpressionTool;
-class StripView;
-class VideoPictureWidget;
 
 /// The first tab of an expression's form: player, transcript, segment controls, timeline and strip.
 /// It stands on the form's viewport. It forwards and shows; the tool decides.
@@ -30,7 +24,7 @@ class ToolPanel : public QWidget {
   void swapTimeCodeColours(bool swapped);
   void showTranscript(const QString& text);
   void appendTranscript(const QString& text);
-  VideoPictureWidget& picture() { return *picVideoWindow_; }
+  VideoPictureWidget& picture() { return *controls_.picVideoWindow; }
 
   /// The control that has the focus when the form opens.
   void focusFirst();
@@ -42,33 +36,15 @@ class ToolPanel : public QWidget {
  private:
   using Command = void (*)(ExpressionTool&);
 
-  /// Places and sizes that depend on the font, in twips.
-  struct Measures {
-    int row, frameTitle;
-    int back, playerButton, segmentButton;
-    int rightColumn, pictureTop, playerTop, frameHeight, frameTop, timelineTop, stripTop;
-  };
-
-  Measures measures() const;
   void makePlayer(const ApplicationModule& app);
   void makeTranscript();
   void makeSegmentControls();
   void makeTabOrder();
   QPushButton* makeButton(const char* name, const QString& caption, const char* toolTip,
                           Command command, QWidget* parent);
-  void LayoutPlayerControls();
-  void LayoutSegmentControls();
 
   ExpressionTool& tool_;
-  QPushButton* BackButt_ = nullptr;
-  QLineEdit* txtTime_ = nullptr;
-  VideoPictureWidget* picVideoWindow_;
-  QPlainTextEdit* rtbTrans_ = nullptr;
-  QGroupBox* VideoFrame_ = nullptr;
-  AdvancedSliderWidget* advsld_;
-  StripView* stripView_;
-  QList<QPushButton*> playerButtons_;
-  QList<QPushButton*> segmentButtons_;
+  ToolControls controls_;
 };
 
 }  // namespace velra

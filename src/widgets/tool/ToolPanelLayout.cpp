@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-
-// Where the controls of the tool's tab stand. Twips, from the form's top left corner.
-#include "widgets/tool/ToolPanel.h"
+#include "widgets/tool/ToolPanelLayout.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -57,66 +55,53 @@ void place(QWidget& widget, int left, int top, int width, int height) {
 }  // namespace
 
 // A large font makes rows higher and buttons wider; what stands behind them moves.
-ToolPanel::Measures ToolPanel::measures() const {
-  const int text = twipsFromPixels(fontMetrics().height() + kAboveCaption);
-  Measures is{};
-  is.row = qMax(kPanelRowHeight, text);
-  is.frameTitle = qMax(kFrameTitle, text);
-  is.back = widthOf({BackButt_}, kBackWidth);
-  is.playerButton = widthOf(playerButtons_, kButtonWidth);
-  is.segmentButton = widthOf(segmentButtons_, kButtonWidth);
-  const int playerRow = widthOfRow(playerButtons_, is.playerButton);
-  is.rightColumn = kLeft + qMax(kPictureWidth, playerRow) + 2 * kGap;
-  is.pictureTop = kTop + is.row + kGap;
-  is.playerTop = is.pictureTop + kPictureHeight + kGap;
-  is.frameHeight = is.frameTitle + is.row + kFramePadding;
-  is.frameTop = is.playerTop + is.row - is.frameHeight;
-  is.timelineTop = is.playerTop + is.row + 2 * kGap;
-  is.stripTop = is.timelineTop + kTimelineHeight + kGap;
-  return is;
+ToolPanelLayout::ToolPanelLayout(const QWidget& panel, const ToolControls& controls)
+    : controls_(controls), right_(twipsFromPixels(panel.width()) - kGap) {
+  const int text = twipsFromPixels(panel.fontMetrics().height() + kAboveCaption);
+  row_ = qMax(kPanelRowHeight, text);
+  frameTitle_ = qMax(kFrameTitle, text);
+  back_ = widthOf({controls.BackButt}, kBackWidth);
+  playerButton_ = widthOf(controls.playerButtons, kButtonWidth);
+  segmentButton_ = widthOf(controls.segmentButtons, kButtonWidth);
+  const int playerRow = widthOfRow(controls.playerButtons, playerButton_);
+  rightColumn_ = kLeft + qMax(kPictureWidth, playerRow) + 2 * kGap;
+  pictureTop_ = kTop + row_ + kGap;
+  playerTop_ = pictureTop_ + kPictureHeight + kGap;
+  frameHeight_ = frameTitle_ + row_ + kFramePadding;
+  frameTop_ = playerTop_ + row_ - frameHeight_;
+  timelineTop_ = playerTop_ + row_ + 2 * kGap;
+  stripTop_ = timelineTop_ + kTimelineHeight + kGap;
 }
 
-QSize ToolPanel::leastSize() const {
-  const Measures is = measures();
-  const int frame = widthOfRow(segmentButtons_, is.segmentButton) + 2 * kFramePadding;
-  return {pixelsFromTwips(is.rightColumn + frame + kGap),
-          pixelsFromTwips(is.stripTop + kStripHeight + kGap - form_layout::kTabsHeight)};
+QSize ToolPanelLayout::leastSize() const {
+  const int frame = widthOfRow(controls_.segmentButtons, segmentButton_) + 2 * kFramePadding;
+  return {pixelsFromTwips(rightColumn_ + frame + kGap),
+          pixelsFromTwips(stripTop_ + kStripHeight + kGap - form_layout::kTabsHeight)};
 }
 
-void ToolPanel::LayoutPlayerControls() {
-  const Measures is = measures();
-  const int right = twipsFromPixels(width()) - kGap;
-  place(*BackButt_, kLeft, kTop, is.back, is.row);
-  place(*txtTime_, kLeft + is.back + kGap, kTop, kPictureWidth - is.back - kGap, is.row);
-  place(*picVideoWindow_, kLeft, is.pictureTop, kPictureWidth, kPictureHeight);
+void ToolPanelLayout::placePlayerControls() const {
+  place(*controls_.BackButt, kLeft, kTop, back_, row_);
+  place(*controls_.txtTime, kLeft + back_ + kGap, kTop, kPictureWidth - back_ - kGap, row_);
+  place(*controls_.picVideoWindow, kLeft, pictureTop_, kPictureWidth, kPictureHeight);
   int left = kLeft;
-  for (QPushButton* button : playerButtons_) {
-    place(*button, left, is.playerTop, is.playerButton, is.row);
-    left += is.playerButton + kGap;
+  for (QPushButton* button : controls_.playerButtons) {
+    place(*button, left, playerTop_, playerButton_, row_);
+    left += playerButton_ + kGap;
   }
-  place(*rtbTrans_, is.rightColumn, kTop, right - is.rightColumn, is.frameTop - kTop - kGap);
+  place(*controls_.rtbTrans, rightColumn_, kTop, right_ - rightColumn_, frameTop_ - kTop - kGap);
 }
 
-void ToolPanel::LayoutSegmentControls() {
-  const Measures is = measures();
-  const int right = twipsFromPixels(width()) - kGap;
-  place(*VideoFrame_, is.rightColumn, is.frameTop, right - is.rightColumn, is.frameHeight);
+void ToolPanelLayout::placeSegmentControls() const {
+  place(*controls_.VideoFrame, rightColumn_, frameTop_, right_ - rightColumn_, frameHeight_);
   int left = kFramePadding;
-  for (QPushButton* button : segmentButtons_) {
-    button->setGeometry(pixelsFromTwips(left), pixelsFromTwips(is.frameTitle),
-                        pixelsFromTwips(is.segmentButton), pixelsFromTwips(is.row));
-    left += is.segmentButton + kGap;
+  for (QPushButton* button : controls_.segmentButtons) {
+    button->setGeometry(pixelsFromTwips(left), pixelsFromTwips(frameTitle_),
+                        pixelsFromTwips(segmentButton_), pixelsFromTwips(row_));
+    left += segmentButton_ + kGap;
   }
   const int rulesWidth = twipsFromPixels(AdvancedSliderWidget::maximumRulesWidth());
-  place(*advsld_, kLeft, is.timelineTop, qMin(right - kLeft, rulesWidth), kTimelineHeight);
-  place(*stripView_, 0, is.stripTop, right + kGap, kStripHeight);
-}
-
-void ToolPanel::LayoutControls() {
-  LayoutPlayerControls();
-  LayoutSegmentControls();
-  advsld_->fitRules();
-  stripView_->fit();
+  place(*controls_.advsld, kLeft, timelineTop_, qMin(right_ - kLeft, rulesWidth), kTimelineHeight);
+  place(*controls_.stripView, 0, stripTop_, right_ + kGap, kStripHeight);
 }
 
 }  // namespace velra
