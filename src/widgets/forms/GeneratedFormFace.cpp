@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/forms/GeneratedFormFace.h"
 
-#include <QGroupBox>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QTabBar>
 #include <QWheelEvent>
 #include <algorithm>
@@ -33,19 +30,19 @@ GeneratedFormFace::GeneratedFormFace(const ApplicationModule& app, Form form, QW
     : QWidget(parent),
       form_(std::move(form)),
       TabStrip1_(new QTabBar(this)),
-      Picture2_(new QWidget(this)),
-      Picture1_(new QWidget(Picture2_)),
-      VScroll1_(new QScrollBar(Qt::Vertical, Picture2_)),
-      HScroll1_(new QScrollBar(Qt::Horizontal, this)) {
-  extraBox_ = extraBoxHeight(*this);
+      boxes_(*this),
+      focus_(boxes_.panel(), boxes_.frames()) {
+  const int extraBox = extraBoxHeight(*this);
   makeTabs();
-  makePanel(app);
+  boxes_.makeBoxes(app, form_.fields, form_.special, extraBox);
+  boxes_.onScroll = [this](std::int16_t value) { scrollTo(value); };
+  focus_.takeCoveredFromTabKey();
   makeButtons(app);
   makeShortcuts();
-  panel_ = panelSize(metrics(designSize()), form_.framePasses);
-  const int rows = form_.framePasses > 0 ? kBoxesOfATab : static_cast<int>(frames_.size());
-  panel_.height += twipsFromPixels(rows * extraBox_);
-  Picture1_->resize(pixelsFromTwips(panel_.width), pixelsFromTwips(panel_.height));
+  TwipsSize size = panelSize(metrics(designSize()), form_.framePasses);
+  const int rows = form_.framePasses > 0 ? kBoxesOfATab : static_cast<int>(boxes_.frames().size());
+  size.height += twipsFromPixels(rows * extraBox);
+  boxes_.setSize(size);
 }
 
 GeneratedFormFace::~GeneratedFormFace() {
@@ -75,36 +72,6 @@ void GeneratedFormFace::makeTabs() {
   });
 }
 
-void GeneratedFormFace::makePanel(const ApplicationModule& app) {
-  Picture2_->setObjectName(QStringLiteral("Picture2"));
-  Picture1_->setObjectName(QStringLiteral("Picture1"));
-  VScroll1_->setObjectName(QStringLiteral("VScroll1"));
-  HScroll1_->setObjectName(QStringLiteral("HScroll1"));
-  makeFrames(app);
-  takeCoveredFromTabKey();
-  VScroll1_->raise();
-  for (QScrollBar* bar : {VScroll1_, HScroll1_}) {
-    bar->setSingleStep(form_layout::kSmallChange);
-    bar->setFocusPolicy(Qt::NoFocus);
-  }
-  connect(VScroll1_, &QScrollBar::valueChanged, this,
-          [this](int value) { scrollTo(static_cast<std::int16_t>(-value)); });
-  connect(HScroll1_, &QScrollBar::valueChanged, this,
-          [this](int value) { Picture1_->move(pixelsFromTwips(-value), Picture1_->y()); });
-}
-
-// The Tab key takes the boxes as they are made: from slot to slot, whichever set stands on top.
-void GeneratedFormFace::makeFrames(const ApplicationModule& app) {
-  auto& boxes = form_.fields.colControls();
-  frames_.resize(boxes.size());
-  for (std::size_t slot = 0; slot < kBoxesOfATab; ++slot) {
-    for (std::size_t i = slot; i < boxes.size(); i += kBoxesOfATab) {
-      frames_[i] = makeFieldFrame(boxes[i], form_.special, app, extraBox_, Picture1_);
-    }
-  }
-  for (QGroupBox* frame : frames_) frame->raise();
-}
-
 QPushButton* GeneratedFormFace::makeButton(const char* name, const QString& caption) {
   auto* button = new QPushButton(caption, this);
   button->setObjectName(QLatin1String(name));
@@ -117,7 +84,7 @@ void GeneratedFormFace::makeButtons(const ApplicationModule& app) {
   OKButt_ = makeButton("OKButt", toQString(app.LoadResString(Message::OK)));
   CancelButt_ = makeButton("CancelButt", toQString(app.LoadResString(Message::Cancel)));
   const int band = pixelsFromTwips(form_layout::kAroundViewport - form_layout::kTabsHeight);
-  extraBand_ = std::max(0, OKButt_->height() + 2 * HScroll1_->sizeHint().height() - band);
+  extraBand_ = std::max(0, OKButt_->height() + 2 * pixelsFromTwips(boxes_.hScrollHeight()) - band);
   connect(OKButt_, &QPushButton::clicked, this, &GeneratedFormFace::okClicked);
   connect(CancelButt_, &QPushButton::clicked, this, &GeneratedFormFace::cancelClicked);
 }
@@ -148,23 +115,14 @@ int GeneratedFormFace::selectedTab() const {
   return TabStrip1_->currentIndex() + 1;
 }
 
-void GeneratedFormFace::hideAllBoxes() {
-  for (QGroupBox* frame : frames_) frame->hide();
-}
-
 void GeneratedFormFace::TabStrip1_Click(int tab) {
   QWidget* before = window()->focusWidget();
   // Boxes that go would hand the focus on, from one to the next and at last to OK.
   if (before) TabStrip1_->setFocus(Qt::OtherFocusReason);
-  giveCoveredBack();
+  focus_.giveCoveredBack();
   hideAllBoxes();
   if (!form_.tabs.isOwnTab(tab)) {
-    const BoxRange boxes = form_.tabs.boxes(tab, static_cast<int>(frames_.size()));
-    for (int box = boxes.first; box <= boxes.last; ++box) {
-      QGroupBox& frame = *frames_[static_cast<std::size_t>(box) - 1];
-      frame.raise();
-      frame.show();
-    }
+    boxes_.showBoxes(form_.tabs.boxes(tab, static_cast<int>(boxes_.frames().size())));
   }
   restoreScroll();
   emit tabClicked(tab);
@@ -173,46 +131,31 @@ void GeneratedFormFace::TabStrip1_Click(int tab) {
 
 FormMetrics GeneratedFormFace::metrics(const QSize& inner) const {
   return {{twipsFromPixels(inner.width()), twipsFromPixels(inner.height())},
-          twipsFromPixels(VScroll1_->sizeHint().width()),
-          twipsFromPixels(HScroll1_->sizeHint().height()),
+          boxes_.vScrollWidth(),
+          boxes_.hScrollHeight(),
           twipsFromPixels(OKButt_->height())};
 }
 
 void GeneratedFormFace::Form_Controls_Resize() {
-  const auto places = placeControls(metrics(size() - QSize(0, extraTabs_ + extraBand_)), panel_);
+  const auto places =
+      placeControls(metrics(size() - QSize(0, extraTabs_ + extraBand_)), boxes_.size());
   if (!places) return;
-  const auto rect = [](const TwipsRect& twips) {
-    return QRect(pixelsFromTwips(twips.left), pixelsFromTwips(twips.top),
-                 pixelsFromTwips(twips.width), pixelsFromTwips(twips.height));
-  };
   TabStrip1_->setGeometry(0, 0, width(), tabsHeight());
-  Picture2_->setGeometry(rect(places->viewport).translated(0, extraTabs_));
-  VScroll1_->setGeometry(rect(places->vScroll));
-  VScroll1_->setVisible(places->vScrollVisible);
-  HScroll1_->setGeometry(0, Picture2_->geometry().bottom() + 1, width(),
-                         HScroll1_->sizeHint().height());
-  HScroll1_->setVisible(places->hScrollVisible);
-  HScroll1_->setPageStep(twipsFromPixels(width()));
-  HScroll1_->setRange(0, -places->hScrollMax);
+  boxes_.place(*places, extraTabs_);
   const int margin = pixelsFromTwips(kButtonMargin);
   const int buttonTop = pixelsFromTwips(places->buttonTop) + extraTabs_ + extraBand_ / 2;
   CancelButt_->move(width() - margin - CancelButt_->width(), buttonTop);
   OKButt_->move(CancelButt_->x() - margin / 2 - OKButt_->width(), buttonTop);
-  vScrollMax_ = places->vScrollMax;
   restoreScroll();
 }
 
 void GeneratedFormFace::restoreScroll() {
-  scrollTo(clampedScroll(form_.arrTabScroll[selectedTab()], vScrollMax_));
+  scrollTo(clampedScroll(form_.arrTabScroll[selectedTab()], boxes_.vScrollMax()));
 }
 
 void GeneratedFormFace::scrollTo(std::int16_t value) {
   form_.arrTabScroll.set(selectedTab(), value);
-  Picture1_->move(Picture1_->x(), pixelsFromTwips(value));
-  const QSignalBlocker quiet(VScroll1_);
-  VScroll1_->setRange(0, std::max(0, -vScrollMax_));
-  VScroll1_->setPageStep(twipsFromPixels(Picture2_->height()));
-  VScroll1_->setValue(-value);
+  boxes_.scrollTo(value);
 }
 
 void GeneratedFormFace::resizeEvent(QResizeEvent* event) {
@@ -226,7 +169,25 @@ void GeneratedFormFace::wheelEvent(QWheelEvent* event) {
     event->ignore();
     return;
   }
-  scrollTo(wheelScroll(form_.arrTabScroll[selectedTab()], rotation, vScrollMax_));
+  scrollTo(wheelScroll(form_.arrTabScroll[selectedTab()], rotation, boxes_.vScrollMax()));
+}
+
+void GeneratedFormFace::focusAfterTurn(QWidget* before) {
+  if (before == TabStrip1_) return;
+  if (focus_.holds(*before)) return before->setFocus(Qt::OtherFocusReason);
+  if (QWidget* first = focus_.firstControlInSight()) first->setFocus(Qt::TabFocusReason);
+}
+
+void GeneratedFormFace::focusFirstBox() {
+  QWidget* first = focus_.firstControlInSight();
+  (first ? first : OKButt_)->setFocus(Qt::TabFocusReason);
+}
+
+bool GeneratedFormFace::focusNextPrevChild(bool next) {
+  const bool moved = QWidget::focusNextPrevChild(next);
+  const QGroupBox* frame = moved ? focus_.frameAround(window()->focusWidget()) : nullptr;
+  if (frame) scrollTo(boxes_.scrollShowing(*frame, form_.arrTabScroll[selectedTab()]));
+  return moved;
 }
 
 }  // namespace velra

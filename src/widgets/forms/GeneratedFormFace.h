@@ -2,15 +2,13 @@
 #pragma once
 
 #include <QWidget>
-#include <utility>
-#include <vector>
 
 #include "forms/FormLayout.h"
 #include "forms/FormTabs.h"
+#include "widgets/forms/BoxFocus.h"
+#include "widgets/forms/BoxPanel.h"
 
-class QGroupBox;
 class QPushButton;
-class QScrollBar;
 class QTabBar;
 
 namespace velra {
@@ -19,8 +17,8 @@ class ApplicationModule;
 class FormFields;
 class SpecialFields;
 
-/// What all generated forms show: the tabs, the viewport with the scrolling panel of field boxes,
-/// the scroll bars and the two buttons. It fills its window.
+/// What all generated forms show: the tabs, the panel of field boxes and the two buttons. It fills
+/// its window.
 class GeneratedFormFace : public QWidget {
   Q_OBJECT
 
@@ -51,7 +49,7 @@ class GeneratedFormFace : public QWidget {
   int selectedTab() const;
   /// The click on a tab: shows its boxes alone, where its scroll was left.
   void TabStrip1_Click(int tab);
-  void hideAllBoxes();
+  void hideAllBoxes() { boxes_.hideAllBoxes(); }
 
   /// Puts the focus on the first box in sight that stands on top and can be edited, else on OK.
   void focusFirstBox();
@@ -69,40 +67,24 @@ class GeneratedFormFace : public QWidget {
 
  private:
   void makeTabs();
-  void makePanel(const ApplicationModule& app);
-  void makeFrames(const ApplicationModule& app);
   void makeButtons(const ApplicationModule& app);
   void makeShortcuts();
   QPushButton* makeButton(const char* name, const QString& caption);
-  /// The box that stands on top in a slot; null for none.
-  QGroupBox* frameOnTop(int slot) const;
-  /// What can take the focus first of what is in sight; null for nothing.
-  QWidget* firstControlInSight() const;
-  void takeCoveredFromTabKey();
-  void giveCoveredBack();
   void focusAfterTurn(QWidget* before);
   FormMetrics metrics(const QSize& inner) const;
   void Form_Controls_Resize();
   void restoreScroll();
   void scrollTo(std::int16_t value);
-  void showBoxWithFocus();
 
   Form form_;
-  TwipsSize panel_;
-  int vScrollMax_ = 0;
   // Pixels that a large font takes beyond the layout.
   int extraTabs_ = 0;
-  int extraBox_ = 0;
   int extraBand_ = 0;
   QTabBar* TabStrip1_;
-  QWidget* Picture2_;
-  QWidget* Picture1_;
-  QScrollBar* VScroll1_;
-  QScrollBar* HScroll1_;
+  BoxPanel boxes_;
+  BoxFocus focus_;
   QPushButton* OKButt_ = nullptr;
   QPushButton* CancelButt_ = nullptr;
-  std::vector<QGroupBox*> frames_;
-  std::vector<std::pair<QWidget*, Qt::FocusPolicy>> covered_;  // and what they had before
 };
 
 }  // namespace velra

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/forms/SetOfRowsWidget.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -14,12 +12,22 @@
 #include "forms/ctlSetOfStringCL.h"
 #include "widgets/QtText.h"
 #include "widgets/Twips.h"
-#include "widgets/forms/ListBox.h"
-#include "widgets/forms/RowText.h"
 
 namespace velra {
 
 namespace {
+
+// Twips.
+constexpr int kRowPitch = 400;
+constexpr int kRowHeight = 300;
+constexpr int kPanelStart = 100;
+constexpr int kPanelNarrower = 1600;
+constexpr int kBarFromRight = 1500;
+
+// Pixels.
+constexpr int kButtonFrame = 8;     // above and below a caption, together
+constexpr int kCaptionMargin = 16;  // before and behind it, together
+constexpr int kBesideButtons = 3;
 
 QString plainCaption(const ApplicationModule& app, Message message) {
   return toQString(app.LoadResString(message)).remove(u'&');
@@ -69,92 +77,37 @@ void SetOfRowsWidget::makeButtons(const ApplicationModule& app) {
 void SetOfRowsWidget::addClicked() {
   rows_.Command1_Click();
   VScroll1_->setValue(VScroll1_->maximum());
-  if (!widgets_.empty()) widgets_.back().value->setFocus(Qt::OtherFocusReason);
+  if (!controls_.empty()) controls_.back().value().setFocus(Qt::OtherFocusReason);
 }
 
 void SetOfRowsWidget::showRows() {
   const auto count = static_cast<std::size_t>(rows_.Count());
-  while (widgets_.size() > count) {
-    delete widgets_.back().label;
-    delete widgets_.back().value;
-    delete widgets_.back().Check1;
-    widgets_.pop_back();
-  }
-  while (widgets_.size() < count) addRowWidgets(static_cast<std::int16_t>(widgets_.size() + 1));
-  for (std::int16_t row = 1; row <= rows_.Count(); ++row) showRow(row);
+  while (controls_.size() > count) controls_.pop_back();
+  while (controls_.size() < count) addRow(static_cast<std::int16_t>(controls_.size() + 1));
+  for (const RowControls& row : controls_) row.update(rows_);
   Command1_->setEnabled(rows_.Enabled());
   Command2_->setEnabled(rows_.Enabled());
   updateScrollRange();
 }
 
-void SetOfRowsWidget::addRowWidgets(std::int16_t row) {
-  Row widgets;
-  const QString name = label_ + u' ' + QString::number(row);
-  widgets.Check1 = new QCheckBox(Picture1_);
-  widgets.Check1->setObjectName(QStringLiteral("Check1_%1").arg(row));
-  widgets.Check1->setAccessibleName(name);
-  connect(widgets.Check1, &QCheckBox::clicked, this,
-          [this, row](bool ticked) { rows_.tickRow(row, ticked); });
-  widgets.value = hasLists_ ? makeList(row) : makeText(row);
-  widgets.value->setAccessibleName(name);
-  if (hasLists_) {
-    // Only a label tells what a list is; its own name is the chosen text.
-    widgets.label = new QLabel(name, Picture1_);
-    widgets.label->setBuddy(widgets.value);
-    widgets.label->hide();
-  }
-  placeRow(row, *widgets.Check1, *widgets.value);
-  widgets.Check1->show();
-  widgets.value->show();
-  putInTabOrder(widgets);
-  widgets_.push_back(widgets);
+void SetOfRowsWidget::addRow(std::int16_t row) {
+  const RowControls& controls = controls_.emplace_back(rows_, row, hasLists_, label_, *Picture1_);
+  controls.place(rowPitch_, rowHeight_);
+  controls.show();
+  putInTabOrder(controls);
 }
 
 // Behind the other rows and before the buttons, as on the screen.
-void SetOfRowsWidget::putInTabOrder(const Row& widgets) {
-  setTabOrder(Command1_, widgets.Check1);
-  setTabOrder(widgets.Check1, widgets.value);
-  setTabOrder(widgets.value, Command1_);
-  for (QWidget* widget : {static_cast<QWidget*>(widgets.Check1), widgets.value}) {
-    widget->installEventFilter(this);
-  }
+void SetOfRowsWidget::putInTabOrder(const RowControls& row) {
+  setTabOrder(Command1_, &row.tick());
+  setTabOrder(&row.tick(), &row.value());
+  setTabOrder(&row.value(), Command1_);
+  for (QWidget* widget : {&row.tick(), &row.value()}) widget->installEventFilter(this);
 }
 
 bool SetOfRowsWidget::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) scrollToRow(static_cast<QWidget*>(watched)->y());
   return QWidget::eventFilter(watched, event);
-}
-
-QWidget* SetOfRowsWidget::makeText(std::int16_t row) {
-  auto* text = new RowText(Picture1_);
-  text->setObjectName(QStringLiteral("Text1_%1").arg(row));
-  connect(text, &QLineEdit::textEdited, this,
-          [this, row](const QString& edited) { rows_.editRow(row, fromQString(edited)); });
-  return text;
-}
-
-QWidget* SetOfRowsWidget::makeList(std::int16_t row) {
-  auto* list = new ListBox(Picture1_);
-  list->setObjectName(QStringLiteral("Combo1_%1").arg(row));
-  list->setAccessibleDescription(label_ + u' ' + QString::number(row));
-  connect(list, &QComboBox::textActivated, this,
-          [this, row](const QString& chosen) { rows_.editRow(row, fromQString(chosen)); });
-  return list;
-}
-
-void SetOfRowsWidget::showRow(std::int16_t row) {
-  const Row& widgets = widgets_[static_cast<std::size_t>(row) - 1];
-  widgets.Check1->setChecked(rows_.isTicked(row));
-  widgets.Check1->setEnabled(rows_.Enabled());
-  widgets.value->setEnabled(rows_.Enabled());
-  if (auto* list = dynamic_cast<ListBox*>(widgets.value)) {
-    list->showItems(rows_.choices(), rows_.rowText(row));
-  } else if (auto* text = qobject_cast<QLineEdit*>(widgets.value)) {
-    const QString shown = toQString(rows_.rowText(row));
-    if (text->text() == shown) return;
-    text->setText(shown);
-    text->setCursorPosition(0);
-  }
 }
 
 void SetOfRowsWidget::wheelEvent(QWheelEvent* event) {
@@ -164,6 +117,60 @@ void SetOfRowsWidget::wheelEvent(QWheelEvent* event) {
     VScroll1_->setValue(before + (event->angleDelta().y() > 0 ? -rowPitch_ : rowPitch_));
   }
   event->setAccepted(VScroll1_->value() != before);
+}
+
+int SetOfRowsWidget::leastHeight(const QWidget& form) {
+  return 2 * (form.fontMetrics().height() + kButtonFrame) + 4;
+}
+
+void SetOfRowsWidget::measureRows() {
+  // A large font makes higher rows; others have what the layout gives them.
+  const int textHeight =
+      fontMetrics().height() + 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+  rowHeight_ = std::max(kRowHeight, twipsFromPixels(textHeight));
+  rowPitch_ = rowHeight_ + kRowPitch - kRowHeight;
+}
+
+void SetOfRowsWidget::scrollToRow(int top) {
+  const int rowTop = twipsFromPixels(top);
+  const int lowest = rowTop + rowHeight_ - twipsFromPixels(Picture2_->height());
+  VScroll1_->setValue(std::min(std::max(VScroll1_->value(), lowest), rowTop));
+}
+
+void SetOfRowsWidget::updateScrollRange() {
+  const int panelHeight = rows_.Count() * rowPitch_;
+  Picture1_->setGeometry(pixelsFromTwips(kPanelStart), pixelsFromTwips(kPanelStart),
+                         width() - pixelsFromTwips(kPanelNarrower), pixelsFromTwips(panelHeight));
+  const int overhang = panelHeight - twipsFromPixels(Picture2_->height());
+  VScroll1_->setRange(0, std::max(0, overhang));
+  VScroll1_->setPageStep(twipsFromPixels(Picture2_->height()));
+  VScroll1_->setVisible(overhang > 0);
+  if (VScroll1_->value() > 0) scrollTo(-VScroll1_->value());
+}
+
+void SetOfRowsWidget::scrollTo(int top) {
+  Picture1_->move(Picture1_->x(), pixelsFromTwips(top));
+}
+
+void SetOfRowsWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int barWidth = VScroll1_->sizeHint().width();
+  const int caption = std::max(fontMetrics().horizontalAdvance(Command1_->text()),
+                               fontMetrics().horizontalAdvance(Command2_->text()));
+  const int strip = barWidth + 2 * kBesideButtons + caption + kCaptionMargin;
+  const int barLeft = width() - std::max(pixelsFromTwips(kBarFromRight), strip);
+  VScroll1_->setGeometry(barLeft, 0, barWidth, height());
+  Picture2_->setGeometry(0, 0, barLeft, height());
+  const int stripLeft = barLeft + barWidth;
+  const int buttonWidth = width() - stripLeft - 2 * kBesideButtons;
+  const int buttonHeight = std::min(Command1_->sizeHint().height(), height() / 2 - 2);
+  const auto place = [&](QPushButton& button, int centre) {
+    button.setGeometry(stripLeft + kBesideButtons, centre - buttonHeight / 2, buttonWidth,
+                       buttonHeight);
+  };
+  place(*Command1_, height() / 4);
+  place(*Command2_, height() * 3 / 4);
+  updateScrollRange();
 }
 
 }  // namespace velra

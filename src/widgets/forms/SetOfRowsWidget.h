@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <vector>
 
-class QCheckBox;
-class QLabel;
+#include "widgets/forms/RowControls.h"
+
 class QPushButton;
 class QScrollBar;
 
@@ -15,8 +15,8 @@ namespace velra {
 class ApplicationModule;
 class SetOfRows;
 
-/// The face of the two set-of-strings controls: rows of a tick (`Check1_i`) and a text (`Text1_i`)
-/// or a drop-down list (`Combo1_i`), with the buttons `Command1` and `Command2` at the side.
+/// The face of the two set-of-strings controls: the rows, with the buttons `Command1` and
+/// `Command2` at the side.
 class SetOfRowsWidget : public QWidget {
  public:
   /// `label` names the field to people who hear the form. The rows must outlive the widget.
@@ -37,22 +37,12 @@ class SetOfRowsWidget : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  struct Row {
-    QCheckBox* Check1 = nullptr;
-    QWidget* value = nullptr;  // Text1 or Combo1
-    QLabel* label = nullptr;   // of a list: not seen, but read out
-  };
-
   void makeButtons(const ApplicationModule& app);
   void showRows();
   void measureRows();
-  void placeRow(std::int16_t row, QWidget& tick, QWidget& value) const;
-  void addRowWidgets(std::int16_t row);
-  QWidget* makeText(std::int16_t row);
-  QWidget* makeList(std::int16_t row);
-  void showRow(std::int16_t row);
+  void addRow(std::int16_t row);
   void addClicked();
-  void putInTabOrder(const Row& widgets);
+  void putInTabOrder(const RowControls& row);
   void scrollToRow(int top);
   void updateScrollRange();
   void scrollTo(int top);
@@ -65,7 +55,7 @@ class SetOfRowsWidget : public QWidget {
   QScrollBar* VScroll1_;
   QPushButton* Command1_ = nullptr;
   QPushButton* Command2_ = nullptr;
-  std::vector<Row> widgets_;
+  std::vector<RowControls> controls_;
   int rowHeight_;  // twips
   int rowPitch_;   // twips
 };
