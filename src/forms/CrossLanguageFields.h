@@ -19,7 +19,7 @@ class ctlSetOfStringCL;
 /// The fields "Themes", "Subthemes" and "ThematicKeywords" of a document as two dependent lists and
 /// a set over the vocabulary, shown in the language in force and stored in English. Without a
 /// vocabulary every use raises kNoObject.
-class CrossLanguageFields : public SpecialFields {
+class CrossLanguageFields {
  public:
   explicit CrossLanguageFields(ApplicationModule& app) : app_(app) {}
 
@@ -28,11 +28,15 @@ class CrossLanguageFields : public SpecialFields {
   /// stand in the order of their levels. A missing set of keywords raises kNoObject.
   bool bCLConsistent(const SEColl& secol);
 
-  bool addField(FormFields& form, const SchemaElement& field, std::size_t position) override;
-  bool commitField(const FieldBox& box, SchemaElement& field) override;
+  /// Builds the control of one of these fields; false for any other.
+  bool addField(FormFields& form, const SchemaElement& field, std::size_t position);
 
-  /// Asks before another theme or subtheme resets what depends on it; No puts the old one back.
-  void Combo1_Click(FieldBox& box) override;
+  /// Takes the value of such a control into its field; false for any other.
+  bool commitField(const FieldBox& box, SchemaElement& field);
+
+  /// The person chose an item of a list. Asks before another theme or subtheme resets what depends
+  /// on it; No puts the old one back.
+  void Combo1_Click(FieldBox& box);
 
  private:
   using Subthemes = std::vector<std::shared_ptr<Subtheme>>;

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "forms/CrossLanguageFields.h"
 #include "forms/FieldValues.h"
 #include "forms/FormFields.h"
 #include "schema/SEColl.h"
@@ -48,12 +49,12 @@ void commitSet(SchemaElement& field, const StringList& strings) {
   field.unassign();
 }
 
-void commitForm(const FormFields& form, SEColl& secol, SpecialFields* special,
+void commitForm(const FormFields& form, SEColl& secol, CrossLanguageFields* crossLanguage,
                 std::string_view titleField, const std::function<void()>& titleChanged) {
   for (const FieldBox& box : form.colControls()) {
     SchemaElement& field = secol.Item(box.Tag);
     if (field.bReadOnly() || !field.bValid()) continue;
-    if (special && special->commitField(box, field)) continue;
+    if (crossLanguage && crossLanguage->commitField(box, field)) continue;
     if (box.rows) {
       commitSet(field, stringsOf(*box.rows));
     } else if (differs(field.vContent(), box.value)) {

@@ -11,7 +11,7 @@ namespace velra {
 class FormFields;
 class SEColl;
 class SchemaElement;
-class SpecialFields;
+class CrossLanguageFields;
 
 /// True when a stored value and what a control holds (a text, the number 0 or 1, or a date) count
 /// as different. Values of different kinds do, but for false, which is the number 0; true is not
@@ -24,8 +24,8 @@ void commitSet(SchemaElement& field, const StringList& strings);
 
 /// What OK of a generated form does: every control's value goes into its field as it stands, and
 /// what differs is marked as changed. Read-only and unassigned fields keep all they have.
-/// `titleChanged` is called for a change of the field `titleField`; `special` may be null.
-void commitForm(const FormFields& form, SEColl& secol, SpecialFields* special,
+/// `titleChanged` is called for a change of the field `titleField`; `crossLanguage` may be null.
+void commitForm(const FormFields& form, SEColl& secol, CrossLanguageFields* crossLanguage,
                 std::string_view titleField, const std::function<void()>& titleChanged);
 
 }  // namespace velra

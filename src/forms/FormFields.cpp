@@ -5,6 +5,7 @@
 
 #include "base/Arithmetic.h"
 #include "base/RunTimeError.h"
+#include "forms/CrossLanguageFields.h"
 #include "forms/FieldValues.h"
 #include "forms/ctlSetOfString.h"
 #include "schema/CloseList.h"
@@ -22,12 +23,12 @@ const std::vector<std::string>& itemsOfCloseList(const CloseLists& lists, const 
 
 }  // namespace
 
-void FormFields::addFields(const SEColl& secol, SpecialFields* special) {
+void FormFields::addFields(const SEColl& secol, CrossLanguageFields* crossLanguage) {
   std::size_t position = 0;
   for (const SchemaElement& field : secol) {
     ++position;
     if (!field.bValid() || !field.bIsHumanReadable() || field.bIgnore()) continue;
-    if (special && special->addField(*this, field, position)) continue;
+    if (crossLanguage && crossLanguage->addField(*this, field, position)) continue;
     addField(secol, field, position);
   }
 }

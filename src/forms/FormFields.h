@@ -11,32 +11,17 @@
 
 namespace velra {
 
+class CrossLanguageFields;
 class SEColl;
 class SchemaElement;
-class FormFields;
-
-/// Fields that a form shows and takes back in a way of its own.
-class SpecialFields {
- public:
-  virtual ~SpecialFields() = default;
-
-  /// Builds the control of a field that is special; false for all others.
-  virtual bool addField(FormFields& form, const SchemaElement& field, std::size_t position) = 0;
-
-  /// Takes a special control's value into its field; false for all others.
-  virtual bool commitField(const FieldBox& box, SchemaElement& field) = 0;
-
-  /// The person chose an item of a list.
-  virtual void Combo1_Click(FieldBox& box) = 0;
-};
 
 /// The field boxes of a loaded form: one for each field that is assigned, readable and not ignored,
 /// in the order of the fields.
 class FormFields {
  public:
-  /// Makes the boxes of all fields. `special` may be null. A value that does not fit its control
-  /// raises kTypeMismatch, a closed list that is not there kInvalidArgument.
-  void addFields(const SEColl& secol, SpecialFields* special);
+  /// Makes the boxes of all fields. `crossLanguage` may be null. A value that does not fit its
+  /// control raises kTypeMismatch, a closed list that is not there kInvalidArgument.
+  void addFields(const SEColl& secol, CrossLanguageFields* crossLanguage);
 
   // The builders, one for each kind of control. `position` is the field's among all fields.
   FieldBox& AddTextBox(const std::string& comment, const std::string& name, const std::string& text,

@@ -40,7 +40,7 @@ void LoadedForm::Form_Load() {
   fields_.addFields(secol, crossLanguage_.get());
 }
 
-SpecialFields* LoadedForm::specialFields() {
+CrossLanguageFields* LoadedForm::crossLanguageFields() {
   return crossLanguage_.get();
 }
 

@@ -34,7 +34,7 @@ class LoadedForm {
   TabScroll& arrTabScroll() { return arrTabScroll_; }
   FormFields& fields() { return fields_; }
   /// Null but on a document's form while a language of the vocabulary is chosen.
-  SpecialFields* specialFields();
+  CrossLanguageFields* crossLanguageFields();
 
   /// How often SetFrameHeight gives the panel its size; none leaves it as it was loaded.
   int framePasses() const;

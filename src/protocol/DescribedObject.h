@@ -18,8 +18,8 @@ class DescribedObject;
 using ObjectRef = std::shared_ptr<DescribedObject>;
 using ObjectList = std::vector<ObjectRef>;
 
-/// Told of what may have changed in an object; the registry of the document stands behind it and
-/// keeps its indexes true so.
+/// Told of what may have changed in an object; the registry of the document keeps its indexes true
+/// so. It stands above this folder: this is the wall between the two.
 class ObjectListener {
  public:
   virtual ~ObjectListener() = default;

@@ -12,8 +12,8 @@ class CloseLists;
 class DocumentSchemas;
 class ObjectRegistry;
 
-/// The open document, as all below its class see it: the registry of its objects and what they
-/// share.
+/// The open document, as all below its class see it, which it is the wall for: the registry of its
+/// objects and what they share.
 class OpenDocument : public virtual DescribedObject {
  public:
   /// Every registered object, in order of registration, the document itself included.

@@ -18,6 +18,7 @@ class SchemaElement;
 enum class ReferenceChange { MayAdd, AddsNone };
 
 /// Told of every write to a field that it watches; an index over identifiers keeps itself true so.
+/// The objects that hold the fields stand above this folder: it is the wall between the two.
 class ContentWatcher {
  public:
   virtual ~ContentWatcher() = default;

@@ -59,7 +59,7 @@ class CrossLanguageTest : public ::testing::Test {
   std::string text(std::size_t number) { return toText(box(number).value); }
   void choose(std::size_t number, const std::string& text) {
     box(number).value = text;
-    form_->specialFields()->Combo1_Click(box(number));
+    form_->crossLanguageFields()->Combo1_Click(box(number));
   }
   Value stored(std::size_t position) { return object_->secol().Item(position).vContent(); }
   Texts rows() {

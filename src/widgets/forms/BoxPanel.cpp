@@ -33,9 +33,9 @@ BoxPanel::BoxPanel(QWidget& form)
   HScroll1_->setObjectName(QStringLiteral("HScroll1"));
 }
 
-void BoxPanel::makeBoxes(const ApplicationModule& app, FormFields& fields, SpecialFields* special,
-                         int extraHeight) {
-  makeFrames(app, fields, special, extraHeight);
+void BoxPanel::makeBoxes(const ApplicationModule& app, FormFields& fields,
+                         CrossLanguageFields* crossLanguage, int extraHeight) {
+  makeFrames(app, fields, crossLanguage, extraHeight);
   VScroll1_->raise();
   for (QScrollBar* bar : {VScroll1_, HScroll1_}) {
     bar->setSingleStep(form_layout::kSmallChange);
@@ -48,13 +48,13 @@ void BoxPanel::makeBoxes(const ApplicationModule& app, FormFields& fields, Speci
 }
 
 // The Tab key takes the boxes as they are made: from slot to slot, whichever set stands on top.
-void BoxPanel::makeFrames(const ApplicationModule& app, FormFields& fields, SpecialFields* special,
-                          int extraHeight) {
+void BoxPanel::makeFrames(const ApplicationModule& app, FormFields& fields,
+                          CrossLanguageFields* crossLanguage, int extraHeight) {
   auto& boxes = fields.colControls();
   frames_.resize(boxes.size());
   for (std::size_t slot = 0; slot < kBoxesOfATab; ++slot) {
     for (std::size_t i = slot; i < boxes.size(); i += kBoxesOfATab) {
-      frames_[i] = makeFieldFrame(boxes[i], special, app, extraHeight, Picture1_);
+      frames_[i] = makeFieldFrame(boxes[i], crossLanguage, app, extraHeight, Picture1_);
     }
   }
   for (QGroupBox* frame : frames_) frame->raise();

@@ -17,7 +17,7 @@ namespace velra {
 
 class ApplicationModule;
 class FormFields;
-class SpecialFields;
+class CrossLanguageFields;
 
 /// The boxes of a generated form on their panel, which two bars move behind a viewport.
 class BoxPanel {
@@ -25,9 +25,10 @@ class BoxPanel {
   /// Makes the parts as children of the form, without a box.
   explicit BoxPanel(QWidget& form);
 
-  /// Makes the boxes, each higher than the layout has it by some pixels. `special` may be null.
-  void makeBoxes(const ApplicationModule& app, FormFields& fields, SpecialFields* special,
-                 int extraHeight);
+  /// Makes the boxes, each higher than the layout has it by some pixels. `crossLanguage` may be
+  /// null.
+  void makeBoxes(const ApplicationModule& app, FormFields& fields,
+                 CrossLanguageFields* crossLanguage, int extraHeight);
 
   /// The scroll value that a person's move of the upright bar asks for.
   std::function<void(std::int16_t)> onScroll;
@@ -54,8 +55,8 @@ class BoxPanel {
   std::int16_t scrollShowing(const QGroupBox& frame, std::int16_t value) const;
 
  private:
-  void makeFrames(const ApplicationModule& app, FormFields& fields, SpecialFields* special,
-                  int extraHeight);
+  void makeFrames(const ApplicationModule& app, FormFields& fields,
+                  CrossLanguageFields* crossLanguage, int extraHeight);
 
   QWidget& form_;
   QWidget* Picture2_;  // the viewport

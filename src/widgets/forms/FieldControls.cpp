@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "forms/CrossLanguageFields.h"
 #include "forms/FieldBox.h"
 #include "forms/FormFields.h"
 #include "forms/FormLayout.h"
@@ -82,29 +83,30 @@ QWidget* makeDate(FieldBox& box, QWidget* frame) {
   return picker;
 }
 
-QWidget* makeList(FieldBox& box, SpecialFields* special, QWidget* frame) {
+QWidget* makeList(FieldBox& box, CrossLanguageFields* crossLanguage, QWidget* frame) {
   auto* list = new ListBox(frame);
   list->setEnabled(!box.bReadOnly);
   list->setAccessibleDescription(toQString(box.strComment.empty() ? box.strName : box.strComment));
   const auto show = [list, &box] { list->showItems(box.items, toText(box.value)); };
   show();
   box.onChange = show;
-  QObject::connect(list, &QComboBox::textActivated, list, [&box, special](const QString& chosen) {
-    box.value = fromQString(chosen);
-    if (special) special->Combo1_Click(box);
-  });
+  QObject::connect(list, &QComboBox::textActivated, list,
+                   [&box, crossLanguage](const QString& chosen) {
+                     box.value = fromQString(chosen);
+                     if (crossLanguage) crossLanguage->Combo1_Click(box);
+                   });
   return list;
 }
 
-QWidget* makeControl(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
-                     QWidget* frame) {
+QWidget* makeControl(FieldBox& box, CrossLanguageFields* crossLanguage,
+                     const ApplicationModule& app, QWidget* frame) {
   switch (box.family) {
     case ControlFamily::Text1:
       return makeText(box, frame);
     case ControlFamily::Check1:
       return makeCheck(box, frame);
     case ControlFamily::Combo1:
-      return makeList(box, special, frame);
+      return makeList(box, crossLanguage, frame);
     case ControlFamily::DTPicker1:
       return makeDate(box, frame);
     case ControlFamily::ctlSetOfString1:
@@ -152,15 +154,15 @@ int extraBoxHeight(QWidget& form) {
   return std::max(0, SetOfRowsWidget::leastHeight(form) - frame.inside().height());
 }
 
-QGroupBox* makeFieldFrame(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
-                          int extraHeight, QWidget* panel) {
+QGroupBox* makeFieldFrame(FieldBox& box, CrossLanguageFields* crossLanguage,
+                          const ApplicationModule& app, int extraHeight, QWidget* panel) {
   auto* frame = new FieldFrame(toQString(box.strName), panel);
   frame->setObjectName(toQString(box.frameName()));
   // Boxes of several sets stand in the same place: the one on top hides those below.
   frame->setAutoFillBackground(true);
   frame->setGeometry(0, pixelsFromTwips(slotTop(box.slot())) + box.slot() * extraHeight,
                      pixelsFromTwips(kFrameWidth), pixelsFromTwips(kFrameHeight) + extraHeight);
-  QWidget* control = makeControl(box, special, app, frame);
+  QWidget* control = makeControl(box, crossLanguage, app, frame);
   control->setObjectName(toQString(box.controlName()));
   control->setAccessibleName(toQString(box.strName));
   placeControl(*control, box.family, extraHeight, *frame);

@@ -7,7 +7,7 @@ class QWidget;
 namespace velra {
 
 class ApplicationModule;
-class SpecialFields;
+class CrossLanguageFields;
 struct FieldBox;
 
 /// By how many pixels the boxes of a form have to be higher than the layout has them, so that its
@@ -16,8 +16,8 @@ int extraBoxHeight(QWidget& form);
 
 /// The box of a field on a form's panel, with its control in it: the frame `Frame1_k` and a control
 /// of the field's kind, higher than the layout has them by the pixels of `extraHeight`. The box,
-/// and `special`, which may be null, must outlive the frame.
-QGroupBox* makeFieldFrame(FieldBox& box, SpecialFields* special, const ApplicationModule& app,
-                          int extraHeight, QWidget* panel);
+/// and `crossLanguage`, which may be null, must outlive the frame.
+QGroupBox* makeFieldFrame(FieldBox& box, CrossLanguageFields* crossLanguage,
+                          const ApplicationModule& app, int extraHeight, QWidget* panel);
 
 }  // namespace velra

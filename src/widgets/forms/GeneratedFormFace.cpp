@@ -34,7 +34,7 @@ GeneratedFormFace::GeneratedFormFace(const ApplicationModule& app, Form form, QW
       focus_(boxes_.panel(), boxes_.frames()) {
   const int extraBox = extraBoxHeight(*this);
   makeTabs();
-  boxes_.makeBoxes(app, form_.fields, form_.special, extraBox);
+  boxes_.makeBoxes(app, form_.fields, form_.crossLanguage, extraBox);
   boxes_.onScroll = [this](std::int16_t value) { scrollTo(value); };
   focus_.takeCoveredFromTabKey();
   makeButtons(app);

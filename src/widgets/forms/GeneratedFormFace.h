@@ -15,7 +15,7 @@ namespace velra {
 
 class ApplicationModule;
 class FormFields;
-class SpecialFields;
+class CrossLanguageFields;
 
 /// What all generated forms show: the tabs, the panel of field boxes and the two buttons. It fills
 /// its window.
@@ -23,12 +23,12 @@ class GeneratedFormFace : public QWidget {
   Q_OBJECT
 
  public:
-  /// What is shown; all but the tabs must outlive the face. `special` may be null.
+  /// What is shown; all but the tabs must outlive the face. `crossLanguage` may be null.
   struct Form {
     FormFields& fields;
     FormTabs tabs;
     TabScroll& arrTabScroll;
-    SpecialFields* special;
+    CrossLanguageFields* crossLanguage;
     int framePasses;  ///< of SetFrameHeight
   };
 

@@ -17,7 +17,7 @@ MetadataFormWindow::MetadataFormWindow(const ApplicationModule& app, LoadedForm&
       form_(form),
       face_(new GeneratedFormFace(app,
                                   {form.fields(), form.tabs(), form.arrTabScroll(),
-                                   form.specialFields(), form.framePasses()},
+                                   form.crossLanguageFields(), form.framePasses()},
                                   this)) {
   setObjectName(toQString(form_.kind().formName));
   setWindowTitle(windowTitleText(form_.caption()));
