@@ -7,6 +7,7 @@
 #include "expressions/Video.h"
 #include "objects/MediaObject.h"
 #include "platform/UserInterface.h"
+#include "platform/files/BitmapCheck.h"
 #include "platform/files/Files.h"
 #include "platform/movie/FrameGrabber.h"
 #include "protocol/OpenDocument.h"
@@ -124,7 +125,7 @@ std::string KeyFrame::makeBitmap() const {
   }
   std::string target = strTempPath() + strMakeGUIDText() + ".bmp";
   try {
-    grabFrame(movie, dGetKeyFrameTime(), movieSize(movie), target);
+    grabFrame(movie, dGetKeyFrameTime(), {}, target);
   } catch (const RunTimeError& error) {
     // A damaged movie or a full disk costs the picture, not the segment; one sentence for each
     // trouble with a movie is enough.

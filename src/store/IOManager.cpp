@@ -8,6 +8,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/UserInterface.h"
+#include "platform/files/FileMoves.h"
 #include "platform/files/Files.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlWriter.h"

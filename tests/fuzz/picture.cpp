@@ -4,7 +4,7 @@
 
 #include "base/RunTimeError.h"
 #include "fuzz/FuzzSession.h"
-#include "platform/movie/FrameGrabber.h"
+#include "platform/files/BitmapCheck.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static velra::fuzz::FuzzSession session;

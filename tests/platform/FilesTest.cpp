@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/files/FileMoves.h"
 #include "support/ErrorOf.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/movie/FrameGrabber.h"
+#include "platform/files/BitmapCheck.h"
 
 #include <sys/stat.h>
 

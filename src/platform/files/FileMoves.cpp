@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/files/Files.h"
+#include "platform/files/FileMoves.h"
 
 #include <fcntl.h>
 #include <stdlib.h>
@@ -13,6 +13,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/files/FileHandle.h"
+#include "platform/files/Files.h"
 #include "platform/files/WriteInPlace.h"
 
 namespace velra {

@@ -58,20 +58,12 @@ std::string writeNewFile(const std::string& path, std::string_view bytes);
 std::string syncFile(const std::string& path);
 std::string syncFolder(const std::string& folder);
 
-/// Writes a new file beside the old one and puts it in its place, so that a crash leaves one or the
-/// other. For settings, never for objects. The failure's description or "".
-std::string replaceFile(const std::string& path, std::string_view bytes);
-
 /// The failure's description, "" on success.
 std::string makeFolder(const std::string& path);
 std::string deleteFile(const std::string& path);
 
 /// Leaves a folder that holds anything, and one that may not be removed.
 void removeFolderIfEmpty(const std::string& path);
-
-/// Raise a run-time error on failure. Moving refuses an existing destination, copying replaces it.
-void MoveFileTo(const std::string& source, const std::string& destination);
-void CopyFileTo(const std::string& source, const std::string& destination);
 
 /// The system's folder for temporary files, with a separator at its end.
 std::string strTempPath();

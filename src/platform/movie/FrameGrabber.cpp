@@ -14,22 +14,13 @@ namespace {
   throw RunTimeError(kInvalidArgument, path + ": " + reason);
 }
 
-void openOrRefuse(FrameSource& source, const std::string& path) {
-  if (const std::string reason = source.open(path); !reason.empty()) refuse(path, reason);
-}
-
 }  // namespace
-
-PixelSize movieSize(const std::string& path) {
-  FrameSource source;
-  openOrRefuse(source, path);
-  return source.size();
-}
 
 void grabFrame(const std::string& path, double seconds, PixelSize size,
                const std::string& targetBmp) {
   FrameSource source;
-  openOrRefuse(source, path);
+  if (const std::string reason = source.open(path); !reason.empty()) refuse(path, reason);
+  if (size.width <= 0 || size.height <= 0) size = source.size();
   const auto picture = source.at(seconds);
   PictureConverter converter;
   const auto pixels =

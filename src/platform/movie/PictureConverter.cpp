@@ -23,20 +23,24 @@ bool fullRange(const AVFrame& frame) {
 
 }  // namespace
 
-PictureConverter::PictureConverter() = default;
+struct PictureConverter::Tables {
+  AvScaler scaler;
+};
 
-PictureConverter::~PictureConverter() {
-  sws_freeContext(scaler_);
-}
+PictureConverter::PictureConverter() : tables_(std::make_unique<Tables>()) {}
+
+PictureConverter::~PictureConverter() = default;
 
 bool PictureConverter::prepare(const AVFrame& frame, int width, int height) {
-  scaler_ = sws_getCachedContext(scaler_, frame.width, frame.height,
-                                 static_cast<AVPixelFormat>(frame.format), width, height,
-                                 AV_PIX_FMT_BGRA, SWS_BILINEAR, nullptr, nullptr, nullptr);
-  if (scaler_ == nullptr) return false;
+  AvScaler& scaler = tables_->scaler;
+  scaler.reset(sws_getCachedContext(scaler.release(), frame.width, frame.height,
+                                    static_cast<AVPixelFormat>(frame.format), width, height,
+                                    AV_PIX_FMT_BGRA, SWS_BILINEAR, nullptr, nullptr, nullptr));
+  if (!scaler) return false;
   const int one = 1 << 16;
-  sws_setColorspaceDetails(scaler_, sws_getCoefficients(matrixOf(frame)), fullRange(frame) ? 1 : 0,
-                           sws_getCoefficients(SWS_CS_DEFAULT), 1, 0, one, one);
+  sws_setColorspaceDetails(scaler.get(), sws_getCoefficients(matrixOf(frame)),
+                           fullRange(frame) ? 1 : 0, sws_getCoefficients(SWS_CS_DEFAULT), 1, 0, one,
+                           one);
   return true;
 }
 
@@ -51,7 +55,7 @@ std::shared_ptr<const PictureFrame> PictureConverter::convert(const AVFrame& fra
   picture->pixels.resize(static_cast<std::size_t>(stride) * rows);
   std::uint8_t* const planes[4] = {picture->pixels.data()};
   const int strides[4] = {stride};
-  sws_scale(scaler_, frame.data, frame.linesize, 0, frame.height, planes, strides);
+  sws_scale(tables_->scaler.get(), frame.data, frame.linesize, 0, frame.height, planes, strides);
   return picture;
 }
 

@@ -6,7 +6,6 @@
 #include "platform/movie/MediaGraph.h"
 
 struct AVFrame;
-struct SwsContext;
 
 namespace velra {
 
@@ -23,9 +22,11 @@ class PictureConverter {
   std::shared_ptr<const PictureFrame> convert(const AVFrame& frame, int width = 0, int height = 0);
 
  private:
+  struct Tables;
+
   bool prepare(const AVFrame& frame, int width, int height);
 
-  SwsContext* scaler_ = nullptr;
+  std::unique_ptr<Tables> tables_;
 };
 
 }  // namespace velra

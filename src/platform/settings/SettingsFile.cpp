@@ -2,6 +2,7 @@
 #include "platform/settings/SettingsFile.h"
 
 #include "base/Text.h"
+#include "platform/files/FileMoves.h"
 
 namespace velra {
 namespace {

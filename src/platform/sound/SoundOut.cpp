@@ -29,16 +29,10 @@ SoundOut::~SoundOut() {
   thread_.join();
 }
 
-std::string SoundOut::waitUntilOpen() {
-  std::unique_lock lock(mutex_);
-  changed_.wait(lock, [&] { return opened_.has_value(); });
-  return *opened_;
-}
-
 void SoundOut::start(double seconds) {
   {
     const std::lock_guard lock(mutex_);
-    if (opened_ && !opened_->empty()) return;
+    if (refused_) return;
     ++generation_;
     wanted_ = seconds;
     state_ = State::Starting;
@@ -71,12 +65,11 @@ double SoundOut::now() const {
 }
 
 void SoundOut::work() {
-  const std::string reason = reader_.open(path_, origin_);
+  const bool opened = reader_.open(path_, origin_).empty();
   std::unique_lock lock(mutex_);
-  opened_ = reason;
-  if (!reason.empty()) state_ = State::Silent;
-  changed_.notify_all();
-  while (!quit_ && reason.empty()) {
+  refused_ = !opened;
+  if (refused_) state_ = State::Silent;
+  while (!quit_ && !refused_) {
     changed_.wait(lock, [&] { return quit_ || wanted_; });
     if (quit_) break;
     const double seconds = *std::exchange(wanted_, std::nullopt);

@@ -35,11 +35,6 @@ class SoundOut {
   SoundOut(const SoundOut&) = delete;
   SoundOut& operator=(const SoundOut&) = delete;
 
-  /// Waits until it is known whether the movie has sound that can be decoded. The reason why not,
-  /// or
-  /// "". Bounded by the limits of `MovieInput`.
-  std::string waitUntilOpen();
-
   void start(double seconds);
   void stop();
 
@@ -65,9 +60,9 @@ class SoundOut {
 
   mutable std::mutex mutex_;  // guards all that follows
   std::condition_variable changed_;
-  std::optional<std::string> opened_;  // the reason of a failure
-  std::optional<double> wanted_;       // a start that was asked for
-  Generation generation_ = 0;          // of the last start or stop
+  bool refused_ = false;          // the movie has no sound that can be decoded
+  std::optional<double> wanted_;  // a start that was asked for
+  Generation generation_ = 0;     // of the last start or stop
   State state_ = State::Silent;
   bool quit_ = false;
   bool complete_ = false;  // all samples up to the end are in the ring

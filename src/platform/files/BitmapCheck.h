@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+/// Checks the head of a bitmap file, so that a bad one is found when it is opened and not when it
+/// is drawn. kFileNotFound or kInvalidPicture with the path.
+void checkBitmap(const std::string& path);
+
+}  // namespace velra
