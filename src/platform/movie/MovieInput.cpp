@@ -1,124 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/MovieInput.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <string>
-#include <system_error>
-#include <vector>
 
-#include "platform/movie/LibAv.h"
+#include "platform/movie/MovieFile.h"
 
 namespace velra {
 
 namespace {
-
-constexpr char kFormats[] =
-    "avi,asf,mpeg,mpegvideo,mpegts,mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,flv,m4v,h264,dv,rm,ogg,"
-    "mxf,"
-    "wav,w64,mp3,flac,aac,aiff,au";
-
-// A movie is known by its first bytes; four times as many are tried by default, which makes a
-// refusal slow.
-constexpr int kProbedBytes = 256 * 1024;
 
 // How many packets in a row may be unreadable before the rest of a damaged file is given up.
 constexpr int kBadReads = 200;
 
 constexpr int kWaysToStart = 5;
 
-std::string whyNotPlainFile(const std::string& path) {
-  struct stat info {};
-  if (::stat(path.c_str(), &info) != 0) {
-    return errno == ENOENT ? "The file does not exist."
-                           : "The file cannot be read: " +
-                                 std::error_code(errno, std::generic_category()).message() + ".";
-  }
-  if (S_ISDIR(info.st_mode)) return "It is a folder and no movie.";
-  if (!S_ISREG(info.st_mode)) return "It is no plain file.";
-  if (info.st_size == 0) return "The file is empty.";
-  return {};
-}
-
-std::string sentenceFor(int error) {
-  if (error == AVERROR_EXIT) return "The file did not answer in time.";
-  if (error == AVERROR(EACCES)) return "The file cannot be read: Permission denied.";
-  return "The format is not valid or not supported.";
-}
-
-bool isTooLarge(const AVStream* stream) {
-  const AVCodecParameters& known = *stream->codecpar;
-  return static_cast<std::int64_t>(known.width) * known.height > MovieInput::kMostPixels;
-}
-
-// The decoders that look into a file while it is opened keep the limit too.
-int findTracks(AVFormatContext& format) {
-  const std::string limit = std::to_string(MovieInput::kMostPixels);
-  std::vector<AVDictionary*> options(format.nb_streams);
-  for (AVDictionary*& one : options) av_dict_set(&one, "max_pixels", limit.c_str(), 0);
-  const int error = avformat_find_stream_info(&format, options.data());
-  for (AVDictionary*& one : options) av_dict_free(&one);
-  return error;
-}
-
-void setWhiteLists(AVFormatContext& format) {
-  format.format_whitelist = av_strdup(kFormats);
-  format.protocol_whitelist = av_strdup("file");
-}
-
 }  // namespace
 
-struct MovieInput::Context {
-  AvFormat format;
-};
-
-MovieInput::MovieInput() : context_(std::make_unique<Context>()) {
-  // The library writes about every damaged packet to the terminal otherwise.
-  av_log_set_level(AV_LOG_QUIET);
-}
+MovieInput::MovieInput() : file_(std::make_unique<MovieFile>()) {}
 
 MovieInput::~MovieInput() = default;
 
-int MovieInput::interrupted(void* self) {
-  const auto* input = static_cast<const MovieInput*>(self);
-  return input->cancelled_ || std::chrono::steady_clock::now() > input->deadline_ ? 1 : 0;
-}
-
-void MovieInput::allow(std::chrono::seconds limit) {
-  deadline_ = std::chrono::steady_clock::now() + limit;
-}
-
 std::string MovieInput::open(const std::string& path) {
-  path_ = path;
-  if (std::string reason = whyNotPlainFile(path); !reason.empty()) return reason;
-  return openFormat();
+  return file_->open(path, kOpenLimit);
 }
 
-std::string MovieInput::openFormat() {
-  context_->format.reset();
-  allow(kOpenLimit);
-  AVFormatContext* format = avformat_alloc_context();
-  format->interrupt_callback = {&MovieInput::interrupted, this};
-  setWhiteLists(*format);
-  // A program stream has no table of its tracks, and the library would read seven seconds of it.
-  format->max_analyze_duration = std::int64_t{2} * AV_TIME_BASE;
-  format->format_probesize = kProbedBytes;
-  const std::string url = "file:" + path_;  // a colon in a path is no protocol
-  if (const int error = avformat_open_input(&format, url.c_str(), nullptr, nullptr); error < 0) {
-    return sentenceFor(error);
-  }
-  context_->format.reset(format);
-  // Decoders that refuse the size forget it.
-  statesTooLarge_ = std::any_of(format->streams, format->streams + format->nb_streams, isTooLarge);
-  if (const int error = findTracks(*format); error < 0) return sentenceFor(error);
-  return {};
+bool MovieInput::statesTooLarge() const {
+  return file_->statesTooLarge();
+}
+
+void MovieInput::cancel() {
+  file_->cancel();
+}
+
+bool MovieInput::cancelled() const {
+  return file_->cancelled();
 }
 
 bool MovieInput::has(MovieTrack track) const {
-  if (!context_->format) return false;
-  const AVFormatContext& format = *context_->format;
+  if (file_->format() == nullptr) return false;
+  const AVFormatContext& format = *file_->format();
   const AVMediaType type = track == MovieTrack::Pictures ? AVMEDIA_TYPE_VIDEO : AVMEDIA_TYPE_AUDIO;
   return std::any_of(format.streams, format.streams + format.nb_streams, [&](const AVStream* one) {
     return one->codecpar->codec_type == type &&
@@ -127,7 +47,7 @@ bool MovieInput::has(MovieTrack track) const {
 }
 
 bool MovieInput::choose(MovieTrack track) {
-  AVFormatContext* format = context_->format.get();
+  AVFormatContext* format = file_->format();
   const AVMediaType type = track == MovieTrack::Pictures ? AVMEDIA_TYPE_VIDEO : AVMEDIA_TYPE_AUDIO;
   index_ = av_find_best_stream(format, type, -1, -1, nullptr, 0);
   if (index_ < 0) return false;
@@ -146,11 +66,11 @@ bool MovieInput::choose(MovieTrack track) {
 }
 
 const AVStream* MovieInput::stream() const {
-  return index_ < 0 ? nullptr : context_->format->streams[index_];
+  return index_ < 0 ? nullptr : file_->format()->streams[index_];
 }
 
 MovieStamps MovieInput::stamps() const {
-  const AVInputFormat& format = *context_->format->iformat;
+  const AVInputFormat& format = *file_->format()->iformat;
   const std::string name = format.name;
   if (name == "mpeg" || name == "mpegts") return MovieStamps::OfBytes;
   if (name == "avi") return MovieStamps::OfChunks;
@@ -163,21 +83,21 @@ bool MovieInput::hasBareStamps() const {
 }
 
 std::int64_t MovieInput::bytes() const {
-  return avio_size(context_->format->pb);
+  return avio_size(file_->format()->pb);
 }
 
 double MovieInput::claimedLength() const {
-  const std::int64_t length = context_->format->duration;
+  const std::int64_t length = file_->format()->duration;
   return length > 0 ? static_cast<double>(length) / AV_TIME_BASE : 0;
 }
 
 bool MovieInput::read(AVPacket& packet) {
   atEnd_ = false;
   for (int bad = 0; bad < kBadReads;) {
-    if (!opening_) allow(kReadLimit);
+    if (!opening_) file_->allow(kReadLimit);
     av_packet_unref(&packet);
-    if (interrupted(this) != 0) return false;
-    const int error = av_read_frame(context_->format.get(), &packet);
+    if (file_->isInterrupted()) return false;
+    const int error = av_read_frame(file_->format(), &packet);
     atEnd_ = error == AVERROR_EOF;
     if (atEnd_ || error == AVERROR_EXIT) return false;
     if (error < 0) {
@@ -203,13 +123,13 @@ bool MovieInput::sought(int result) {
 }
 
 bool MovieInput::seek(std::int64_t ticks) {
-  allow(kReadLimit);
-  return sought(avformat_seek_file(context_->format.get(), index_, INT64_MIN, ticks, ticks, 0));
+  file_->allow(kReadLimit);
+  return sought(avformat_seek_file(file_->format(), index_, INT64_MIN, ticks, ticks, 0));
 }
 
 bool MovieInput::seekByte(std::int64_t position) {
-  if (!opening_) allow(kReadLimit);
-  return sought(av_seek_frame(context_->format.get(), -1, position, AVSEEK_FLAG_BYTE));
+  if (!opening_) file_->allow(kReadLimit);
+  return sought(av_seek_frame(file_->format(), -1, position, AVSEEK_FLAG_BYTE));
 }
 
 bool MovieInput::toStart(std::int64_t firstTicks, const std::function<bool()>& arrived) {
@@ -220,8 +140,8 @@ bool MovieInput::toStart(std::int64_t firstTicks, const std::function<bool()>& a
 }
 
 bool MovieInput::goToStart(int way, std::int64_t firstTicks) {
-  AVFormatContext* format = context_->format.get();
-  allow(kReadLimit);
+  AVFormatContext* format = file_->format();
+  file_->allow(kReadLimit);
   switch (way) {
     case 0:
       return sought(av_seek_frame(format, index_, firstTicks, AVSEEK_FLAG_BACKWARD));
@@ -239,7 +159,7 @@ bool MovieInput::goToStart(int way, std::int64_t firstTicks) {
 bool MovieInput::reopen() {
   const AVMediaType type = stream()->codecpar->codec_type;
   const int before = index_;
-  if (!openFormat().empty()) return false;
+  if (!file_->reopen(kOpenLimit).empty()) return false;
   return choose(type == AVMEDIA_TYPE_VIDEO ? MovieTrack::Pictures : MovieTrack::Sound) &&
          index_ == before;
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -14,6 +13,8 @@ struct AVStream;
 
 namespace velra {
 
+class MovieFile;
+
 enum class MovieTrack { Pictures, Sound };
 
 /// What the times in a container belong to.
@@ -25,9 +26,7 @@ enum class MovieStamps {
 };
 
 /// One reader of a movie file: gives the packets of one chosen track in the order of the file.
-/// Takes plain files in known formats alone, so that a playlist or a picture that calls itself a
-/// movie makes nothing else be read. No call waits longer than `kOpenLimit` or `kReadLimit`. One
-/// thread, but for `cancel`.
+/// No call waits longer than `kOpenLimit` or `kReadLimit`. One thread, but for `cancel`.
 class MovieInput {
  public:
   static constexpr std::chrono::seconds kOpenLimit{5};
@@ -37,9 +36,6 @@ class MovieInput {
   ~MovieInput();
   MovieInput(const MovieInput&) = delete;
   MovieInput& operator=(const MovieInput&) = delete;
-
-  /// Pictures with more pixels than this are refused: the largest that are in use.
-  static constexpr int kMostPixels = 8192 * 4320;
 
   /// "" on success, else one sentence that tells why not.
   std::string open(const std::string& path);
@@ -56,8 +52,8 @@ class MovieInput {
   /// The chosen track; null before that.
   const AVStream* stream() const;
 
-  /// True when the container says that the pictures have more than `kMostPixels`; it may lie.
-  bool statesTooLarge() const { return statesTooLarge_; }
+  /// See `MovieFile`.
+  bool statesTooLarge() const;
 
   /// What the times of the file belong to.
   MovieStamps stamps() const;
@@ -99,28 +95,19 @@ class MovieInput {
   bool toStart(std::int64_t firstTicks, const std::function<bool()>& arrived);
 
   /// Makes the running call and all later ones fail soon. From any thread.
-  void cancel() { cancelled_ = true; }
-  bool cancelled() const { return cancelled_; }
+  void cancel();
+  bool cancelled() const;
 
  private:
-  struct Context;
-
-  static int interrupted(void* self);
-  void allow(std::chrono::seconds limit);
-  std::string openFormat();
   bool goToStart(int way, std::int64_t firstTicks);
   bool reopen();
   bool sought(int result);
 
-  std::string path_;
-  std::unique_ptr<Context> context_;
+  std::unique_ptr<MovieFile> file_;
   int index_ = -1;
   bool opening_ = true;
-  bool statesTooLarge_ = false;
   bool atEnd_ = false;
   bool hidesKey_ = false;
-  std::chrono::steady_clock::time_point deadline_;
-  std::atomic<bool> cancelled_{false};
 };
 
 }  // namespace velra

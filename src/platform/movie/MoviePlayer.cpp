@@ -11,11 +11,6 @@ namespace velra {
 
 namespace {
 
-// Large pictures wait in smaller numbers, but never less than two.
-constexpr std::size_t kPicturesAhead = 6;
-constexpr std::size_t kFewPicturesAhead = 2;
-constexpr std::size_t kBytesAhead = 64'000'000;
-
 // The clock of the sound may jump, so that a picture's time is looked at this often at least.
 constexpr double kLongestNap = 0.02;
 constexpr double kShortestNap = 0.001;
@@ -28,7 +23,6 @@ MoviePlayer::MoviePlayer(std::unique_ptr<FrameSource> source, PlayClock clock, d
       duration_(duration),
       notify_(std::move(notify)),
       clock_(std::move(clock)),
-      allAhead_(source_ == nullptr),
       decoding_([this] { decode(); }),
       showing_([this] { show(); }) {}
 
@@ -55,10 +49,7 @@ void MoviePlayer::beginPlay() {
   playing_ = true;
   shownSinceRun_ = false;
   sought_.reset();  // else its picture would come after the next halt, over the one shown then
-  ahead_.clear();
-  lastAhead_.reset();
-  allAhead_ = source_ == nullptr;
-  failed_ = false;
+  ahead_.restart(source_ == nullptr);
   clock_.start(std::isfinite(position_) ? position_ : 0);
   toDecode_.notify_all();
   toShow_.notify_all();
@@ -69,7 +60,7 @@ void MoviePlayer::halt() {
   if (!playing_) return;
   ++generation_;
   playing_ = false;
-  ahead_.clear();
+  ahead_.restart(false);
   clock_.stop();
   seekStill();
 }
@@ -111,7 +102,7 @@ std::shared_ptr<const PictureFrame> MoviePlayer::picture() const {
 void MoviePlayer::decode() {
   Lock lock(mutex_);
   while (source_ && !quit_) {
-    if (playing_ && !allAhead_ && hasRoomAhead()) {
+    if (playing_ && ahead_.wantsMore()) {
       decodeAhead(lock);
     } else if (sought_ && !playing_) {
       decodeSought(lock);
@@ -121,17 +112,11 @@ void MoviePlayer::decode() {
   }
 }
 
-bool MoviePlayer::hasRoomAhead() const {
-  if (ahead_.size() < kFewPicturesAhead) return true;
-  return ahead_.size() < kPicturesAhead &&
-         ahead_.size() * ahead_.front().pixels->pixels.size() < kBytesAhead;
-}
-
 void MoviePlayer::decodeSought(Lock& lock) {
   const double seconds = *std::exchange(sought_, std::nullopt);
   lock.unlock();
   const auto picture = source_->at(seconds);
-  auto pixels = pixelsOf(picture.get(), {});
+  auto pixels = picture ? converter_.convert(*picture->frame) : nullptr;
   lock.lock();
   // A picture that is late because a newer one is asked for is shown none the less: someone drags,
   // and wants to see where. Only play may not be disturbed.
@@ -142,28 +127,20 @@ void MoviePlayer::decodeSought(Lock& lock) {
 
 void MoviePlayer::decodeAhead(Lock& lock) {
   const std::uint64_t generation = generation_;
-  const auto before = lastAhead_;
+  const auto before = ahead_.last();
   const double start = position_;
   const PixelSize size = shownSize_;
   lock.unlock();
   auto picture = before ? source_->after(*before) : source_->at(start);
-  auto pixels = pixelsOf(picture.get(), size);
+  auto pixels = picture ? converter_.convert(*picture->frame, size.width, size.height) : nullptr;
   lock.lock();
   if (generation != generation_ || quit_) return;
   if (picture) {
-    if (pixels) ahead_.push_back({picture->time, std::move(pixels)});
-    lastAhead_ = std::move(picture);
+    ahead_.add(std::move(picture), std::move(pixels));
   } else {
-    allAhead_ = true;
-    failed_ = !before || std::isfinite(before->end);
+    ahead_.end();
   }
   toShow_.notify_all();
-}
-
-std::shared_ptr<const PictureFrame> MoviePlayer::pixelsOf(const MoviePicture* picture,
-                                                          PixelSize size) {
-  if (picture == nullptr) return nullptr;
-  return converter_.convert(*picture->frame, size.width, size.height);
 }
 
 void MoviePlayer::show() {
@@ -178,14 +155,9 @@ void MoviePlayer::show() {
   }
 }
 
-// Shows the last picture whose time has come; those before it have waited too long.
 void MoviePlayer::showDue(Lock& lock) {
   const double now = clock_.now();
-  Shot due;
-  while (!ahead_.empty() && (ahead_.front().time <= now || !(shownSinceRun_ || due.pixels))) {
-    due = std::move(ahead_.front());
-    ahead_.pop_front();
-  }
+  PicturesAhead::Due due = ahead_.take(now, !shownSinceRun_);
   if (due.pixels) {
     shown_ = std::move(due.pixels);
     if (shownSinceRun_) position_ = due.time;
@@ -196,9 +168,9 @@ void MoviePlayer::showDue(Lock& lock) {
     shownSinceRun_ = true;
     position_ = std::clamp(now, position_, std::max(position_, duration_));
     if (now >= duration_) endPlay(lock, MediaGraph::Notice::EndReached);
-  } else if (allAhead_ && ahead_.empty() && failed_) {
+  } else if (ahead_.spent() && ahead_.failed()) {
     endPlay(lock, MediaGraph::Notice::Failed);
-  } else if (allAhead_ && ahead_.empty() && now >= duration_) {
+  } else if (ahead_.spent() && now >= duration_) {
     position_ = std::max(position_, duration_);
     endPlay(lock, MediaGraph::Notice::EndReached);
   }
@@ -213,7 +185,7 @@ void MoviePlayer::endPlay(Lock& lock, MediaGraph::Notice notice) {
 }
 
 std::chrono::duration<double> MoviePlayer::untilNext(double now) const {
-  const double wait = ahead_.empty() ? kLongestNap : ahead_.front().time - now;
+  const double wait = ahead_.nextTime().value_or(now + kLongestNap) - now;
   return std::chrono::duration<double>(std::clamp(wait, kShortestNap, kLongestNap));
 }
 

@@ -3,7 +3,6 @@
 
 #include <condition_variable>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -13,12 +12,12 @@
 #include "platform/movie/FrameGrabber.h"
 #include "platform/movie/MediaGraph.h"
 #include "platform/movie/PictureConverter.h"
+#include "platform/movie/PicturesAhead.h"
 #include "platform/movie/PlayClock.h"
 
 namespace velra {
 
 class FrameSource;
-struct MoviePicture;
 
 /// Shows the pictures of an open movie: the one for the position, or in play each at its time. One
 /// thread decodes ahead, another shows; no call here waits for them. Of many positions that are
@@ -47,18 +46,12 @@ class MoviePlayer {
   std::shared_ptr<const PictureFrame> picture() const;
 
  private:
-  struct Shot {  // a picture on its way to the screen
-    double time = 0;
-    std::shared_ptr<const PictureFrame> pixels;
-  };
   using Lock = std::unique_lock<std::mutex>;
 
   void beginPlay();
   void decode();
   void decodeSought(Lock& lock);
   void decodeAhead(Lock& lock);
-  std::shared_ptr<const PictureFrame> pixelsOf(const MoviePicture* picture, PixelSize size);
-  bool hasRoomAhead() const;
   void seekStill();
   void show();
   void showDue(Lock& lock);
@@ -85,10 +78,7 @@ class MoviePlayer {
   std::optional<double> sought_ = 0;  // a picture to be shown out of play; first of all the first
   std::shared_ptr<const PictureFrame> shown_;
   std::uint64_t generation_ = 0;  // changes with every command, so that late pictures are known
-  std::deque<Shot> ahead_;
-  std::shared_ptr<const MoviePicture> lastAhead_;
-  bool allAhead_ = false;  // the last picture of the movie has been decoded
-  bool failed_ = false;
+  PicturesAhead ahead_;
 
   std::thread decoding_;  // last, so that they see everything made
   std::thread showing_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/TrackDecoder.h"
 
+#include "platform/movie/MovieFile.h"
 #include "platform/movie/MovieInput.h"
 
 namespace velra {
@@ -25,7 +26,7 @@ std::string TrackDecoder::open(const AVStream& stream) {
   avcodec_parameters_to_context(codec_.get(), stream.codecpar);
   codec_->pkt_timebase = stream.time_base;
   codec_->thread_count = 2;
-  codec_->max_pixels = MovieInput::kMostPixels;
+  codec_->max_pixels = MovieFile::kMostPixels;
   draining_ = false;
   if (avcodec_open2(codec_.get(), decoder, nullptr) < 0) return "The decoder refuses it.";
   return {};
