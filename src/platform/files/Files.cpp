@@ -94,7 +94,8 @@ FileStamp fileStamp(const std::string& path) {
   if (::stat(path.c_str(), &status) != 0) return {};
   constexpr std::int64_t kNanoseconds = 1'000'000'000;
   return {static_cast<std::uint64_t>(status.st_size),
-          status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec, status.st_ino, true};
+          status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec, status.st_dev,
+          status.st_ino, true};
 }
 
 std::vector<std::string> colListFiles(const std::string& pattern) {

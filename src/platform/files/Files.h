@@ -12,10 +12,11 @@ namespace velra {
 bool bFileExists(const std::string& path);
 bool bFolderExists(const std::string& path);
 
-/// What tells one state of a file from another.
+/// What tells one state of a file from another, and from other files.
 struct FileStamp {
   std::uint64_t size = 0;
   std::int64_t modified = 0;  // nanoseconds
+  std::uint64_t device = 0;
   std::uint64_t inode = 0;
   bool exists = false;
 

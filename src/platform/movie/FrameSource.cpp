@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/movie/FrameTime.h"
+#include "platform/movie/IndexMemory.h"
 #include "platform/movie/MovieInput.h"
 #include "platform/movie/PacketTail.h"
 #include "values/TimeCode.h"
@@ -48,9 +49,15 @@ void FrameSource::cancel() {
 }
 
 std::string FrameSource::open(const std::string& path) {
+  const FileStamp stamp = fileStamp(path);
   if (std::string reason = reader_.open(path); !reason.empty()) return reason;
-  frameTime_ = reader_.statedFrameTime();
-  if (std::string reason = indexMovie(reader_, index_); !reason.empty()) return reason;
+  if (const auto known = IndexMemory::ofProcess().find(stamp)) {
+    index_ = *known;
+    reader_.forget();
+  } else {
+    if (std::string reason = indexMovie(reader_, index_); !reason.empty()) return reason;
+    if (index_.tookLong) IndexMemory::ofProcess().add(stamp, index_);
+  }
   setFrameTime();
   reader_.input().settle();
   return {};

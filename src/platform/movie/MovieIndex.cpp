@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <utility>
 
 #include "platform/movie/MovieInput.h"
 #include "platform/movie/PictureClock.h"
@@ -48,9 +47,8 @@ class MovieIndexer {
       if (input_.stamps() == MovieStamps::OfPictures) readPictures();
       return index_.leaps && index_.lost ? kNoSureTimes : "";
     }
-    readBytes(kScanLimit);
-    if (!index_.complete && trustsStamps()) return {};
-    if (!index_.complete) readBytes(MovieInput::kOpenLimit);
+    readBytes();
+    if (index_.stampedLength >= 0) return {};
     if (!index_.complete)
       return "Its pictures carry no sure times, and they are too many to count.";
     index_.byKeys = true;
@@ -60,41 +58,48 @@ class MovieIndexer {
   }
 
  private:
-  void take(PictureIndex&& read) { static_cast<PictureIndex&>(index_) = std::move(read); }
-
-  PictureIndex read(double leap, milliseconds limit) {
-    return indexPictures(input_, frameTime_, leap, std::chrono::steady_clock::now() + limit);
-  }
-
   // Not every way leads to the start; on another the first picture is missing.
   void readPictures() {
     const double first = reader_.firstStamp();
     const auto ticks = static_cast<std::int64_t>(std::llround(first / reader_.tick()));
     const auto arrived = [&] {
-      take(read(kLeapOfPictures, kScanLimit));
+      PictureIndexer(input_, frameTime_, kLeapOfPictures, index_).read(kScanLimit);
       index_.sure = index_.sure && !(index_.offset > first + frameTime_ / 2);
       return index_.sure;
     };
     if (!std::isnan(first)) input_.toStart(ticks, arrived);
+    index_.tookLong = !index_.complete;
     if (!index_.known()) index_.leaps = false;
     if (index_.known()) index_.leap = kLeapOfPictures;
     index_.first = index_.known() ? first - index_.offset : 0;
   }
 
-  void readBytes(milliseconds limit) {
+  void readBytes() {
     if (!input_.seekByte(0)) return;
-    take(read(kLeapOfBytes, limit));
+    PictureIndexer start(input_, frameTime_, kLeapOfBytes, index_);
+    start.read(kScanLimit);
+    if (index_.complete) return;
+    index_.tookLong = true;
+    if (!mayTrustStamps()) return start.read(MovieInput::kOpenLimit);
+    if (trustsStamps() || !input_.seekByte(0)) return;
+    PictureIndexer(input_, frameTime_, kLeapOfBytes, index_).read(MovieInput::kOpenLimit);
   }
 
-  // Where keys have stamps, these lead to every picture, unless they leap farther on.
+  // Where keys have stamps, these lead to every picture, unless they leap.
+  bool mayTrustStamps() const {
+    return !std::isnan(reader_.firstStamp()) && index_.stampedKeys && !index_.leaps &&
+           index_.bytes > 0;
+  }
+
+  // They may leap farther on.
   bool trustsStamps() {
     const double first = reader_.firstStamp();
     const std::int64_t bytes = input_.bytes();
-    if (std::isnan(first) || !index_.stampedKeys || index_.leaps || index_.bytes <= 0) return false;
     const double expected =
         index_.last * static_cast<double>(bytes) / static_cast<double>(index_.bytes);
     if (!input_.seekByte(std::max<std::int64_t>(0, bytes - kTailBytes))) return false;
-    const PictureIndex tail = read(kLeapOfBytes, kScanLimit);
+    PictureIndex tail;
+    PictureIndexer(input_, frameTime_, kLeapOfBytes, tail).read(kScanLimit);
     if (!tail.complete || std::isnan(tail.offset) || tail.leaps) return false;
     const double last = tail.offset + tail.last - first;
     if (last < expected / kMostShare || last > expected * kMostShare) return false;

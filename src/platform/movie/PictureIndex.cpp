@@ -104,28 +104,43 @@ double PictureIndex::usualDistance() const {
   return used > kMost * static_cast<double>(count) ? sum / used : 0;
 }
 
-PictureIndex indexPictures(MovieInput& input, double frameTime, double leap,
-                           std::chrono::steady_clock::time_point stop) {
-  PictureIndex index;
-  const AVStream& stream = *input.stream();
-  const double tick = av_q2d(stream.time_base);
-  IndexMaker maker(frameTime, leap, tick, index);
-  PacketOrder order(stream, input.hasBareStamps(), leap / tick,
-                    [&](const OrderedPacket& packet) { maker.take(packet); });
-  const AvPacket packet(av_packet_alloc());
-  while (std::chrono::steady_clock::now() < stop) {
-    if (!input.read(*packet)) {
-      index.complete = input.atEnd();
+struct PictureIndexer::State {
+  IndexMaker maker;
+  PacketOrder order;
+  AvPacket packet{av_packet_alloc()};
+
+  State(const MovieInput& input, double frameTime, double leap, double tick, PictureIndex& index)
+      : maker(frameTime, leap, tick, index),
+        order(*input.stream(), input.hasBareStamps(), leap / tick,
+              [this](const OrderedPacket& ordered) { maker.take(ordered); }) {}
+};
+
+PictureIndexer::PictureIndexer(MovieInput& input, double frameTime, double leap,
+                               PictureIndex& index)
+    : input_(input), index_(index) {
+  index = {};
+  const double tick = av_q2d(input.stream()->time_base);
+  state_ = std::make_unique<State>(input, frameTime, leap, tick, index);
+}
+
+PictureIndexer::~PictureIndexer() = default;
+
+void PictureIndexer::read(std::chrono::milliseconds limit) {
+  const auto stop = std::chrono::steady_clock::now() + limit;
+  AVPacket& packet = *state_->packet;
+  while (!index_.complete && std::chrono::steady_clock::now() < stop) {
+    if (input_.read(packet)) {
+      index_.bytes = std::max(index_.bytes, packet.pos);
+      state_->order.take(packet);
+    } else {
+      index_.complete = input_.atEnd();
       break;
     }
-    index.bytes = std::max(index.bytes, packet->pos);
-    order.take(*packet);
   }
-  order.finish();
-  maker.finish();
-  index.sure = order.sure();
-  index.lost = order.lost();
-  return index;
+  if (index_.complete) state_->order.finish();
+  state_->maker.finish();
+  index_.sure = state_->order.sure();
+  index_.lost = state_->order.lost();
 }
 
 }  // namespace velra

@@ -49,9 +49,25 @@ struct PictureIndex {
   double usualDistance() const;
 };
 
-/// Reads packets from where the input stands to the end of the file, or until `stop`. `frameTime`
-/// in seconds; a difference of more than `leap` seconds between stamps is a leap.
-PictureIndex indexPictures(MovieInput& input, double frameTime, double leap,
-                           std::chrono::steady_clock::time_point stop);
+/// Reads packets from where the input stands and enters their pictures in an index.
+class PictureIndexer {
+ public:
+  /// `frameTime` in seconds; a difference of more than `leap` seconds between stamps is a leap.
+  /// Input and index outlive it; the index is right after each `read`.
+  PictureIndexer(MovieInput& input, double frameTime, double leap, PictureIndex& index);
+  ~PictureIndexer();
+  PictureIndexer(const PictureIndexer&) = delete;
+  PictureIndexer& operator=(const PictureIndexer&) = delete;
+
+  /// Reads on to the end of the file, or until so much time has passed.
+  void read(std::chrono::milliseconds limit);
+
+ private:
+  struct State;
+
+  MovieInput& input_;
+  PictureIndex& index_;
+  std::unique_ptr<State> state_;
+};
 
 }  // namespace velra
