@@ -3,8 +3,6 @@
 
 #include <QPainter>
 
-#include "platform/movie/MediaGraph.h"
-
 namespace velra {
 
 namespace {
@@ -24,7 +22,8 @@ VideoPictureWidget::VideoPictureWidget(QWidget* parent) : QWidget(parent) {
 void VideoPictureWidget::showMovie(MediaGraph* movie) {
   if (movie_) movie_->setNotify({});
   movie_ = movie;
-  if (movie_) movie_->setNotify([this](MediaGraph::Notice) { noticed(); });
+  failed_ = false;
+  if (movie_) movie_->setNotify([this](MediaGraph::Notice notice) { noticed(notice); });
   tellSize();
   update();
 }
@@ -39,7 +38,8 @@ void VideoPictureWidget::resizeEvent(QResizeEvent* event) {
   tellSize();
 }
 
-void VideoPictureWidget::noticed() {
+void VideoPictureWidget::noticed(MediaGraph::Notice notice) {
+  failed_ = notice == MediaGraph::Notice::Failed;
   // One repaint takes all pictures that have come until it runs.
   if (updatePending_.exchange(true)) return;
   QMetaObject::invokeMethod(
@@ -54,8 +54,11 @@ void VideoPictureWidget::noticed() {
 void VideoPictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const auto frame = movie_ ? movie_->picture() : nullptr;
-  if (!frame || frame->width <= 0 || frame->height <= 0) {
+  if (failed_ || !frame || frame->width <= 0 || frame->height <= 0) {
     painter.fillRect(rect(), Qt::black);
+    painter.setPen(Qt::white);
+    const QString failure = QStringLiteral("The movie cannot be read any more.");
+    if (failed_) painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, failure);
     return;
   }
   painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -4,11 +4,12 @@
 #include <QWidget>
 #include <atomic>
 
+#include "platform/movie/MediaGraph.h"
+
 namespace velra {
 
-class MediaGraph;
-
-/// Shows the movie's present picture, stretched over all of it; black without a movie.
+/// Shows the movie's present picture, stretched over all of it, or that it cannot be read any more;
+/// black without a movie.
 class VideoPictureWidget : public QWidget {
   Q_OBJECT
 
@@ -23,11 +24,13 @@ class VideoPictureWidget : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void noticed();
+  void noticed(MediaGraph::Notice notice);
   void tellSize();
 
   MediaGraph* movie_ = nullptr;
-  std::atomic<bool> updatePending_ = false;  // set by the movie's threads
+  // Set by the movie's threads.
+  std::atomic<bool> updatePending_ = false;
+  std::atomic<bool> failed_ = false;
 };
 
 }  // namespace velra
