@@ -55,14 +55,14 @@ void lookUp(State& state, Sample& sample) {
 
 void readInstance(State& state, Sample& sample) {
   AVDocument& document = *sample.session.document();
-  const DocumentSchemas::Hold hold(document.schemas());
+  const DocumentSchemas::Hold hold(document.shared().schemas);
   const std::string path = sample.segment->strGUID();
   for ([[maybe_unused]] auto each : state) {
     XmlDocument parsed;
     parsed.load(path);
     InstanceDocument shell;
     std::shared_ptr<const SchemaFile> schema;
-    SEColl fields(sample.session.app, document.schemas(), document.collCloseListTypes());
+    SEColl fields(sample.session.app, document.shared());
     DoNotOptimize(fields.strLoadParsed(shell, parsed, schema, sample.segment->className()));
   }
 }

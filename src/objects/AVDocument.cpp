@@ -31,7 +31,7 @@ Version& versionOf(const Storage& storage) {
 
 }  // namespace
 
-AVDocument::AVDocument(ApplicationModule& app) : LadderObject(app, "AVDocument"), schemas_(app) {}
+AVDocument::AVDocument(ApplicationModule& app) : LadderObject(app, "AVDocument"), shared_(app) {}
 
 AVDocument::~AVDocument() {
   collObjects_.clear();

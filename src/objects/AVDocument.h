@@ -8,8 +8,7 @@
 
 #include "objects/LadderObject.h"
 #include "protocol/OpenDocument.h"
-#include "schema/CloseList.h"
-#include "schema/SchemaFile.h"
+#include "schema/SharedParts.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -24,8 +23,7 @@ class AVDocument : public LadderObject, public OpenDocument {
   AVDocument& operator=(const AVDocument&) = delete;
 
   ObjectRegistry& collObjects() override { return collObjects_; }
-  CloseLists& collCloseListTypes() override { return collCloseListTypes_; }
-  DocumentSchemas& schemas() override { return schemas_; }
+  SharedParts& shared() override { return shared_; }
   std::int16_t iAlreadyLoaded(const std::string& guid) override;
   ObjectRef loadedObject(const std::string& guid) override { return collObjects_.find(guid); }
 
@@ -72,8 +70,7 @@ class AVDocument : public LadderObject, public OpenDocument {
  private:
   void noteRemoved(const ObjectRef& removed);
 
-  CloseLists collCloseListTypes_;
-  DocumentSchemas schemas_;
+  SharedParts shared_;
   std::string unlisted_;
   // A vector that grows makes the allocator sweep all that a removal has freed so far.
   std::deque<std::string> colObjRemoved_;

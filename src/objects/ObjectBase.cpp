@@ -107,7 +107,7 @@ std::string ObjectBase::loadFields(const std::string& guid) {
     return {};
   }
   auto fields =
-      std::make_unique<SEColl>(app_, document().schemas(), document().collCloseListTypes());
+      std::make_unique<SEColl>(app_, document().shared());
   std::string message = fields->strLoad(domDoc_, guid, domSchema_, *io_, rules_.className);
   if (message.empty()) secol_ = std::move(fields);
   return message;
@@ -151,7 +151,7 @@ std::string ObjectBase::strInitAsNew(const std::string& guid, const std::string&
                                      const std::shared_ptr<ObjectForm>& form,
                                      const std::shared_ptr<IOManager>& io) {
   io_ = io;
-  secol_ = std::make_unique<SEColl>(app_, document().schemas(), document().collCloseListTypes());
+  secol_ = std::make_unique<SEColl>(app_, document().shared());
   std::string message =
       secol_->strInitAsNew(domDoc_, strGUID(), domSchema_, schemaPath, prefix, rules_.className);
   if (!message.empty()) return message;

@@ -8,9 +8,8 @@
 
 namespace velra {
 
-class CloseLists;
-class DocumentSchemas;
 class ObjectRegistry;
+struct SharedParts;
 
 /// The open document, as all below its class see it, which it is the wall for: the registry of its
 /// objects and what they share.
@@ -19,8 +18,8 @@ class OpenDocument : public virtual DescribedObject {
   /// Every registered object, in order of registration, the document itself included.
   virtual ObjectRegistry& collObjects() = 0;
 
-  virtual CloseLists& collCloseListTypes() = 0;
-  virtual DocumentSchemas& schemas() = 0;
+  /// The schema, the closed lists and the shells, for the fields of the objects.
+  virtual SharedParts& shared() = 0;
 
   /// Position of the first object with an equal identifier, from 1; 0 when there is none. A
   /// position that 16 bits cannot hold raises kOverflow: look-ups of the program's own take

@@ -4,61 +4,23 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
-#include <vector>
 
+#include "schema/FieldList.h"
 #include "schema/InstanceDocument.h"
-#include "schema/SchemaElement.h"
+#include "schema/SharedParts.h"
 
 namespace velra {
 
 class ApplicationModule;
-class CloseLists;
-class DocumentSchemas;
 class ObjectFiles;
 class SchemaFile;
 class XmlDocument;
 
 /// The fields of one object, in the schema's order, and their way from and to the object's file.
-/// Positions count from 1.
-class SEColl {
+class SEColl : public FieldList {
  public:
-  /// `schemas` and `lists` are the document's; they are used while reading and making fields.
-  SEColl(ApplicationModule& app, DocumentSchemas& schemas, CloseLists& lists);
-  ~SEColl();
-  SEColl(SEColl&&) noexcept;
-  SEColl(const SEColl&) = delete;
-  SEColl& operator=(const SEColl&) = delete;
-  SEColl& operator=(SEColl&&) = delete;
-
-  SchemaElement& Add(tyType type, const std::string& strCloseList, const std::string& strName,
-                     Value vContent, const std::string& strComment, bool bIgnore, bool bReadOnly,
-                     bool bChanged, bool bValid, const std::string& sKey = {});
-
-  SchemaElement& Item(std::size_t position);
-  const SchemaElement& Item(std::size_t position) const;
-  SchemaElement& Item(const std::string& key);
-  std::size_t Count() const { return elements_.size(); }
-  void Remove(std::size_t position);
-
-  auto begin() { return elements_.begin(); }
-  auto end() { return elements_.end(); }
-  auto begin() const { return elements_.begin(); }
-  auto end() const { return elements_.end(); }
-
-  /// The first field of exactly this name, or of this lower-cased name; null when there is none.
-  SchemaElement* field(std::string_view strName);
-  const SchemaElement* field(std::string_view strName) const;
-  SchemaElement* relationField(std::string_view strLowerName);
-  const SchemaElement* relationField(std::string_view strLowerName) const;
-  /// The text of a relation field, assigned or not; "" for a field that is absent or holds no text.
-  std::string relationText(std::string_view strLowerName) const;
-  /// The set in a relation field; null when it is absent or not assigned.
-  const StringList* relationList(std::string_view strLowerName) const;
-
-  std::int16_t iNumValid() const;
-  std::int16_t iNumValidAndReadable() const;
-  bool bChanged() const;
+  /// `shared` is the document's, and used while reading and making fields.
+  SEColl(ApplicationModule& app, SharedParts& shared);
 
   /// Reads an object's file and the schema of its class. A message, or "". With no schema in the
   /// settings the object stands with no fields, and that is no failure.
@@ -89,17 +51,13 @@ class SEColl {
   std::int16_t iSearchText(const std::string& strText, bool bMatchCase) const;
 
   ApplicationModule& app() const { return app_; }
-  CloseLists& closeLists() const { return lists_; }
+  const CloseLists& closeLists() const { return shared_.collCloseListTypes; }
 
  private:
   std::string strLoadType(const SchemaFile& schema, const std::string& strType);
-  void clearChanged();
 
   ApplicationModule& app_;
-  DocumentSchemas& schemas_;
-  CloseLists& lists_;
-  std::vector<SchemaElement> elements_;
-  std::vector<std::string> keys_;  // empty while no element has a key
+  SharedParts& shared_;
 };
 
 /// How many element children a node has.

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "app/ApplicationModule.h"
-#include "platform/xml/XmlShell.h"
 #include "schema/SchemaReader.h"
 
 namespace velra {
@@ -45,12 +44,6 @@ DocumentSchemas::Hold::~Hold() {
 
 std::string DocumentSchemas::strXSDPath() const {
   return holds_ > 0 ? heldPath_ : app_.strXSDPath();
-}
-
-std::shared_ptr<const XmlShell> DocumentSchemas::shared(std::string text) {
-  auto& known = shells_[text];
-  if (!known) known = std::make_shared<const XmlShell>(std::move(text));
-  return known;
 }
 
 std::shared_ptr<const SchemaFile> DocumentSchemas::file(const std::string& path) {

@@ -4,7 +4,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/files/Files.h"
@@ -15,7 +14,6 @@ namespace velra {
 
 class ApplicationModule;
 class CloseLists;
-class XmlShell;
 
 /// The fields of one class, or the message that tells why they cannot be read.
 struct ClassDeclaration {
@@ -63,9 +61,6 @@ class DocumentSchemas {
   /// The path in the settings.
   std::string strXSDPath() const;
 
-  /// One shell for all objects that have the same.
-  std::shared_ptr<const XmlShell> shared(std::string text);
-
   /// While an object of this kind lives, settings and schema are not looked at again: an opening
   /// asks for them once and not for each object.
   class Hold {
@@ -82,7 +77,6 @@ class DocumentSchemas {
  private:
   const ApplicationModule& app_;
   std::shared_ptr<const SchemaFile> file_;
-  std::unordered_map<std::string, std::shared_ptr<const XmlShell>> shells_;
   int holds_ = 0;
   std::string heldPath_;
   bool held_ = false;  // file_ was looked at since the outermost hold began

@@ -38,7 +38,7 @@ void noteRelations(const SEColl& secol, const ClassRules& rules, ScannedFile& fi
 void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocument& parsed,
                 const ClassRules& rules, ScannedFile& file) {
   LoadedFields fields;
-  fields.secol = std::make_unique<SEColl>(app, document.schemas(), document.collCloseListTypes());
+  fields.secol = std::make_unique<SEColl>(app, document.shared());
   try {
     file.message =
         fields.secol->strLoadParsed(fields.domDoc, parsed, fields.domSchema, rules.className);

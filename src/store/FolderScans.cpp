@@ -10,7 +10,7 @@ namespace velra {
 
 FolderScans::Opening::Opening(FolderScans& scans) : scans_(scans) {
   if (scans_.app_.gAVDoc) {
-    hold_ = std::make_unique<DocumentSchemas::Hold>(scans_.app_.gAVDoc->schemas());
+    hold_ = std::make_unique<DocumentSchemas::Hold>(scans_.app_.gAVDoc->shared().schemas);
   }
   if (scans_.depth_++ > 0) return;
   ++scans_.opening_;

@@ -19,7 +19,7 @@ class FormFieldsTest : public ::testing::Test {
 };
 
 TEST_F(FormFieldsTest, EachTypeHasItsControl) {
-  object_.closeLists.Add({"Colour", {"red", "blue"}});
+  object_.shared.collCloseListTypes.Add({"Colour", {"red", "blue"}});
   struct Row {
     tyType type;
     Value stored;

@@ -19,14 +19,13 @@ struct InstanceSession : FuzzSession {
     machine.write(ApplicationModule::kMachineSection, "XSDPath",
                   VELRA_SOURCE_DIR "/data/schema/velra.xsd");
   }
-  DocumentSchemas schemas{app};
-  CloseLists lists;
+  SharedParts shared{app};
 
   /// The file that a save would make of the given one; "" when it is no object of that class.
   std::string saved(std::string_view bytes, const std::string& className) {
     XmlDocument parsed;
     if (!parsed.parse(bytes, folder / "input.xml")) return {};
-    SEColl fields(app, schemas, lists);
+    SEColl fields(app, shared);
     InstanceDocument document;
     std::shared_ptr<const SchemaFile> schema;
     if (!fields.strLoadParsed(document, parsed, schema, className).empty()) return {};

@@ -54,7 +54,7 @@ class InstanceTest : public ::testing::Test, protected test::TestApplication {
     std::string message;
   };
   Object read(const std::string& xml) {
-    Object object{SEColl(app, schemas_, lists_), {}, nullptr, {}};
+    Object object{SEColl(app, shared_), {}, nullptr, {}};
     const std::string path = folder.write("c.xml", xml);
     object.message = object.fields.strLoad(object.document, path, object.schema, files_, "C");
     return object;
@@ -72,8 +72,7 @@ class InstanceTest : public ::testing::Test, protected test::TestApplication {
     return bytes.substr(start + 3, bytes.find("</C>") - start - 3);
   }
 
-  DocumentSchemas schemas_{app};
-  CloseLists lists_;
+  SharedParts shared_{app};
   PlainFiles files_;
 };
 
@@ -148,7 +147,7 @@ TEST_F(InstanceTest, TellsWhyAnObjectCannotBeRead) {
 }
 
 TEST_F(InstanceTest, NewObjectsNeedASchema) {
-  Object object{SEColl(app, schemas_, lists_), {}, nullptr, {}};
+  Object object{SEColl(app, shared_), {}, nullptr, {}};
   const auto initialise = [&](const std::string& path, const std::string& className) {
     return object.fields.strInitAsNew(object.document, "", object.schema, path, "xsd", className);
   };

@@ -19,11 +19,11 @@ namespace velra::test {
 class FormObject : public StubObject {
  public:
   FormObject(ApplicationModule& app, std::string className, std::string titleField = {})
-      : titleField_(std::move(titleField)), schemas_(app), secol_(app, schemas_, closeLists) {
+      : shared(app), titleField_(std::move(titleField)), secol_(app, shared) {
     kind = std::move(className);
   }
 
-  CloseLists closeLists;
+  SharedParts shared;
 
   /// An assigned, unchanged field.
   SchemaElement& add(tyType type, const std::string& name, Value content,
@@ -42,7 +42,6 @@ class FormObject : public StubObject {
 
  private:
   std::string titleField_;
-  DocumentSchemas schemas_;
   mutable SEColl secol_;
 };
 

@@ -35,8 +35,7 @@ class ToolSession : public TestApplication {
     equip(main->child(2));
   }
 
-  DocumentSchemas schemas{app};
-  CloseLists closeLists;
+  SharedParts shared{app};
   RecordingMainWindow mainWindow;
   MovieScript movie;
   VideoFormServices services;
@@ -44,7 +43,7 @@ class ToolSession : public TestApplication {
 
   /// Assigned text fields: "Title", then "Field2", "Field3"...
   void giveFields(ScriptedExpression& expression, int count) {
-    expression.fields = std::make_shared<SEColl>(app, schemas, closeLists);
+    expression.fields = std::make_shared<SEColl>(app, shared);
     for (int i = 1; i <= count; ++i) {
       const std::string name = i == 1 ? "Title" : "Field" + std::to_string(i);
       expression.fields->Add(tyType::String, {}, name, expression.title, "About " + name, false,

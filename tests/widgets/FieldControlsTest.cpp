@@ -41,7 +41,7 @@ class FieldControlsTest : public FormWindowTest {
 };
 
 TEST_F(FieldControlsTest, ReadOnlyLooksDifferentByKind) {
-  object_->closeLists.Add({"Colours", {"red"}});
+  object_->shared.collCloseListTypes.Add({"Colours", {"red"}});
   object_->add(tyType::String, "T", "a\tb");
   object_->add(tyType::Bool, "B", true);
   object_->add(tyType::Date, "D", Date{});
@@ -65,7 +65,7 @@ TEST_F(FieldControlsTest, ReadOnlyLooksDifferentByKind) {
 }
 
 TEST_F(FieldControlsTest, WhatIsEnteredReachesTheFields) {
-  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->shared.collCloseListTypes.Add({"Colours", {"red", "blue"}});
   object_->add(tyType::String, "T", "old");
   object_->add(tyType::Bool, "B", false);
   object_->add(tyType::Date, "D", Date{2001, 1, 1});
@@ -116,7 +116,7 @@ TEST_F(FieldControlsTest, CharactersThatNoFileCanHoldStayOut) {
 }
 
 TEST_F(FieldControlsTest, AValueOutsideItsListIsShownAndNotOffered) {
-  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->shared.collCloseListTypes.Add({"Colours", {"red", "blue"}});
   object_->add(tyType::CloseList, "C", "green", "Colours");
   open();
   auto& list = find<QComboBox>("Combo1_1");

@@ -144,7 +144,7 @@ TEST_F(GeneratedFormTest, TheWheelStopsAtBothEnds) {
 }
 
 TEST_F(GeneratedFormTest, TheWheelOverAControlMovesTheForm) {
-  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->shared.collCloseListTypes.Add({"Colours", {"red", "blue"}});
   object_->add(tyType::CloseList, "Colour", "red", "Colours");
   object_->add(tyType::Date, "Day", Date{2001, 1, 1});
   addTexts(8);
@@ -211,7 +211,7 @@ TEST_F(GeneratedFormTest, CaptionsAndToolTips) {
 }
 
 TEST_F(GeneratedFormTest, EveryControlCanBeHeardAndFound) {
-  object_->closeLists.Add({"Colours", {"red", "blue"}});
+  object_->shared.collCloseListTypes.Add({"Colours", {"red", "blue"}});
   for (int i = 0; i < 2; ++i) {
     const std::string number = std::to_string(i);
     object_->add(tyType::String, "Text" + number, "same");

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/xml/XmlWriter.h"
@@ -37,5 +39,14 @@ std::string newShell(const std::string& rootName, const XmlAttributes& attribute
 
 /// The shell with attributes of its root set or replaced.
 std::string withRootAttributes(const std::string& shell, const XmlAttributes& attributes);
+
+/// The shells of many documents: one for all that have the same.
+class XmlShells {
+ public:
+  std::shared_ptr<const XmlShell> shared(std::string text);
+
+ private:
+  std::unordered_map<std::string, std::shared_ptr<const XmlShell>> shells_;
+};
 
 }  // namespace velra
