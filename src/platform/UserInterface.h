@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -55,6 +56,11 @@ class UserInterface {
 
   /// Shows the busy cursor until the sign is released.
   [[nodiscard]] virtual std::unique_ptr<BusySign> showBusy() = 0;
+
+  /// Does work that opens a movie, which may take seconds, on another thread, and returns when it
+  /// is done. Windows paint themselves meanwhile and take no commands. What the work raises is
+  /// raised here.
+  virtual void openMovie(const std::function<void()>& work) = 0;
 };
 
 }  // namespace velra

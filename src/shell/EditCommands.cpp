@@ -36,6 +36,12 @@ constexpr MainExpressionTexts kMainExpressions[] = {
     {"Audio", Message::MainAudioPrompt, Message::MainAudioName},
     {"Transcript", Message::MainTranscriptPrompt, Message::MainTranscriptName}};
 
+double durationOf(UserInterface& ui, const std::string& movie) {
+  double duration = 0;
+  ui.openMovie([&] { duration = dMovieDuration(movie); });
+  return duration;
+}
+
 std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
   for (const auto& [number, object] : objects.sequence()) {
     auto version = std::dynamic_pointer_cast<Version>(object);
@@ -98,7 +104,7 @@ std::string EditCommands::askMovie() {
 }
 
 bool EditCommands::movieFits(const DescribedObject& media, const std::string& movie) {
-  const double duration = dMovieDuration(movie);
+  const double duration = durationOf(app_.ui, movie);
   if (duration == 0) {
     app_.ui.messageBox(app_.LoadResString(Message::FormatNotValid));
     return false;
@@ -150,7 +156,7 @@ void EditCommands::AddMainExpr(const std::string& kind) {
     name = app_.ui.inputBox(app_.LoadResString(texts.prompt), app_.LoadResString(texts.title));
   }
   if (name.empty()) return;
-  const double duration = dMovieDuration(path);
+  const double duration = durationOf(app_.ui, path);
   version->AddMainExpression(name, kind, 0, duration);
   version->setDDuration(duration);
   trees_.ResetTree(TreeId::tvwExpression, version);

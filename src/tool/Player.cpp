@@ -48,7 +48,8 @@ bool Player::LoadMovie(const std::string& path) {
   }
   if (!bFileExists(path)) return refuse("The movie file was not found.", path);
   auto graph = parts_.makeGraph();
-  const std::string reason = graph->RenderFile(path);
+  std::string reason;
+  parts_.app.ui.openMovie([&] { reason = graph->RenderFile(path); });
   if (!reason.empty()) return refuse(reason, path);
   objMediaControl_ = std::move(graph);
   parts_.face.movieOpens(*objMediaControl_);

@@ -9,15 +9,21 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <chrono>
+#include <future>
 
 #include "widgets/BusyCursor.h"
 #include "widgets/QtText.h"
 #include "widgets/dialogs/FileFilters.h"
 #include "widgets/dialogs/MessageBoxes.h"
+#include "widgets/dialogs/WaitingBox.h"
 
 namespace velra {
 
 namespace {
+
+// Most movies open sooner, and nobody has to see that.
+constexpr std::chrono::milliseconds kUnnoticedWait{200};
 
 QMessageBox::Icon iconOf(BoxKind kind) {
   switch (kind) {
@@ -127,6 +133,15 @@ void QtUserInterface::beep() {
 
 std::unique_ptr<BusySign> QtUserInterface::showBusy() {
   return std::make_unique<BusyCursor>();
+}
+
+void QtUserInterface::openMovie(const std::function<void()>& work) {
+  const BusyCursor cursor;
+  std::future<void> done = std::async(std::launch::async, work);
+  if (done.wait_for(kUnnoticedWait) == std::future_status::timeout) {
+    WaitingBox(QStringLiteral("The movie is being read."), owner()).showUntil(done);
+  }
+  done.get();
 }
 
 }  // namespace velra

@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "scenario/Hands.h"
+#include "widgets/ModalAnswer.h"
 #include "widgets/QtText.h"
 
 namespace velra::test {
@@ -77,8 +78,8 @@ class Person {
   void lookOut() {
     auto* timer = new QTimer(&context_);
     QObject::connect(timer, &QTimer::timeout, &context_, [this, timer] {
-      QWidget* modal = QApplication::activeModalWidget();
-      if (!modal || !modal->isVisible() || modal == met_ || expected_.empty()) return;
+      QWidget* modal = modalToAnswer();
+      if (!modal || modal == met_ || expected_.empty()) return;
       timer->stop();
       timer->deleteLater();
       meet(*modal);

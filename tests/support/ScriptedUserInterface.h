@@ -63,6 +63,8 @@ class ScriptedUserInterface : public UserInterface {
     return std::make_unique<BusySign>();
   }
 
+  void openMovie(const std::function<void()>& work) override { work(); }
+
   /// What was shown since the last call.
   std::vector<std::string> takeShown() { return std::exchange(shown, {}); }
 

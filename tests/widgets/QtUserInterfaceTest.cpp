@@ -7,7 +7,10 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <future>
 
+#include "base/RunTimeError.h"
+#include "support/ErrorOf.h"
 #include "support/TemporaryFolder.h"
 #include "widgets/ModalAnswer.h"
 #include "widgets/dialogs/FileFilters.h"
@@ -113,6 +116,27 @@ TEST(QtUserInterface, FileDialogsProposeAndRemember) {
     dialog.reject();
   });
   EXPECT_EQ(ui.openFileDialog("Open", "XML Files (*.xml)|*.xml"), std::nullopt);
+}
+
+TEST(QtUserInterface, WaitsForAMovieWithWindowsThatAnswer) {
+  QtUserInterface ui;
+  std::promise<void> seen;
+  QTimer look;
+  look.callOnTimeout([&] {
+    QWidget* box = QApplication::activeModalWidget();
+    if (!box) return;
+    look.stop();
+    box->close();
+    EXPECT_TRUE(box->isVisible()) << "it stays until the work is done";
+    seen.set_value();
+  });
+  look.start(5);
+  const auto work = [&] {
+    seen.get_future().wait();
+    raise(kPathNotFound);
+  };
+  EXPECT_EQ(test::errorOf([&] { ui.openMovie(work); }), kPathNotFound);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 }  // namespace

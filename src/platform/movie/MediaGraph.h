@@ -17,14 +17,15 @@ struct PictureFrame {
 };
 
 /// A movie that plays: the operations that the expression tool needs and no others. Called on the
-/// window's thread; no call waits longer than a bounded open. Time 0 is the first picture of the
+/// window's thread, where no call waits but for `RenderFile`. Time 0 is the first picture of the
 /// movie. After `setCurrentPosition(t)` the picture is the last one that starts at or before t, and
 /// t is read back bit for bit.
 class MediaGraph {
  public:
   virtual ~MediaGraph() = default;
 
-  /// Opens the movie. "" on success, else one sentence that tells why not.
+  /// Opens the movie. "" on success, else one sentence that tells why not. May be called on another
+  /// thread while no other call is made: it reads for seconds where a file must be read whole.
   virtual std::string RenderFile(const std::string& path) = 0;
 
   virtual void Run() = 0;

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/dialogs/WaitingBox.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace velra {
+
+namespace {
+
+constexpr int kLookInterval = 15;
+
+bool isDone(const std::future<void>& work) {
+  return work.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
+}  // namespace
+
+WaitingBox::WaitingBox(const QString& text, QWidget* owner)
+    : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+  setObjectName(QStringLiteral("WaitingBox"));
+  setWindowTitle(QCoreApplication::applicationName());
+  auto* column = new QVBoxLayout(this);
+  column->setSizeConstraint(QLayout::SetFixedSize);
+  auto* label = new QLabel(text, this);
+  label->setObjectName(QStringLiteral("lblWaiting"));
+  auto* bar = new QProgressBar(this);
+  bar->setObjectName(QStringLiteral("barWaiting"));
+  bar->setAccessibleName(text);
+  bar->setRange(0, 0);  // how much is left is not known
+  column->addWidget(label);
+  column->addWidget(bar);
+}
+
+void WaitingBox::showUntil(const std::future<void>& done) {
+  QTimer look;
+  connect(&look, &QTimer::timeout, this, [&] {
+    if (isDone(done)) accept();
+  });
+  look.start(kLookInterval);
+  exec();
+}
+
+}  // namespace velra
