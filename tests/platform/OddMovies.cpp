@@ -152,6 +152,20 @@ OddMovie telecined() {
   return movie;
 }
 
+/// Too long for the first look that an opening takes.
+OddMovie longStream() {
+  OddMovie movie = odd("bare_long", "mpeg1-noise-25.mpg", 25, 0, -1, [](std::string& bytes) {
+    const std::string stream = streamIn(bytes);
+    bytes.clear();
+    for (int round = 0; round < 60; ++round) bytes += stream;
+  });
+  for (int k = 0; k < 60 * 200; k += 923) {
+    movie.numbers.push_back(k % 200);
+    movie.times.push_back(k / 25.0);
+  }
+  return movie;
+}
+
 OddMovie lacking() {
   OddMovie movie = odd("lacking", "lacking-25.mp4", 25, 0, 0);
   movie.numbers.clear();
@@ -178,6 +192,7 @@ std::vector<OddMovie> makeOddMovies() {
           odd("edited", "h264-b-23976.mp4", kFilm, 48, 119, editMovie),
           odd("coarse", "coarse-2997.mov", kVideo, 0, 149),
           odd("late", "late-2997.mkv", kVideo, 0, 149),
+          longStream(),
           telecined(),
           lacking()};
 }
