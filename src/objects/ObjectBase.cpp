@@ -106,8 +106,7 @@ std::string ObjectBase::loadFields(const std::string& guid) {
     domSchema_ = std::move(loaded->domSchema);
     return {};
   }
-  auto fields =
-      std::make_unique<SEColl>(app_, document().shared());
+  auto fields = std::make_unique<SEColl>(app_, document().shared());
   std::string message = fields->strLoad(domDoc_, guid, domSchema_, *io_, rules_.className);
   if (message.empty()) secol_ = std::move(fields);
   return message;
