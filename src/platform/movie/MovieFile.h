@@ -18,6 +18,7 @@ class MovieFile {
   static constexpr int kMostPixels = 8192 * 4320;
 
   MovieFile();
+  ~MovieFile() = default;
   MovieFile(const MovieFile&) = delete;
   MovieFile& operator=(const MovieFile&) = delete;
 
