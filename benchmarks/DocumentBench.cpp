@@ -60,7 +60,8 @@ double measureSaving(BenchSession& session) {
   const ObjectList objects = session.document()->collObjects().all();
   for (std::size_t i = 1; i <= 101; ++i) {
     DescribedObject& object = *objects[i * (objects.size() - 1) / 102];
-    if (object.className() == "MediaObject" || object.className() == "AVDocument") continue;
+    if (object.kind() == ObjectKind::MediaObject || object.kind() == ObjectKind::AVDocument)
+      continue;
     edit(object);
     times.take([&] { session.document()->bSave(); });
   }
@@ -71,7 +72,8 @@ double measureSearch(BenchSession& session) {
   long hits = 0;
   return leastWork(3, [&] {
     for (const auto& [number, object] : session.document()->collObjects().sequence()) {
-      if (object->className() != "MediaObject") hits += object->secol().iSearchText("Küste", false);
+      if (object->kind() != ObjectKind::MediaObject)
+        hits += object->secol().iSearchText("Küste", false);
     }
   });
 }
@@ -81,7 +83,7 @@ double measureTextPass(BenchSession& session) {
   std::size_t found = 0;
   return leastWork(3, [&] {
     for (const auto& [number, object] : session.document()->collObjects().sequence()) {
-      if (object->className() == "MediaObject") continue;
+      if (object->kind() == ObjectKind::MediaObject) continue;
       for (const SchemaElement& field : object->secol()) {
         if (!field.bValid()) continue;
         if (const auto* text = std::get_if<std::string>(&field.vContent())) {

@@ -28,8 +28,7 @@ ExpressionTool& MeasuredWindow::tool() {
   return form_->tool();
 }
 
-MeasuredTool::MeasuredTool(const std::string& className, double seconds)
-    : session(*this, className) {
+MeasuredTool::MeasuredTool(ObjectKind kind, double seconds) : session(*this, kind) {
   session.main->children.clear();
   session.main->SetChunk(0, seconds);
   session.movie.duration = seconds;

@@ -41,7 +41,7 @@ class MeasuredWindow : public VideoFormWindow {
 /// The tool over a scripted movie and an expression of its length, without segments.
 class MeasuredTool : public VideoFormFaces {
  public:
-  MeasuredTool(const std::string& className, double seconds);
+  MeasuredTool(ObjectKind kind, double seconds);
   std::unique_ptr<VideoFormFace> makeVideoForm(FormOwner& owner) override;
 
   test::ToolSession session;

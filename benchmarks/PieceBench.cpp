@@ -32,7 +32,7 @@ struct Sample {
   explicit Sample(RunFolder& run) : session(run.path(), makeSchema(run.path())) {
     session.open(makeDocument(run.make("pieces"), {1000, 0}));
     for (const auto& [number, object] : session.document()->collObjects().sequence()) {
-      if (object->className() == "Audio") segment = object;
+      if (object->kind() == ObjectKind::Audio) segment = object;
     }
   }
 

@@ -59,7 +59,8 @@ void strike(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoMo
 void addSegments(test::ScriptedExpression& main, Pictures& pictures) {
   for (int i = 0; i < kPictures; ++i) {
     // Linked by hand: a look for the neighbours of each is more than the tool itself does.
-    const auto segment = test::ScriptedExpression::make("Video", i * kLength, (i + 1) * kLength);
+    const auto segment =
+        test::ScriptedExpression::make(ObjectKind::Video, i * kLength, (i + 1) * kLength);
     segment->title = "Segment " + std::to_string(i);
     segment->keyFrame.path = pictures.next();
     if (i > 0) main.children.back()->setObjFollowedBy(segment);
@@ -120,7 +121,7 @@ void measureCutting(MeasuredWindow& window, test::ToolSession& session,
 }  // namespace
 
 std::vector<Measure> measureStrip(const std::string& folder) {
-  MeasuredTool bench("Video", (kPictures + 100) * kLength);
+  MeasuredTool bench(ObjectKind::Video, (kPictures + 100) * kLength);
   Pictures pictures(folder);
   addSegments(*bench.session.main, pictures);
   std::vector<Measure> measures;

@@ -65,7 +65,7 @@ void measureTicks(MeasuredWindow& window, test::MovieScript& movie,
 }  // namespace
 
 std::vector<Measure> measureTool(const std::string&) {
-  MeasuredTool bench("Audio", kMovieSeconds);
+  MeasuredTool bench(ObjectKind::Audio, kMovieSeconds);
   const double length = kMovieSeconds / kSegments;
   for (int i = 0; i < kSegments; ++i) {
     bench.session.main->AddSubExpression("Segment " + std::to_string(i), i * length,

@@ -3,7 +3,7 @@
 
 namespace velra {
 
-Audio::Audio(ApplicationModule& app) : ExpressionBase(app, "Audio") {}
+Audio::Audio(ApplicationModule& app) : ExpressionBase(app, ObjectKind::Audio) {}
 
 Audio::~Audio() = default;
 

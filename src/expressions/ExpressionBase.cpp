@@ -27,8 +27,7 @@ std::string guidIn(const SchemaElement& field) {
 
 }  // namespace
 
-ExpressionBase::ExpressionBase(ApplicationModule& app, std::string_view className)
-    : ObjectBase(app, className) {}
+ExpressionBase::ExpressionBase(ApplicationModule& app, ObjectKind kind) : ObjectBase(app, kind) {}
 
 ExpressionBase::~ExpressionBase() = default;
 
@@ -83,14 +82,13 @@ std::string ExpressionBase::strFollowedBy() const {
   return typedText(rules().followedByField, Message::HasTranscriptMustBeString);
 }
 
-bool ExpressionBase::bCheckIfOwnRelative(const std::string& ofClass,
-                                         const std::string& guid) const {
-  return ofClass == "Version" && io()->bGUIDComp(secol().relationText(kVersionGuidField), guid);
+bool ExpressionBase::bCheckIfOwnRelative(ObjectKind ofKind, const std::string& guid) const {
+  return ofKind == ObjectKind::Version &&
+         io()->bGUIDComp(secol().relationText(kVersionGuidField), guid);
 }
 
-bool ExpressionBase::bCheckIfSubExpression(const std::string& ofClass,
-                                           const std::string& guid) const {
-  return ofClass == className() && io()->bGUIDComp(secol().relationText(rules().partOfField), guid);
+bool ExpressionBase::bCheckIfSubExpression(ObjectKind ofKind, const std::string& guid) const {
+  return ofKind == kind() && io()->bGUIDComp(secol().relationText(rules().partOfField), guid);
 }
 
 std::shared_ptr<Chunk> ExpressionBase::ckGetChunk() const {

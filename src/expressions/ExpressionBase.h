@@ -32,8 +32,8 @@ class ExpressionBase : public ObjectBase, public Expression {
   void setStrVersionGUID(const std::string& guid) override;
   std::string strGetPartOf() const override;
   std::string strFollowedBy() const override;
-  bool bCheckIfSubExpression(const std::string& ofClass, const std::string& guid) const override;
-  bool bCheckIfOwnRelative(const std::string& ofClass, const std::string& guid) const override;
+  bool bCheckIfSubExpression(ObjectKind ofKind, const std::string& guid) const override;
+  bool bCheckIfOwnRelative(ObjectKind ofKind, const std::string& guid) const override;
 
   std::shared_ptr<Chunk> ckGetChunk() const override;
   void SetChunk(double dStart, double dend) override;
@@ -61,7 +61,7 @@ class ExpressionBase : public ObjectBase, public Expression {
   std::string strRemoveAllChilds() override;
 
  protected:
-  ExpressionBase(ApplicationModule& app, std::string_view className);
+  ExpressionBase(ApplicationModule& app, ObjectKind kind);
   ~ExpressionBase() override;
   ExpressionBase(const ExpressionBase&) = delete;
   ExpressionBase& operator=(const ExpressionBase&) = delete;

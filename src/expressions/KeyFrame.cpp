@@ -101,7 +101,7 @@ std::string KeyFrame::moveIntoFolder(const std::string& temporary, Chunk& chunk)
   std::string reason = io.strMakeDataFolder(document);
   while (reason.empty()) {
     const std::string taken = chunk.strFile;
-    chunk.strFile = io.strCreateGUID(app_.gAVDoc->collObjects(), objKeyframeObject_->className(),
+    chunk.strFile = io.strCreateGUID(app_.gAVDoc->collObjects(), ObjectKind::MediaObject,
                                      objKeyframeObject_->strTypeOfObject(), document);
     try {
       UpdateLocationKeyFrameObject(temporary, chunk.strFile);

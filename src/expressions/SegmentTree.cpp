@@ -42,12 +42,11 @@ void ExpressionBase::LinkFollowers() {
 std::shared_ptr<ExpressionBase> ExpressionBase::makeSegment(const std::string& title) {
   if (!canNameChild()) return nullptr;
   auto segment =
-      std::dynamic_pointer_cast<ExpressionBase>(app().objectFactory->createExpression(className()));
+      std::dynamic_pointer_cast<ExpressionBase>(app().objectFactory->createExpression(kind()));
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *segment, document().strGUID());
-  const std::string message =
-      segment->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
-                            app().objectFactory->createForm(className()), io());
+  const std::string message = segment->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
+                                                    app().objectFactory->createForm(kind()), io());
   if (message.empty()) return segment;
   app().ui.messageBox(message);
   return nullptr;
@@ -145,9 +144,9 @@ void ExpressionBase::ClearPartOf(const std::string& guid) {
 }
 
 void ExpressionBase::RemoveReferenceObj(DescribedObject& removed) {
-  if (removed.className() == className()) {
+  if (removed.kind() == kind()) {
     forgetExpression(removed);
-  } else if (removed.className() == "Version") {
+  } else if (removed.kind() == ObjectKind::Version) {
     if (io()->bGUIDComp(strVersionGUID(), removed.strGUID())) setStrVersionGUID("");
   }
 }

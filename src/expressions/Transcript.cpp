@@ -12,7 +12,7 @@ constexpr std::string_view kWordListField = "transcriptwordlist";
 
 }  // namespace
 
-Transcript::Transcript(ApplicationModule& app) : ExpressionBase(app, "Transcript") {}
+Transcript::Transcript(ApplicationModule& app) : ExpressionBase(app, ObjectKind::Transcript) {}
 
 Transcript::~Transcript() = default;
 

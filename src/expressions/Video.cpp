@@ -24,7 +24,8 @@ Video& asVideo(ExpressionBase& segment) {
 
 }  // namespace
 
-Video::Video(ApplicationModule& app) : ExpressionBase(app, "Video"), keyFrame_(app, *this) {}
+Video::Video(ApplicationModule& app)
+    : ExpressionBase(app, ObjectKind::Video), keyFrame_(app, *this) {}
 
 Video::~Video() {
   const auto& picture = keyFrame_.objKeyframeObject();
@@ -96,8 +97,9 @@ void Video::OpenAudio() {
   }
   objAudio_.reset();
   const auto audio =
-      std::dynamic_pointer_cast<Audio>(app().objectFactory->createExpression("Audio"));
-  const std::string message = audio->strOpen(guid, app().objectFactory->createForm("Audio"), io());
+      std::dynamic_pointer_cast<Audio>(app().objectFactory->createExpression(ObjectKind::Audio));
+  const std::string message =
+      audio->strOpen(guid, app().objectFactory->createForm(ObjectKind::Audio), io());
   if (message.empty()) {
     objAudio_ = audio;
   } else {

@@ -52,7 +52,7 @@ int LoadedForm::framePasses() const {
 }
 
 void LoadedForm::OKButt_Click() {
-  const std::string_view title = titleFieldOf(object_->className());
+  const std::string& title = rulesOf(object_->kind()).titleField;
   commitForm(fields_, object_->secol(), crossLanguage_.get(), title, [this] {
     if (app_.gMainForm) app_.gMainForm->UpdateNodeTitle(*object_);
   });

@@ -6,17 +6,17 @@ namespace velra {
 namespace {
 
 constexpr MetadataKind kKinds[] = {
-    {"StorageForm", "Storage", FrameHeightRule::ValidElements, false},
-    {"MediaForm", "Media", FrameHeightRule::ValidAndReadableElements, false},
-    {"VersionForm", "Version", FrameHeightRule::ValidAndReadableElements, false},
-    {"frmAVDocForm", "AVDocument", FrameHeightRule::ValidAndReadableElements, true},
+    {"StorageForm", ObjectKind::Storage, FrameHeightRule::ValidElements, false},
+    {"MediaForm", ObjectKind::Media, FrameHeightRule::ValidAndReadableElements, false},
+    {"VersionForm", ObjectKind::Version, FrameHeightRule::ValidAndReadableElements, false},
+    {"frmAVDocForm", ObjectKind::AVDocument, FrameHeightRule::ValidAndReadableElements, true},
 };
 
 }  // namespace
 
-const MetadataKind* metadataKindOf(std::string_view className) {
+const MetadataKind* metadataKindOf(ObjectKind edited) {
   for (const MetadataKind& kind : kKinds) {
-    if (kind.className == className) return &kind;
+    if (kind.edited == edited) return &kind;
   }
   return nullptr;
 }

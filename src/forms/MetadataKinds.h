@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
 #include <string_view>
+
+#include "protocol/ObjectKind.h"
 
 namespace velra {
 
@@ -15,13 +16,13 @@ enum class FrameHeightRule {
 /// What tells the generated forms apart.
 struct MetadataKind {
   std::string_view formName;
-  std::string_view className;  ///< the class that it edits
+  ObjectKind edited;
   FrameHeightRule frameHeight;
   bool crossLanguage;  ///< it may show three fields by the vocabulary
 };
 
-/// The metadata form of a class: `StorageForm`, `MediaForm`, `VersionForm` or `frmAVDocForm`; null
-/// for any other class.
-const MetadataKind* metadataKindOf(std::string_view className);
+/// The metadata form of a kind of object: `StorageForm`, `MediaForm`, `VersionForm` or
+/// `frmAVDocForm`; null for any other.
+const MetadataKind* metadataKindOf(ObjectKind edited);
 
 }  // namespace velra

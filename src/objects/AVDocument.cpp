@@ -31,7 +31,8 @@ Version& versionOf(const Storage& storage) {
 
 }  // namespace
 
-AVDocument::AVDocument(ApplicationModule& app) : LadderObject(app, "AVDocument"), shared_(app) {}
+AVDocument::AVDocument(ApplicationModule& app)
+    : LadderObject(app, ObjectKind::AVDocument), shared_(app) {}
 
 AVDocument::~AVDocument() {
   collObjects_.clear();
@@ -123,7 +124,7 @@ void AVDocument::RemoveObjects(const ObjectList& removed) {
 void AVDocument::noteRemoved(const ObjectRef& removed) {
   const std::string guid = removed->strGUID();
   collObjects_.Remove(*removed);
-  if (removed->className() == "Video") {
+  if (removed->kind() == ObjectKind::Video) {
     app().gMainForm->RemoveIcon(guid);
     const auto& video = dynamic_cast<const Expression&>(*removed);
     const ObjectRef picture = video.objKeyframeObject();

@@ -25,8 +25,8 @@ void relocateKeyFrame(Expression& video, ObjectRegistry& objects, IOManager& io,
   const auto picture = std::dynamic_pointer_cast<MediaObject>(video.objKeyframeObject());
   if (!picture || picture->strGUID().empty()) return;
   const std::string oldGUID = picture->strGUID();
-  const std::string newGUID =
-      io.strCreateGUID(objects, picture->className(), picture->strTypeOfObject(), strAVDocPathName);
+  const std::string newGUID = io.strCreateGUID(objects, ObjectKind::MediaObject,
+                                               picture->strTypeOfObject(), strAVDocPathName);
   before.named(newGUID);
   picture->setStrGUID(newGUID);
   video.UpdateLocationKeyFrameObject(oldGUID, newGUID);
@@ -52,7 +52,7 @@ void DocumentSave::renumber(DescribedObject& object) {
   io_.withdraw(oldGUID);
   object.setStrGUID(newGUID);
   for (const ObjectRef& holder : holders) holder->RenameAllRelativesGUID(oldGUID, newGUID);
-  if (object.className() != "Video") return;
+  if (object.kind() != ObjectKind::Video) return;
   app_.gMainForm->RemoveIcon(oldGUID);
   app_.gMainForm->AddSmallKeyFrame(dynamic_cast<const Expression&>(object));
 }
@@ -146,7 +146,7 @@ bool DocumentSave::bSaveAllObjectsAs(SavePoint& before, const std::string& strAV
   ReferenceIndex& references = objects_.references();
   ReferenceIndex::Batch batch(references);
   for (const ObjectRef& object : objects_.all()) {
-    if (object.get() == &document_ || object->className() == "MediaObject") continue;
+    if (object.get() == &document_ || object->kind() == ObjectKind::MediaObject) continue;
     const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);
     before.named(newGUID);
     const std::string oldGUID = object->strGUID();

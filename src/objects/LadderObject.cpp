@@ -17,8 +17,7 @@
 
 namespace velra {
 
-LadderObject::LadderObject(ApplicationModule& app, std::string_view className)
-    : ObjectBase(app, className) {}
+LadderObject::LadderObject(ApplicationModule& app, ObjectKind kind) : ObjectBase(app, kind) {}
 
 LadderObject::~LadderObject() = default;
 
@@ -45,14 +44,13 @@ void LadderObject::OpenChilds() {
 
 ObjectRef LadderObject::childOf(const std::string& guid) {
   if (ObjectRef loaded = document().loadedObject(guid)) {
-    if (loaded->className() == rules().childClass) return loaded;
-    app().ui.messageBox(rules().childClass + ": " +
+    if (loaded->kind() == childKind()) return loaded;
+    app().ui.messageBox(classNameOf(childKind()) + ": " +
                         app().LoadResString(Message::ClassNameMismatch));
     return nullptr;
   }
-  ObjectRef child = app().objectFactory->createObject(rules().childClass);
-  const std::string message =
-      openChild(child, guid, app().objectFactory->createForm(rules().childClass));
+  ObjectRef child = app().objectFactory->createObject(childKind());
+  const std::string message = openChild(child, guid, app().objectFactory->createForm(childKind()));
   if (message.empty()) return child;
   app().ui.messageBox(message, BoxKind::Exclamation);
   return nullptr;
@@ -70,12 +68,12 @@ void LadderObject::attach(const ObjectRef& child) {
 
 void LadderObject::AddChild(const std::string& title) {
   if (!canNameChild()) return;
-  const ObjectRef child = app().objectFactory->createObject(rules().childClass);
+  const ObjectRef child = app().objectFactory->createObject(childKind());
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *child, document().strGUID());
   const std::string message =
       child->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
-                          app().objectFactory->createForm(rules().childClass), io());
+                          app().objectFactory->createForm(childKind()), io());
   if (!message.empty()) {
     app().ui.messageBox(message);
     return;
@@ -111,8 +109,8 @@ void LadderObject::visitReferences(ReferenceVisitor& visitor) const {
   for (const ObjectRef& child : colChilds_) visitor.object(*child);
 }
 
-bool LadderObject::bCheckIfOwnRelative(const std::string& ofClass, const std::string& guid) const {
-  if (ofClass != rules().childClass) return false;
+bool LadderObject::bCheckIfOwnRelative(ObjectKind ofKind, const std::string& guid) const {
+  if (ofKind != rules().childKind) return false;
   const StringList* list = secol().relationList(rules().relationField);
   return list && std::any_of(list->begin(), list->end(), [&](const std::string& member) {
            return io()->bGUIDComp(member, guid);

@@ -26,10 +26,10 @@ class LadderObject : public ObjectBase {
   void RemoveReferenceObj(DescribedObject& removed) override;
   ObjectList colSelSubTree() override;
   std::string strRemoveAllChilds() override;
-  bool bCheckIfOwnRelative(const std::string& ofClass, const std::string& guid) const override;
+  bool bCheckIfOwnRelative(ObjectKind ofKind, const std::string& guid) const override;
 
  protected:
-  LadderObject(ApplicationModule& app, std::string_view className);
+  LadderObject(ApplicationModule& app, ObjectKind kind);
   ~LadderObject() override;
   LadderObject(const LadderObject&) = delete;
   LadderObject& operator=(const LadderObject&) = delete;
@@ -53,6 +53,7 @@ class LadderObject : public ObjectBase {
   const StringList* relation() const;
   /// The relation field if it holds the identifier, and where.
   SchemaElement* fieldHolding(const std::string& guid, std::size_t& offset);
+  ObjectKind childKind() const { return rules().childKind.value(); }
   ObjectRef childOf(const std::string& guid);
 
   ObjectList colChilds_;

@@ -7,7 +7,7 @@
 
 namespace velra {
 
-Media::Media(ApplicationModule& app) : LadderObject(app, "Media") {}
+Media::Media(ApplicationModule& app) : LadderObject(app, ObjectKind::Media) {}
 
 Media::~Media() = default;
 

@@ -29,11 +29,6 @@ std::shared_ptr<MediaObject> MediaObject::create(ApplicationModule& app) {
 
 MediaObject::~MediaObject() = default;
 
-const std::string& MediaObject::className() const {
-  static const std::string kName = "MediaObject";
-  return kName;
-}
-
 SEColl& MediaObject::secol() const {
   raise(kNoObject);
 }
@@ -46,7 +41,7 @@ const ObjectList& MediaObject::colChilds() const {
 void MediaObject::strInit(const ObjectRef& objOwner) {
   io_ = objOwner->io();
   objOwner_ = objOwner;
-  ownedByVideo_ = objOwner->className() == "Video";
+  ownedByVideo_ = objOwner->kind() == ObjectKind::Video;
   const std::string guid = strGUID();
   if (io_->bFileSystem() && !guid.empty()) strTypeOfObject_ = strExtension(guid);
   if (listener_) listener_->identifierChanged(*this);

@@ -42,7 +42,7 @@ class MediaObject : public virtual DescribedObject {
   /// True while a new file exists which no saved object points at.
   void setBChanged(bool changed);
 
-  const std::string& className() const override;
+  ObjectKind kind() const override { return ObjectKind::MediaObject; }
   std::shared_ptr<IOManager> io() const override { return io_; }
   SEColl& secol() const override;
   std::string strGUID() const override;
@@ -77,7 +77,7 @@ class MediaObject : public virtual DescribedObject {
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
   ObjectList colSelSubTree() override { return {shared_from_this()}; }
   std::string strRemoveAllChilds() override { return {}; }
-  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  bool bCheckIfOwnRelative(ObjectKind, const std::string&) const override { return false; }
   const ObjectList& colChilds() const override;
 
  private:

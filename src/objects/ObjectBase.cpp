@@ -19,12 +19,6 @@ namespace velra {
 
 namespace {
 
-const ClassRules& rulesOf(std::string_view className) {
-  const ClassRules* rules = findClassRules(className);
-  if (!rules) raise(kTypeMismatch, std::string(className));
-  return *rules;
-}
-
 // The text of the first assigned field of the name; "" when there is none.
 std::string assignedText(const SEColl& fields, const std::string& name) {
   for (const SchemaElement& element : fields) {
@@ -35,8 +29,8 @@ std::string assignedText(const SEColl& fields, const std::string& name) {
 
 }  // namespace
 
-ObjectBase::ObjectBase(ApplicationModule& app, std::string_view className)
-    : app_(app), rules_(rulesOf(className)) {}
+ObjectBase::ObjectBase(ApplicationModule& app, ObjectKind kind)
+    : app_(app), rules_(rulesOf(kind)) {}
 
 ObjectBase::~ObjectBase() = default;
 
@@ -100,7 +94,7 @@ void ObjectBase::EditAttributesForm(FormOwner& owner) {
 }
 
 std::string ObjectBase::loadFields(const std::string& guid) {
-  if (auto loaded = io_->scans().takeFields(guid, rules_.className)) {
+  if (auto loaded = io_->scans().takeFields(guid, rules_.kind)) {
     secol_ = std::move(loaded->secol);
     domDoc_ = std::move(loaded->domDoc);
     domSchema_ = std::move(loaded->domSchema);

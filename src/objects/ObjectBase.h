@@ -25,7 +25,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   ObjectBase(const ObjectBase&) = delete;
   ObjectBase& operator=(const ObjectBase&) = delete;
 
-  const std::string& className() const override { return rules_.className; }
+  ObjectKind kind() const override { return rules_.kind; }
   std::shared_ptr<IOManager> io() const override { return io_; }
   SEColl& secol() const override;
 
@@ -60,11 +60,11 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   void RemoveReferenceObj(DescribedObject&) override {}
   ObjectList colSelSubTree() override;
   std::string strRemoveAllChilds() override;
-  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  bool bCheckIfOwnRelative(ObjectKind, const std::string&) const override { return false; }
   const ObjectList& colChilds() const override;
 
  protected:
-  ObjectBase(ApplicationModule& app, std::string_view className);
+  ObjectBase(ApplicationModule& app, ObjectKind kind);
 
   /// Where a text field is set: what happens when the value is there already differs by class.
   virtual void setTextField(const std::string& name, const std::string& text);

@@ -38,7 +38,7 @@ SavePoint::SavePoint(const ObjectList& objects) : objects_(objects) {
 }
 
 void SavePoint::keepFields(const DescribedObject& object) {
-  const ClassRules& rules = *findClassRules(object.className());
+  const ClassRules& rules = rulesOf(object.kind());
   for (SchemaElement& field : object.secol()) {
     const bool names = holdsNames(field, rules);
     if (!names && !field.bChanged()) continue;

@@ -9,7 +9,7 @@
 
 namespace velra {
 
-Storage::Storage(ApplicationModule& app) : ObjectBase(app, "Storage") {}
+Storage::Storage(ApplicationModule& app) : ObjectBase(app, ObjectKind::Storage) {}
 
 Storage::~Storage() {
   if (objMediaObject_) objMediaObject_->ownerGoes(strGetCollocation());

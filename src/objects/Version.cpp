@@ -22,7 +22,7 @@ constexpr std::string_view kDurationField = "Duration";
 
 }  // namespace
 
-Version::Version(ApplicationModule& app) : LadderObject(app, "Version") {}
+Version::Version(ApplicationModule& app) : LadderObject(app, ObjectKind::Version) {}
 
 Version::~Version() = default;
 
@@ -57,34 +57,34 @@ void Version::openBelow() {
   OpenExpressions();
 }
 
-ExpressionRef* Version::mainExpression(const std::string& ofClass) {
-  if (ofClass == "Video") return &vdMainVideo_;
-  if (ofClass == "Audio") return &auMainAudio_;
-  if (ofClass == "Transcript") return &trMainTranscript_;
+ExpressionRef* Version::mainExpression(ObjectKind ofKind) {
+  if (ofKind == ObjectKind::Video) return &vdMainVideo_;
+  if (ofKind == ObjectKind::Audio) return &auMainAudio_;
+  if (ofKind == ObjectKind::Transcript) return &trMainTranscript_;
   return nullptr;
 }
 
 void Version::OpenExpressions() {
   for (const ExpressionRef& found : io()->colScanForExpressions(shared_from_this())) {
     if (!found) continue;
-    if (ExpressionRef* place = mainExpression(found->className())) *place = found;
+    if (ExpressionRef* place = mainExpression(found->kind())) *place = found;
   }
   tellReferences();
 }
 
-void Version::AddMainExpression(const std::string& title, const std::string& ofClass, double dStart,
+void Version::AddMainExpression(const std::string& title, ObjectKind ofKind, double dStart,
                                 double dEnd) {
-  ExpressionRef* place = mainExpression(ofClass);
-  if (!place) raise(kInvalidArgument, ofClass);
+  ExpressionRef* place = mainExpression(ofKind);
+  if (!place) raise(kInvalidArgument, classNameOf(ofKind));
   if (!canNameChild()) return;
-  *place = app().objectFactory->createExpression(ofClass);
+  *place = app().objectFactory->createExpression(ofKind);
   const ExpressionRef expression = *place;
   tellReferences();
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *expression, document().strGUID());
   const std::string message =
       expression->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
-                               app().objectFactory->createForm(ofClass), io());
+                               app().objectFactory->createForm(ofKind), io());
   if (!message.empty()) {
     app().ui.messageBox(message);
     return;

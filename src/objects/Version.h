@@ -38,10 +38,9 @@ class Version : public LadderObject {
   /// Finds the main expressions in the data folder and opens them.
   void OpenExpressions();
 
-  /// Makes a main expression of a class with a title and a span in seconds. One of the class that
-  /// was there is replaced. A failure is shown.
-  void AddMainExpression(const std::string& title, const std::string& ofClass, double dStart,
-                         double dEnd);
+  /// Makes a main expression of a kind with a title and a span in seconds. One of the kind that was
+  /// there is replaced. A failure is shown.
+  void AddMainExpression(const std::string& title, ObjectKind ofKind, double dStart, double dEnd);
 
   /// The movie to play: that of the selected Storage, else of the first that names one; "" without.
   std::string strGetMediaObjectPath() const;
@@ -55,8 +54,8 @@ class Version : public LadderObject {
   void appendSubTrees(ObjectList& subTree) override;
 
  private:
-  /// The field for a main expression of a class; null for any other class.
-  ExpressionRef* mainExpression(const std::string& ofClass);
+  /// The field for a main expression of a kind; null for what is no expression.
+  ExpressionRef* mainExpression(ObjectKind ofKind);
 
   std::weak_ptr<AVDocument> objParent_;
   ExpressionRef vdMainVideo_;

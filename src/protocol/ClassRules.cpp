@@ -8,58 +8,64 @@ namespace velra {
 
 namespace {
 
-const std::array<ClassRules, 7>& table() {
-  static const std::array<ClassRules, 7> kTable{{
-      {"AVDocument", "AVDocGUID", "Title", "expressedby", "Version", "", "", {}},
-      {"Version", "VersionGUID", "VersionTitle", "manifestedby", "Media", "", "", {}},
-      {"Media", "MediaGUID", "Format", "availableas", "Storage", "", "", {}},
-      {"Storage", "StorageGUID", "Collocation", "", "", "", "", {}},
-      {"Video",
+using enum ObjectKind;
+
+// In the order of ObjectKind.
+const std::array<ClassRules, 8>& table() {
+  static const std::array<ClassRules, 8> kTable{{
+      {AVDocument, "AVDocument", "AVDocGUID", "Title", "expressedby", Version, "", "", {}},
+      {Version, "Version", "VersionGUID", "VersionTitle", "manifestedby", Media, "", "", {}},
+      {Media, "Media", "MediaGUID", "Format", "availableas", Storage, "", "", {}},
+      {Storage, "Storage", "StorageGUID", "Collocation", "", {}, "", "", {}},
+      {Video,
+       "Video",
        "VideoGUID",
        "Title",
        "",
-       "",
+       {},
        "partofvideo",
        "followedbyvideo",
        {"hasvideotranscript", "hasaudio", "versionguid", "followedbyvideo", "partofvideo"}},
       // The link of an Audio to its transcript does not follow.
-      {"Audio",
+      {Audio,
+       "Audio",
        "AudioGUID",
        "Title",
        "",
-       "",
+       {},
        "partofaudio",
        "followedbyaudio",
        {"versionguid", "followedbyaudio", "partofaudio"}},
-      {"Transcript",
+      {Transcript,
+       "Transcript",
        "TranscriptGUID",
        "Title",
        "",
-       "",
+       {},
        "partoftranscript",
        "followedbytranscript",
        {"versionguid", "followedbytranscript", "partoftranscript"}},
+      {MediaObject, "MediaObject", "", "", "", {}, "", "", {}},
   }};
   return kTable;
 }
 
 }  // namespace
 
-const ClassRules* findClassRules(std::string_view className) {
+const ClassRules& rulesOf(ObjectKind kind) {
+  return table().at(static_cast<std::size_t>(kind));
+}
+
+const std::string& classNameOf(ObjectKind kind) {
+  return rulesOf(kind).className;
+}
+
+std::optional<ObjectKind> kindOfRoot(std::string_view className) {
   const auto at = std::find_if(table().begin(), table().end(), [&](const ClassRules& rules) {
     return rules.className == className;
   });
-  return at == table().end() ? nullptr : &*at;
-}
-
-std::string_view titleFieldOf(std::string_view className) {
-  const ClassRules* rules = findClassRules(className);
-  return rules ? std::string_view(rules->titleField) : std::string_view();
-}
-
-bool isExpressionClass(std::string_view className) {
-  const ClassRules* rules = findClassRules(className);
-  return rules && !rules->partOfField.empty();
+  if (at == table().end() || at->kind == MediaObject) return std::nullopt;
+  return at->kind;
 }
 
 }  // namespace velra

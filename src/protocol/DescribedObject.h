@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "protocol/ObjectKind.h"
+
 namespace velra {
 
 class FormOwner;
@@ -41,7 +43,7 @@ class ReferenceVisitor {
   virtual void object(const DescribedObject& object) = 0;
 };
 
-/// What all described objects share. Classes are told apart by `className`. A `MediaObject` takes
+/// What all described objects share. Classes are told apart by `kind`. A `MediaObject` takes
 /// part for a file that is no object file; members that it does not have answer with nothing.
 class DescribedObject : public std::enable_shared_from_this<DescribedObject> {
  public:
@@ -50,7 +52,8 @@ class DescribedObject : public std::enable_shared_from_this<DescribedObject> {
   DescribedObject& operator=(const DescribedObject&) = delete;
   virtual ~DescribedObject() = default;
 
-  virtual const std::string& className() const = 0;
+  virtual ObjectKind kind() const = 0;
+  const std::string& className() const { return classNameOf(kind()); }
 
   virtual std::shared_ptr<IOManager> io() const = 0;
 
@@ -107,8 +110,8 @@ class DescribedObject : public std::enable_shared_from_this<DescribedObject> {
   /// Removes what is below this object. A message, or "".
   virtual std::string strRemoveAllChilds() = 0;
 
-  /// Does this object point at the given object of the given class?
-  virtual bool bCheckIfOwnRelative(const std::string& ofClass, const std::string& guid) const = 0;
+  /// Does this object point at the given object of the given kind?
+  virtual bool bCheckIfOwnRelative(ObjectKind ofKind, const std::string& guid) const = 0;
 
   /// The objects below it in the left tree, in order.
   virtual const ObjectList& colChilds() const = 0;

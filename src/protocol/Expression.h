@@ -43,7 +43,7 @@ class Expression : public virtual DescribedObject {
   virtual void setStrVersionGUID(const std::string& guid) = 0;
   virtual std::string strGetPartOf() const = 0;
   virtual std::string strFollowedBy() const = 0;
-  virtual bool bCheckIfSubExpression(const std::string& ofClass, const std::string& guid) const = 0;
+  virtual bool bCheckIfSubExpression(ObjectKind ofKind, const std::string& guid) const = 0;
 
   /// The span; null when it is not assigned. A change of the chunk itself marks nothing.
   virtual std::shared_ptr<Chunk> ckGetChunk() const = 0;

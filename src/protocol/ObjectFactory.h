@@ -12,18 +12,18 @@ namespace velra {
 
 class SEColl;
 
-/// Makes objects and forms of a class by its name, so that the store and the ladder need not know
+/// Makes objects and forms of a kind, so that the store and the ladder need not know
 /// the classes above them.
 class ObjectFactory {
  public:
   virtual ~ObjectFactory() = default;
 
-  /// A new, empty object; null for an unknown class.
-  virtual ObjectRef createObject(const std::string& className) = 0;
-  /// The same for Video, Audio and Transcript; null for any other class.
-  virtual ExpressionRef createExpression(const std::string& className) = 0;
-  /// A new form of the class's kind; null for an unknown class.
-  virtual std::shared_ptr<ObjectForm> createForm(const std::string& className) = 0;
+  /// A new, empty object; null for a MediaObject, which is made for its owner.
+  virtual ObjectRef createObject(ObjectKind kind) = 0;
+  /// The same for Video, Audio and Transcript; null for any other kind.
+  virtual ExpressionRef createExpression(ObjectKind kind) = 0;
+  /// A new form for such an object; null for a MediaObject, which has none.
+  virtual std::shared_ptr<ObjectForm> createForm(ObjectKind kind) = 0;
 
   /// The one shared dialog of assigned fields, shown over the owner.
   virtual void showSchemaDialog(FormOwner& owner, SEColl& secol) = 0;

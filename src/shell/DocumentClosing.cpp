@@ -37,7 +37,7 @@ void DocumentClosing::releaseDocument() {
 // Pictures that no saved object points at go with the document.
 void DocumentClosing::MarkUnsavedMediaObjects() {
   for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
-    if (object->className() != "MediaObject" || !object->bChanged()) continue;
+    if (object->kind() != ObjectKind::MediaObject || !object->bChanged()) continue;
     app_.gAVDoc->io()->RemoveGUID(object->strGUID());
   }
 }

@@ -27,14 +27,14 @@ constexpr const char* kMovieFilter =
 constexpr double kShorterBy = 1.0;
 
 struct MainExpressionTexts {
-  const char* kind;
+  ObjectKind kind;
   Message prompt;
   Message title;
 };
 constexpr MainExpressionTexts kMainExpressions[] = {
-    {"Video", Message::MainVideoPrompt, Message::MainVideoName},
-    {"Audio", Message::MainAudioPrompt, Message::MainAudioName},
-    {"Transcript", Message::MainTranscriptPrompt, Message::MainTranscriptName}};
+    {ObjectKind::Video, Message::MainVideoPrompt, Message::MainVideoName},
+    {ObjectKind::Audio, Message::MainAudioPrompt, Message::MainAudioName},
+    {ObjectKind::Transcript, Message::MainTranscriptPrompt, Message::MainTranscriptName}};
 
 double durationOf(UserInterface& ui, const std::string& movie) {
   double duration = 0;
@@ -79,16 +79,16 @@ void EditCommands::mnuEditAttributes() {
 }
 
 std::string EditCommands::askNewChild(const DescribedObject& parent) {
-  const std::string& className = parent.className();
-  if (className == "AVDocument") {
+  const ObjectKind kind = parent.kind();
+  if (kind == ObjectKind::AVDocument) {
     return app_.ui.inputBox(app_.LoadResString(Message::VersionTitlePrompt),
                             app_.LoadResString(Message::VersionTitle));
   }
-  if (className == "Version") {
+  if (kind == ObjectKind::Version) {
     return app_.ui.inputBox(app_.LoadResString(Message::MediaFormatPrompt),
                             app_.LoadResString(Message::MediaFormat));
   }
-  if (className == "Media") return askMovie();
+  if (kind == ObjectKind::Media) return askMovie();
   app_.ui.beep();
   return {};
 }
@@ -128,7 +128,7 @@ void EditCommands::mnuAddChild() {
   if (answer.empty()) return;
   const auto version = versionHolding(app_.gAVDoc->collObjects(), *object);
   const bool hadDuration = !version || version->dDuration() != 0;
-  if (object->className() == "Media" && !movieFits(*object, answer)) return;
+  if (object->kind() == ObjectKind::Media && !movieFits(*object, answer)) return;
   const auto parent = std::dynamic_pointer_cast<LadderObject>(object);
   if (!parent) return;
   const std::size_t before = parent->colChilds().size();
@@ -140,7 +140,7 @@ void EditCommands::mnuAddChild() {
   mainTree_.makeCurrent(*object);
 }
 
-void EditCommands::AddMainExpr(const std::string& kind) {
+void EditCommands::AddMainExpr(ObjectKind kind) {
   const TreeNode* node = exprTree_.selected();
   if (!mainTree_.root() || !node) return;
   const auto version = std::dynamic_pointer_cast<Version>(node->Tag);
@@ -165,13 +165,13 @@ void EditCommands::AddMainExpr(const std::string& kind) {
 
 void EditCommands::DeleteNode(TreeId id) {
   const TreeNode* node = trees_.tree(id).selected();
-  if (!node || node->Tag->className() == "AVDocument") return;
+  if (!node || node->Tag->kind() == ObjectKind::AVDocument) return;
   const bool confirmed =
       app_.ui.askYesNo(app_.LoadResString(Message::AskRemoveObject) + " " + node->Text + " " +
                        app_.LoadResString(Message::AndAllItsChildren));
   if (!confirmed) return;
   ObjectRef object = node->Tag;
-  const bool wasVersion = object->className() == "Version";
+  const bool wasVersion = object->kind() == ObjectKind::Version;
   {
     const auto busy = app_.ui.showBusy();
     const std::string message = object->strRemoveAllChilds();

@@ -21,7 +21,7 @@ class EditCommands {
   void mnuEditMetadata();
   void mnuEditAttributes();
   void mnuAddChild();
-  void AddMainExpr(const std::string& kind);
+  void AddMainExpr(ObjectKind kind);
   /// The release of the Delete key on a tree.
   void DeleteNode(TreeId tree);
 

@@ -13,7 +13,6 @@
 #include "objects/Media.h"
 #include "objects/Storage.h"
 #include "objects/Version.h"
-#include "protocol/ClassRules.h"
 
 namespace velra {
 
@@ -29,26 +28,26 @@ Factory::~Factory() {
   if (app_.objectFactory == this) app_.objectFactory = nullptr;
 }
 
-ObjectRef Factory::createObject(const std::string& className) {
-  if (className == "AVDocument") return std::make_shared<AVDocument>(app_);
-  if (className == "Version") return std::make_shared<Version>(app_);
-  if (className == "Media") return std::make_shared<Media>(app_);
-  if (className == "Storage") return std::make_shared<Storage>(app_);
-  return createExpression(className);
+ObjectRef Factory::createObject(ObjectKind kind) {
+  if (kind == ObjectKind::AVDocument) return std::make_shared<AVDocument>(app_);
+  if (kind == ObjectKind::Version) return std::make_shared<Version>(app_);
+  if (kind == ObjectKind::Media) return std::make_shared<Media>(app_);
+  if (kind == ObjectKind::Storage) return std::make_shared<Storage>(app_);
+  return createExpression(kind);
 }
 
-ExpressionRef Factory::createExpression(const std::string& className) {
-  if (className == "Video") return std::make_shared<Video>(app_);
-  if (className == "Audio") return std::make_shared<Audio>(app_);
-  if (className == "Transcript") return std::make_shared<Transcript>(app_);
+ExpressionRef Factory::createExpression(ObjectKind kind) {
+  if (kind == ObjectKind::Video) return std::make_shared<Video>(app_);
+  if (kind == ObjectKind::Audio) return std::make_shared<Audio>(app_);
+  if (kind == ObjectKind::Transcript) return std::make_shared<Transcript>(app_);
   return nullptr;
 }
 
-std::shared_ptr<ObjectForm> Factory::createForm(const std::string& className) {
-  if (isExpressionClass(className)) return makeVideoForm_();
-  const MetadataKind* kind = metadataKindOf(className);
-  if (!kind) return nullptr;
-  return std::make_shared<MetadataForm>(*kind, app_, presenter_);
+std::shared_ptr<ObjectForm> Factory::createForm(ObjectKind kind) {
+  if (isExpression(kind)) return makeVideoForm_();
+  const MetadataKind* form = metadataKindOf(kind);
+  if (!form) return nullptr;
+  return std::make_shared<MetadataForm>(*form, app_, presenter_);
 }
 
 void Factory::showSchemaDialog(FormOwner& owner, SEColl& secol) {

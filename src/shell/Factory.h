@@ -25,9 +25,9 @@ class Factory : public ObjectFactory {
   Factory(const Factory&) = delete;
   Factory& operator=(const Factory&) = delete;
 
-  ObjectRef createObject(const std::string& className) override;
-  ExpressionRef createExpression(const std::string& className) override;
-  std::shared_ptr<ObjectForm> createForm(const std::string& className) override;
+  ObjectRef createObject(ObjectKind kind) override;
+  ExpressionRef createExpression(ObjectKind kind) override;
+  std::shared_ptr<ObjectForm> createForm(ObjectKind kind) override;
   void showSchemaDialog(FormOwner& owner, SEColl& secol) override;
 
  private:

@@ -51,7 +51,7 @@ int LoadedVideoForm::framePasses() const {
 }
 
 void LoadedVideoForm::OKButt_Click() {
-  commitForm(fields_, obj()->secol(), nullptr, titleFieldOf(obj()->className()), [this] {
+  commitForm(fields_, obj()->secol(), nullptr, rulesOf(obj()->kind()).titleField, [this] {
     if (services_.app.gMainForm) services_.app.gMainForm->UpdateNodeTitle(*obj());
   });
   Unload();

@@ -4,7 +4,6 @@
 #include "app/ApplicationModule.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
-#include "protocol/ClassRules.h"
 #include "protocol/OpenDocument.h"
 #include "shell/MainWindowFace.h"
 #include "shell/OpenedDocument.h"
@@ -21,9 +20,10 @@ MenuState withAddEntries(MenuState menus, bool addChild, bool addMainExpr) {
 }
 
 MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fromMainTree) {
-  const std::string& className = object.className();
-  if (className == "AVDocument" || className == "Media") return withAddEntries(menus, true, false);
-  if (className == "Storage" || isExpressionClass(className)) {
+  const ObjectKind kind = object.kind();
+  if (kind == ObjectKind::AVDocument || kind == ObjectKind::Media)
+    return withAddEntries(menus, true, false);
+  if (kind == ObjectKind::Storage || isExpression(kind)) {
     return withAddEntries(menus, false, false);
   }
   const auto* version = dynamic_cast<const Version*>(&object);

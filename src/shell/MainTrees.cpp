@@ -62,7 +62,7 @@ void MainTrees::AddSmallKeyFrame(const Expression& video) {
 void MainTrees::AddAllSmallKeyFrames() {
   if (!app_.gAVDoc) return;
   for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
-    if (object->className() != "Video") continue;
+    if (object->kind() != ObjectKind::Video) continue;
     const auto* video = dynamic_cast<const Expression*>(object.get());
     if (video && video->objMainExpr()) {
       icons_.addKeyFrame(video->strGUID(), video->picKeyFrameSmall());

@@ -83,7 +83,7 @@ void OpenCommands::OpenDoc(const std::string& path, bool bFileSystem) {
 std::string OpenCommands::open(const std::string& path, const std::shared_ptr<IOManager>& io) {
   const auto document = std::make_shared<AVDocument>(app_);
   const auto busy = app_.ui.showBusy();
-  if (!frmAVDocForm_) frmAVDocForm_ = app_.objectFactory->createForm("AVDocument");
+  if (!frmAVDocForm_) frmAVDocForm_ = app_.objectFactory->createForm(ObjectKind::AVDocument);
   std::string message = document->strOpen(path, frmAVDocForm_, io);
   // Who opens a document waits anyway; who removes the first node of it should not.
   if (message.empty()) document->collObjects().references().bringUpToDate();
@@ -134,7 +134,7 @@ void OpenCommands::mnuFileNew() {
 
 std::shared_ptr<AVDocument> OpenCommands::NewDocument() {
   auto document = std::make_shared<AVDocument>(app_);
-  frmAVDocForm_ = app_.objectFactory->createForm("AVDocument");
+  frmAVDocForm_ = app_.objectFactory->createForm(ObjectKind::AVDocument);
   const auto io = std::make_shared<IOManager>(app_);
   const std::string guid = io->strCreateGUID(document->collObjects(), *document, "AVDocument.xml");
   const std::string schemaPath = app_.strXSDPath();

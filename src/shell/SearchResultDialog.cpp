@@ -17,7 +17,8 @@ namespace {
 // As in the trees: a segment of a Video has the icon of its key frame.
 std::string smallIconOf(const DescribedObject& object) {
   const auto* expression = dynamic_cast<const Expression*>(&object);
-  const bool hasKeyFrame = object.className() == "Video" && expression && expression->objMainExpr();
+  const bool hasKeyFrame =
+      object.kind() == ObjectKind::Video && expression && expression->objMainExpr();
   return hasKeyFrame ? object.strGUID() : object.className();
 }
 
@@ -42,7 +43,7 @@ void SearchResultDialog::fillRows() {
   const auto busy = app_.ui.showBusy();
   rows_.clear();
   for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
-    if (object->className() == "MediaObject") continue;
+    if (object->kind() == ObjectKind::MediaObject) continue;
     const std::int16_t founds = object->secol().iSearchText(strSearch_, bCase_);
     if (founds <= 0) continue;
     rows_.push_back(

@@ -16,7 +16,7 @@ namespace velra {
 void TransferCommands::transferObjects(bool toFileSystem) {
   for (const ObjectRef& object : app_.gAVDoc->collObjects().all()) {
     if (const auto io = object->io()) io->setBFileSystem(toFileSystem);
-    if (object->className() != "Storage") continue;
+    if (object->kind() != ObjectKind::Storage) continue;
     object->setStrTitle(app_.ui.inputBox(
         app_.LoadResString(Message::CollocationPrompt) + object->strTitle(), "Collocation"));
   }

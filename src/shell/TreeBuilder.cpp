@@ -63,16 +63,16 @@ void arrangeChildren(TreeNode& node, const ExpressionList& objects) {
   }
 }
 
-std::pair<const char*, const char*> imagesBelow(const std::string& parentClass) {
-  if (parentClass == "AVDocument") return {"Version", "Version"};
-  if (parentClass == "Version") return {"Media", "Media"};
+std::pair<const char*, const char*> imagesBelow(ObjectKind parent) {
+  if (parent == ObjectKind::AVDocument) return {"Version", "Version"};
+  if (parent == ObjectKind::Version) return {"Media", "Media"};
   return {"Storage", "ItemSel"};
 }
 
 void AddMainChildren(TreeNode& node) {
-  const std::string& parentClass = node.Tag->className();
-  if (parentClass == "Storage") return;
-  const auto [image, selectedImage] = imagesBelow(parentClass);
+  const ObjectKind kind = node.Tag->kind();
+  if (kind == ObjectKind::Storage) return;
+  const auto [image, selectedImage] = imagesBelow(kind);
   for (const ObjectRef& child : node.Tag->colChilds()) {
     AddMainChildren(addNode(node, makeNode(child, image, selectedImage)));
   }
@@ -124,7 +124,7 @@ void SetSubExpressions(TreeNode& node, const Expression& expression, const TreeI
   for (std::size_t i = 0; i < chain.size(); ++i) {
     const Expression& segment = *chain[i];
     const std::string image =
-        segment.className() == "Video" ? segment.strGUID() : segment.className();
+        segment.kind() == ObjectKind::Video ? segment.strGUID() : segment.className();
     if (!icons.holds(image)) raise(kInvalidArgument, image);
     TreeNode& child = *node.children[i];
     show(child, chain[i], image, image);

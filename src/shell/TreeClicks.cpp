@@ -40,7 +40,7 @@ void TreeClicks::leftClick(TreeId id, const ObjectRef& object) {
   if (id != TreeId::tvwMainTree) return;
   if (const auto storage = std::dynamic_pointer_cast<Storage>(object)) {
     storage->setBIsSelected(true);
-  } else if (object->className() == "Version") {
+  } else if (object->kind() == ObjectKind::Version) {
     trees_.showVersion(object);
   }
 }

@@ -77,7 +77,7 @@ class frmMain : public MainWindow {
   void mnuEditMetadata() { editing_.mnuEditMetadata(); }
   void mnuEditAttributes() { editing_.mnuEditAttributes(); }
   void mnuAddChild() { editing_.mnuAddChild(); }
-  void AddMainExpr(const std::string& kind) { editing_.AddMainExpr(kind); }
+  void AddMainExpr(ObjectKind kind) { editing_.AddMainExpr(kind); }
 
   // The menus of languages and options.
   void setLanguage(std::int32_t language) { menus_.setLanguage(language); }

@@ -40,39 +40,40 @@ ExpressionList ExpressionFinder::open(const ObjectRef& objParent,
   return openOfVersion(objParent, io);
 }
 
-ExpressionRef ExpressionFinder::openFound(const std::string& className, const std::string& guid,
+ExpressionRef ExpressionFinder::openFound(ObjectKind kind, const std::string& guid,
                                           const ExpressionRef& parent, const ObjectRef& version,
                                           const std::shared_ptr<IOManager>& io) {
   const Deeper deeper(depth_);
-  ExpressionRef found = app_.objectFactory->createExpression(className);
+  ExpressionRef found = app_.objectFactory->createExpression(kind);
   if (parent) found->setObjMainExpr(parent);
   found->setVerVersion(version);
-  found->strOpen(guid, app_.objectFactory->createForm(className), io);
+  found->strOpen(guid, app_.objectFactory->createForm(kind), io);
   return found;
 }
 
 ExpressionList ExpressionFinder::openOfVersion(const ObjectRef& version,
                                                const std::shared_ptr<IOManager>& io) {
   ExpressionList found;
-  for (const ObjRecord& record :
-       colScanRelatives(app_, scans_, version->strGUID(), "Version", "VersionGUID", "")) {
+  for (const ObjRecord& record : colScanRelatives(
+           app_, scans_, version->strGUID(), ObjectKind::Version, FolderScan::Relation::Own,
+           {ObjectKind::Audio, ObjectKind::Transcript, ObjectKind::Video})) {
     const ObjectRef loaded = app_.gAVDoc->loadedObject(record.strGUID);
     found.push_back(loaded ? std::dynamic_pointer_cast<Expression>(loaded)
-                           : openFound(record.strType, record.strGUID, nullptr, version, io));
+                           : openFound(record.kind, record.strGUID, nullptr, version, io));
   }
   return found;
 }
 
 ExpressionList ExpressionFinder::openOfExpression(const ExpressionRef& parent,
                                                   const std::shared_ptr<IOManager>& io) {
-  const std::string& className = parent->className();
+  const ObjectKind kind = parent->kind();
   ExpressionList found;
   ExpressionRef last;
-  for (const ObjRecord& record : colScanRelatives(app_, scans_, parent->strGUID(), className,
-                                                  "PartOf" + className, className)) {
+  for (const ObjRecord& record : colScanRelatives(app_, scans_, parent->strGUID(), kind,
+                                                  FolderScan::Relation::PartOf, {kind})) {
     if (!app_.gAVDoc->loadedObject(record.strGUID)) {
-      last = openFound(className, record.strGUID, parent, parent->verVersion(), io);
-    } else if (className != "Video") {
+      last = openFound(kind, record.strGUID, parent, parent->verVersion(), io);
+    } else if (kind != ObjectKind::Video) {
       // Only a damaged document has a segment that is open before its parent.
       raise(kTypeMismatch);
     }

@@ -19,9 +19,8 @@ class ExpressionFinder {
   ExpressionList open(const ObjectRef& objParent, const std::shared_ptr<IOManager>& io);
 
  private:
-  ExpressionRef openFound(const std::string& className, const std::string& guid,
-                          const ExpressionRef& parent, const ObjectRef& version,
-                          const std::shared_ptr<IOManager>& io);
+  ExpressionRef openFound(ObjectKind kind, const std::string& guid, const ExpressionRef& parent,
+                          const ObjectRef& version, const std::shared_ptr<IOManager>& io);
   ExpressionList openOfVersion(const ObjectRef& version, const std::shared_ptr<IOManager>& io);
   ExpressionList openOfExpression(const ExpressionRef& parent,
                                   const std::shared_ptr<IOManager>& io);

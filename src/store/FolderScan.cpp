@@ -15,9 +15,9 @@ namespace velra {
 
 namespace {
 
-std::string relationKey(FolderScan::Relation relation, const std::string& className,
-                        const std::string& path) {
-  return (relation == FolderScan::Relation::Own ? "own|" : "part|") + className + "|" + path;
+std::string relationKey(FolderScan::Relation relation, ObjectKind kind, const std::string& path) {
+  return (relation == FolderScan::Relation::Own ? "own|" : "part|") + classNameOf(kind) + "|" +
+         path;
 }
 
 void noteRelations(const SEColl& secol, const ClassRules& rules, ScannedFile& file) {
@@ -72,10 +72,10 @@ void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
     }
     ScannedFile answered;
     answered.name = std::move(file.name);
-    answered.className = loaded->className();
+    answered.kind = loaded->kind();
     file = std::move(answered);
-    const ClassRules* rules = findClassRules(loaded->className());
-    if (rules) noteRelations(loaded->secol(), *rules, file);
+    if (loaded->kind() == ObjectKind::MediaObject) continue;
+    noteRelations(loaded->secol(), rulesOf(loaded->kind()), file);
   }
   index();
 }
@@ -98,9 +98,8 @@ void FolderScan::read(ApplicationModule& app, OpenDocument& document, ScannedFil
   fresh.stamp = stamp;
   XmlDocument parsed;
   if (parsed.load(path)) {
-    fresh.className = parsed.documentElement().baseName();
-    const ClassRules* rules = findClassRules(fresh.className);
-    if (rules) readFields(app, document, parsed, *rules, fresh);
+    fresh.kind = kindOfRoot(parsed.documentElement().baseName());
+    if (fresh.kind) readFields(app, document, parsed, rulesOf(*fresh.kind), fresh);
   } else {
     fresh.reason = parsed.reason();
   }
@@ -115,22 +114,23 @@ void FolderScan::index() {
     const ScannedFile& file = files_[i];
     byName_.emplace(file.name, i);
     if (!file.readable()) unreadable_.push_back(i);
+    if (!file.kind) continue;
     for (const std::string& path : file.ownRelatives) {
-      byRelation_[relationKey(Relation::Own, file.className, path)].push_back(i);
+      byRelation_[relationKey(Relation::Own, *file.kind, path)].push_back(i);
     }
     if (!file.partOf.empty()) {
-      byRelation_[relationKey(Relation::PartOf, file.className, file.partOf)].push_back(i);
+      byRelation_[relationKey(Relation::PartOf, *file.kind, file.partOf)].push_back(i);
     }
   }
 }
 
 std::vector<std::size_t> FolderScan::relevant(Relation relation,
-                                              const std::vector<std::string>& classes,
+                                              const std::vector<ObjectKind>& kinds,
                                               const std::string& guid) const {
   std::vector<std::size_t> offsets = unreadable_;
   const std::string path = strAbsolutePath(guid);
-  for (const std::string& className : classes) {
-    const auto found = byRelation_.find(relationKey(relation, className, path));
+  for (const ObjectKind kind : kinds) {
+    const auto found = byRelation_.find(relationKey(relation, kind, path));
     if (found == byRelation_.end()) continue;
     offsets.insert(offsets.end(), found->second.begin(), found->second.end());
   }
@@ -139,12 +139,11 @@ std::vector<std::size_t> FolderScan::relevant(Relation relation,
   return offsets;
 }
 
-std::optional<LoadedFields> FolderScan::takeFields(const std::string& name,
-                                                   const std::string& className) {
+std::optional<LoadedFields> FolderScan::takeFields(const std::string& name, ObjectKind kind) {
   const auto at = byName_.find(name);
   if (at == byName_.end()) return std::nullopt;
   ScannedFile& file = files_[at->second];
-  if (file.className != className || !file.fields) return std::nullopt;
+  if (file.kind != kind || !file.fields) return std::nullopt;
   file.stamp = {};  // its object answers from now on; without one it is read again
   return std::exchange(file.fields, std::nullopt);
 }
@@ -166,8 +165,8 @@ bool FolderScan::checkConsistency() const {
     if (named == byName_.end() || named->second != i) return false;
     const bool reported = std::binary_search(unreadable_.begin(), unreadable_.end(), i);
     if (reported == file.readable()) return false;
-    if (byRelation_.empty() || file.partOf.empty()) continue;
-    const auto found = relevant(Relation::PartOf, {file.className}, file.partOf);
+    if (byRelation_.empty() || file.partOf.empty() || !file.kind) continue;
+    const auto found = relevant(Relation::PartOf, {*file.kind}, file.partOf);
     if (!std::binary_search(found.begin(), found.end(), i)) return false;
   }
   return true;

@@ -32,7 +32,7 @@ struct LoadedFields {
 struct ScannedFile {
   std::string name;
   FileStamp stamp;                    // when it was read; of no file while a loaded object answers
-  std::string className;              // base name of the root; "" for a file that cannot be parsed
+  std::optional<ObjectKind> kind;     // by the root; nothing for another one or an unreadable file
   std::string reason;                 // the parser's reason for that
   std::string message;                // why an object of the class cannot be read from it
   std::optional<RunTimeError> error;  // the run-time error that reading it ends in
@@ -58,15 +58,15 @@ class FolderScan {
   /// The relation that a search follows.
   enum class Relation { Own, PartOf };
 
-  /// The files that a search for objects of the classes pointing at an identifier has to look at,
-  /// in the order of the listing: those that point at it, and those that cannot be read.
-  std::vector<std::size_t> relevant(Relation relation, const std::vector<std::string>& classes,
+  /// The files that a search for objects of the kinds pointing at an identifier has to look at, in
+  /// the order of the listing: those that point at it, and those that cannot be read.
+  std::vector<std::size_t> relevant(Relation relation, const std::vector<ObjectKind>& kinds,
                                     const std::string& guid) const;
 
   const ScannedFile& file(std::size_t offset) const { return files_[offset]; }
 
   /// Hands over the fields that were read ahead for a file; nothing when there are none.
-  std::optional<LoadedFields> takeFields(const std::string& name, const std::string& className);
+  std::optional<LoadedFields> takeFields(const std::string& name, ObjectKind kind);
 
   /// Drops what was read ahead and nobody took.
   void endOpening();

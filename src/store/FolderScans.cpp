@@ -37,14 +37,13 @@ FolderScan& FolderScans::of(const std::string& folder) {
   return known.scan;
 }
 
-std::optional<LoadedFields> FolderScans::takeFields(const std::string& guid,
-                                                    const std::string& className) {
+std::optional<LoadedFields> FolderScans::takeFields(const std::string& guid, ObjectKind kind) {
   if (depth_ == 0) return std::nullopt;
   const std::string path = strAbsolutePath(guid);
   const std::string folder = folderOf(path);
   const auto known = folders_.find(folder);
   if (known == folders_.end()) return std::nullopt;
-  return known->second.scan.takeFields(path.substr(folder.size()), className);
+  return known->second.scan.takeFields(path.substr(folder.size()), kind);
 }
 
 bool FolderScans::checkConsistency() const {

@@ -40,7 +40,7 @@ class FolderScans {
   FolderScan& of(const std::string& folder);
 
   /// The fields of a file that the opening has read already; nothing when it has to be read.
-  std::optional<LoadedFields> takeFields(const std::string& guid, const std::string& className);
+  std::optional<LoadedFields> takeFields(const std::string& guid, ObjectKind kind);
 
   /// Which folder could not be searched since the opening began, and why; "" when all could.
   const std::string& unlisted() const { return unlisted_; }

@@ -26,14 +26,14 @@ IOManager::~IOManager() {
 
 std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, const DescribedObject& objNew,
                                      const std::string& strAVDocPathName) {
-  return strCreateGUID(collObjects, objNew.className(), "xml", strAVDocPathName);
+  return strCreateGUID(collObjects, objNew.kind(), "xml", strAVDocPathName);
 }
 
-std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, const std::string& className,
+std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, ObjectKind kind,
                                      const std::string& extension,
                                      const std::string& strAVDocPathName) {
   if (!bFileSystem_) return {};
-  return names_.give(collObjects, className, extension, strAVDocPathName);
+  return names_.give(collObjects, kind, extension, strAVDocPathName);
 }
 
 std::string IOManager::strMakeDataFolder(const std::string& strAVDocPathName) const {

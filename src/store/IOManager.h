@@ -40,7 +40,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   std::string strCreateGUID(ObjectRegistry& collObjects, const DescribedObject& objNew,
                             const std::string& strAVDocPathName);
   /// The same for a file of a class and an extension, without the point.
-  std::string strCreateGUID(ObjectRegistry& collObjects, const std::string& className,
+  std::string strCreateGUID(ObjectRegistry& collObjects, ObjectKind kind,
                             const std::string& extension, const std::string& strAVDocPathName);
 
   /// Makes the data folder of a document when it is missing; the message that tells why not, or "".

@@ -8,14 +8,15 @@
 
 namespace velra {
 
-std::string NewFileNames::give(ObjectRegistry& objects, const std::string& className,
+std::string NewFileNames::give(ObjectRegistry& objects, ObjectKind kind,
                                const std::string& extension, const std::string& strAVDocPathName) {
   std::string folder;
   const std::string base = strSplitPath(strAVDocPathName, folder);
-  if (className == "AVDocument") return withSeparator(strAbsolutePath(folder)) + base + ".xml";
+  if (kind == ObjectKind::AVDocument) return withSeparator(strAbsolutePath(folder)) + base + ".xml";
   std::string message = strMakeDataFolder(app_, strAVDocPathName);
   if (!message.empty()) return message;
-  const std::string prefix = dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(className);
+  const std::string prefix =
+      dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(classNameOf(kind));
   return *promised_.insert(objects.numbers().take(prefix, "." + extension)).first;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <unordered_set>
 
+#include "protocol/ObjectKind.h"
 #include "store/NumberSource.h"
 
 namespace velra {
@@ -18,11 +19,11 @@ class NewFileNames {
  public:
   explicit NewFileNames(const ApplicationModule& app) : app_(app) {}
 
-  /// The path of a new file for a class and an extension, without the point, in the layout of the
-  /// document. The data folder is made when it is missing; a failure of that comes back in place of
-  /// the path.
-  std::string give(ObjectRegistry& objects, const std::string& className,
-                   const std::string& extension, const std::string& strAVDocPathName);
+  /// The path of a new file for a kind of object and an extension, without the point, in the layout
+  /// of the document. The data folder is made when it is missing; a failure of that comes back in
+  /// place of the path.
+  std::string give(ObjectRegistry& objects, ObjectKind kind, const std::string& extension,
+                   const std::string& strAVDocPathName);
 
   bool isPromised(const std::string& path) const { return promised_.contains(path); }
   /// Makes a name a promise again, after a save that was taken back.

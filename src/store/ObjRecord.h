@@ -3,11 +3,13 @@
 
 #include <string>
 
+#include "protocol/ObjectKind.h"
+
 namespace velra {
 
-/// What a search found: the class of an object and its identifier.
+/// What a search found: an object's kind and its identifier.
 struct ObjRecord {
-  std::string strType;
+  ObjectKind kind;
   std::string strGUID;
 };
 

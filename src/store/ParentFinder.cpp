@@ -3,7 +3,6 @@
 
 #include "app/ApplicationModule.h"
 #include "platform/UserInterface.h"
-#include "protocol/ClassRules.h"
 #include "protocol/ObjectFactory.h"
 #include "protocol/OpenDocument.h"
 #include "store/FolderScans.h"
@@ -16,36 +15,33 @@ namespace velra {
 namespace {
 
 struct ParentRule {
-  const char* className;
-  const char* relation;
-  const char* parentClass;
+  ObjectKind kind;
+  ObjectKind parentKind;
 };
 
-constexpr ParentRule kParents[] = {{"Version", "ExpressedBy", "AVDocument"},
-                                   {"Media", "ManifestedBy", "Version"},
-                                   {"Storage", "AvailableAs", "Media"}};
+constexpr ParentRule kParents[] = {{ObjectKind::Version, ObjectKind::AVDocument},
+                                   {ObjectKind::Media, ObjectKind::Version},
+                                   {ObjectKind::Storage, ObjectKind::Media}};
 
 }  // namespace
 
-std::string ParentFinder::strGetParentGUID(const std::string& strGUID,
-                                           const std::string& className) {
-  if (className == "AVDocument") return strGUID;
-  if (isExpressionClass(className)) return parentOfExpression(strGUID, className);
+std::string ParentFinder::strGetParentGUID(const std::string& strGUID, ObjectKind kind) {
+  if (kind == ObjectKind::AVDocument) return strGUID;
+  if (isExpression(kind)) return parentOfExpression(strGUID, kind);
   for (const ParentRule& rule : kParents) {
-    if (className != rule.className) continue;
+    if (kind != rule.kind) continue;
     const auto found =
-        colScanRelatives(app_, scans_, strGUID, className, rule.relation, rule.parentClass);
+        colScanRelatives(app_, scans_, strGUID, kind, FolderScan::Relation::Own, {rule.parentKind});
     // Two parents that claim a child leave it without one.
     return found.size() == 1 ? found.front().strGUID : std::string();
   }
   return {};
 }
 
-std::string ParentFinder::parentOfExpression(const std::string& strGUID,
-                                             const std::string& className) {
-  const ExpressionRef expression = app_.objectFactory->createExpression(className);
+std::string ParentFinder::parentOfExpression(const std::string& strGUID, ObjectKind kind) {
+  const ExpressionRef expression = app_.objectFactory->createExpression(kind);
   const std::string message =
-      expression->strLoadXML(strGUID, app_.objectFactory->createForm(className), io_);
+      expression->strLoadXML(strGUID, app_.objectFactory->createForm(kind), io_);
   if (app_.gAVDoc) app_.gAVDoc->collObjects().Remove(*expression);
   if (!message.empty()) {
     app_.ui.messageBox(message, BoxKind::Exclamation);
@@ -60,11 +56,11 @@ std::string ParentFinder::strRetrieveAVDocGUIDFromGUID(const std::string& strGUI
   std::string guid = strGUID;
   // A ring of segments that are each other's parents has no document; no real way up is this long.
   for (int steps = 0; steps < 10000; ++steps) {
-    const std::string className = io_->strWhatIs(guid);
-    if (className == "AVDocument") return guid;
-    if (!findClassRules(className)) return {};
-    std::string parent = strGetParentGUID(guid, className);
-    if (parent.empty() || className == "Version") return parent;
+    const std::optional<ObjectKind> kind = kindOfRoot(io_->strWhatIs(guid));
+    if (kind == ObjectKind::AVDocument) return guid;
+    if (!kind) return {};
+    std::string parent = strGetParentGUID(guid, *kind);
+    if (parent.empty() || kind == ObjectKind::Version) return parent;
     guid = std::move(parent);
   }
   return {};

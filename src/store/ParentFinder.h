@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "protocol/ObjectKind.h"
+
 namespace velra {
 
 class ApplicationModule;
@@ -21,8 +23,8 @@ class ParentFinder {
   std::string strRetrieveAVDocGUIDFromGUID(const std::string& strGUID);
 
  private:
-  std::string strGetParentGUID(const std::string& strGUID, const std::string& className);
-  std::string parentOfExpression(const std::string& strGUID, const std::string& className);
+  std::string strGetParentGUID(const std::string& strGUID, ObjectKind kind);
+  std::string parentOfExpression(const std::string& strGUID, ObjectKind kind);
 
   ApplicationModule& app_;
   FolderScans& scans_;

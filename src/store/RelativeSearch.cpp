@@ -20,22 +20,17 @@ namespace {
 /// What a search asks of each file of the folder.
 struct Question {
   FolderScan::Relation relation;
-  std::vector<std::string> wantedClasses;
-  std::string strClass;
+  std::vector<ObjectKind> wanted;
+  ObjectKind kind;  // of the object that is pointed at
   std::string strGUID;
 };
 
 bool bRelated(const DescribedObject& object, const Question& question) {
   const auto* expression = dynamic_cast<const Expression*>(&object);
   if (question.relation == FolderScan::Relation::PartOf && expression) {
-    return expression->bCheckIfSubExpression(question.strClass, question.strGUID);
+    return expression->bCheckIfSubExpression(question.kind, question.strGUID);
   }
-  return object.bCheckIfOwnRelative(question.strClass, question.strGUID);
-}
-
-std::vector<std::string> classesWanted(const std::string& strWantedClass) {
-  if (strWantedClass.empty()) return {"Audio", "Transcript", "Video"};
-  return {strWantedClass};
+  return object.bCheckIfOwnRelative(question.kind, question.strGUID);
 }
 
 // A loaded object answers for its file. Of the others, the scan has chosen those that point at the
@@ -47,10 +42,10 @@ bool considerFile(ApplicationModule& app, const std::string& path, const Scanned
     app.ui.messageBox("XML Parser: " + file.reason, BoxKind::Exclamation);
     return false;
   }
-  record.strType = loaded ? loaded->className() : file.className;
-  record.strGUID = loaded ? loaded->strGUID() : path;
-  const auto& classes = question.wantedClasses;
-  if (std::find(classes.begin(), classes.end(), record.strType) == classes.end()) return false;
+  const std::optional<ObjectKind> kind = loaded ? loaded->kind() : file.kind;
+  const auto& wanted = question.wanted;
+  if (!kind || std::find(wanted.begin(), wanted.end(), *kind) == wanted.end()) return false;
+  record = {*kind, loaded ? loaded->strGUID() : path};
   if (loaded) return bRelated(*loaded, question);
   if (file.error) throw file.error->inFile(path);
   if (!file.message.empty()) app.ui.messageBox(file.message);
@@ -60,19 +55,16 @@ bool considerFile(ApplicationModule& app, const std::string& path, const Scanned
 }  // namespace
 
 std::vector<ObjRecord> colScanRelatives(ApplicationModule& app, FolderScans& scans,
-                                        const std::string& strGUID, const std::string& strClass,
-                                        const std::string& strRelation,
-                                        const std::string& strWantedClass) {
+                                        const std::string& strGUID, ObjectKind kind,
+                                        FolderScan::Relation relation,
+                                        const std::vector<ObjectKind>& wanted) {
   std::string folder;
   const std::string ownName = strSplitPath(strGUID, folder);
-  if (strWantedClass == "AVDocument") folder += "../";
-  const Question question{
-      strRelation.starts_with("PartOf") ? FolderScan::Relation::PartOf : FolderScan::Relation::Own,
-      classesWanted(strWantedClass), strClass, strGUID};
+  if (wanted.front() == ObjectKind::AVDocument) folder += "../";
+  const Question question{relation, wanted, kind, strGUID};
   const FolderScan& scan = scans.of(folder);
   std::vector<ObjRecord> records;
-  for (const std::size_t offset :
-       scan.relevant(question.relation, question.wantedClasses, strGUID)) {
+  for (const std::size_t offset : scan.relevant(relation, wanted, strGUID)) {
     const ScannedFile& file = scan.file(offset);
     if (std::string_view(file.name).substr(0, file.name.rfind('.')) == ownName) continue;
     ObjRecord record;

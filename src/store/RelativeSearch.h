@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "store/FolderScan.h"
 #include "store/ObjRecord.h"
 
 namespace velra {
@@ -11,15 +12,12 @@ namespace velra {
 class ApplicationModule;
 class FolderScans;
 
-/// Finds the objects that point at the given object of the given class, in its folder or, for
-/// documents, in the one above: the way against the references, since the files hold none upward.
-/// Of a relation only its first letters count: "PartOf" asks for the parts of an expression,
-/// anything else for those that the classes of the ladder hold. `strWantedClass` is what the found
-/// ones are;
-/// "" for any expression. In the order of the folder; broken files are reported in boxes.
+/// Finds the objects of the wanted kinds that point at the given object of the given kind, in its
+/// folder or, for documents, in the one above: the way against the references, since the files hold
+/// none upward. In the order of the folder; broken files are reported in boxes.
 std::vector<ObjRecord> colScanRelatives(ApplicationModule& app, FolderScans& scans,
-                                        const std::string& strGUID, const std::string& strClass,
-                                        const std::string& strRelation,
-                                        const std::string& strWantedClass);
+                                        const std::string& strGUID, ObjectKind kind,
+                                        FolderScan::Relation relation,
+                                        const std::vector<ObjectKind>& wanted);
 
 }  // namespace velra

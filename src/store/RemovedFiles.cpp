@@ -18,7 +18,7 @@ namespace velra {
 void RemovedFiles::keepFilesOf(ObjectRegistry& objects) {
   std::erase_if(identifiers_, [&](const std::string& guid) {
     const ObjectRef object = objects.find(guid);
-    return object && object->className() != "MediaObject";
+    return object && object->kind() != ObjectKind::MediaObject;
   });
 }
 

@@ -67,7 +67,7 @@ void Player::measureFrameRate() {
   const double frame = objMediaControl_->AvgTimePerFrame();
   if (frame <= 0) return;
   dFrameRate_ = 1 / frame;
-  if (obj_->className() == "Video" && obj_->dFrameRate() != dFrameRate_) {
+  if (obj_->kind() == ObjectKind::Video && obj_->dFrameRate() != dFrameRate_) {
     obj_->setDFrameRate(dFrameRate_);
   }
 }

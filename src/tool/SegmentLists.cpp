@@ -19,7 +19,7 @@ namespace velra {
 SegmentLists::SegmentLists(ExpressionRef obj, Parts parts) : obj_(std::move(obj)), parts_(parts) {}
 
 bool SegmentLists::isVideo() const {
-  return obj_->className() == "Video";
+  return obj_->kind() == ObjectKind::Video;
 }
 
 ExpressionRef SegmentLists::child(std::int16_t position) const {
@@ -40,7 +40,7 @@ void SegmentLists::fill() {
     const auto times = spanOf(*segment);
     const std::string text = caption(segment->strTitle(), times->dStart, times->dend);
     parts_.advsld.iAddRange(times->dStart, times->dend, text);
-    if (segment->className() == "Video") {
+    if (segment->kind() == ObjectKind::Video) {
       parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment), text);
     }
   }

@@ -21,7 +21,7 @@ class SchemaDialogTest : public ::testing::Test {
  protected:
   test::TestApplication application_;
   test::RecordingMainWindow window_;
-  test::FormObject object_{application_.app, "Media"};
+  test::FormObject object_{application_.app, ObjectKind::Media};
   DialogPresenter presenter_;
   AVDocSchemaDialog dialog_{application_.app, presenter_};
 

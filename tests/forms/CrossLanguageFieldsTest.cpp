@@ -40,7 +40,7 @@ class CrossLanguageTest : public ::testing::Test {
   }
 
   void document(Value theme, Value subtheme, Value keywords) {
-    object_ = std::make_shared<test::FormObject>(app_, "AVDocument", "Title");
+    object_ = std::make_shared<test::FormObject>(app_, ObjectKind::AVDocument, "Title");
     object_->add(tyType::String, "Title", "t");
     object_->add(tyType::String, "Themes", std::move(theme));
     object_->add(tyType::String, "Subthemes", std::move(subtheme));
@@ -48,7 +48,8 @@ class CrossLanguageTest : public ::testing::Test {
   }
 
   void load() {
-    form_ = std::make_unique<LoadedForm>(app_, *metadataKindOf("AVDocument"), object_, scroll_);
+    form_ = std::make_unique<LoadedForm>(app_, *metadataKindOf(ObjectKind::AVDocument), object_,
+                                         scroll_);
     form_->Form_Load();
   }
   int errorOfLoading() {
@@ -118,7 +119,7 @@ TEST_F(CrossLanguageTest, LoadsOnlyAPathThroughTheVocabulary) {
 }
 
 TEST_F(CrossLanguageTest, LoadsNoFieldsOutOfOrder) {
-  object_ = std::make_shared<test::FormObject>(app_, "AVDocument", "Title");
+  object_ = std::make_shared<test::FormObject>(app_, ObjectKind::AVDocument, "Title");
   object_->add(tyType::String, "Title", "t");
   EXPECT_EQ(errorOfLoading(), 0);  // none of the three: nothing to contradict
   object_->add(tyType::String, "Subthemes", "Dance");

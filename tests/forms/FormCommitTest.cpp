@@ -49,7 +49,7 @@ TEST(FormCommit, WhatCountsAsDifferent) {
 class FormCommitTest : public ::testing::Test {
  protected:
   test::TestApplication application_;
-  FormObject object_{application_.app, "Media", "Format"};
+  FormObject object_{application_.app, ObjectKind::Media, "Format"};
   FormFields form_;
   int titleChanges_ = 0;
 

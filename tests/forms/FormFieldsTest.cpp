@@ -14,7 +14,7 @@ using test::FormObject;
 class FormFieldsTest : public ::testing::Test {
  protected:
   test::TestApplication application_;
-  FormObject object_{application_.app, "Media"};
+  FormObject object_{application_.app, ObjectKind::Media};
   FormFields form_;
 };
 

@@ -38,19 +38,18 @@ class MetadataFormTest : public ::testing::Test {
 
 TEST_F(MetadataFormTest, EachKindRenamesByItsOwnField) {
   struct Row {
-    const char* className;
+    ObjectKind edited;
     const char* formName;
     const char* titleField;
   };
-  for (const Row& row :
-       {Row{"Storage", "StorageForm", "Collocation"}, Row{"Media", "MediaForm", "Format"},
-        Row{"Version", "VersionForm", "VersionTitle"},
-        Row{"AVDocument", "frmAVDocForm", "Title"}}) {
-    const MetadataKind* kind = metadataKindOf(row.className);
+  for (const Row& row : {Row{ObjectKind::Storage, "StorageForm", "Collocation"},
+                         Row{ObjectKind::Media, "MediaForm", "Format"},
+                         Row{ObjectKind::Version, "VersionForm", "VersionTitle"},
+                         Row{ObjectKind::AVDocument, "frmAVDocForm", "Title"}}) {
+    const MetadataKind* kind = metadataKindOf(row.edited);
     ASSERT_NE(kind, nullptr);
     EXPECT_EQ(kind->formName, row.formName);
-    auto object =
-        std::make_shared<test::FormObject>(application_.app, row.className, row.titleField);
+    auto object = std::make_shared<test::FormObject>(application_.app, row.edited, row.titleField);
     object->add(tyType::String, row.titleField, "old");
     MetadataForm form(*kind, application_.app, presenter_);
     form.setObject(object);
@@ -63,12 +62,12 @@ TEST_F(MetadataFormTest, EachKindRenamesByItsOwnField) {
     form.Show(window_);
     EXPECT_EQ(std::exchange(window_.titles, {}), std::vector<std::string>{"new"});
   }
-  EXPECT_EQ(metadataKindOf("Video"), nullptr);
+  EXPECT_EQ(metadataKindOf(ObjectKind::Video), nullptr);
 }
 
 TEST_F(MetadataFormTest, IsBuiltAfreshEachTime) {
   auto object = test::objectOfTexts(application_.app, 2);
-  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
+  MetadataForm form(*metadataKindOf(ObjectKind::Media), application_.app, presenter_);
   form.setObject(object);
   std::vector<int> counts;
   presenter_.act = [&](LoadedForm& loaded) {
@@ -91,7 +90,7 @@ TEST_F(MetadataFormTest, IsBuiltAfreshEachTime) {
 
 TEST_F(MetadataFormTest, UnloadClosesAFormThatShowsAndNoOther) {
   auto object = test::objectOfTexts(application_.app, 1);
-  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
+  MetadataForm form(*metadataKindOf(ObjectKind::Media), application_.app, presenter_);
   form.setObject(object);
   form.Unload();
   presenter_.act = [&](LoadedForm&) {
@@ -107,7 +106,7 @@ TEST_F(MetadataFormTest, UnloadClosesAFormThatShowsAndNoOther) {
 TEST_F(MetadataFormTest, AnErrorOfTheLoadLeavesAFormThatCanShowAgain) {
   auto object = test::objectOfTexts(application_.app, 1);
   SchemaElement& date = object->add(tyType::Date, "Day", "no date");
-  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
+  MetadataForm form(*metadataKindOf(ObjectKind::Media), application_.app, presenter_);
   form.setObject(object);
   EXPECT_THROW(form.Show(window_), RunTimeError);
   date.setVContent(Date{});
@@ -126,12 +125,12 @@ TEST_F(MetadataFormTest, PassesOfSetFrameHeight) {
   // Halves go to the even number.
   for (const Row& row : {Row{0, 0, 0}, Row{5, 0, 0}, Row{6, 1, 0}, Row{7, 1, 1}, Row{15, 2, 1},
                          Row{16, 2, 2}, Row{25, 2, 2}}) {
-    for (const auto& [className, passes] :
-         {std::pair("Storage", row.ofStorage), std::pair("Media", row.ofMedia)}) {
+    for (const auto& [edited, passes] : {std::pair(ObjectKind::Storage, row.ofStorage),
+                                         std::pair(ObjectKind::Media, row.ofMedia)}) {
       TabScroll scroll;
-      LoadedForm form(application_.app, *metadataKindOf(className),
-                      test::objectOfTexts(application_.app, row.fields, className), scroll);
-      EXPECT_EQ(form.framePasses(), passes) << className << row.fields;
+      LoadedForm form(application_.app, *metadataKindOf(edited),
+                      test::objectOfTexts(application_.app, row.fields, edited), scroll);
+      EXPECT_EQ(form.framePasses(), passes) << classNameOf(edited) << row.fields;
     }
   }
 }

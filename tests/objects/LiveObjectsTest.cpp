@@ -29,7 +29,7 @@ TEST(LiveObjects, ClosingReleasesObjectsFormsAndStoreAndDeletesWhatWasRemoved) {
   session.expression("audio1")->AddSubExpression("part", 1, 2);
   std::vector<std::weak_ptr<DescribedObject>> mediaObjects;  // these no factory makes
   for (const auto& [number, object] : session.document()->collObjects().sequence()) {
-    if (object->className() == "MediaObject") mediaObjects.push_back(object);
+    if (object->kind() == ObjectKind::MediaObject) mediaObjects.push_back(object);
   }
   EXPECT_EQ(mediaObjects.size(), 2U);
   const std::weak_ptr<IOManager> io = session.document()->io();

@@ -154,7 +154,8 @@ TEST_F(ObjectFailures, WhatCannotBeMadeIsNotAttached) {
       {"Version", [&] { session_.document()->AddChild("t"); }},
       {"Media", [&] { ladder("version1")->AddChild("t"); }},
       {"Storage", [&] { ladder("media1")->AddChild("t"); }},
-      {"Video", [&] { session_.version("version1")->AddMainExpression("t", "Video", 0, 1); }},
+      {"Video",
+       [&] { session_.version("version1")->AddMainExpression("t", ObjectKind::Video, 0, 1); }},
       {"Transcript", [&] { session_.expression("transcript1")->AddSubExpression("t", 0, 1); }},
   };
   for (const auto& one : cases) {

@@ -87,7 +87,7 @@ Texts stateAfter(DocumentSession& session, unsigned seed, Removal remove) {
     const int last = static_cast<int>(document.collObjects().Count());
     const ObjectRef object =
         document.collObjects().Item(static_cast<std::size_t>(upTo(random, last - 1)) + 1);
-    if (object.get() == &document || object->className() == "MediaObject") continue;
+    if (object.get() == &document || object->kind() == ObjectKind::MediaObject) continue;
     remove(document, object);
     checkIndexes(document);
     // The next one follows after an edit, and in a third of the cases after a new reference.

@@ -48,7 +48,7 @@ TEST(RoundTrip, AnEditOfOneFieldChangesThatElementOfOneFile) {
   int edited = 0;
   for (const ObjectRef& object : session.document()->collObjects().all()) {
     const std::string title = object->strTitle();
-    if (object->className() == "MediaObject" || title.empty()) continue;
+    if (object->kind() == ObjectKind::MediaObject || title.empty()) continue;
     SCOPED_TRACE(object->strGUID());
     const std::string other = "a < b & \"ß\" \xF0\x9F\x8E\x9E";
     object->setStrTitle(other);

@@ -44,7 +44,7 @@ using Texts = std::vector<std::string>;
 void renamePlainly(AVDocument& document, const std::string& path) {
   ObjectRegistry& objects = document.collObjects();
   for (const ObjectRef& object : objects.all()) {
-    if (object.get() == &document || object->className() == "MediaObject") continue;
+    if (object.get() == &document || object->kind() == ObjectKind::MediaObject) continue;
     const std::string newGUID = document.io()->strCreateGUID(objects, *object, path);
     const std::string oldGUID = object->strGUID();
     object->setStrGUID(newGUID);

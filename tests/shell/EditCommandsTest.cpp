@@ -98,7 +98,7 @@ TEST(EditCommands, AppendedChildrenAreInTheTreeAtOnceAndOnDiskAfterSave) {
   program.click(TreeId::tvwMainTree, *program.version(1));
   program.click(TreeId::tvwExpression, *program.version(1));
   program.ui.inputs = {"Pictures", "Sound", "Words"};
-  for (const char* kind : {"Video", "Audio", "Transcript"}) {
+  for (const auto kind : {ObjectKind::Video, ObjectKind::Audio, ObjectKind::Transcript}) {
     program.click(TreeId::tvwExpression, *program.version(1));
     program.mainForm.AddMainExpr(kind);
   }
@@ -161,7 +161,7 @@ TEST(EditCommands, AStorageBeepsAndWithoutOneThereIsNoMainExpression) {
   program.ui.takeShown();
   program.click(TreeId::tvwMainTree, *program.version(1));
   program.click(TreeId::tvwExpression, *program.version(1));
-  program.mainForm.AddMainExpr("Video");
+  program.mainForm.AddMainExpr(ObjectKind::Video);
   EXPECT_EQ(program.ui.takeShown(), Texts{"plain: You have to create a Storage, first"});
 
   program.ui.yesNoCancel = {Answer::No};

@@ -24,7 +24,7 @@ Texts namesOf(const Files& files) {
 class PartlyRead : public test::FormObject {
  public:
   PartlyRead(ApplicationModule& app, OpenDocument& document)
-      : FormObject(app, "Media", "Format"), document_(document) {
+      : FormObject(app, ObjectKind::Media, "Format"), document_(document) {
     add(tyType::String, "Format", "part");
   }
   ObjectList colSelSubTree() override { return {}; }
@@ -66,7 +66,7 @@ class RemovalTest : public ::testing::Test {
   std::vector<std::weak_ptr<DescribedObject>> described() const {
     std::vector<std::weak_ptr<DescribedObject>> objects;
     for (const auto& [number, object] : program_.document()->collObjects().sequence()) {
-      if (object->className() != "MediaObject") objects.push_back(object);
+      if (object->kind() != ObjectKind::MediaObject) objects.push_back(object);
     }
     return objects;
   }

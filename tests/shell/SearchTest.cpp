@@ -62,7 +62,7 @@ TEST_F(SearchTest, AnEmptyTextHitsEveryObjectAndNoMediaObject) {
   program_.mainForm.OpenFile(program_.sample());
   std::size_t objects = 0;
   for (const auto& [number, object] : program_.document()->collObjects().sequence()) {
-    if (object->className() != "MediaObject") ++objects;
+    if (object->kind() != ObjectKind::MediaObject) ++objects;
   }
   const int signs = program_.ui.busySigns;
   const Texts rows = find("");

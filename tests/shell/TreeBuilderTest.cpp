@@ -142,7 +142,8 @@ class RandomEdits {
     one->setObjFollowedBy(random_() % 4 == 0 ? nullptr : family[random_() % family.size()]);
   }
   void add(Expression& parent) {
-    if (parent.className() == "Transcript") return;  // cut from its words, which there are none of
+    if (parent.kind() == ObjectKind::Transcript)
+      return;  // cut from its words, which there are none of
     const double start = static_cast<double>(random_() % 50);
     parent.AddSubExpression("cut " + std::to_string(start), start, start + 1);
   }

@@ -31,7 +31,7 @@ std::string DocumentSession::open(const std::string& path) {
   const auto document = std::make_shared<AVDocument>(app);
   factory.objects.push_back(document);
   changeCurrentFolder(folderOf(path));
-  return document->strOpen(path, factory.createForm("AVDocument"),
+  return document->strOpen(path, factory.createForm(ObjectKind::AVDocument),
                            std::make_shared<IOManager>(app));
 }
 
@@ -39,10 +39,10 @@ void DocumentSession::create() {
   app.gAVDoc = std::make_shared<AVDocument>(app);
   factory.objects.push_back(app.gAVDoc);
   changeCurrentFolder(folder.path());
-  EXPECT_EQ(
-      app.gAVDoc->strInitAsNew(files.documentPath(), app.strXSDPath(), "xsd", "Film",
-                               factory.createForm("AVDocument"), std::make_shared<IOManager>(app)),
-      "");
+  EXPECT_EQ(app.gAVDoc->strInitAsNew(files.documentPath(), app.strXSDPath(), "xsd", "Film",
+                                     factory.createForm(ObjectKind::AVDocument),
+                                     std::make_shared<IOManager>(app)),
+            "");
 }
 
 std::shared_ptr<AVDocument> DocumentSession::document() const {

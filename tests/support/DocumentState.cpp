@@ -59,7 +59,7 @@ std::string linksOf(const Expression& expression) {
 std::string stateOf(const DescribedObject& object) {
   std::string text =
       object.className() + " " + object.strGUID() + (object.bChanged() ? " changed" : "");
-  if (object.className() == "MediaObject") return text;
+  if (object.kind() == ObjectKind::MediaObject) return text;
   text += fieldsOf(object.secol()) + " children";
   for (const ObjectRef& child : object.colChilds()) text += " " + child->strGUID();
   if (const auto* version = dynamic_cast<const Version*>(&object)) {

@@ -15,12 +15,12 @@
 
 namespace velra::test {
 
-/// An object of a class with whatever fields a test gives it; nothing else works.
+/// An object of a kind with whatever fields a test gives it; nothing else works.
 class FormObject : public StubObject {
  public:
-  FormObject(ApplicationModule& app, std::string className, std::string titleField = {})
+  FormObject(ApplicationModule& app, ObjectKind edited, std::string titleField = {})
       : shared(app), titleField_(std::move(titleField)), secol_(app, shared) {
-    kind = std::move(className);
+    isA = edited;
   }
 
   SharedParts shared;
@@ -47,8 +47,8 @@ class FormObject : public StubObject {
 
 /// Text fields "Field1", "Field2"... of a class.
 inline std::shared_ptr<FormObject> objectOfTexts(ApplicationModule& app, int fields,
-                                                 const std::string& className = "Media") {
-  auto object = std::make_shared<FormObject>(app, className, "Field1");
+                                                 ObjectKind edited = ObjectKind::Media) {
+  auto object = std::make_shared<FormObject>(app, edited, "Field1");
   for (int i = 1; i <= fields; ++i) {
     object->add(tyType::String, "Field" + std::to_string(i), "text " + std::to_string(i));
   }

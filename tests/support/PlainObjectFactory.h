@@ -12,7 +12,6 @@
 #include "objects/Media.h"
 #include "objects/Storage.h"
 #include "objects/Version.h"
-#include "protocol/ClassRules.h"
 #include "protocol/ObjectFactory.h"
 
 namespace velra::test {
@@ -33,22 +32,22 @@ class PlainObjectFactory : public ObjectFactory {
   std::vector<std::weak_ptr<DescribedObject>> objects;
   std::vector<std::weak_ptr<PlainForm>> forms;
 
-  ObjectRef createObject(const std::string& className) override {
-    if (ExpressionRef expression = createExpression(className)) return expression;
-    if (className == "AVDocument") return noted(std::make_shared<AVDocument>(app_));
-    if (className == "Version") return noted(std::make_shared<Version>(app_));
-    if (className == "Media") return noted(std::make_shared<Media>(app_));
-    if (className == "Storage") return noted(std::make_shared<Storage>(app_));
+  ObjectRef createObject(ObjectKind kind) override {
+    if (ExpressionRef expression = createExpression(kind)) return expression;
+    if (kind == ObjectKind::AVDocument) return noted(std::make_shared<AVDocument>(app_));
+    if (kind == ObjectKind::Version) return noted(std::make_shared<Version>(app_));
+    if (kind == ObjectKind::Media) return noted(std::make_shared<Media>(app_));
+    if (kind == ObjectKind::Storage) return noted(std::make_shared<Storage>(app_));
     return nullptr;
   }
-  ExpressionRef createExpression(const std::string& className) override {
-    if (className == "Video") return noted(std::make_shared<Video>(app_));
-    if (className == "Audio") return noted(std::make_shared<Audio>(app_));
-    if (className == "Transcript") return noted(std::make_shared<Transcript>(app_));
+  ExpressionRef createExpression(ObjectKind kind) override {
+    if (kind == ObjectKind::Video) return noted(std::make_shared<Video>(app_));
+    if (kind == ObjectKind::Audio) return noted(std::make_shared<Audio>(app_));
+    if (kind == ObjectKind::Transcript) return noted(std::make_shared<Transcript>(app_));
     return nullptr;
   }
-  std::shared_ptr<ObjectForm> createForm(const std::string& className) override {
-    if (!findClassRules(className)) return nullptr;
+  std::shared_ptr<ObjectForm> createForm(ObjectKind kind) override {
+    if (kind == ObjectKind::MediaObject) return nullptr;
     auto form = std::make_shared<PlainForm>();
     forms.push_back(form);
     return form;

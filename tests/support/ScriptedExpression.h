@@ -18,7 +18,7 @@ namespace velra::test {
 /// chain as the real ones do for segments that do not overlap.
 class ScriptedExpression : public StubObject, public Expression {
  public:
-  explicit ScriptedExpression(std::string className) { kind = std::move(className); }
+  explicit ScriptedExpression(ObjectKind kind) { isA = kind; }
 
   std::string title;
   std::string movie;
@@ -35,9 +35,8 @@ class ScriptedExpression : public StubObject, public Expression {
   std::shared_ptr<SEColl> fields;
   std::shared_ptr<ObjectForm> form;
 
-  static std::shared_ptr<ScriptedExpression> make(const std::string& className, double start,
-                                                  double end) {
-    auto made = std::make_shared<ScriptedExpression>(className);
+  static std::shared_ptr<ScriptedExpression> make(ObjectKind kind, double start, double end) {
+    auto made = std::make_shared<ScriptedExpression>(kind);
     made->SetChunk(start, end);
     return made;
   }
@@ -57,7 +56,7 @@ class ScriptedExpression : public StubObject, public Expression {
 
   void AddSubExpression(const std::string& newTitle, double dStart, double dend) override {
     if (refusesNewSegments) return;
-    const auto added = make(kind, dStart, dend);
+    const auto added = make(isA, dStart, dend);
     added->title = newTitle;
     added->parent = shared_from_expression();
     if (const ExpressionRef before = nearest(dStart, true)) before->setObjFollowedBy(added);
@@ -77,9 +76,7 @@ class ScriptedExpression : public StubObject, public Expression {
   void setStrVersionGUID(const std::string&) override {}
   std::string strGetPartOf() const override { return {}; }
   std::string strFollowedBy() const override { return {}; }
-  bool bCheckIfSubExpression(const std::string&, const std::string&) const override {
-    return false;
-  }
+  bool bCheckIfSubExpression(ObjectKind, const std::string&) const override { return false; }
   std::shared_ptr<Chunk> ckGetChunk() const override { return span; }
   void SetChunk(double dStart, double dend) override {
     span = std::make_shared<Chunk>();

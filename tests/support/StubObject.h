@@ -16,13 +16,13 @@ class StubObject : public virtual DescribedObject {
  public:
   explicit StubObject(std::string guid = {}) : guid_(std::move(guid)) {}
 
-  std::string kind = "Version";
+  ObjectKind isA = ObjectKind::Version;
   bool changed = false;
   bool canSave = true;
   ObjectList waits;
   ObjectList below;
 
-  const std::string& className() const override { return kind; }
+  ObjectKind kind() const override { return isA; }
   std::shared_ptr<IOManager> io() const override { return nullptr; }
   SEColl& secol() const override { raise(kNoObject); }
   std::string strGUID() const override { return guid_; }
@@ -75,7 +75,7 @@ class StubObject : public virtual DescribedObject {
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
   ObjectList colSelSubTree() override { return {shared_from_this()}; }
   std::string strRemoveAllChilds() override { return {}; }
-  bool bCheckIfOwnRelative(const std::string&, const std::string&) const override { return false; }
+  bool bCheckIfOwnRelative(ObjectKind, const std::string&) const override { return false; }
   const ObjectList& colChilds() const override { return below; }
 
  private:

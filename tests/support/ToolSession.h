@@ -19,14 +19,14 @@ namespace velra::test {
 /// 100 seconds with the segments "A" [10, 20] and "B" [30, 40], each with a form of its own.
 class ToolSession : public TestApplication {
  public:
-  explicit ToolSession(VideoFormFaces& faces, const std::string& className = "Video")
+  explicit ToolSession(VideoFormFaces& faces, ObjectKind kind = ObjectKind::Video)
       : services{app,
                  [this]() -> std::unique_ptr<MediaGraph> {
                    return std::make_unique<ScriptedMediaGraph>(movie);
                  },
                  faces} {
     app.gMainForm = &mainWindow;
-    main = ScriptedExpression::make(className, 0, 100);
+    main = ScriptedExpression::make(kind, 0, 100);
     main->title = "Main";
     main->AddSubExpression("A", 10, 20);
     main->AddSubExpression("B", 30, 40);

@@ -12,7 +12,7 @@ using Calls = std::vector<std::string>;
 class PlayerTest : public ToolTest {};
 
 TEST_F(PlayerTest, AMovieOpensAtTheStartOfTheSpan) {
-  use("Video", 10, 20);
+  use(ObjectKind::Video, 10, 20);
   ASSERT_TRUE(open());
   EXPECT_EQ(movie.takeCalls(), (Calls{"RenderFile", "seek", "Pause"}));
   EXPECT_EQ(face.timeCode, "00:00:10:00");
@@ -24,12 +24,12 @@ TEST_F(PlayerTest, AMovieOpensAtTheStartOfTheSpan) {
 }
 
 TEST_F(PlayerTest, OnlyAVideoKeepsTheFrameRate) {
-  use("Audio");
+  use(ObjectKind::Audio);
   ASSERT_TRUE(open());
   EXPECT_EQ(obj->frameRate, 0);
   EXPECT_EQ(tool->player.dFrameRate(), 25);
   movie.frameLength = 0;
-  use("Video");
+  use(ObjectKind::Video);
   ASSERT_TRUE(open());
   EXPECT_EQ(tool->player.dFrameRate(), 0);
   tool->player.SeekTo(12.9);
@@ -42,18 +42,18 @@ TEST_F(PlayerTest, AnEndBehindTheMovieIsCutToItsLength) {
   };
   for (const Case& row :
        {Case{0, 100, 100}, Case{0, 101, 100}, Case{50, 150, 150}, Case{50, 151, 100}}) {
-    use("Video", row.start, row.end);
+    use(ObjectKind::Video, row.start, row.end);
     ASSERT_TRUE(open());
     EXPECT_EQ(obj->span->dend, row.kept) << row.end;
   }
   movie.duration = 0;  // unknown
-  use("Video", 0, 60);
+  use(ObjectKind::Video, 0, 60);
   ASSERT_TRUE(open());
   EXPECT_EQ(obj->span->dend, 60);
 }
 
 TEST_F(PlayerTest, ANegativeBoundLeavesThePositionAlone) {
-  use("Audio", -5, 20);
+  use(ObjectKind::Audio, -5, 20);
   movie.position = 7;
   ASSERT_TRUE(open());
   EXPECT_EQ(movie.takeCalls(), Calls{"RenderFile"});
@@ -61,7 +61,7 @@ TEST_F(PlayerTest, ANegativeBoundLeavesThePositionAlone) {
 }
 
 TEST_F(PlayerTest, NoPathMeansNoMovie) {
-  use("Audio");
+  use(ObjectKind::Audio);
   obj->movie.clear();
   tool = std::make_unique<ExpressionTool>(
       obj, app, [this] { return std::make_unique<ScriptedMediaGraph>(movie); }, dialog, face);
@@ -80,7 +80,7 @@ TEST_F(PlayerTest, NoPathMeansNoMovie) {
 }
 
 TEST_F(PlayerTest, AMovieThatCannotBePlayedOpensNoForm) {
-  use("Video");
+  use(ObjectKind::Video);
   movie.refusal = "No picture in it.";
   EXPECT_FALSE(open());
   EXPECT_EQ(ui.takeShown(), Calls{"exclamation: No picture in it.\n" + obj->movie});
@@ -91,7 +91,7 @@ TEST_F(PlayerTest, AMovieThatCannotBePlayedOpensNoForm) {
 }
 
 TEST_F(PlayerTest, StepsMoveOneFrameAndEndOnTheBounds) {
-  use("Video", 10, 99);
+  use(ObjectKind::Video, 10, 99);
   ASSERT_TRUE(open());
   struct Case {
     double from;
@@ -116,7 +116,7 @@ TEST_F(PlayerTest, StepsMoveOneFrameAndEndOnTheBounds) {
     EXPECT_EQ(movie.position, row.to) << row.from;
   }
   EXPECT_EQ(tool->advsld.dPosition(), 10) << "only the slider clamps";
-  use("Video", 50, 100.01);  // the span reaches further than the movie
+  use(ObjectKind::Video, 50, 100.01);  // the span reaches further than the movie
   ASSERT_TRUE(open());
   tool->player.SeekTo(99.99);
   tool->player.cmdForward();
@@ -126,7 +126,7 @@ TEST_F(PlayerTest, StepsMoveOneFrameAndEndOnTheBounds) {
 }
 
 TEST_F(PlayerTest, TheTickFollowsTheMovieAndAJumpPausesIt) {
-  use("Video");
+  use(ObjectKind::Video);
   ASSERT_TRUE(open());
   tool->player.cmdPlay();
   EXPECT_TRUE(face.timer && tool->player.bPlaying());
@@ -147,7 +147,7 @@ TEST_F(PlayerTest, TheTickFollowsTheMovieAndAJumpPausesIt) {
 }
 
 TEST_F(PlayerTest, TextsBecomeTimes) {
-  use("Video");
+  use(ObjectKind::Video);
   ASSERT_TRUE(open());
   EXPECT_DOUBLE_EQ(tool->player.TextToTime("00:59:59:12"), 3599.48);
   for (const char* bad : {"00:59:59", "00:59:xx:00"}) {

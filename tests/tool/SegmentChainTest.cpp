@@ -14,7 +14,7 @@ using Links = std::vector<const char*>;
 ExpressionList family(std::size_t count, const Links& links) {
   ExpressionList children;
   for (std::size_t i = 0; i < count; ++i) {
-    const auto child = ScriptedExpression::make("Video", 0, 1);
+    const auto child = ScriptedExpression::make(ObjectKind::Video, 0, 1);
     child->title = std::string(1, static_cast<char>('a' + i));
     children.push_back(child);
   }

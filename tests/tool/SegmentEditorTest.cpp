@@ -23,7 +23,7 @@ class SegmentEditorTest : public ToolTest {
  protected:
   SegmentEditor& segments() { return tool->segments; }
   void useThree() {
-    use("Video");
+    use(ObjectKind::Video);
     for (const int start : {10, 30, 50}) add("s" + std::to_string(start), start, start + 10);
     ASSERT_TRUE(open());
   }
@@ -92,7 +92,7 @@ const Rule kRules[] = {
 TEST_F(SegmentEditorTest, EachPathHasItsOwnRules) {
   for (const Rule& rule : kRules) {
     SCOPED_TRACE(rule.name);
-    use("Audio");
+    use(ObjectKind::Audio);
     add("old", 10, 20);
     ASSERT_TRUE(open());
     ui.inputs = {"new"};
@@ -115,7 +115,7 @@ TEST_F(SegmentEditorTest, EachPathHasItsOwnRules) {
 }
 
 TEST_F(SegmentEditorTest, WhatIsNotMadeLeavesNoTrace) {
-  use("Video");
+  use(ObjectKind::Video);
   ASSERT_TRUE(open());
   face.inDialog = [](RangeDialog& shown) { shown.CancelButton(); };
   segments().NewSegmentByDialog();
@@ -136,7 +136,7 @@ TEST_F(SegmentEditorTest, WhatIsNotMadeLeavesNoTrace) {
 }
 
 TEST_F(SegmentEditorTest, TheTimeCodeBlinksUntilTheSelectionEnds) {
-  use("Audio");
+  use(ObjectKind::Audio);
   ASSERT_TRUE(open());
   press(10);
   EXPECT_TRUE(face.blinker);
@@ -155,7 +155,7 @@ TEST_F(SegmentEditorTest, TheTimeCodeBlinksUntilTheSelectionEnds) {
 }
 
 TEST_F(SegmentEditorTest, ANewVideoSegmentReachesStripAndMainWindow) {
-  use("Video");
+  use(ObjectKind::Video);
   add("late", 50, 60);
   ASSERT_TRUE(open());
   ui.inputs = {"early"};
@@ -230,7 +230,7 @@ TEST_F(SegmentEditorTest, MergingGoesByListPositionAndKeepsTheFirstTitle) {
 }
 
 TEST_F(SegmentEditorTest, AMergeWithReversedBoundsChangesNothing) {
-  use("Video");
+  use(ObjectKind::Video);
   add("late", 50, 60);
   add("early", 10, 20);
   ASSERT_TRUE(open());
@@ -244,7 +244,7 @@ TEST_F(SegmentEditorTest, AMergeWithReversedBoundsChangesNothing) {
 }
 
 TEST_F(SegmentEditorTest, ASegmentOfNoLengthOpensWithASentence) {
-  use("Video", 10, 10);
+  use(ObjectKind::Video, 10, 10);
   add("child", 10, 10);
   ASSERT_TRUE(open());
   EXPECT_EQ(shownAtOpening,
@@ -256,7 +256,7 @@ TEST_F(SegmentEditorTest, ASegmentOfNoLengthOpensWithASentence) {
 }
 
 TEST_F(SegmentEditorTest, BoundsAreReachedAndMovedAlongTheChain) {
-  use("Audio");
+  use(ObjectKind::Audio);
   add("B", 20, 30);
   add("A", 0, 10);
   ASSERT_TRUE(open());
@@ -289,7 +289,7 @@ TEST_F(SegmentEditorTest, BoundsAreReachedAndMovedAlongTheChain) {
 }
 
 TEST_F(SegmentEditorTest, ClicksKeepTimelineAndStripInStep) {
-  use("Video", 5, 100);
+  use(ObjectKind::Video, 5, 100);
   for (const int start : {10, 30, 50}) add("s", start, start + 10);
   add("outside", 1, 3);
   ASSERT_TRUE(open());
@@ -306,7 +306,7 @@ TEST_F(SegmentEditorTest, ClicksKeepTimelineAndStripInStep) {
 }
 
 TEST_F(SegmentEditorTest, TheKeyFrameOfTheExpressionItselfChanges) {
-  use("Video");
+  use(ObjectKind::Video);
   ASSERT_TRUE(open());
   tool->player.SeekTo(7);
   segments().ChangeKeyFrame();

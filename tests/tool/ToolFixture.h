@@ -49,8 +49,8 @@ class ToolTest : public ::testing::Test, protected TestApplication {
  protected:
   ToolTest() { app.gMainForm = &mainWindow; }
 
-  void use(const std::string& className, double start = 0, double end = 100) {
-    obj = ScriptedExpression::make(className, start, end);
+  void use(ObjectKind kind, double start = 0, double end = 100) {
+    obj = ScriptedExpression::make(kind, start, end);
     obj->title = "Main";
     obj->movie = folder.write("movie.avi", "RIFF");
   }

@@ -9,8 +9,8 @@ namespace {
 class TranscriptViewTest : public ToolTest {
  protected:
   void speak(const std::vector<double>& starts) {
-    use("Transcript");
-    const auto transcript = std::make_shared<ScriptedExpression>("Transcript");
+    use(ObjectKind::Transcript);
+    const auto transcript = std::make_shared<ScriptedExpression>(ObjectKind::Transcript);
     obj->transcript = transcript;
     transcript->words = std::make_shared<WordColl>();
     int number = 0;
@@ -52,10 +52,10 @@ TEST_F(TranscriptViewTest, WordsComeAtTheirStartAndNotAfterAJump) {
 
 TEST_F(TranscriptViewTest, WithoutAWordListTheBoxSaysSo) {
   const std::string none = "<" + app.messages.text(1097) + ">";
-  use("Video");
+  use(ObjectKind::Video);
   view.OpenTranscriptView(*obj);
   EXPECT_EQ(view.text(), none);
-  obj->transcript = std::make_shared<ScriptedExpression>("Transcript");
+  obj->transcript = std::make_shared<ScriptedExpression>(ObjectKind::Transcript);
   view.OpenTranscriptView(*obj);
   view.UpdateTranscriptText(5, true);
   view.UpdateTranscriptText(6, false);

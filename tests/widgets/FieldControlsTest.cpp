@@ -204,7 +204,7 @@ TEST_F(FieldControlsTest, ListsOverTheVocabularyFollowOneAnother) {
   object_->add(tyType::String, "Themes", "Art");
   object_->add(tyType::String, "Subthemes", "Dance");
   object_->add(tyType::SetOfStrings, "ThematicKeywords", StringList{"Tango", "Ballet"});
-  open("AVDocument");
+  open(ObjectKind::AVDocument);
   EXPECT_EQ(test::accessibilityFaults(*window_), std::vector<std::string>{});
   QWidget& set = find("ctlSetOfStringCL1");
   auto& first = find<QComboBox>("Combo1_1", &set);

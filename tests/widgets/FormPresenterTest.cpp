@@ -43,7 +43,7 @@ class FormPresenterTest : public ::testing::Test {
 };
 
 TEST_F(FormPresenterTest, FormsOpenInTheSizeTheyHadLast) {
-  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
+  MetadataForm form(*metadataKindOf(ObjectKind::Media), application_.app, presenter_);
   form.setObject(object_);
   whenModal([](QWidget& window) {
     EXPECT_EQ(window.objectName(), QStringLiteral("MediaForm"));
@@ -77,7 +77,7 @@ TEST_F(FormPresenterTest, NoWindowOpensLargerThanItsScreen) {
   owner.show();
   EXPECT_TRUE(screen.contains(owner.geometry()));
   EXPECT_EQ(owner.height(), 300);
-  MetadataForm form(*metadataKindOf("Media"), application_.app, presenter_);
+  MetadataForm form(*metadataKindOf(ObjectKind::Media), application_.app, presenter_);
   form.setObject(object_);
   for (int showing = 0; showing < 2; ++showing) {
     whenModal([&](QWidget& window) {

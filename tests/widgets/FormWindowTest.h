@@ -23,14 +23,15 @@ class FormWindowTest : public ::testing::Test {
  protected:
   TestApplication application_;
   ApplicationModule& app_ = application_.app;
-  std::shared_ptr<FormObject> object_ = std::make_shared<FormObject>(app_, "Media", "Format");
+  std::shared_ptr<FormObject> object_ =
+      std::make_shared<FormObject>(app_, ObjectKind::Media, "Format");
   TabScroll scroll_;
   std::unique_ptr<LoadedForm> form_;
   std::unique_ptr<MetadataFormWindow> window_;
 
-  void open(const char* className = "Media") {
+  void open(ObjectKind edited = ObjectKind::Media) {
     window_.reset();
-    form_ = std::make_unique<LoadedForm>(app_, *metadataKindOf(className), object_, scroll_);
+    form_ = std::make_unique<LoadedForm>(app_, *metadataKindOf(edited), object_, scroll_);
     form_->Form_Load();
     window_ = std::make_unique<MetadataFormWindow>(app_, *form_, nullptr);
     window_->show();

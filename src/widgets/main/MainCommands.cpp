@@ -59,13 +59,13 @@ constexpr MenuEntry kFile[] = {
 constexpr MenuEntry kAddMainExpr[] = {
     {.name = "mnuAddMainVideo",
      .caption = Message::AddMainVideo,
-     .run = [](MainFormWindow& window) { window.rules().AddMainExpr("Video"); }},
+     .run = [](MainFormWindow& window) { window.rules().AddMainExpr(ObjectKind::Video); }},
     {.name = "mnuAddMainAudio",
      .caption = Message::AddMainAudio,
-     .run = [](MainFormWindow& window) { window.rules().AddMainExpr("Audio"); }},
+     .run = [](MainFormWindow& window) { window.rules().AddMainExpr(ObjectKind::Audio); }},
     {.name = "mnuAddMainTranscript",
      .caption = Message::AddMainTranscript,
-     .run = [](MainFormWindow& window) { window.rules().AddMainExpr("Transcript"); }},
+     .run = [](MainFormWindow& window) { window.rules().AddMainExpr(ObjectKind::Transcript); }},
 };
 
 constexpr MenuEntry kEdit[] = {
