@@ -57,11 +57,10 @@ void edit(DescribedObject& object) {
 
 double measureSaving(BenchSession& session) {
   Times times;
-  const ObjectList objects = session.document()->collObjects().all();
+  const ObjectList objects = session.document()->collObjects().described();
   for (std::size_t i = 1; i <= 101; ++i) {
     DescribedObject& object = *objects[i * (objects.size() - 1) / 102];
-    if (object.kind() == ObjectKind::MediaObject || object.kind() == ObjectKind::AVDocument)
-      continue;
+    if (object.kind() == ObjectKind::AVDocument) continue;
     edit(object);
     times.take([&] { session.document()->bSave(); });
   }
@@ -71,9 +70,8 @@ double measureSaving(BenchSession& session) {
 double measureSearch(BenchSession& session) {
   long hits = 0;
   return leastWork(3, [&] {
-    for (const auto& [number, object] : session.document()->collObjects().sequence()) {
-      if (object->kind() != ObjectKind::MediaObject)
-        hits += object->secol().iSearchText("Küste", false);
+    for (const ObjectRef& object : session.document()->collObjects().described()) {
+      hits += object->secol().iSearchText("Küste", false);
     }
   });
 }
@@ -82,8 +80,7 @@ double measureSearch(BenchSession& session) {
 double measureTextPass(BenchSession& session) {
   std::size_t found = 0;
   return leastWork(3, [&] {
-    for (const auto& [number, object] : session.document()->collObjects().sequence()) {
-      if (object->kind() == ObjectKind::MediaObject) continue;
+    for (const ObjectRef& object : session.document()->collObjects().described()) {
       for (const SchemaElement& field : object->secol()) {
         if (!field.bValid()) continue;
         if (const auto* text = std::get_if<std::string>(&field.vContent())) {

@@ -31,7 +31,7 @@ using benchmark::State;
 struct Sample {
   explicit Sample(RunFolder& run) : session(run.path(), makeSchema(run.path())) {
     session.open(makeDocument(run.make("pieces"), {1000, 0}));
-    for (const auto& [number, object] : session.document()->collObjects().sequence()) {
+    for (const ObjectRef& object : session.document()->collObjects().described()) {
       if (object->kind() == ObjectKind::Audio) segment = object;
     }
   }

@@ -76,8 +76,9 @@ std::vector<Measure> measureTool(const std::string&) {
     const double start = i * kMovieSeconds / kWords;
     words->Add("", "", start, start + 0.1, i % 3 ? "word" : "syllable");
   }
-  bench.session.main->transcript = bench.session.main;
-  bench.session.main->words = words;
+  const auto transcript = std::make_shared<test::ScriptedExpression>(ObjectKind::Transcript);
+  transcript->words = words;
+  bench.session.main->transcript = transcript;
   std::vector<Measure> measures;
   bench.act = [&](MeasuredWindow& window) {
     measureTimeline(window, measures);

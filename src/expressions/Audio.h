@@ -8,6 +8,8 @@ namespace velra {
 /// The sound expression of a Version: what all expressions do and nothing besides.
 class Audio : public ExpressionBase {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return kind == ObjectKind::Audio; }
+
   explicit Audio(ApplicationModule& app);
   ~Audio() override;
   Audio(const Audio&) = delete;

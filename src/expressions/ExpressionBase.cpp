@@ -106,12 +106,12 @@ void ExpressionBase::SetChunk(double dStart, double dend) {
 }
 
 std::string ExpressionBase::strGetMediaObjectPath() const {
-  const auto version = std::dynamic_pointer_cast<Version>(verVersion());
+  const auto version = as<Version>(verVersion());
   return version ? version->strGetMediaObjectPath() : std::string();
 }
 
 void ExpressionBase::OpenTranscript() {
-  const auto version = std::dynamic_pointer_cast<Version>(verVersion());
+  const auto version = as<Version>(verVersion());
   if (!version) raise(kNoObject);
   objTranscript_ = version->trMainTranscript();
 }

@@ -13,8 +13,10 @@ namespace velra {
 
 /// What Video, Audio and Transcript share. What is a class's own are the small virtual
 /// steps and the names of its fields.
-class ExpressionBase : public ObjectBase, public Expression {
+class ExpressionBase : public ObjectBase, public virtual Expression {
  public:
+  using Expression::isKind;
+
   ExpressionRef objMainExpr() const override { return objMainExpr_.lock(); }
   void setObjMainExpr(const ExpressionRef& parent) override { objMainExpr_ = parent; }
   ExpressionRef objFollowedBy() const override { return objFollowedBy_.lock(); }
@@ -23,9 +25,8 @@ class ExpressionBase : public ObjectBase, public Expression {
   void setVerVersion(const ObjectRef& version) override { verVersion_ = version; }
 
   const ExpressionList& colSubExpressions() const override { return colSubExpressions_; }
-  void OpenSubExpressions() override;
+  void OpenSubExpressions();
   void AddSubExpression(const std::string& title, double dStart, double dend) override;
-  void RemoveSubExpressionByIndex(std::size_t position) override;
   void RemoveSubExpressionByPointer(const ExpressionRef& segment) override;
 
   std::string strVersionGUID() const override;
@@ -42,16 +43,6 @@ class ExpressionBase : public ObjectBase, public Expression {
   void OpenTranscript() override;
   bool bHasTranscript() const override { return objTranscript() != nullptr; }
   ExpressionRef objTranscript() const override { return objTranscript_.lock(); }
-  std::shared_ptr<WordColl> WordList() const override { return nullptr; }
-
-  double dFrameRate() const override { return 0; }
-  void setDFrameRate(double) override {}
-  ObjectRef objKeyframeObject() const override { return nullptr; }
-  Picture picKeyFrame() const override { return {}; }
-  Picture picKeyFrameSmall() const override { return {}; }
-  double dGetKeyFrameTime() const override { return -1; }
-  void SetKeyFrameTime(double) override {}
-  void UpdateLocationKeyFrameObject(const std::string&, const std::string&) override {}
 
   ObjectList waitsFor() const override;
   void visitReferences(ReferenceVisitor& visitor) const override;
@@ -71,9 +62,10 @@ class ExpressionBase : public ObjectBase, public Expression {
   void afterInit() override { colSubExpressions_.clear(); }
   bool isReference(const SchemaElement& element) const override;
 
-  /// The class's own steps for a new segment: before it joins the tree, and at the end.
-  virtual void prepareSegment(ExpressionBase&) {}
-  virtual void finishSegment(ExpressionBase&) {}
+  /// The class's own steps of a new segment: before it joins the tree of its parent, and at the
+  /// end.
+  virtual void prepareAsSegmentOf(const ExpressionBase&) {}
+  virtual void finishAsSegment() {}
 
   /// A relation field that must be of a type: its text, "" when it is not assigned; a field of
   /// another type shows the message and counts as empty.

@@ -41,8 +41,7 @@ void ExpressionBase::LinkFollowers() {
 
 std::shared_ptr<ExpressionBase> ExpressionBase::makeSegment(const std::string& title) {
   if (!canNameChild()) return nullptr;
-  auto segment =
-      std::dynamic_pointer_cast<ExpressionBase>(app().objectFactory->createExpression(kind()));
+  auto segment = as<ExpressionBase>(app().objectFactory->createExpression(kind()));
   const std::string guid =
       io()->strCreateGUID(document().collObjects(), *segment, document().strGUID());
   const std::string message = segment->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
@@ -58,22 +57,21 @@ void ExpressionBase::AddSubExpression(const std::string& title, double dStart, d
   segment->SetPartOf(strGUID());
   linkIntoChain(*segment, dStart, dend);
   segment->SetChunk(dStart, dend);
-  prepareSegment(*segment);
-  segment->setObjMainExpr(std::dynamic_pointer_cast<Expression>(shared_from_this()));
+  segment->prepareAsSegmentOf(*this);
+  segment->setObjMainExpr(sharedOf(*this));
   segment->setVerVersion(verVersion());
   colSubExpressions_.push_back(segment);
   tellReferences();
-  finishSegment(*segment);
+  segment->finishAsSegment();
   segment->OpenSubExpressions();
 }
 
 void ExpressionBase::linkIntoChain(ExpressionBase& segment, double dStart, double dend) {
-  const auto self = std::dynamic_pointer_cast<Expression>(segment.shared_from_this());
-  const auto before = std::dynamic_pointer_cast<ExpressionBase>(siblingBefore(dStart));
+  const auto before = as<ExpressionBase>(siblingBefore(dStart));
   const ExpressionRef after = siblingAfter(dend);
   if (before) {
     before->SetFollowedBy(segment.strGUID());
-    before->setObjFollowedBy(self);
+    before->setObjFollowedBy(sharedOf(segment));
   }
   if (after) {
     segment.SetFollowedBy(after->strGUID());
@@ -175,11 +173,6 @@ void ExpressionBase::removeSegment(ExpressionRef segment) {
   }
   ObjectRef object = std::move(segment);
   document().RemoveObject(object);
-}
-
-void ExpressionBase::RemoveSubExpressionByIndex(std::size_t position) {
-  if (position < 1 || position > colSubExpressions_.size()) raise(kSubscriptOutOfRange);
-  removeSegment(colSubExpressions_[position - 1]);
 }
 
 void ExpressionBase::RemoveSubExpressionByPointer(const ExpressionRef& segment) {

@@ -28,8 +28,7 @@ void Transcript::setWordList(const std::shared_ptr<WordColl>& words) {
 }
 
 ExpressionRef Transcript::objTranscript() const {
-  auto self = const_cast<Transcript*>(this)->shared_from_this();
-  return std::dynamic_pointer_cast<Expression>(self);
+  return sharedOf(const_cast<Transcript&>(*this));
 }
 
 void Transcript::afterInit() {
@@ -37,12 +36,12 @@ void Transcript::afterInit() {
   setWordList(std::make_shared<WordColl>());
 }
 
-void Transcript::prepareSegment(ExpressionBase& segment) {
-  auto* transcript = dynamic_cast<Transcript*>(&segment);
-  const auto words = WordList();
-  const auto span = segment.ckGetChunk();
-  if (!transcript || !words || !span) raise(kNoObject);
-  transcript->setWordList(wcNewWordList(*words, *span));
+void Transcript::prepareAsSegmentOf(const ExpressionBase& parent) {
+  const auto* whole = as<const Transcript>(&parent);
+  const auto words = whole ? whole->WordList() : nullptr;
+  const auto span = ckGetChunk();
+  if (!words || !span) raise(kNoObject);
+  setWordList(wcNewWordList(*words, *span));
 }
 
 std::shared_ptr<WordColl> wcNewWordList(const WordColl& words, const Chunk& span) {

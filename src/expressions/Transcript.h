@@ -4,14 +4,16 @@
 #include <memory>
 
 #include "expressions/ExpressionBase.h"
-#include "values/WordColl.h"
+#include "protocol/TranscriptExpression.h"
 
 namespace velra {
 
 /// The text expression of a Version: timed words, with a tree of segments over them. It is its own
 /// transcript, so that nothing that shows an expression with its words needs a special case.
-class Transcript : public ExpressionBase {
+class Transcript : public ExpressionBase, public TranscriptExpression {
  public:
+  using TranscriptExpression::isKind;
+
   explicit Transcript(ApplicationModule& app);
   ~Transcript() override;
   Transcript(const Transcript&) = delete;
@@ -27,7 +29,7 @@ class Transcript : public ExpressionBase {
 
  protected:
   void afterInit() override;
-  void prepareSegment(ExpressionBase& segment) override;
+  void prepareAsSegmentOf(const ExpressionBase& parent) override;
 };
 
 /// Copies of the words that lie whole inside the span, bounds included.

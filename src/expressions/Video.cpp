@@ -16,12 +16,6 @@ namespace {
 
 constexpr std::string_view kFrameRateField = "FrameRate";
 
-Video& asVideo(ExpressionBase& segment) {
-  auto* video = dynamic_cast<Video*>(&segment);
-  if (!video) raise(kTypeMismatch);
-  return *video;
-}
-
 }  // namespace
 
 Video::Video(ApplicationModule& app)
@@ -44,10 +38,6 @@ void Video::setDFrameRate(double framesPerSecond) {
     return field->assign(framesPerSecond);
   }
   field->setBValid(true);
-}
-
-ObjectRef Video::objKeyframeObject() const {
-  return keyFrame_.objKeyframeObject();
 }
 
 void Video::chooseKeyFrameTime() {
@@ -73,21 +63,16 @@ void Video::openBelow() {
   CreateKeyFrameIcons();
 }
 
-void Video::prepareSegment(ExpressionBase& segment) {
-  asVideo(segment).chooseKeyFrameTime();
-}
-
-void Video::finishSegment(ExpressionBase& segment) {
-  Video& video = asVideo(segment);
-  video.InitKeyFrameFile();
-  video.CreateKeyFrameIcons();
+void Video::finishAsSegment() {
+  InitKeyFrameFile();
+  CreateKeyFrameIcons();
 }
 
 void Video::OpenAudio() {
   const std::string guid = typedText("hasaudio", Message::HasAudioMustBeString);
   if (guid.empty()) return;
-  if (const ObjectRef loaded = document().loadedObject(guid)) {
-    const auto audio = std::dynamic_pointer_cast<Audio>(loaded);
+  if (const RegisteredRef loaded = document().loadedObject(guid)) {
+    const auto audio = as<Audio>(loaded);
     if (audio) {
       objAudio_ = audio;
     } else {
@@ -96,8 +81,7 @@ void Video::OpenAudio() {
     return;
   }
   objAudio_.reset();
-  const auto audio =
-      std::dynamic_pointer_cast<Audio>(app().objectFactory->createExpression(ObjectKind::Audio));
+  const auto audio = as<Audio>(app().objectFactory->createExpression(ObjectKind::Audio));
   const std::string message =
       audio->strOpen(guid, app().objectFactory->createForm(ObjectKind::Audio), io());
   if (message.empty()) {

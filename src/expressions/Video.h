@@ -6,6 +6,7 @@
 
 #include "expressions/ExpressionBase.h"
 #include "expressions/KeyFrame.h"
+#include "protocol/VideoExpression.h"
 
 namespace velra {
 
@@ -13,8 +14,10 @@ class Audio;
 class AVDocument;
 
 /// The expression that a movie's pictures carry: frame rate, key frame, and the link to an Audio.
-class Video : public ExpressionBase {
+class Video : public ExpressionBase, public VideoExpression {
  public:
+  using VideoExpression::isKind;
+
   explicit Video(ApplicationModule& app);
   ~Video() override;
   Video(const Video&) = delete;
@@ -29,11 +32,12 @@ class Video : public ExpressionBase {
   /// Opens the Audio that the field names. What fails is shown.
   void OpenAudio();
 
-  /// Frames per second; 0 when it is not assigned.
   double dFrameRate() const override;
   void setDFrameRate(double framesPerSecond) override;
 
-  ObjectRef objKeyframeObject() const override;
+  std::shared_ptr<MediaObject> objKeyframeObject() const override {
+    return keyFrame_.objKeyframeObject();
+  }
   Picture picKeyFrame() const override { return keyFrame_.picKeyFrame(); }
   Picture picKeyFrameSmall() const override { return keyFrame_.picKeyFrameSmall(); }
   double dGetKeyFrameTime() const override { return keyFrame_.dGetKeyFrameTime(); }
@@ -48,8 +52,8 @@ class Video : public ExpressionBase {
   void afterLoad() override;
   void fieldChanged(const SchemaElement& element) override;
   void openBelow() override;
-  void prepareSegment(ExpressionBase& segment) override;
-  void finishSegment(ExpressionBase& segment) override;
+  void prepareAsSegmentOf(const ExpressionBase&) override { chooseKeyFrameTime(); }
+  void finishAsSegment() override;
 
  private:
   void chooseKeyFrameTime();

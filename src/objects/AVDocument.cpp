@@ -9,11 +9,12 @@
 #include "objects/CrossLanguageDefaults.h"
 #include "objects/DocumentSave.h"
 #include "objects/Media.h"
+#include "objects/MediaObject.h"
 #include "objects/Storage.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
-#include "protocol/Expression.h"
 #include "protocol/MainWindow.h"
+#include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
@@ -52,9 +53,9 @@ void AVDocument::initFields() {
 }
 
 void AVDocument::adopt(DescribedObject& child) {
-  auto* version = dynamic_cast<Version*>(&child);
+  auto* version = as<Version>(&child);
   if (!version) raise(kTypeMismatch);
-  version->setObjParent(std::dynamic_pointer_cast<AVDocument>(shared_from_this()));
+  version->setObjParent(sharedOf(*this));
 }
 
 std::int16_t AVDocument::iAlreadyLoaded(const std::string& guid) {
@@ -63,7 +64,7 @@ std::int16_t AVDocument::iAlreadyLoaded(const std::string& guid) {
 
 std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                                 const std::shared_ptr<IOManager>& io) {
-  app().gAVDoc = std::dynamic_pointer_cast<AVDocument>(shared_from_this());
+  app().gAVDoc = sharedOf(*this);
   const FolderScans::Opening opening(io->scans());
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();
@@ -96,7 +97,7 @@ void AVDocument::ShowForm(FormOwner& owner) {
 }
 
 void AVDocument::ShowObjectForm(const std::string& guid, FormOwner& owner) {
-  if (const ObjectRef object = collObjects_.find(guid)) object->ShowForm(owner);
+  if (const auto object = as<DescribedObject>(collObjects_.find(guid))) object->ShowForm(owner);
 }
 
 void AVDocument::RemoveObject(ObjectRef& removed) {
@@ -114,7 +115,7 @@ void AVDocument::RemoveObjects(const ObjectList& removed) {
     for (const ObjectRef& holder : references.holdersOf(*object)) {
       holder->RemoveReferenceObj(*object);
     }
-    const auto* expression = dynamic_cast<const Expression*>(object.get());
+    const auto* expression = as<Expression>(object.get());
     const auto next = expression ? expression->objFollowedBy() : nullptr;
     if (next) batch.removed(*object, *next);
     noteRemoved(object);
@@ -124,13 +125,12 @@ void AVDocument::RemoveObjects(const ObjectList& removed) {
 void AVDocument::noteRemoved(const ObjectRef& removed) {
   const std::string guid = removed->strGUID();
   collObjects_.Remove(*removed);
-  if (removed->kind() == ObjectKind::Video) {
+  if (const auto* video = as<VideoExpression>(removed.get())) {
     app().gMainForm->RemoveIcon(guid);
-    const auto& video = dynamic_cast<const Expression&>(*removed);
-    const ObjectRef picture = video.objKeyframeObject();
+    const auto picture = video->objKeyframeObject();
     if (picture) colObjRemoved_.push_back(picture->strGUID());
   }
-  if (const auto* storage = dynamic_cast<const Storage*>(removed.get())) {
+  if (const auto* storage = as<Storage>(removed.get())) {
     // The Media has dropped it by now, so the Version sees what is left.
     versionOf(*storage).ResetDuration();
   }

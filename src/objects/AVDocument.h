@@ -17,6 +17,8 @@ namespace velra {
 /// and what drives opening and saving.
 class AVDocument : public LadderObject, public OpenDocument {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return kind == ObjectKind::AVDocument; }
+
   explicit AVDocument(ApplicationModule& app);
   ~AVDocument() override;
   AVDocument(const AVDocument&) = delete;
@@ -25,7 +27,7 @@ class AVDocument : public LadderObject, public OpenDocument {
   ObjectRegistry& collObjects() override { return collObjects_; }
   SharedParts& shared() override { return shared_; }
   std::int16_t iAlreadyLoaded(const std::string& guid) override;
-  ObjectRef loadedObject(const std::string& guid) override { return collObjects_.find(guid); }
+  RegisteredRef loadedObject(const std::string& guid) override { return collObjects_.find(guid); }
 
   /// Becomes the open document first, in place of what was: all that is read below it joins the
   /// registry of that one and is read by its schema. It stays so when the opening fails.

@@ -9,8 +9,8 @@
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
-#include "protocol/Expression.h"
 #include "protocol/MainWindow.h"
+#include "protocol/VideoExpression.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
@@ -20,9 +20,9 @@ namespace velra {
 namespace {
 
 // The picture of a segment goes with its Video to the new place.
-void relocateKeyFrame(Expression& video, ObjectRegistry& objects, IOManager& io,
+void relocateKeyFrame(VideoExpression& video, ObjectRegistry& objects, IOManager& io,
                       const std::string& strAVDocPathName, SavePoint& before) {
-  const auto picture = std::dynamic_pointer_cast<MediaObject>(video.objKeyframeObject());
+  const auto picture = video.objKeyframeObject();
   if (!picture || picture->strGUID().empty()) return;
   const std::string oldGUID = picture->strGUID();
   const std::string newGUID = io.strCreateGUID(objects, ObjectKind::MediaObject,
@@ -52,22 +52,25 @@ void DocumentSave::renumber(DescribedObject& object) {
   io_.withdraw(oldGUID);
   object.setStrGUID(newGUID);
   for (const ObjectRef& holder : holders) holder->RenameAllRelativesGUID(oldGUID, newGUID);
-  if (object.kind() != ObjectKind::Video) return;
+  const auto* video = as<VideoExpression>(&object);
+  if (!video) return;
   app_.gMainForm->RemoveIcon(oldGUID);
-  app_.gMainForm->AddSmallKeyFrame(dynamic_cast<const Expression&>(object));
+  app_.gMainForm->AddSmallKeyFrame(*video);
 }
 
 bool DocumentSave::bSaveAllObjects() {
   if (!io_.bFileSystem()) return false;
   // One without changes has nothing to write, so only the others are asked.
-  for (const ObjectRef& object : objects_.changedObjects()) {
+  for (const RegisteredRef& object : objects_.changedObjects()) {
     if (object.get() != &document_ && !object->bSave()) return false;
   }
   return true;
 }
 
 bool DocumentSave::bSave() {
-  for (const ObjectRef& object : objects_.changedObjects()) {
+  for (const RegisteredRef& changed : objects_.changedObjects()) {
+    const auto object = as<DescribedObject>(changed);
+    if (!object) continue;  // a picture has its file before it has its name
     const std::string guid = object->strGUID();
     if (io_.names().isPromised(guid) && bFileExists(guid)) renumber(*object);
   }
@@ -145,8 +148,8 @@ bool DocumentSave::bSaveAllObjectsAs(SavePoint& before, const std::string& strAV
   const std::string schemaPath = app_.strXSDPath();
   ReferenceIndex& references = objects_.references();
   ReferenceIndex::Batch batch(references);
-  for (const ObjectRef& object : objects_.all()) {
-    if (object.get() == &document_ || object->kind() == ObjectKind::MediaObject) continue;
+  for (const ObjectRef& object : objects_.described()) {
+    if (object.get() == &document_) continue;
     const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);
     before.named(newGUID);
     const std::string oldGUID = object->strGUID();
@@ -156,7 +159,7 @@ bool DocumentSave::bSaveAllObjectsAs(SavePoint& before, const std::string& strAV
       holder->RenameAllRelativesGUID(oldGUID, newGUID);
     }
     batch.renamed(oldGUID, newGUID);
-    auto* video = dynamic_cast<Expression*>(object.get());
+    auto* video = as<VideoExpression>(object.get());
     if (video && io_.bFileSystem()) {
       relocateKeyFrame(*video, objects_, io_, strAVDocPathName, before);
     }

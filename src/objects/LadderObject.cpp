@@ -43,8 +43,8 @@ void LadderObject::OpenChilds() {
 }
 
 ObjectRef LadderObject::childOf(const std::string& guid) {
-  if (ObjectRef loaded = document().loadedObject(guid)) {
-    if (loaded->kind() == childKind()) return loaded;
+  if (const RegisteredRef loaded = document().loadedObject(guid)) {
+    if (loaded->kind() == childKind()) return as<DescribedObject>(loaded);
     app().ui.messageBox(classNameOf(childKind()) + ": " +
                         app().LoadResString(Message::ClassNameMismatch));
     return nullptr;

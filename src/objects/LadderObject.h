@@ -12,6 +12,8 @@ namespace velra {
 /// identifiers of the children, and the children themselves.
 class LadderObject : public ObjectBase {
  public:
+  static bool isKind(ObjectKind kind) { return rulesOf(kind).childKind.has_value(); }
+
   const ObjectList& colChilds() const override { return colChilds_; }
 
   /// Reads the children that the relation field lists. What cannot be read is reported and skipped.

@@ -17,9 +17,9 @@ std::string Media::openChild(const ObjectRef& child, const std::string& guid,
 }
 
 void Media::adopt(DescribedObject& child) {
-  auto* storage = dynamic_cast<Storage*>(&child);
+  auto* storage = as<Storage>(&child);
   if (!storage) raise(kTypeMismatch);
-  storage->setObjParent(std::dynamic_pointer_cast<Media>(shared_from_this()));
+  storage->setObjParent(sharedOf(*this));
 }
 
 void Media::attach(const ObjectRef& child) {

@@ -14,6 +14,8 @@ class Version;
 /// A manifestation of a Version, in practice one format.
 class Media : public LadderObject {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return kind == ObjectKind::Media; }
+
   explicit Media(ApplicationModule& app);
   ~Media() override;
   Media(const Media&) = delete;

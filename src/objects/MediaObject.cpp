@@ -3,7 +3,6 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "base/RunTimeError.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
@@ -28,15 +27,6 @@ std::shared_ptr<MediaObject> MediaObject::create(ApplicationModule& app) {
 }
 
 MediaObject::~MediaObject() = default;
-
-SEColl& MediaObject::secol() const {
-  raise(kNoObject);
-}
-
-const ObjectList& MediaObject::colChilds() const {
-  static const ObjectList kNone;
-  return kNone;
-}
 
 void MediaObject::strInit(const ObjectRef& objOwner) {
   io_ = objOwner->io();

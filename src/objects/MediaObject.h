@@ -13,8 +13,10 @@ class ApplicationModule;
 
 /// A file that is no object file: the movie of a Storage or the key-frame picture of a Video. Its
 /// identifier is a field of its owner.
-class MediaObject : public virtual DescribedObject {
+class MediaObject : public RegisteredObject {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return kind == ObjectKind::MediaObject; }
+
   MediaObject() = default;
   ~MediaObject() override;
   MediaObject(const MediaObject&) = delete;
@@ -37,48 +39,18 @@ class MediaObject : public virtual DescribedObject {
   const std::string& strTypeOfObject() const { return strTypeOfObject_; }
   void setStrTypeOfObject(const std::string& type) { strTypeOfObject_ = type; }
   ObjectRef objOwner() const { return objOwner_.lock(); }
-  const std::string& strSchemaPath() const { return strSchemaPath_; }
 
   /// True while a new file exists which no saved object points at.
   void setBChanged(bool changed);
 
   ObjectKind kind() const override { return ObjectKind::MediaObject; }
   std::shared_ptr<IOManager> io() const override { return io_; }
-  SEColl& secol() const override;
   std::string strGUID() const override;
   void setStrGUID(const std::string& guid) override;
   std::string strTitle() const override { return strGUID(); }
-  void setStrTitle(const std::string&) override {}
-  void strInitGUID(const std::string&) override {}
-  void setStrSchemaPath(const std::string& path) override { strSchemaPath_ = path; }
   bool bChanged() const override { return bChanged_; }
-  std::int16_t iNumValidElem() const override { return 0; }
-  void ShowForm(FormOwner&) override {}
-  void EditAttributesForm(FormOwner&) override {}
-  std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
-                         const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  std::string strOpen(const std::string&, const std::shared_ptr<ObjectForm>&,
-                      const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
-  std::string strInitAsNew(const std::string&, const std::string&, const std::string&,
-                           const std::string&, const std::shared_ptr<ObjectForm>&,
-                           const std::shared_ptr<IOManager>&) override {
-    return {};
-  }
   bool bSave() override;
-  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
-  void RemoveReferenceObj(DescribedObject&) override {}
-  bool bReferedStillToBeSaved() const override { return false; }
-  ObjectList waitsFor() const override { return {}; }
-  void visitReferences(ReferenceVisitor&) const override {}
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
-  ObjectList colSelSubTree() override { return {shared_from_this()}; }
-  std::string strRemoveAllChilds() override { return {}; }
-  bool bCheckIfOwnRelative(ObjectKind, const std::string&) const override { return false; }
-  const ObjectList& colChilds() const override;
 
  private:
   SchemaElement* ownerField() const;
@@ -88,7 +60,6 @@ class MediaObject : public virtual DescribedObject {
   bool ownedByVideo_ = false;
   bool bChanged_ = false;
   std::string strTypeOfObject_;
-  std::string strSchemaPath_;
   std::string lastGUID_;  // of an owner that has gone
   ObjectListener* listener_ = nullptr;
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/ObjectBase.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "app/ApplicationModule.h"
@@ -75,10 +74,6 @@ void ObjectBase::setStrSchemaPath(const std::string& path) {
 
 bool ObjectBase::bChanged() const {
   return secol_ && secol_->bChanged();
-}
-
-std::int16_t ObjectBase::iNumValidElem() const {
-  return secol().iNumValid();
 }
 
 void ObjectBase::ShowForm(FormOwner& owner) {
@@ -195,25 +190,6 @@ OpenDocument& ObjectBase::document() const {
 // An object that never loaded has nothing to write.
 bool ObjectBase::bSave() {
   return !secol_ || secol_->bSave(domDoc_, strGUID(), *io_);
-}
-
-bool ObjectBase::bReferedStillToBeSaved() const {
-  const ObjectList others = waitsFor();
-  return std::any_of(others.begin(), others.end(),
-                     [](const ObjectRef& other) { return other->bChanged(); });
-}
-
-ObjectList ObjectBase::colSelSubTree() {
-  return {shared_from_this()};
-}
-
-std::string ObjectBase::strRemoveAllChilds() {
-  return {};
-}
-
-const ObjectList& ObjectBase::colChilds() const {
-  static const ObjectList kNone;
-  return kNone;
 }
 
 bool ObjectBase::canNameChild() const {

@@ -33,10 +33,8 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   void setStrGUID(const std::string& guid) override;
   std::string strTitle() const override;
   void setStrTitle(const std::string& title) override;
-  void strInitGUID(const std::string& guid) override;
   void setStrSchemaPath(const std::string& path) override;
   bool bChanged() const override;
-  std::int16_t iNumValidElem() const override;
 
   void ShowForm(FormOwner& owner) override;
   void EditAttributesForm(FormOwner& owner) override;
@@ -50,18 +48,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
                            const std::shared_ptr<ObjectForm>& form,
                            const std::shared_ptr<IOManager>& io) override;
   bool bSave() override;
-
-  bool bReferedStillToBeSaved() const override;
-  ObjectList waitsFor() const override { return {}; }
-  void visitReferences(ReferenceVisitor&) const override {}
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
-
-  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
-  void RemoveReferenceObj(DescribedObject&) override {}
-  ObjectList colSelSubTree() override;
-  std::string strRemoveAllChilds() override;
-  bool bCheckIfOwnRelative(ObjectKind, const std::string&) const override { return false; }
-  const ObjectList& colChilds() const override;
 
  protected:
   ObjectBase(ApplicationModule& app, ObjectKind kind);
@@ -103,6 +90,8 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
 
  private:
   std::string loadFields(const std::string& guid);
+  /// Sets the identifier without marking the object as changed.
+  void strInitGUID(const std::string& guid);
   void bindForm(const std::shared_ptr<ObjectForm>& form);
   void contentChanged(const SchemaElement& element, ReferenceChange change) override;
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/ApplicationModule.h"
+#include "protocol/DescribedObject.h"
 #include "protocol/MainWindow.h"
 #include "store/ObjectRegistry.h"
 
@@ -19,25 +20,27 @@ namespace {
 constexpr int kNever = 0;
 
 struct Waiting {
-  ObjectRef object;
+  RegisteredRef object;
   std::vector<std::size_t> waiters;  // who waits for this one, by place
   std::size_t waitsFor = 0;
   int pass = kNever;  // in which walk it is saved; walks count from 1
 };
 
-std::vector<Waiting> changedObjects(ObjectRegistry& objects, const DescribedObject& document) {
+std::vector<Waiting> changedObjects(ObjectRegistry& objects, const RegisteredObject& document) {
   std::vector<Waiting> changed;
-  for (const ObjectRef& object : objects.changedObjects()) {
+  for (const RegisteredRef& object : objects.changedObjects()) {
     if (object.get() != &document) changed.push_back({object, {}, 0, kNever});
   }
   return changed;
 }
 
 void linkWaiters(std::vector<Waiting>& changed) {
-  std::unordered_map<const DescribedObject*, std::size_t> places;
+  std::unordered_map<const RegisteredObject*, std::size_t> places;
   for (std::size_t i = 0; i < changed.size(); ++i) places.emplace(changed[i].object.get(), i);
   for (std::size_t i = 0; i < changed.size(); ++i) {
-    for (const ObjectRef& other : changed[i].object->waitsFor()) {
+    const auto* described = as<DescribedObject>(changed[i].object.get());
+    if (!described) continue;
+    for (const ObjectRef& other : described->waitsFor()) {
       if (!other->bChanged()) continue;
       ++changed[i].waitsFor;
       // One that is not in the list is never saved, and so the wait never ends.
@@ -69,7 +72,7 @@ std::vector<Waiting> withPasses(std::vector<Waiting> changed) {
   return changed;
 }
 
-bool saveOne(ApplicationModule& app, DescribedObject& object, int counter) {
+bool saveOne(ApplicationModule& app, RegisteredObject& object, int counter) {
   if (app.gMainForm) {
     app.gMainForm->setStrStatusBarText(app.LoadResString(Message::SavingObject) + " " +
                                        std::to_string(counter) + " (" + object.strTitle() + ")");
@@ -80,7 +83,7 @@ bool saveOne(ApplicationModule& app, DescribedObject& object, int counter) {
 }  // namespace
 
 bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
-                            const DescribedObject& document) {
+                            const RegisteredObject& document) {
   const std::vector<Waiting> changed = withPasses(changedObjects(objects, document));
   std::vector<std::size_t> left(changed.size());  // places, from the last to the first
   std::iota(left.rbegin(), left.rend(), std::size_t{0});

@@ -25,15 +25,14 @@ bool holdsNames(const SchemaElement& field, const ClassRules& rules) {
 
 }  // namespace
 
-SavePoint::SavePoint(const ObjectList& objects) : objects_(objects) {
-  for (const ObjectRef& object : objects_) {
+SavePoint::SavePoint(const RegisteredList& objects) : objects_(objects) {
+  for (const RegisteredRef& object : objects_) {
     const std::string guid = object->strGUID();
     if (const auto io = object->io(); io && io->names().isPromised(guid)) promised_.push_back(guid);
-    if (auto picture = std::dynamic_pointer_cast<MediaObject>(object)) {
-      if (picture->bChanged()) newPictures_.push_back(std::move(picture));
-    } else {
-      keepFields(*object);
+    if (auto picture = as<MediaObject>(object); picture && picture->bChanged()) {
+      newPictures_.push_back(std::move(picture));
     }
+    if (const auto* described = as<DescribedObject>(object.get())) keepFields(*described);
   }
 }
 

@@ -17,7 +17,7 @@ class MediaObject;
 /// of objects and pictures, the references to them, and what counts as changed.
 class SavePoint {
  public:
-  explicit SavePoint(const ObjectList& objects);
+  explicit SavePoint(const RegisteredList& objects);
 
   /// To be told of each new name, and of each picture that was brought to another place.
   void named(const std::string& newGUID) { newNames_.push_back(newGUID); }
@@ -48,7 +48,7 @@ class SavePoint {
   bool bringBack(IOManager& io, const Relocation& one, bool filesStay);
   void restoreFields();
 
-  ObjectList objects_;  // they hold the fields
+  RegisteredList objects_;  // they hold the fields
   std::vector<Field> fields_;
   std::vector<std::shared_ptr<MediaObject>> newPictures_;
   std::vector<std::string> promised_;  // names under which nothing was written before

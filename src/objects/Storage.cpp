@@ -29,7 +29,7 @@ void Storage::fieldChanged(const SchemaElement& element) {
 void Storage::setBIsSelected(bool selected) {
   if (selected) {
     for (const auto& [number, object] : document().collObjects().sequence()) {
-      if (auto* storage = dynamic_cast<Storage*>(object.get())) storage->bIsSelected_ = false;
+      if (auto* storage = as<Storage>(object.get())) storage->bIsSelected_ = false;
     }
   }
   bIsSelected_ = selected;

@@ -14,6 +14,8 @@ class MediaObject;
 /// One item of a Media: a movie file, named by its Collocation.
 class Storage : public ObjectBase {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return kind == ObjectKind::Storage; }
+
   explicit Storage(ApplicationModule& app);
   ~Storage() override;
   Storage(const Storage&) = delete;

@@ -98,7 +98,7 @@ std::string Version::strGetMediaObjectPath() const {
   std::string path;
   for (const ObjectRef& media : colChilds()) {
     for (const ObjectRef& child : media->colChilds()) {
-      const auto* storage = dynamic_cast<const Storage*>(child.get());
+      const auto* storage = as<Storage>(child.get());
       if (!storage) continue;
       if (storage->bIsSelected()) return storage->strGetCollocation();
       if (path.empty()) path = storage->strGetCollocation();
@@ -108,9 +108,9 @@ std::string Version::strGetMediaObjectPath() const {
 }
 
 void Version::adopt(DescribedObject& child) {
-  auto* media = dynamic_cast<Media*>(&child);
+  auto* media = as<Media>(&child);
   if (!media) raise(kTypeMismatch);
-  media->setObjParent(std::dynamic_pointer_cast<Version>(shared_from_this()));
+  media->setObjParent(sharedOf(*this));
 }
 
 void Version::appendSubTrees(ObjectList& subTree) {

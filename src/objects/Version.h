@@ -15,6 +15,8 @@ class AVDocument;
 /// refer to.
 class Version : public LadderObject {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return kind == ObjectKind::Version; }
+
   explicit Version(ApplicationModule& app);
   ~Version() override;
   Version(const Version&) = delete;

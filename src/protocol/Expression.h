@@ -6,8 +6,6 @@
 
 #include "protocol/DescribedObject.h"
 #include "values/Chunk.h"
-#include "values/Picture.h"
-#include "values/WordColl.h"
 
 namespace velra {
 
@@ -19,6 +17,8 @@ using ExpressionList = std::vector<ExpressionRef>;
 /// expression of its class. Times are seconds from the start of the movie.
 class Expression : public virtual DescribedObject {
  public:
+  static constexpr bool isKind(ObjectKind kind) { return isExpression(kind); }
+
   /// The parent expression; null for a main expression.
   virtual ExpressionRef objMainExpr() const = 0;
   virtual void setObjMainExpr(const ExpressionRef& parent) = 0;
@@ -31,12 +31,12 @@ class Expression : public virtual DescribedObject {
 
   /// The segments below it, in the order of opening or adding, not of time.
   virtual const ExpressionList& colSubExpressions() const = 0;
-  virtual void OpenSubExpressions() = 0;
 
   /// Makes a segment and links it into the chain by its times, without any test of overlap. A
   /// failure is shown and leaves the tree as it was.
   virtual void AddSubExpression(const std::string& title, double dStart, double dend) = 0;
-  virtual void RemoveSubExpressionByIndex(std::size_t position) = 0;
+  /// By its position from 1 in the list; kSubscriptOutOfRange.
+  void RemoveSubExpressionByIndex(std::size_t position);
   virtual void RemoveSubExpressionByPointer(const ExpressionRef& segment) = 0;
 
   virtual std::string strVersionGUID() const = 0;
@@ -56,21 +56,6 @@ class Expression : public virtual DescribedObject {
   virtual bool bHasTranscript() const = 0;
   /// The transcript that runs along with this expression, after OpenTranscript.
   virtual ExpressionRef objTranscript() const = 0;
-  /// The timed words of a Transcript; null when it has none, and for the other classes.
-  virtual std::shared_ptr<WordColl> WordList() const = 0;
-
-  /// What a Video alone has. The other classes answer with 0 or an empty picture and ignore writes.
-  virtual double dFrameRate() const = 0;
-  virtual void setDFrameRate(double framesPerSecond) = 0;
-  /// The key-frame picture as an object of the document; null when there is none.
-  virtual ObjectRef objKeyframeObject() const = 0;
-  virtual Picture picKeyFrame() const = 0;
-  virtual Picture picKeyFrameSmall() const = 0;
-  virtual double dGetKeyFrameTime() const = 0;
-  virtual void SetKeyFrameTime(double seconds) = 0;
-  /// Brings the key-frame picture to its new place: a picture that no saved object points at yet is
-  /// moved, another one copied.
-  virtual void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to) = 0;
 };
 
 }  // namespace velra

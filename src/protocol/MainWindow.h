@@ -8,7 +8,7 @@
 namespace velra {
 
 class DescribedObject;
-class Expression;
+class VideoExpression;
 
 /// The two trees of the main window.
 enum class TreeId { tvwMainTree, tvwExpression };
@@ -26,7 +26,7 @@ class MainWindow : public FormOwner {
   /// Removes the first tree icon of that key.
   virtual void RemoveIcon(const std::string& key) = 0;
   /// Makes the tree icon of one video from its small picture.
-  virtual void AddSmallKeyFrame(const Expression& video) = 0;
+  virtual void AddSmallKeyFrame(const VideoExpression& video) = 0;
   virtual void UpdateSmallKeyFrames() = 0;
 };
 

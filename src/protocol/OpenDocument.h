@@ -26,7 +26,7 @@ class OpenDocument : public virtual DescribedObject {
   /// `loadedObject`.
   virtual std::int16_t iAlreadyLoaded(const std::string& guid) = 0;
   /// The object that iAlreadyLoaded finds; null when there is none.
-  virtual ObjectRef loadedObject(const std::string& guid) = 0;
+  virtual RegisteredRef loadedObject(const std::string& guid) = 0;
 
   /// Takes an object out of the document and has all others forget it. Its file goes when the
   /// document has been saved and closed. Clears the caller's reference.

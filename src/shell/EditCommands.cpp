@@ -44,7 +44,7 @@ double durationOf(UserInterface& ui, const std::string& movie) {
 
 std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
   for (const auto& [number, object] : objects.sequence()) {
-    auto version = std::dynamic_pointer_cast<Version>(object);
+    auto version = as<Version>(object);
     if (!version) continue;
     const ObjectList& children = version->colChilds();
     const bool holds = std::any_of(children.begin(), children.end(),
@@ -129,7 +129,7 @@ void EditCommands::mnuAddChild() {
   const auto version = versionHolding(app_.gAVDoc->collObjects(), *object);
   const bool hadDuration = !version || version->dDuration() != 0;
   if (object->kind() == ObjectKind::Media && !movieFits(*object, answer)) return;
-  const auto parent = std::dynamic_pointer_cast<LadderObject>(object);
+  const auto parent = as<LadderObject>(object);
   if (!parent) return;
   const std::size_t before = parent->colChilds().size();
   parent->AddChild(answer);
@@ -143,7 +143,7 @@ void EditCommands::mnuAddChild() {
 void EditCommands::AddMainExpr(ObjectKind kind) {
   const TreeNode* node = exprTree_.selected();
   if (!mainTree_.root() || !node) return;
-  const auto version = std::dynamic_pointer_cast<Version>(node->Tag);
+  const auto version = as<Version>(node->Tag);
   if (!version) return;
   const std::string path = version->strGetMediaObjectPath();
   if (path.empty()) {

@@ -26,7 +26,7 @@ MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fr
   if (kind == ObjectKind::Storage || isExpression(kind)) {
     return withAddEntries(menus, false, false);
   }
-  const auto* version = dynamic_cast<const Version*>(&object);
+  const auto* version = as<const Version>(&object);
   if (!version) return menus;
   if (fromMainTree) return withAddEntries(menus, true, false);
   MenuState open = withAddEntries(menus, false, true);

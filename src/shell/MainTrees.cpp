@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "objects/Version.h"
 #include "protocol/OpenDocument.h"
+#include "protocol/VideoExpression.h"
 #include "shell/MainWindowFace.h"
 #include "shell/TreeBuilder.h"
 #include "store/ObjectRegistry.h"
@@ -25,7 +26,7 @@ void MainTrees::showDocument() {
 }
 
 void MainTrees::showVersion(const ObjectRef& version, std::unique_ptr<TreeNode> former) {
-  const auto object = std::dynamic_pointer_cast<Version>(version);
+  const auto object = as<Version>(version);
   if (!object) raise(kTypeMismatch);
   tvwExpression_.replace(BuildExprTree(object, icons_, std::move(former)));
 }
@@ -53,7 +54,7 @@ void MainTrees::RemoveIcon(const std::string& key) {
   face_.iconsChanged();
 }
 
-void MainTrees::AddSmallKeyFrame(const Expression& video) {
+void MainTrees::AddSmallKeyFrame(const VideoExpression& video) {
   icons_.addKeyFrame(video.strGUID(), video.picKeyFrameSmall());
   face_.iconsChanged();
 }
@@ -62,8 +63,7 @@ void MainTrees::AddSmallKeyFrame(const Expression& video) {
 void MainTrees::AddAllSmallKeyFrames() {
   if (!app_.gAVDoc) return;
   for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
-    if (object->kind() != ObjectKind::Video) continue;
-    const auto* video = dynamic_cast<const Expression*>(object.get());
+    const auto* video = as<VideoExpression>(object.get());
     if (video && video->objMainExpr()) {
       icons_.addKeyFrame(video->strGUID(), video->picKeyFrameSmall());
     }

@@ -32,7 +32,7 @@ class MainTrees {
   void UpdateNodeTitle(const DescribedObject& object);
 
   void RemoveIcon(const std::string& key);
-  void AddSmallKeyFrame(const Expression& video);
+  void AddSmallKeyFrame(const VideoExpression& video);
   /// The icons of all segments of the open document, if there is one.
   void AddAllSmallKeyFrames();
   void ResetListImageExpression();

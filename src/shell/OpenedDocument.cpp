@@ -12,7 +12,7 @@
 namespace velra {
 
 std::shared_ptr<AVDocument> openedDocument(const ApplicationModule& app) {
-  return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);
+  return as<AVDocument>(app.gAVDoc);
 }
 
 bool documentIsOpen(const ApplicationModule& app) {

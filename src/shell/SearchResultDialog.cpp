@@ -4,8 +4,8 @@
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "platform/UserInterface.h"
-#include "protocol/Expression.h"
 #include "protocol/OpenDocument.h"
+#include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
 #include "shell/DialogPresenter.h"
 #include "store/ObjectRegistry.h"
@@ -16,10 +16,8 @@ namespace {
 
 // As in the trees: a segment of a Video has the icon of its key frame.
 std::string smallIconOf(const DescribedObject& object) {
-  const auto* expression = dynamic_cast<const Expression*>(&object);
-  const bool hasKeyFrame =
-      object.kind() == ObjectKind::Video && expression && expression->objMainExpr();
-  return hasKeyFrame ? object.strGUID() : object.className();
+  const auto* video = as<const VideoExpression>(&object);
+  return video && video->objMainExpr() ? object.strGUID() : object.className();
 }
 
 }  // namespace
@@ -42,8 +40,7 @@ void SearchResultDialog::fillRows() {
   if (!app_.gAVDoc) raise(kNoObject);
   const auto busy = app_.ui.showBusy();
   rows_.clear();
-  for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
-    if (object->kind() == ObjectKind::MediaObject) continue;
+  for (const ObjectRef& object : app_.gAVDoc->collObjects().described()) {
     const std::int16_t founds = object->secol().iSearchText(strSearch_, bCase_);
     if (founds <= 0) continue;
     rows_.push_back(

@@ -4,6 +4,7 @@
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "objects/AVDocument.h"
+#include "objects/Storage.h"
 #include "platform/UserInterface.h"
 #include "shell/DocumentClosing.h"
 #include "shell/OpenCommands.h"
@@ -14,11 +15,12 @@
 namespace velra {
 
 void TransferCommands::transferObjects(bool toFileSystem) {
-  for (const ObjectRef& object : app_.gAVDoc->collObjects().all()) {
+  for (const RegisteredRef& object : app_.gAVDoc->collObjects().all()) {
     if (const auto io = object->io()) io->setBFileSystem(toFileSystem);
-    if (object->kind() != ObjectKind::Storage) continue;
-    object->setStrTitle(app_.ui.inputBox(
-        app_.LoadResString(Message::CollocationPrompt) + object->strTitle(), "Collocation"));
+    auto* storage = as<Storage>(object.get());
+    if (!storage) continue;
+    storage->setStrTitle(app_.ui.inputBox(
+        app_.LoadResString(Message::CollocationPrompt) + storage->strTitle(), "Collocation"));
   }
   app_.gAVDoc->io()->setBFileSystem(toFileSystem);
   app_.gAVDoc->io()->bConnectToDM();  // there is nothing to connect to

@@ -38,7 +38,7 @@ void TreeClicks::treeEntered(TreeId id) {
 
 void TreeClicks::leftClick(TreeId id, const ObjectRef& object) {
   if (id != TreeId::tvwMainTree) return;
-  if (const auto storage = std::dynamic_pointer_cast<Storage>(object)) {
+  if (const auto storage = as<Storage>(object)) {
     storage->setBIsSelected(true);
   } else if (object->kind() == ObjectKind::Version) {
     trees_.showVersion(object);

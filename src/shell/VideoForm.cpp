@@ -43,7 +43,7 @@ VideoForm::VideoForm(VideoFormServices& services) : services_(services) {}
 VideoForm::~VideoForm() = default;
 
 void VideoForm::setObject(const std::shared_ptr<DescribedObject>& object) {
-  const auto expression = std::dynamic_pointer_cast<Expression>(object);
+  const auto expression = as<Expression>(object);
   if (object && !expression) raise(kTypeMismatch);
   obj_ = expression;
 }

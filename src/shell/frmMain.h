@@ -46,7 +46,7 @@ class frmMain : public MainWindow {
     trees_.ResetTree(tree, version);
   }
   void RemoveIcon(const std::string& key) override { trees_.RemoveIcon(key); }
-  void AddSmallKeyFrame(const Expression& video) override { trees_.AddSmallKeyFrame(video); }
+  void AddSmallKeyFrame(const VideoExpression& video) override { trees_.AddSmallKeyFrame(video); }
   void UpdateSmallKeyFrames() override;
 
   // The mouse and the keyboard on the trees.

@@ -34,7 +34,7 @@ class Deeper {
 ExpressionList ExpressionFinder::open(const ObjectRef& objParent,
                                       const std::shared_ptr<IOManager>& io) {
   const FolderScans::Opening opening(scans_);
-  if (const auto expression = std::dynamic_pointer_cast<Expression>(objParent)) {
+  if (const auto expression = as<Expression>(objParent)) {
     return openOfExpression(expression, io);
   }
   return openOfVersion(objParent, io);
@@ -57,8 +57,8 @@ ExpressionList ExpressionFinder::openOfVersion(const ObjectRef& version,
   for (const ObjRecord& record : colScanRelatives(
            app_, scans_, version->strGUID(), ObjectKind::Version, FolderScan::Relation::Own,
            {ObjectKind::Audio, ObjectKind::Transcript, ObjectKind::Video})) {
-    const ObjectRef loaded = app_.gAVDoc->loadedObject(record.strGUID);
-    found.push_back(loaded ? std::dynamic_pointer_cast<Expression>(loaded)
+    const RegisteredRef loaded = app_.gAVDoc->loadedObject(record.strGUID);
+    found.push_back(loaded ? as<Expression>(loaded)
                            : openFound(record.kind, record.strGUID, nullptr, version, io));
   }
   return found;

@@ -65,7 +65,7 @@ void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
   }
   takeOver(before);
   for (ScannedFile& file : files_) {
-    const ObjectRef loaded = document.loadedObject(folder_ + file.name);
+    const RegisteredRef loaded = document.loadedObject(folder_ + file.name);
     if (!loaded) {
       read(app, document, file);
       continue;
@@ -74,8 +74,8 @@ void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
     answered.name = std::move(file.name);
     answered.kind = loaded->kind();
     file = std::move(answered);
-    if (loaded->kind() == ObjectKind::MediaObject) continue;
-    noteRelations(loaded->secol(), rulesOf(loaded->kind()), file);
+    const auto* described = as<DescribedObject>(loaded.get());
+    if (described) noteRelations(described->secol(), rulesOf(described->kind()), file);
   }
   index();
 }

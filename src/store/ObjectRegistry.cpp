@@ -14,18 +14,18 @@ ObjectRegistry::~ObjectRegistry() {
   clear();
 }
 
-void ObjectRegistry::Add(const ObjectRef& object) {
+void ObjectRegistry::Add(const RegisteredRef& object) {
   rekeyAfterFolderChange();
   if (places_.contains(object.get())) return;
   const std::uint64_t number = next_++;
   objects_.emplace_hint(objects_.end(), number, object);
   places_.emplace(object.get(), indexed(number, strAbsolutePath(object->strGUID())));
   object->setObjectListener(this);
-  references_.added(*object);
+  if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
   if (object->bChanged()) changed_.insert(number);
 }
 
-bool ObjectRegistry::Remove(const DescribedObject& object) {
+bool ObjectRegistry::Remove(const RegisteredObject& object) {
   const auto at = places_.find(&object);
   if (at == places_.end()) return false;
   const Place place = at->second;
@@ -33,29 +33,29 @@ bool ObjectRegistry::Remove(const DescribedObject& object) {
   places_.erase(at);
   unindex(place);
   changed_.erase(place.number);
-  references_.removed(object);
+  if (const auto* described = as<const DescribedObject>(&object)) references_.removed(*described);
   const auto entry = objects_.find(place.number);
-  const ObjectRef kept = entry->second;  // its end must not meet a half-changed list
+  const RegisteredRef kept = entry->second;  // its end must not meet a half-changed list
   objects_.erase(entry);
   kept->setObjectListener(nullptr);
   numbers_.freed(key);
   return true;
 }
 
-ObjectRef ObjectRegistry::Item(std::size_t position) const {
+RegisteredRef ObjectRegistry::Item(std::size_t position) const {
   if (position < 1 || position > objects_.size()) raise(kSubscriptOutOfRange);
   return std::next(objects_.begin(), static_cast<std::ptrdiff_t>(position) - 1)->second;
 }
 
-std::uint64_t ObjectRegistry::numberOf(const DescribedObject& object) const {
+std::uint64_t ObjectRegistry::numberOf(const RegisteredObject& object) const {
   const auto at = places_.find(&object);
   return at == places_.end() ? 0 : at->second.number;
 }
 
-ObjectList ObjectRegistry::changedObjects() {
-  ObjectList list;
+RegisteredList ObjectRegistry::changedObjects() {
+  RegisteredList list;
   for (auto at = changed_.begin(); at != changed_.end();) {
-    const ObjectRef& object = objects_.at(*at);
+    const RegisteredRef& object = objects_.at(*at);
     if (object->bChanged()) {
       list.push_back(object);
       ++at;
@@ -70,19 +70,28 @@ void ObjectRegistry::referencesAdded(const DescribedObject& object) {
   references_.changed(object);
 }
 
-void ObjectRegistry::markedChanged(const DescribedObject& object) {
+void ObjectRegistry::markedChanged(const RegisteredObject& object) {
   const std::uint64_t number = numberOf(object);
   if (number > 0) changed_.insert(number);
 }
 
-ObjectList ObjectRegistry::all() const {
-  ObjectList list;
+RegisteredList ObjectRegistry::all() const {
+  RegisteredList list;
   list.reserve(objects_.size());
   for (const auto& [number, object] : objects_) list.push_back(object);
   return list;
 }
 
-const ObjectRef* ObjectRegistry::firstWithKey(const std::string& key, std::uint64_t& number) const {
+ObjectList ObjectRegistry::described() const {
+  ObjectList list;
+  for (const auto& [number, object] : objects_) {
+    if (auto described = as<DescribedObject>(object)) list.push_back(std::move(described));
+  }
+  return list;
+}
+
+const RegisteredRef* ObjectRegistry::firstWithKey(const std::string& key,
+                                                  std::uint64_t& number) const {
   const auto [first, last] = byKey_.equal_range(key);
   if (first == last) return nullptr;
   number = first->second;
@@ -90,10 +99,10 @@ const ObjectRef* ObjectRegistry::firstWithKey(const std::string& key, std::uint6
   return &objects_.at(number);
 }
 
-ObjectRef ObjectRegistry::find(const std::string& guid) {
+RegisteredRef ObjectRegistry::find(const std::string& guid) {
   rekeyAfterFolderChange();
   std::uint64_t number = 0;
-  const ObjectRef* found = firstWithKey(strAbsolutePath(guid), number);
+  const RegisteredRef* found = firstWithKey(strAbsolutePath(guid), number);
   return found ? *found : nullptr;
 }
 
@@ -105,7 +114,7 @@ std::size_t ObjectRegistry::positionOf(const std::string& guid) {
   return static_cast<std::size_t>(std::distance(objects_.begin(), entry)) + 1;
 }
 
-void ObjectRegistry::identifierChanged(const DescribedObject& object) {
+void ObjectRegistry::identifierChanged(const RegisteredObject& object) {
   const auto at = places_.find(&object);
   if (at == places_.end()) return;
   std::string key = strAbsolutePath(object.strGUID());

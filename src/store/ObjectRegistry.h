@@ -18,7 +18,7 @@ namespace velra {
 /// that makes two paths absolute for each comparison.
 class ObjectRegistry : private ObjectListener {
  public:
-  using Sequence = std::map<std::uint64_t, ObjectRef>;
+  using Sequence = std::map<std::uint64_t, RegisteredRef>;
 
   ObjectRegistry() = default;
   ObjectRegistry(const ObjectRegistry&) = delete;
@@ -26,33 +26,35 @@ class ObjectRegistry : private ObjectListener {
   ~ObjectRegistry() override;
 
   /// Appends an object; one that is there already stays where it is.
-  void Add(const ObjectRef& object);
+  void Add(const RegisteredRef& object);
 
   /// Takes an object out, by identity; false when it is not there.
-  bool Remove(const DescribedObject& object);
+  bool Remove(const RegisteredObject& object);
 
   std::size_t Count() const { return objects_.size(); }
 
   /// By position from 1; kSubscriptOutOfRange. A walk: the program's own ways take the object.
-  ObjectRef Item(std::size_t position) const;
+  RegisteredRef Item(std::size_t position) const;
 
   /// A copy of the list, for walks that may change it.
-  ObjectList all() const;
+  RegisteredList all() const;
+  /// The same without the movies and pictures.
+  ObjectList described() const;
 
   /// In order of registration, each with a number that grows along it.
   const Sequence& sequence() const { return objects_; }
 
   /// The first object whose identifier is the same path; null when there is none.
-  ObjectRef find(const std::string& guid);
+  RegisteredRef find(const std::string& guid);
 
   /// Its position from 1; 0 when there is none.
   std::size_t positionOf(const std::string& guid);
 
   /// The number of an object in the sequence; 0 when it is not there.
-  std::uint64_t numberOf(const DescribedObject& object) const;
+  std::uint64_t numberOf(const RegisteredObject& object) const;
 
   /// Those that have something to save, in order of registration.
-  ObjectList changedObjects();
+  RegisteredList changedObjects();
 
   ReferenceIndex& references() { return references_; }
 
@@ -74,16 +76,16 @@ class ObjectRegistry : private ObjectListener {
     const std::string& key() const { return entry->first; }
   };
 
-  void identifierChanged(const DescribedObject& object) override;
+  void identifierChanged(const RegisteredObject& object) override;
   void referencesAdded(const DescribedObject& object) override;
-  void markedChanged(const DescribedObject& object) override;
+  void markedChanged(const RegisteredObject& object) override;
   void rekeyAfterFolderChange();
   Place indexed(std::uint64_t number, std::string key);
   void unindex(const Place& place);
-  const ObjectRef* firstWithKey(const std::string& key, std::uint64_t& number) const;
+  const RegisteredRef* firstWithKey(const std::string& key, std::uint64_t& number) const;
 
   Sequence objects_;
-  std::unordered_map<const DescribedObject*, Place> places_;
+  std::unordered_map<const RegisteredObject*, Place> places_;
   Keys byKey_;                       // by the normal form of the identifier
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   ReferenceIndex references_{*this};

@@ -68,8 +68,10 @@ std::vector<ReferenceIndex::Reference> ReferenceIndex::referencesOf(
 void ReferenceIndex::build() {
   clear();
   for (const auto& [number, object] : objects_.sequence()) {
+    const auto* described = as<DescribedObject>(object.get());
+    if (!described) continue;
     Collector collector(settled_, number);
-    object->visitReferences(collector);
+    described->visitReferences(collector);
   }
   sortAndDropDoubles(settled_);
   settled_.shrink_to_fit();
@@ -115,7 +117,7 @@ void ReferenceIndex::appendHolders(Key key, Holders& holders) const {
 // Numbers are given once, so that of an object that has gone names nobody.
 ObjectRef ReferenceIndex::livingOf(std::uint64_t holder) const {
   const auto at = objects_.sequence().find(holder);
-  return at == objects_.sequence().end() ? nullptr : at->second;
+  return at == objects_.sequence().end() ? nullptr : as<DescribedObject>(at->second);
 }
 
 ObjectList ReferenceIndex::listOf(Holders holders) const {
@@ -169,7 +171,9 @@ void ReferenceIndex::Batch::removed(const DescribedObject& object, const Describ
 bool ReferenceIndex::checkConsistency() {
   bringUpToDate();
   for (const auto& [number, object] : objects_.sequence()) {
-    for (const auto& [key, holder] : referencesOf(*object)) {
+    const auto* described = as<DescribedObject>(object.get());
+    if (!described) continue;
+    for (const auto& [key, holder] : referencesOf(*described)) {
       Holders known;
       appendHolders(key, known);
       if (std::find(known.begin(), known.end(), holder) == known.end()) return false;

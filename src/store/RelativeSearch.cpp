@@ -26,7 +26,7 @@ struct Question {
 };
 
 bool bRelated(const DescribedObject& object, const Question& question) {
-  const auto* expression = dynamic_cast<const Expression*>(&object);
+  const auto* expression = as<const Expression>(&object);
   if (question.relation == FolderScan::Relation::PartOf && expression) {
     return expression->bCheckIfSubExpression(question.kind, question.strGUID);
   }
@@ -37,7 +37,7 @@ bool bRelated(const DescribedObject& object, const Question& question) {
 // object and those that have to be reported.
 bool considerFile(ApplicationModule& app, const std::string& path, const ScannedFile& file,
                   const Question& question, ObjRecord& record) {
-  const ObjectRef loaded = app.gAVDoc->loadedObject(path);
+  const RegisteredRef loaded = app.gAVDoc->loadedObject(path);
   if (!loaded && !file.reason.empty()) {
     app.ui.messageBox("XML Parser: " + file.reason, BoxKind::Exclamation);
     return false;
@@ -46,7 +46,7 @@ bool considerFile(ApplicationModule& app, const std::string& path, const Scanned
   const auto& wanted = question.wanted;
   if (!kind || std::find(wanted.begin(), wanted.end(), *kind) == wanted.end()) return false;
   record = {*kind, loaded ? loaded->strGUID() : path};
-  if (loaded) return bRelated(*loaded, question);
+  if (const auto* object = as<DescribedObject>(loaded.get())) return bRelated(*object, question);
   if (file.error) throw file.error->inFile(path);
   if (!file.message.empty()) app.ui.messageBox(file.message);
   return file.message.empty();

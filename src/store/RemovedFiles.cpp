@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "protocol/DescribedObject.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -17,7 +16,7 @@ namespace velra {
 // picture gets its name.
 void RemovedFiles::keepFilesOf(ObjectRegistry& objects) {
   std::erase_if(identifiers_, [&](const std::string& guid) {
-    const ObjectRef object = objects.find(guid);
+    const RegisteredRef object = objects.find(guid);
     return object && object->kind() != ObjectKind::MediaObject;
   });
 }

@@ -10,6 +10,7 @@
 #include "base/Text.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
+#include "protocol/VideoExpression.h"
 #include "tool/AdvancedSlider.h"
 #include "tool/ToolFace.h"
 #include "tool/TranscriptView.h"
@@ -67,9 +68,8 @@ void Player::measureFrameRate() {
   const double frame = objMediaControl_->AvgTimePerFrame();
   if (frame <= 0) return;
   dFrameRate_ = 1 / frame;
-  if (obj_->kind() == ObjectKind::Video && obj_->dFrameRate() != dFrameRate_) {
-    obj_->setDFrameRate(dFrameRate_);
-  }
+  auto* video = as<VideoExpression>(obj_.get());
+  if (video && video->dFrameRate() != dFrameRate_) video->setDFrameRate(dFrameRate_);
 }
 
 void Player::takeSpan() {

@@ -6,6 +6,7 @@
 #include "app/ApplicationModule.h"
 #include "platform/UserInterface.h"
 #include "protocol/MainWindow.h"
+#include "protocol/VideoExpression.h"
 #include "tool/AdvancedSlider.h"
 #include "tool/Framelist.h"
 #include "tool/Player.h"
@@ -198,9 +199,10 @@ void SegmentEditor::timelineScrolled() {
 }
 
 void SegmentEditor::ChangeKeyFrame() {
-  if (!lists_.isVideo()) return;
+  auto* video = as<VideoExpression>(obj_.get());
+  if (!video) return;
   if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskUpdateKeyFrame))) return;
-  obj_->SetKeyFrameTime(parts_.player.CurrentPosition());
+  video->SetKeyFrameTime(parts_.player.CurrentPosition());
   if (parts_.app.gMainForm) parts_.app.gMainForm->UpdateSmallKeyFrames();
   tell(Message::KeyFrameUpdated);
 }

@@ -8,6 +8,7 @@
 #include "base/Arithmetic.h"
 #include "base/RunTimeError.h"
 #include "protocol/MainWindow.h"
+#include "protocol/VideoExpression.h"
 #include "tool/AdvancedSlider.h"
 #include "tool/Framelist.h"
 #include "tool/Player.h"
@@ -40,8 +41,8 @@ void SegmentLists::fill() {
     const auto times = spanOf(*segment);
     const std::string text = caption(segment->strTitle(), times->dStart, times->dend);
     parts_.advsld.iAddRange(times->dStart, times->dend, text);
-    if (segment->kind() == ObjectKind::Video) {
-      parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment), text);
+    if (const auto* video = as<VideoExpression>(segment.get())) {
+      parts_.Framelist1.iAddImage(video->picKeyFrame(), places.iChainPosition(segment), text);
     }
   }
 }
@@ -62,9 +63,11 @@ void SegmentLists::add(const std::string& title, double start, double end) {
 
 void SegmentLists::addPicture(std::int16_t position, const std::string& text) {
   const ExpressionRef segment = child(position);
+  const auto* video = as<VideoExpression>(segment.get());
+  if (!video) return;
   const ChainPositions places(children());
-  parts_.Framelist1.iAddImage(segment->picKeyFrame(), places.iChainPosition(segment), text);
-  if (parts_.app.gMainForm) parts_.app.gMainForm->AddSmallKeyFrame(*segment);
+  parts_.Framelist1.iAddImage(video->picKeyFrame(), places.iChainPosition(segment), text);
+  if (parts_.app.gMainForm) parts_.app.gMainForm->AddSmallKeyFrame(*video);
 }
 
 void SegmentLists::setBounds(const ExpressionRef& segment, double start, double end) {

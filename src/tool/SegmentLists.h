@@ -32,7 +32,6 @@ class SegmentLists {
   /// Gives the timeline and the strip the children that are there at the opening.
   void fill();
 
-  bool isVideo() const;
   const ExpressionList& children() const { return obj_->colSubExpressions(); }
   /// kSubscriptOutOfRange for a position that no child has.
   ExpressionRef child(std::int16_t position) const;
@@ -61,6 +60,7 @@ class SegmentLists {
   void selectAsStrip();
 
  private:
+  bool isVideo() const;
   std::string caption(const std::string& title, double start, double end) const;
   void addPicture(std::int16_t position, const std::string& text);
   void removePictures(const std::vector<std::int16_t>& indexes);

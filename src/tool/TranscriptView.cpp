@@ -5,7 +5,7 @@
 
 #include "app/ApplicationModule.h"
 #include "base/Arithmetic.h"
-#include "values/WordColl.h"
+#include "protocol/TranscriptExpression.h"
 
 namespace velra {
 
@@ -21,7 +21,8 @@ void TranscriptView::OpenTranscriptView(Expression& obj) {
   obj.OpenTranscript();
   if (!obj.bHasTranscript()) return showNothing();
   objTranscript_ = obj.objTranscript();
-  words_ = objTranscript_->WordList();
+  const auto* transcript = as<TranscriptExpression>(objTranscript_.get());
+  words_ = transcript ? transcript->WordList() : nullptr;
   if (!words_) return showNothing();
   inTimeOrder_ = std::is_sorted(words_->begin(), words_->end(), startsEarlier);
 }

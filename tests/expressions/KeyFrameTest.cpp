@@ -26,7 +26,7 @@ class KeyFrames : public ::testing::Test {
     session_.files.smallLadder();
     session_.files.storage("storage1", movie);
     ASSERT_EQ(session_.open(session_.files.documentPath()), "");
-    main_ = session_.expression("video1");
+    main_ = as<VideoExpression>(session_.expression("video1"));
   }
   void openWithMovie() {
     openWithMovie(std::string(VELRA_SOURCE_DIR) + "/tests/data/movies/mpeg1-50.mpg");
@@ -34,42 +34,45 @@ class KeyFrames : public ::testing::Test {
   std::string picture(int number) const {
     return session_.folder / "film_files/film_mediaobject" + std::to_string(number) + ".bmp";
   }
-  std::string pictureOf(std::size_t segment) const {
-    return main_->colSubExpressions()[segment]->objKeyframeObject()->strGUID();
+  std::shared_ptr<VideoExpression> segment(std::size_t place) const {
+    return as<VideoExpression>(main_->colSubExpressions()[place]);
+  }
+  std::string pictureOf(std::size_t place) const {
+    return segment(place)->objKeyframeObject()->strGUID();
   }
 
   DocumentSession session_;
-  ExpressionRef main_;
+  std::shared_ptr<VideoExpression> main_;
 };
 
 TEST_F(KeyFrames, ASegmentGetsThePictureOfItsMiddle) {
   openWithMovie();
   main_->AddSubExpression("a", 0.2, 0.6);
-  const ExpressionRef segment = main_->colSubExpressions().front();
-  EXPECT_DOUBLE_EQ(segment->dGetKeyFrameTime(), 0.4);
+  const auto a = segment(0);
+  EXPECT_DOUBLE_EQ(a->dGetKeyFrameTime(), 0.4);
   EXPECT_EQ(pictureOf(0), picture(1));
   EXPECT_TRUE(bFileExists(picture(1)));
-  EXPECT_EQ(segment->picKeyFrame().path, picture(1));
-  EXPECT_EQ(segment->picKeyFrameSmall().width, 50);
-  EXPECT_EQ(segment->picKeyFrameSmall().height, 67);
-  EXPECT_TRUE(segment->objKeyframeObject()->bChanged());
+  EXPECT_EQ(a->picKeyFrame().path, picture(1));
+  EXPECT_EQ(a->picKeyFrameSmall().width, 50);
+  EXPECT_EQ(a->picKeyFrameSmall().height, 67);
+  EXPECT_TRUE(a->objKeyframeObject()->bChanged());
   EXPECT_TRUE(main_->picKeyFrame().empty());
   EXPECT_TRUE(session_.takeShown().empty());
 
   EXPECT_TRUE(session_.document()->bSave());
-  EXPECT_FALSE(segment->objKeyframeObject()->bChanged());
-  segment->SetKeyFrameTime(segment->dGetKeyFrameTime());
-  EXPECT_FALSE(segment->bChanged());
-  segment->SetKeyFrameTime(0.5);
-  EXPECT_TRUE(segment->bChanged());
+  EXPECT_FALSE(a->objKeyframeObject()->bChanged());
+  a->SetKeyFrameTime(a->dGetKeyFrameTime());
+  EXPECT_FALSE(a->bChanged());
+  a->SetKeyFrameTime(0.5);
+  EXPECT_TRUE(a->bChanged());
   EXPECT_EQ(pictureOf(0), picture(1));
 
   // Opened again it has its picture and makes none.
   std::filesystem::remove(session_.files.path("storage1"));
   ASSERT_EQ(session_.open(session_.files.documentPath()), "");
-  main_ = session_.expression("video1");
+  main_ = as<VideoExpression>(session_.expression("video1"));
   EXPECT_EQ(pictureOf(0), picture(1));
-  EXPECT_FALSE(main_->colSubExpressions().front()->bChanged());
+  EXPECT_FALSE(segment(0)->bChanged());
 }
 
 TEST_F(KeyFrames, SaveAsOverItselfMovesNewPicturesAndCopiesSavedOnes) {
@@ -82,7 +85,7 @@ TEST_F(KeyFrames, SaveAsOverItselfMovesNewPicturesAndCopiesSavedOnes) {
     EXPECT_FALSE(session_.document()->bSaveAs(session_.folder / target));
     EXPECT_TRUE(session_.folder.snapshot() == before) << "all pictures are back after " << target;
     EXPECT_EQ(pictureOf(0) + pictureOf(1), picture(1) + picture(2));
-    EXPECT_TRUE(main_->colSubExpressions()[1]->objKeyframeObject()->bChanged());
+    EXPECT_TRUE(segment(1)->objKeyframeObject()->bChanged());
   }
   EXPECT_TRUE(session_.document()->bSaveAs(session_.files.documentPath()));
   // The first leaves number 1, which the second takes.
@@ -118,7 +121,7 @@ TEST_F(KeyFrames, AMissingOrDamagedMovieCostsOneWarningAndThePicture) {
       EXPECT_EQ(shown[0].substr(0, one.shown[0].size()), one.shown[0]);
     }
     EXPECT_EQ(pictureOf(0), "");
-    EXPECT_TRUE(main_->colSubExpressions()[0]->picKeyFrame().empty());
+    EXPECT_TRUE(segment(0)->picKeyFrame().empty());
     EXPECT_EQ(main_->colSubExpressions().size(), 2U);
   }
 }

@@ -169,7 +169,7 @@ TEST_F(Segments, FieldsOfTheWrongTypeAreReportedAndCountAsEmpty) {
   }
   session.useSchema(schema);
   ASSERT_EQ(session.open(session.files.documentPath()), "");
-  const auto video = std::dynamic_pointer_cast<Video>(session.object("video1"));
+  const auto video = as<Video>(session.object("video1"));
   EXPECT_EQ(video->strGetPartOf(), "");
   EXPECT_EQ(video->strFollowedBy(), "");
   video->OpenAudio();
@@ -179,7 +179,7 @@ TEST_F(Segments, FieldsOfTheWrongTypeAreReportedAndCountAsEmpty) {
 }
 
 TEST_F(Segments, AVideoOpensTheAudioThatItNames) {
-  const auto video = std::dynamic_pointer_cast<Video>(session_.object("video1"));
+  const auto video = as<Video>(session_.object("video1"));
   const auto name = [&](const std::string& guid) {
     SchemaElement* field = video->secol().relationField("hasaudio");
     field->setVContent(guid);
@@ -201,7 +201,7 @@ TEST_F(Segments, AVideoOpensTheAudioThatItNames) {
 }
 
 TEST_F(Segments, OfATranscriptGetCopiesOfTheWordsInside) {
-  const auto transcript = std::dynamic_pointer_cast<Transcript>(session_.object("transcript1"));
+  const auto transcript = as<Transcript>(session_.object("transcript1"));
   EXPECT_EQ(transcript->WordList(), nullptr);
   EXPECT_THROW(transcript->AddSubExpression("none", 0, 1), RunTimeError);
   auto words = std::make_shared<WordColl>();
@@ -217,7 +217,7 @@ TEST_F(Segments, OfATranscriptGetCopiesOfTheWordsInside) {
   EXPECT_EQ(copy->Item(1).strTxt, "whole");
   EXPECT_EQ(wcNewWordList(*words, Chunk{"", "", 0, 1, ""})->Count(), 0U);
   transcript->AddSubExpression("part", 1, 2);
-  EXPECT_EQ(transcript->colSubExpressions().back()->WordList()->Count(), 2U);
+  EXPECT_EQ(as<Transcript>(transcript->colSubExpressions().back())->WordList()->Count(), 2U);
 }
 
 }  // namespace

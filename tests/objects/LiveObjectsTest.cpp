@@ -27,7 +27,7 @@ TEST(LiveObjects, ClosingReleasesObjectsFormsAndStoreAndDeletesWhatWasRemoved) {
   ASSERT_EQ(session.open(session.files.documentPath()), "");
   session.version("version1")->AddChild("DVD");
   session.expression("audio1")->AddSubExpression("part", 1, 2);
-  std::vector<std::weak_ptr<DescribedObject>> mediaObjects;  // these no factory makes
+  std::vector<std::weak_ptr<RegisteredObject>> mediaObjects;  // these no factory makes
   for (const auto& [number, object] : session.document()->collObjects().sequence()) {
     if (object->kind() == ObjectKind::MediaObject) mediaObjects.push_back(object);
   }

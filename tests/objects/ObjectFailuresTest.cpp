@@ -144,9 +144,7 @@ TEST_F(ObjectFailures, CostTheirMessageAndTheirBranch) {
 }
 
 TEST_F(ObjectFailures, WhatCannotBeMadeIsNotAttached) {
-  const auto ladder = [this](const char* name) {
-    return std::dynamic_pointer_cast<LadderObject>(session_.object(name));
-  };
+  const auto ladder = [this](const char* name) { return as<LadderObject>(session_.object(name)); };
   const struct {
     const char* className;
     std::function<void()> make;

@@ -18,17 +18,18 @@ using Texts = std::vector<std::string>;
 
 /// The plain way: walks from the last to the first, until one finds nothing changed.
 bool plainSave(DocumentSession& session, const ObjectRegistry& objects,
-               const DescribedObject& document) {
+               const RegisteredObject& document) {
   for (bool again = true; again;) {
     again = false;
     bool saved = false;
     int counter = 1;
     for (std::size_t position = objects.Count(); position >= 1; --position) {
-      const ObjectRef object = objects.Item(position);
+      const RegisteredRef object = objects.Item(position);
       if (object.get() == &document || !object->bChanged()) continue;
       again = true;
       ++counter;
-      if (object->bReferedStillToBeSaved()) continue;
+      const auto described = as<DescribedObject>(object);
+      if (described && described->bReferedStillToBeSaved()) continue;
       session.window.setStrStatusBarText(session.app.messages.text(1137) + " " +
                                          std::to_string(counter) + " (" + object->strTitle() + ")");
       if (!object->bSave()) return false;

@@ -32,7 +32,7 @@ void removeByIndex(AVDocument& document, const ObjectRef& object) {
 /// have nothing to forget.
 void askAllOthers(AVDocument& document, DescribedObject& removed) {
   const ObjectList holders = document.collObjects().references().holdersOf(removed);
-  for (const ObjectRef& other : document.collObjects().all()) {
+  for (const ObjectRef& other : document.collObjects().described()) {
     if (std::find(holders.begin(), holders.end(), other) != holders.end()) continue;
     const std::string before = stateOf(*other);
     other->RemoveReferenceObj(removed);
@@ -48,9 +48,9 @@ void removePlainly(AVDocument& document, const ObjectRef& object) {
 }
 
 /// The plain way to tell what a save has to write: all objects are asked.
-ObjectList plainChanged(const ObjectRegistry& objects) {
-  ObjectList changed = objects.all();
-  std::erase_if(changed, [](const ObjectRef& object) { return !object->bChanged(); });
+RegisteredList plainChanged(const ObjectRegistry& objects) {
+  RegisteredList changed = objects.all();
+  std::erase_if(changed, [](const RegisteredRef& object) { return !object->bChanged(); });
   return changed;
 }
 
@@ -85,9 +85,9 @@ Texts stateAfter(DocumentSession& session, unsigned seed, Removal remove) {
   AVDocument& document = *session.document();
   for (int removals = 0; removals < 3; ++removals) {
     const int last = static_cast<int>(document.collObjects().Count());
-    const ObjectRef object =
-        document.collObjects().Item(static_cast<std::size_t>(upTo(random, last - 1)) + 1);
-    if (object.get() == &document || object->kind() == ObjectKind::MediaObject) continue;
+    const auto object = as<DescribedObject>(
+        document.collObjects().Item(static_cast<std::size_t>(upTo(random, last - 1)) + 1));
+    if (!object || object.get() == &document) continue;
     remove(document, object);
     checkIndexes(document);
     // The next one follows after an edit, and in a third of the cases after a new reference.

@@ -43,12 +43,13 @@ using Texts = std::vector<std::string>;
 /// rename.
 void renamePlainly(AVDocument& document, const std::string& path) {
   ObjectRegistry& objects = document.collObjects();
-  for (const ObjectRef& object : objects.all()) {
-    if (object.get() == &document || object->kind() == ObjectKind::MediaObject) continue;
+  for (const ObjectRef& object : objects.described()) {
+    if (object.get() == &document) continue;
     const std::string newGUID = document.io()->strCreateGUID(objects, *object, path);
     const std::string oldGUID = object->strGUID();
     object->setStrGUID(newGUID);
-    for (const ObjectRef& other : objects.all()) other->RenameAllRelativesGUID(oldGUID, newGUID);
+    for (const ObjectRef& other : objects.described())
+      other->RenameAllRelativesGUID(oldGUID, newGUID);
   }
 }
 

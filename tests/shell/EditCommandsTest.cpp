@@ -60,7 +60,7 @@ TEST(EditCommands, OneStorageOfADocumentIsSelected) {
   program.mainForm.OpenFile(program.sample());
   std::vector<std::shared_ptr<Storage>> storages;
   for (const auto& [number, object] : program.app.gAVDoc->collObjects().sequence()) {
-    if (auto storage = std::dynamic_pointer_cast<Storage>(object)) storages.push_back(storage);
+    if (auto storage = as<Storage>(object)) storages.push_back(storage);
   }
   ASSERT_EQ(storages.size(), 4u);
   for (const auto& chosen : storages) {

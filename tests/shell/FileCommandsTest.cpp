@@ -3,6 +3,7 @@
 
 #include "Program.h"
 #include "objects/MediaObject.h"
+#include "protocol/VideoExpression.h"
 #include "store/IOManager.h"
 #include "store/ObjectRegistry.h"
 
@@ -33,7 +34,7 @@ TEST(FileCommands, OpenShowsBothTreesAndReleasesWhatWasOpenBefore) {
   program.mainForm.treeEntered(TreeId::tvwExpression);
   EXPECT_TRUE(program.mainForm.menuState().mnuAddMainExpr);
 
-  std::vector<std::weak_ptr<DescribedObject>> alive;
+  std::vector<std::weak_ptr<RegisteredObject>> alive;
   for (const auto& [number, object] : program.app.gAVDoc->collObjects().sequence()) {
     alive.push_back(object);
   }
@@ -73,8 +74,7 @@ TEST(FileCommands, LeavingTakesThePicturesThatNothingSavedNames) {
   Program program;
   program.mainForm.OpenFile(program.sample());
   auto expected = program.folder.snapshot();
-  std::dynamic_pointer_cast<MediaObject>(program.expression("video3")->objKeyframeObject())
-      ->setBChanged(true);
+  as<VideoExpression>(program.expression("video3"))->objKeyframeObject()->setBChanged(true);
   expected.erase("sample/lighthouse_files/lighthouse_mediaobject2.bmp");
   program.mainForm.releaseDocument();
   EXPECT_EQ(program.folder.snapshot(), expected);

@@ -58,20 +58,16 @@ class Program {
   ~Program() { app.gAVDoc.reset(); }
 
   std::string sample() const { return folder / "sample/lighthouse.xml"; }
-  std::shared_ptr<AVDocument> document() const {
-    return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);
-  }
+  std::shared_ptr<AVDocument> document() const { return as<AVDocument>(app.gAVDoc); }
   std::shared_ptr<Version> version(std::size_t position) const {
-    return std::dynamic_pointer_cast<Version>(document()->colChilds().at(position - 1));
+    return as<Version>(document()->colChilds().at(position - 1));
   }
   /// The registered object of the sample whose file is of that name, as in "version1".
   ObjectRef object(const std::string& name) const {
-    return app.gAVDoc->loadedObject(folder /
-                                    ("sample/lighthouse_files/lighthouse_" + name + ".xml"));
+    const std::string file = "sample/lighthouse_files/lighthouse_" + name + ".xml";
+    return as<DescribedObject>(app.gAVDoc->loadedObject(folder / file));
   }
-  ExpressionRef expression(const std::string& name) const {
-    return std::dynamic_pointer_cast<Expression>(object(name));
-  }
+  ExpressionRef expression(const std::string& name) const { return as<Expression>(object(name)); }
   /// A file of the sample.
   std::string read(const std::string& name) const { return folder.read("sample/" + name); }
 

@@ -64,11 +64,8 @@ class RemovalTest : public ::testing::Test {
   }
   /// Everything registered but the movies and pictures.
   std::vector<std::weak_ptr<DescribedObject>> described() const {
-    std::vector<std::weak_ptr<DescribedObject>> objects;
-    for (const auto& [number, object] : program_.document()->collObjects().sequence()) {
-      if (object->kind() != ObjectKind::MediaObject) objects.push_back(object);
-    }
-    return objects;
+    const ObjectList objects = program_.document()->collObjects().described();
+    return {objects.begin(), objects.end()};
   }
   static long living(const std::vector<std::weak_ptr<DescribedObject>>& objects) {
     return std::count_if(objects.begin(), objects.end(),

@@ -60,10 +60,7 @@ TEST_F(SearchTest, FindsTextsSetsAndWordsInTheOrderOfTheObjects) {
 
 TEST_F(SearchTest, AnEmptyTextHitsEveryObjectAndNoMediaObject) {
   program_.mainForm.OpenFile(program_.sample());
-  std::size_t objects = 0;
-  for (const auto& [number, object] : program_.document()->collObjects().sequence()) {
-    if (object->kind() != ObjectKind::MediaObject) ++objects;
-  }
+  const std::size_t objects = program_.document()->collObjects().described().size();
   const int signs = program_.ui.busySigns;
   const Texts rows = find("");
   EXPECT_EQ(program_.ui.busySigns, signs + 1);

@@ -131,7 +131,7 @@ class RandomEdits {
   ExpressionRef any() {
     ExpressionList all;
     for (const auto& [number, object] : program_.document()->collObjects().sequence()) {
-      const auto expression = std::dynamic_pointer_cast<Expression>(object);
+      const auto expression = as<Expression>(object);
       if (expression) all.push_back(expression);
     }
     return all[random_() % all.size()];

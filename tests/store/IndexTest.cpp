@@ -58,7 +58,7 @@ class Indexes {
       case 4:
         return removeOne();
       case 5:
-        if (const ObjectRef object = any()) object->setStrGUID(anyIdentifier());
+        if (const RegisteredRef object = any()) object->setStrGUID(anyIdentifier());
         return;
       case 6:
         return createFile();
@@ -94,13 +94,13 @@ class Indexes {
                                  "../here/film_version01.xml"};
     return forms[upTo(random_, 5)];
   }
-  ObjectRef any() {
+  RegisteredRef any() {
     if (objects_.Count() == 0) return nullptr;
     return objects_.Item(static_cast<std::size_t>(upTo(random_, int(objects_.Count()) - 1)) + 1);
   }
   void add(const std::string& guid) { objects_.Add(std::make_shared<StubObject>(guid)); }
   void removeOne() {
-    if (const ObjectRef object = any()) {
+    if (const RegisteredRef object = any()) {
       EXPECT_TRUE(objects_.Remove(*object));
       EXPECT_FALSE(objects_.Remove(*object));
     }

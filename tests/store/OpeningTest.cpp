@@ -24,10 +24,12 @@ std::string guidOf(const std::shared_ptr<Object>& object) {
   return object ? object->strGUID() : "nothing";
 }
 
-std::string described(const DescribedObject& object) {
+std::string described(const RegisteredObject& object) {
   std::string text = object.className() + " " + object.strGUID() + ":";
-  for (const ObjectRef& child : object.colChilds()) text += " " + guidOf(child);
-  const auto* expression = dynamic_cast<const Expression*>(&object);
+  const auto* parent = as<const DescribedObject>(&object);
+  for (const ObjectRef& child : parent ? parent->colChilds() : ObjectList())
+    text += " " + guidOf(child);
+  const auto* expression = as<const Expression>(&object);
   if (!expression) return text;
   for (const auto& segment : expression->colSubExpressions()) text += " " + guidOf(segment);
   return text + " next " + guidOf(expression->objFollowedBy()) + " in " +
@@ -186,9 +188,8 @@ TEST(Opening, ASearchAfterwardsSeesWhatOthersHaveChanged) {
   session.files.segment("audio2", "audio1", 0, 1000);
   session.files.writeRaw(
       "other.XML", "<Audio><PartOfAudio>" + session.files.id("audio1") + "</PartOfAudio></Audio>");
-  audio->OpenSubExpressions();
   Texts found;
-  for (const auto& segment : audio->colSubExpressions()) {
+  for (const auto& segment : session.document()->io()->colScanForExpressions(audio)) {
     found.push_back(strFileName(segment->strGUID()));
   }
   EXPECT_EQ(found, (Texts{"film_audio2.xml", "other.XML"}));

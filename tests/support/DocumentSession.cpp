@@ -46,19 +46,19 @@ void DocumentSession::create() {
 }
 
 std::shared_ptr<AVDocument> DocumentSession::document() const {
-  return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);
+  return as<AVDocument>(app.gAVDoc);
 }
 
 ObjectRef DocumentSession::object(const std::string& name) const {
-  return app.gAVDoc->loadedObject(files.path(name));
+  return as<DescribedObject>(app.gAVDoc->loadedObject(files.path(name)));
 }
 
 std::shared_ptr<Version> DocumentSession::version(const std::string& name) const {
-  return std::dynamic_pointer_cast<Version>(object(name));
+  return as<Version>(object(name));
 }
 
 ExpressionRef DocumentSession::expression(const std::string& name) const {
-  return std::dynamic_pointer_cast<Expression>(object(name));
+  return as<Expression>(object(name));
 }
 
 }  // namespace velra::test

@@ -56,17 +56,18 @@ std::string linksOf(const Expression& expression) {
 
 }  // namespace
 
-std::string stateOf(const DescribedObject& object) {
-  std::string text =
-      object.className() + " " + object.strGUID() + (object.bChanged() ? " changed" : "");
-  if (object.kind() == ObjectKind::MediaObject) return text;
-  text += fieldsOf(object.secol()) + " children";
-  for (const ObjectRef& child : object.colChilds()) text += " " + child->strGUID();
-  if (const auto* version = dynamic_cast<const Version*>(&object)) {
+std::string stateOf(const RegisteredObject& registered) {
+  std::string text = registered.className() + " " + registered.strGUID() +
+                     (registered.bChanged() ? " changed" : "");
+  const auto* object = as<const DescribedObject>(&registered);
+  if (!object) return text;
+  text += fieldsOf(object->secol()) + " children";
+  for (const ObjectRef& child : object->colChilds()) text += " " + child->strGUID();
+  if (const auto* version = as<const Version>(object)) {
     text += " main expressions " + identifierOf(version->vdMainVideo()) + " " +
             identifierOf(version->auMainAudio()) + " " + identifierOf(version->trMainTranscript());
   }
-  const auto* expression = dynamic_cast<const Expression*>(&object);
+  const auto* expression = as<const Expression>(object);
   return expression ? text + linksOf(*expression) : text;
 }
 

@@ -5,14 +5,14 @@
 #include <vector>
 
 namespace velra {
-class DescribedObject;
 class OpenDocument;
+class RegisteredObject;
 }  // namespace velra
 
 namespace velra::test {
 
 /// Class, identifier, fields with their flags, and the objects below and beside.
-std::string stateOf(const DescribedObject& object);
+std::string stateOf(const RegisteredObject& object);
 
 /// That of every registered object, in order of registration.
 std::vector<std::string> stateOf(OpenDocument& document);

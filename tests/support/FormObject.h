@@ -38,7 +38,6 @@ class FormObject : public StubObject {
     return title ? toText(title->vContent()) : std::string();
   }
   bool bChanged() const override { return secol_.bChanged(); }
-  std::int16_t iNumValidElem() const override { return secol_.iNumValid(); }
 
  private:
   std::string titleField_;

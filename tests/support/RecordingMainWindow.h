@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "protocol/Expression.h"
 #include "protocol/MainWindow.h"
+#include "protocol/VideoExpression.h"
 
 namespace velra::test {
 
@@ -29,7 +29,7 @@ class RecordingMainWindow : public MainWindow {
     calls.emplace_back(tree == TreeId::tvwExpression ? "ResetTree" : "ResetTree left");
   }
   void RemoveIcon(const std::string& key) override { removedIcons.push_back(key); }
-  void AddSmallKeyFrame(const Expression& video) override {
+  void AddSmallKeyFrame(const VideoExpression& video) override {
     calls.push_back("AddSmallKeyFrame " + video.strTitle());
   }
   void UpdateSmallKeyFrames() override { calls.emplace_back("UpdateSmallKeyFrames"); }

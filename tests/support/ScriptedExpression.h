@@ -7,17 +7,20 @@
 #include <vector>
 
 #include "base/RunTimeError.h"
-#include "protocol/Expression.h"
 #include "protocol/ObjectForm.h"
+#include "protocol/TranscriptExpression.h"
+#include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
 #include "support/StubObject.h"
 
 namespace velra::test {
 
-/// An expression in memory, with fields and a form only where a test gives it some. It links its
-/// chain as the real ones do for segments that do not overlap.
-class ScriptedExpression : public StubObject, public Expression {
+/// An expression in memory, of any kind, with fields and a form only where a test gives it some. It
+/// links its chain as the real ones do for segments that do not overlap.
+class ScriptedExpression : public StubObject, public VideoExpression, public TranscriptExpression {
  public:
+  using Expression::isKind;
+
   explicit ScriptedExpression(ObjectKind kind) { isA = kind; }
 
   std::string title;
@@ -41,7 +44,7 @@ class ScriptedExpression : public StubObject, public Expression {
     return made;
   }
   std::shared_ptr<ScriptedExpression> child(std::size_t position) const {
-    return std::dynamic_pointer_cast<ScriptedExpression>(children.at(position - 1));
+    return as<ScriptedExpression>(children.at(position - 1));
   }
 
   // Expression.
@@ -52,13 +55,12 @@ class ScriptedExpression : public StubObject, public Expression {
   ObjectRef verVersion() const override { return nullptr; }
   void setVerVersion(const ObjectRef&) override {}
   const ExpressionList& colSubExpressions() const override { return children; }
-  void OpenSubExpressions() override {}
 
   void AddSubExpression(const std::string& newTitle, double dStart, double dend) override {
     if (refusesNewSegments) return;
     const auto added = make(isA, dStart, dend);
     added->title = newTitle;
-    added->parent = shared_from_expression();
+    added->parent = sharedOf(*this);
     if (const ExpressionRef before = nearest(dStart, true)) before->setObjFollowedBy(added);
     added->follower = nearest(dend, false);
     children.push_back(added);
@@ -68,9 +70,6 @@ class ScriptedExpression : public StubObject, public Expression {
       if (other->objFollowedBy() == segment) other->setObjFollowedBy(segment->objFollowedBy());
     }
     std::erase(children, ExpressionRef(segment));
-  }
-  void RemoveSubExpressionByIndex(std::size_t position) override {
-    RemoveSubExpressionByPointer(children.at(position - 1));
   }
   std::string strVersionGUID() const override { return {}; }
   void setStrVersionGUID(const std::string&) override {}
@@ -94,7 +93,7 @@ class ScriptedExpression : public StubObject, public Expression {
   Picture picKeyFrameSmall() const override { return {}; }
   double dGetKeyFrameTime() const override { return keyFrameTime; }
   void SetKeyFrameTime(double seconds) override { keyFrameTime = seconds; }
-  ObjectRef objKeyframeObject() const override { return nullptr; }
+  std::shared_ptr<MediaObject> objKeyframeObject() const override { return nullptr; }
   void UpdateLocationKeyFrameObject(const std::string&, const std::string&) override {}
 
   // DescribedObject.
@@ -106,15 +105,9 @@ class ScriptedExpression : public StubObject, public Expression {
   std::string strTitle() const override { return title; }
   void setStrTitle(const std::string& text) override { title = text; }
   bool bChanged() const override { return fields && fields->bChanged(); }
-  std::int16_t iNumValidElem() const override {
-    return fields ? fields->iNumValid() : std::int16_t{0};
-  }
   void ShowForm(FormOwner& owner) override { form->Show(owner); }
 
  private:
-  ExpressionRef shared_from_expression() {
-    return std::dynamic_pointer_cast<Expression>(shared_from_this());
-  }
   /// The child that ends nearest before a time, or begins nearest after it.
   ExpressionRef nearest(double time, bool before) const {
     ExpressionRef best;

@@ -37,10 +37,8 @@ class StubObject : public virtual DescribedObject {
   void setSecretly(const std::string& guid) { guid_ = guid; }
   std::string strTitle() const override { return guid_; }
   void setStrTitle(const std::string&) override {}
-  void strInitGUID(const std::string& guid) override { setStrGUID(guid); }
   void setStrSchemaPath(const std::string&) override {}
   bool bChanged() const override { return changed; }
-  std::int16_t iNumValidElem() const override { return 0; }
   void ShowForm(FormOwner&) override {}
   void EditAttributesForm(FormOwner&) override {}
   std::string strLoadXML(const std::string&, const std::shared_ptr<ObjectForm>&,
@@ -60,22 +58,11 @@ class StubObject : public virtual DescribedObject {
     if (canSave) changed = false;
     return canSave;
   }
-  void RenameAllRelativesGUID(const std::string&, const std::string&) override {}
-  void RemoveReferenceObj(DescribedObject&) override {}
-  bool bReferedStillToBeSaved() const override {
-    for (const ObjectRef& other : waits) {
-      if (other->bChanged()) return true;
-    }
-    return false;
-  }
   ObjectList waitsFor() const override { return waits; }
   void visitReferences(ReferenceVisitor& visitor) const override {
     for (const ObjectRef& other : below) visitor.object(*other);
   }
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
-  ObjectList colSelSubTree() override { return {shared_from_this()}; }
-  std::string strRemoveAllChilds() override { return {}; }
-  bool bCheckIfOwnRelative(ObjectKind, const std::string&) const override { return false; }
   const ObjectList& colChilds() const override { return below; }
 
  private:

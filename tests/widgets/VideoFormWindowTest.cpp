@@ -223,8 +223,9 @@ TEST_F(VideoFormWindowTest, screenReadersMeetNamedControlsAndEveryRange) {
 TEST_F(VideoFormWindowTest, twentyThousandWordsStayFluent) {
   auto words = std::make_shared<WordColl>();
   for (int i = 0; i < 20000; ++i) words->Add("", "", i / 250.0, i / 250.0, "word");
-  session.main->transcript = session.main;
-  session.main->words = words;
+  const auto transcript = std::make_shared<ScriptedExpression>(ObjectKind::Transcript);
+  transcript->words = words;
+  session.main->transcript = transcript;
   inForm([&](QWidget& window) {
     auto& rtbTrans = find<QPlainTextEdit>(window, "rtbTrans");
     press(window, "cmdPlay");
