@@ -79,18 +79,18 @@ void KeyFrame::InitKeyFrameFile() {
   if (!objKeyframeObject_->strGUID().empty()) return;
   const std::string temporary = makeBitmap();
   if (!temporary.empty()) placeBitmap(temporary, *chunk);
+  // This tells of the name as well: what is written into the chunk itself nobody hears of.
   field->setBChanged(true);
 }
 
 void KeyFrame::placeBitmap(const std::string& temporary, Chunk& chunk) {
   objKeyframeObject_->setStrTypeOfObject(strExtension(temporary));
-  objKeyframeObject_->setBChanged(true);
-  if (!video_.io()->bFileSystem()) return;
-  const std::string reason = moveIntoFolder(temporary, chunk);
+  const std::string reason =
+      video_.io()->bFileSystem() ? moveIntoFolder(temporary, chunk) : std::string();
+  objKeyframeObject_->setBChanged(reason.empty());
   if (reason.empty()) return;
   // A full disk costs the picture, not the segment and the work beside it.
   chunk.strFile.clear();
-  objKeyframeObject_->setBChanged(false);
   deleteFile(temporary);
   app_.ui.messageBox("The key frame has no picture: " + reason, BoxKind::Exclamation);
 }
@@ -104,7 +104,7 @@ std::string KeyFrame::moveIntoFolder(const std::string& temporary, Chunk& chunk)
     chunk.strFile = io.strCreateGUID(app_.gAVDoc->collObjects(), ObjectKind::MediaObject,
                                      objKeyframeObject_->strTypeOfObject(), document);
     try {
-      UpdateLocationKeyFrameObject(temporary, chunk.strFile);
+      io.MoveObject(temporary, chunk.strFile);
       return {};
     } catch (const RunTimeError& error) {
       io.withdraw(chunk.strFile);

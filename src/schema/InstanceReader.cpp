@@ -8,7 +8,6 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/xml/XmlDocument.h"
-#include "schema/SEColl.h"
 #include "schema/SchemaElement.h"
 #include "schema/SchemaFile.h"
 

@@ -102,10 +102,4 @@ std::int16_t SEColl::iSearchText(const std::string& strText, bool bMatchCase) co
   return toInt16(static_cast<double>(hits));
 }
 
-int iChildElements(const XmlNode& node) {
-  int count = 0;
-  for (XmlNode child = node.firstElement(); child; child = child.nextElement()) ++count;
-  return count;
-}
-
 }  // namespace velra

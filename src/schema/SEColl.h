@@ -60,8 +60,4 @@ class SEColl : public FieldList {
   SharedParts& shared_;
 };
 
-/// How many element children a node has.
-class XmlNode;
-int iChildElements(const XmlNode& node);
-
 }  // namespace velra

@@ -7,7 +7,6 @@
 #include "base/Text.h"
 #include "platform/xml/XmlDocument.h"
 #include "schema/CloseList.h"
-#include "schema/SEColl.h"
 
 namespace velra {
 

@@ -155,6 +155,12 @@ XmlNode XmlNode::nextElement() const {
   return node_ ? XmlNode(elementFrom(node_->next)) : XmlNode();
 }
 
+int iChildElements(const XmlNode& node) {
+  int count = 0;
+  for (XmlNode child = node.firstElement(); child; child = child.nextElement()) ++count;
+  return count;
+}
+
 void XmlDocument::Free::operator()(_xmlDoc* document) const {
   xmlFreeDoc(document);
 }

@@ -59,6 +59,9 @@ class XmlNode {
   _xmlNode* node_ = nullptr;
 };
 
+/// How many element children a node has.
+int iChildElements(const XmlNode& node);
+
 /// A parsed XML file. Text nodes of white space alone are not part of it, but for what typedText
 /// tells. Files are read and parsed as docs/file-formats.md tells: no network, bounded entities,
 /// validation where there is a document type.
