@@ -155,6 +155,13 @@ std::string makeFolder(const std::string& path) {
   return outcome(::mkdir(path.c_str(), 0777) == 0);
 }
 
+void makeFolders(const std::string& path) {
+  if (bFolderExists(path)) return;
+  const std::string above = strAbsolutePath(path + "/..");
+  if (above != path) makeFolders(above);
+  makeFolder(path);
+}
+
 void removeFolderIfEmpty(const std::string& path) {
   ::rmdir(path.c_str());
 }

@@ -61,6 +61,8 @@ std::string syncFolder(const std::string& folder);
 
 /// The failure's description, "" on success.
 std::string makeFolder(const std::string& path);
+/// Makes a folder and all above it that are missing, as far as it goes.
+void makeFolders(const std::string& path);
 std::string deleteFile(const std::string& path);
 
 /// Leaves a folder that holds anything, and one that may not be removed.

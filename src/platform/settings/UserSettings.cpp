@@ -14,13 +14,6 @@ std::string environment(const char* name) {
   return value ? value : "";
 }
 
-void makeFolders(const std::string& folder) {
-  if (bFolderExists(folder)) return;
-  const std::string above = strAbsolutePath(folder + "/..");
-  if (above != folder) makeFolders(above);
-  makeFolder(folder);
-}
-
 }  // namespace
 
 UserSettings::UserSettings(std::string path) : path_(std::move(path)), file_(path_) {}
