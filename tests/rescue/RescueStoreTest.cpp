@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <ctime>
+
+#include "rescue/DocumentRescue.h"
+#include "rescue/KeptWorkList.h"
+#include "rescue/ProcessIdentity.h"
+#include "rescue/RescueStore.h"
+#include "rescue/RescueWriter.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra {
+namespace {
+
+using test::TemporaryFolder;
+
+const std::string kBytes("<a>\0\xff</a>", 9);
+
+std::string goneProcess() {
+  std::string identity = processIdentity();
+  return identity.substr(0, identity.rfind(' ')) + " 1";
+}
+
+class RescueStoreTest : public ::testing::Test {
+ protected:
+  KeptObject object(const std::string& name, bool removed = false) const {
+    return {folder_ / name, "Video", "Title of " + name, removed ? "" : kBytes, removed, {}};
+  }
+
+  const TemporaryFolder folder_;
+  RescueStore store_{folder_ / "rescue.sqlite"};
+};
+
+TEST_F(RescueStoreTest, WhatIsKeptComesBackByteForByte) {
+  const SessionId session = store_.begin("/films/f.xml", processIdentity());
+  KeptObject first = object("one");
+  first.stamp = fileStamp(folder_.write("file", "x"));
+  store_.keep(session, {first, object("two")});
+  store_.keep(session, {object("two", true)});
+  store_.forget(store_.begin("/films/f.xml", processIdentity()), {first.path});
+  store_.end(session, SessionEnd::Error);
+
+  RescueStore other(folder_ / "rescue.sqlite");  // as another program sees it
+  const auto works = keptWork(other, "/films/f.xml");
+  ASSERT_EQ(works.size(), 1U);
+  EXPECT_TRUE(works[0].end == SessionEnd::Error);
+  EXPECT_LE(std::time(nullptr) - works[0].changed, 60);
+  EXPECT_EQ(works[0].titles, (std::vector<std::string>{"Title of one", "Title of two"}));
+  const auto objects = keptObjects(other, works[0].session);
+  ASSERT_EQ(objects.size(), 2U);
+  EXPECT_EQ(objects[0].bytes, kBytes);
+  EXPECT_EQ(objects[0].stamp, first.stamp);
+  EXPECT_FALSE(objects[1].stamp.exists);
+  EXPECT_TRUE(objects[1].removed);
+  EXPECT_TRUE(keptWork(other, "/films/g.xml").empty());
+}
+
+TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
+  const SessionId session = store_.begin("f", processIdentity());
+  store_.keep(session, {object("one")});
+  store_.planSave(session, {{{"one", kBytes, {}}}, {"gone"}});
+  store_.abandonSave(session);
+  EXPECT_FALSE(store_.openPlan(session));
+  EXPECT_EQ(keptWork(store_, "").size(), 1U);
+
+  store_.planSave(session, {{{"one", kBytes, {}}}, {"gone"}});
+  EXPECT_EQ(store_.openPlan(session)->files[0].bytes, kBytes);
+  store_.finishSave(session);
+  EXPECT_TRUE(keptWork(store_, "").empty());
+  EXPECT_TRUE(store_.openPlan(session)->files.empty());
+  EXPECT_EQ(store_.openPlan(session)->removals, std::vector<std::string>{"gone"});
+  store_.removalsDone(session);
+  store_.end(session, SessionEnd::Left);
+  EXPECT_TRUE(interruptedSaves(store_, "f").empty());
+}
+
+TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
+  const auto keepOne = [&](const std::string& document, const std::string& process) {
+    store_.keep(store_.begin(document, process), {object(document)});
+  };
+  const auto documents = [&] {
+    std::string all;
+    for (const KeptWork& work : keptWork(store_, "")) all += work.document;
+    return all;
+  };
+  keepOne("a", goneProcess());
+  keepOne("b", processIdentity());
+  keepOne("c", goneProcess());
+  keepOne("d", "another-machine boot 1 1");
+  pruneKeptWork(store_, std::time(nullptr) - 60, static_cast<std::int64_t>(kBytes.size()));
+  EXPECT_EQ(documents(), "dcb") << "the oldest of those that count is too much";
+  pruneKeptWork(store_, std::time(nullptr) + 60, 1000);
+  EXPECT_EQ(documents(), "db");
+}
+
+TEST(RescueWriter, GoesOnWithoutAStoreAndPutsADamagedOneAside) {
+  const TemporaryFolder folder;
+  const std::string damaged = folder.write("state/rescue.sqlite", std::string(5000, 'x'));
+  const std::string blocked = folder.write("file", "") + "/below/rescue.sqlite";
+  for (const auto& [path, works] : {std::pair(damaged, true), std::pair(blocked, false)}) {
+    RescueWriter writer(path);
+    DocumentRescue rescue(writer, "f");
+    const std::string outcome = rescue.planSave({{{"one", kBytes, {}}}, {}});
+    EXPECT_EQ(outcome.empty(), works) << outcome;
+    EXPECT_EQ(writer.failure(), outcome);
+  }
+  EXPECT_EQ(folder.snapshot().count("state/rescue.sqlite"), 1U);
+  EXPECT_TRUE(RescueStore(damaged).openPlan(1)) << "ended by the writer before it went";
+}
+
+}  // namespace
+}  // namespace velra
