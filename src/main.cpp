@@ -9,12 +9,16 @@
 #include "platform/movie/MediaGraph.h"
 #include "platform/settings/MachineSettings.h"
 #include "platform/settings/UserSettings.h"
+#include "rescue/RescueStore.h"
+#include "rescue/RescueWriter.h"
 #include "shell/Factory.h"
+#include "shell/LastWish.h"
 #include "shell/Start.h"
 #include "shell/VideoForm.h"
 #include "shell/frmMain.h"
 #include "widgets/GuardedApplication.h"
 #include "widgets/QtUserInterface.h"
+#include "widgets/SignalQuit.h"
 #include "widgets/forms/QtFormPresenter.h"
 #include "widgets/main/MainFormWindow.h"
 #include "widgets/tool/QtVideoForms.h"
@@ -40,7 +44,7 @@ void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
   }
 }
 
-int run(const std::string& commandLine) {
+int run(GuardedApplication& application, const std::string& commandLine) {
   const InterfaceLanguage language = interfaceLanguage(environmentLocale());
   QTranslator translator;
   translateToolkit(translator, language);
@@ -48,7 +52,11 @@ int run(const std::string& commandLine) {
   QtUserInterface ui;
   MachineSettings machineSettings(MachineSettings::defaultPath());
   UserSettings userSettings(UserSettings::defaultPath());
+  const SignalQuit quitBySignal;  // before the first thread
+  RescueWriter rescue(RescueStore::defaultPath());
   ApplicationModule app(ui, MessageCatalogue(language), machineSettings, userSettings);
+  app.rescue = &rescue;
+  application.setLastWish([&] { return keepAtUntrappedError(app); });
   QtFormPresenter presenter(app);
   QtVideoForms videoForms(app, [&](FormOwner& owner) { return presenter.windowOf(owner); });
   VideoFormServices forExpressions{app, makeMediaGraph, videoForms};
@@ -61,6 +69,7 @@ int run(const std::string& commandLine) {
 
   Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
   const int status = QCoreApplication::exec();
+  application.setLastWish({});
   rules.releaseDocument();  // while the windows that it may report to are still there
   return status;
 }
@@ -74,7 +83,8 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("velra"));
   QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
   int status = 1;
-  application.guarded(
-      [&] { status = run(commandLineOf(argc - 1, argv + 1, velra::currentFolder())); });
+  application.guarded([&] {
+    status = run(application, commandLineOf(argc - 1, argv + 1, velra::currentFolder()));
+  });
   return status;
 }

@@ -16,6 +16,7 @@ class MainWindow;
 class NaroThematicKeywords;
 class ObjectFactory;
 class OpenDocument;
+class RescueWriter;
 class UserInterface;
 class UserSettings;
 
@@ -44,6 +45,7 @@ class ApplicationModule {
   std::shared_ptr<OpenDocument> gAVDoc;  ///< the open document; at most one
   MainWindow* gMainForm = nullptr;       ///< set by the main window for its life
   ObjectFactory* objectFactory = nullptr;
+  RescueWriter* rescue = nullptr;  ///< keeps what must outlive the program; null: nothing is kept
   std::shared_ptr<NaroThematicKeywords> objNaroThematicKeywords;  ///< empty: no vocabulary
   std::set<std::string> gNotFound;  ///< names that WarnNotFoundOnce has reported
   std::int32_t iLanguage = 0;       ///< language of the vocabulary; kCrossLanguageOff: none

@@ -66,11 +66,16 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
                                 const std::shared_ptr<IOManager>& io) {
   app().gAVDoc = sharedOf(*this);
   const FolderScans::Opening opening(io->scans());
+  const std::string told = io->strFinishCutOffSaves(guid);
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {
     app().ui.messageBox(unlisted_ + ": the expressions in it are not opened.",
                         BoxKind::Exclamation);
+  }
+  if (message.empty()) {
+    io->joinStore(guid);
+    if (!told.empty() && app().gMainForm) app().gMainForm->setStrStatusBarText(told);
   }
   return message;
 }
@@ -98,6 +103,11 @@ void AVDocument::ShowForm(FormOwner& owner) {
 
 void AVDocument::ShowObjectForm(const std::string& guid, FormOwner& owner) {
   if (const auto object = as<DescribedObject>(collObjects_.find(guid))) object->ShowForm(owner);
+}
+
+bool AVDocument::keepUnsavedWork() {
+  const auto store = io();
+  return store && store->rescue() && unsaved_.keepSome(collObjects_, *store);
 }
 
 void AVDocument::RemoveObject(ObjectRef& removed) {
@@ -135,6 +145,7 @@ void AVDocument::noteRemoved(const ObjectRef& removed) {
     versionOf(*storage).ResetDuration();
   }
   colObjRemoved_.push_back(guid);
+  if (io() && io()->rescue()) unsaved_.removed(*removed);
 }
 
 }  // namespace velra

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "objects/LadderObject.h"
+#include "objects/UnsavedWork.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SharedParts.h"
 #include "store/ObjectRegistry.h"
@@ -50,6 +51,9 @@ class AVDocument : public LadderObject, public OpenDocument {
   /// closed itself while loading has said why.
   void ShowForm(FormOwner& owner) override;
 
+  bool keepUnsavedWork() override;
+  UnsavedWork& unsavedWork() { return unsaved_; }
+
   void RemoveObject(ObjectRef& removed) override;
   void RemoveObjects(const ObjectList& removed) override;
 
@@ -74,6 +78,7 @@ class AVDocument : public LadderObject, public OpenDocument {
 
   SharedParts shared_;
   std::string unlisted_;
+  UnsavedWork unsaved_;
   // A vector that grows makes the allocator sweep all that a removal has freed so far.
   std::deque<std::string> colObjRemoved_;
   ObjectRegistry collObjects_;  // last: its objects go first

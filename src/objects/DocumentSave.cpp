@@ -6,14 +6,17 @@
 #include "objects/AVDocument.h"
 #include "objects/MediaObject.h"
 #include "objects/OrderedSave.h"
+#include "objects/PlannedSave.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "protocol/MainWindow.h"
 #include "protocol/VideoExpression.h"
+#include "rescue/DocumentRescue.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
+#include "store/RemovedFiles.h"
 
 namespace velra {
 
@@ -75,6 +78,7 @@ bool DocumentSave::bSave() {
     if (io_.names().isPromised(guid) && bFileExists(guid)) renumber(*object);
   }
   SavePoint before(objects_.changedObjects());
+  PlannedSave planned(io_, objects_.changedObjects(), filesToRemove());
   if (!bSaveAllObjects()) return refused({});
   const bool saved = document_.bSaveOwnFile();
   const std::string failure = io_.strFlush();
@@ -85,7 +89,20 @@ bool DocumentSave::bSave() {
   }
   for (const std::string& guid : document_.colObjRemoved()) io_.RemoveGUID(guid);
   io_.keepFilesOf(objects_);
+  if (saved) {
+    planned.finished();
+    document_.unsavedWork().saved(objects_);
+  }
   return saved;
+}
+
+// As they will be when the next save is done.
+std::vector<std::string> DocumentSave::filesToRemove() {
+  RemovedFiles removed;
+  for (const std::string& guid : io_.colGUIDToRemove()) removed.add(guid);
+  for (const std::string& guid : document_.colObjRemoved()) removed.add(guid);
+  removed.keepFilesOf(objects_);
+  return removed.identifiers();
 }
 
 bool DocumentSave::bSaveAs(const std::string& strAVDocPathName) {
@@ -122,6 +139,8 @@ DocumentSave::Outcome DocumentSave::saveAsFrom(SavePoint& before,
     return Outcome::NotSynced;
   }
   io_.keepFilesOf(objects_);
+  if (io_.rescue()) io_.rescue()->savedElsewhere();
+  document_.unsavedWork().saved(objects_);
   return Outcome::Done;
 }
 

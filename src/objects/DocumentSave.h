@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace velra {
 
@@ -28,6 +29,7 @@ class DocumentSave {
   bool refused(const std::string& message);
   void renumber(DescribedObject& object);
   bool bSaveAllObjects();
+  std::vector<std::string> filesToRemove();
   Outcome saveAsFrom(SavePoint& before, const std::string& strAVDocPathName);
   bool bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName);
   bool bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName);

@@ -192,6 +192,10 @@ bool ObjectBase::bSave() {
   return !secol_ || secol_->bSave(domDoc_, strGUID(), *io_);
 }
 
+std::string ObjectBase::fileBytes() const {
+  return secol().fileBytes(domDoc_);
+}
+
 bool ObjectBase::canNameChild() const {
   const std::string message = io_->strMakeDataFolder(document().strGUID());
   if (!message.empty()) app_.ui.messageBox(message);

@@ -48,6 +48,8 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
                            const std::shared_ptr<ObjectForm>& form,
                            const std::shared_ptr<IOManager>& io) override;
   bool bSave() override;
+  /// The bytes that bSave would write; kInvalidArgument when it would fail for a value.
+  std::string fileBytes() const;
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
 
  protected:

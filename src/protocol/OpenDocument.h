@@ -28,6 +28,10 @@ class OpenDocument : public virtual DescribedObject {
   /// The object that iAlreadyLoaded finds; null when there is none.
   virtual RegisteredRef loadedObject(const std::string& guid) = 0;
 
+  /// Keeps a little more of what was changed and not saved, for the event that the program ends
+  /// without a save. True when more is left; to be called again then.
+  virtual bool keepUnsavedWork() = 0;
+
   /// Takes an object out of the document and has all others forget it. Its file goes when the
   /// document has been saved and closed. Clears the caller's reference.
   virtual void RemoveObject(ObjectRef& removed) = 0;

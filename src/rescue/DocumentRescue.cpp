@@ -32,6 +32,20 @@ void DocumentRescue::abandonSave() {
   writer_.post([session = session_](RescueStore& store) { store.abandonSave(*session); });
 }
 
+void DocumentRescue::savedElsewhere() {
+  writer_.post([session = session_](RescueStore& store) { store.forgetAll(*session); });
+}
+
+void DocumentRescue::keep(std::vector<KeptObject> objects, std::vector<std::string> paths) {
+  writer_.post([session = session_, objects = std::move(objects), paths = std::move(paths)](
+                   RescueStore& store) { store.keep(*session, objects, paths); });
+}
+
+void DocumentRescue::endedByError() {
+  writer_.post(
+      [session = session_](RescueStore& store) { store.end(*session, SessionEnd::Error); });
+}
+
 void DocumentRescue::removalsDone() {
   writer_.post([session = session_](RescueStore& store) { store.removalsDone(*session); });
 }

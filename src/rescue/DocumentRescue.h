@@ -27,6 +27,15 @@ class DocumentRescue {
   void finishSave();
   void abandonSave();
 
+  /// All that is kept of the document has been saved under another name.
+  void savedElsewhere();
+
+  /// Keeps objects, in place of what was kept of them; those of `paths` are kept no more.
+  void keep(std::vector<KeptObject> objects, std::vector<std::string> paths);
+
+  /// An untrapped error ends the program.
+  void endedByError();
+
   /// The files that saves have removed are gone from the disk.
   void removalsDone();
 

@@ -16,7 +16,7 @@ namespace {
 
 // Why a file could not be brought to its bytes, or "".
 std::string bringTo(RescueStore& store, SessionId session, const PlannedFile& file) {
-  const FileStamp present = fileStamp(file.path);
+  const FileStamp present = keptStamp(file.path);
   if (!present.exists) {
     makeFolders(folderOf(file.path));
     return writeNewFile(file.path, file.bytes);

@@ -2,6 +2,8 @@
 #include "rescue/KeptWorkList.h"
 
 #include <algorithm>
+#include <array>
+#include <ctime>
 
 #include "rescue/ProcessIdentity.h"
 #include "rescue/RescueStore.h"
@@ -47,11 +49,25 @@ std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& do
                document);
 }
 
-bool isOpenElsewhere(RescueStore& store, const std::string& document) {
+std::string strWhen(std::int64_t secondsSince1970) {
+  const std::time_t time = secondsSince1970;
+  std::tm local{};
+  std::array<char, 32> text{};
+  if (!localtime_r(&time, &local)) return {};
+  return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &local)};
+}
+
+std::string strTellOfOthers(RescueStore& store, const std::string& document) {
   const auto sessions = works(store.database(), "1", document);
-  return std::any_of(sessions.begin(), sessions.end(), [](const KeptWork& work) {
-    return work.end == SessionEnd::Running && mayBeRunning(work.process);
-  });
+  if (std::any_of(sessions.begin(), sessions.end(), [](const KeptWork& work) {
+        return work.end == SessionEnd::Running && mayBeRunning(work.process);
+      })) {
+    return "This document is open in another window of the program.";
+  }
+  const auto kept = keptWork(store, document);
+  return kept.empty() ? std::string()
+                      : "Unsaved work of " + strWhen(kept.front().changed) +
+                            " is kept; velra-recover brings it back.";
 }
 
 std::vector<KeptObject> keptObjects(RescueStore& store, SessionId session) {

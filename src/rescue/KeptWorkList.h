@@ -19,8 +19,12 @@ std::vector<KeptWork> keptWork(RescueStore& store, const std::string& document);
 /// Sessions of a document whose save was not finished, or whose removed files are still there.
 std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& document);
 
-/// True when a program that runs has the document open.
-bool isOpenElsewhere(RescueStore& store, const std::string& document);
+/// What whoever opens a document should know: that a program that runs has it open, or that unsaved
+/// work is kept. "" for nothing.
+std::string strTellOfOthers(RescueStore& store, const std::string& document);
+
+/// The time of a change as people read it, in local time: "2026-11-25 18:30".
+std::string strWhen(std::int64_t secondsSince1970);
 
 /// What is kept of one session, in the order of keeping.
 std::vector<KeptObject> keptObjects(RescueStore& store, SessionId session);

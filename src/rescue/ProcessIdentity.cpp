@@ -36,7 +36,9 @@ std::string startOf(const std::string& process) {
   std::istringstream behind(line.substr(bracket + 1));
   constexpr int kStartAfterName = 20;
   std::string word;
-  for (int i = 0; i < kStartAfterName; ++i) behind >> word;
+  behind >> word;
+  if (word == "Z") return {};  // it has ended, and nobody has asked how
+  for (int i = 1; i < kStartAfterName; ++i) behind >> word;
   return word;
 }
 

@@ -52,6 +52,12 @@ Statement& bindStamp(Statement& statement, int place, const FileStamp& stamp) {
 
 }  // namespace
 
+FileStamp keptStamp(const std::string& path) {
+  FileStamp stamp = fileStamp(path);
+  stamp.device = 0;
+  return stamp;
+}
+
 FileStamp stampFrom(const Statement& row, int column) {
   FileStamp stamp;
   stamp.exists = row.number(column) >= 0;
@@ -122,8 +128,11 @@ void RescueStore::deleteIfEmpty(SessionId session) {
       .run();
 }
 
-void RescueStore::keep(SessionId session, const std::vector<KeptObject>& objects) {
+void RescueStore::keep(SessionId session, const std::vector<KeptObject>& objects,
+                       const std::vector<std::string>& paths) {
   Transaction transaction(database_);
+  Statement remove = database_.prepare("DELETE FROM object WHERE session = ?1 AND path = ?2");
+  for (const std::string& path : paths) remove.number(1, session).text(2, path).run();
   Statement insert =
       database_.prepare("INSERT OR REPLACE INTO object VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9)");
   for (const KeptObject& object : objects) {
@@ -142,11 +151,8 @@ void RescueStore::keep(SessionId session, const std::vector<KeptObject>& objects
   transaction.commit();
 }
 
-void RescueStore::forget(SessionId session, const std::vector<std::string>& paths) {
-  Transaction transaction(database_);
-  Statement remove = database_.prepare("DELETE FROM object WHERE session = ?1 AND path = ?2");
-  for (const std::string& path : paths) remove.number(1, session).text(2, path).run();
-  transaction.commit();
+void RescueStore::forgetAll(SessionId session) {
+  database_.prepare("DELETE FROM object WHERE session = ?1").number(1, session).run();
 }
 
 void RescueStore::planSave(SessionId session, const SavePlan& plan) {

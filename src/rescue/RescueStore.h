@@ -11,6 +11,10 @@
 
 namespace velra {
 
+/// The stamp of a file as the store compares it: without the device, whose number another start of
+/// the machine may change.
+FileStamp keptStamp(const std::string& path);
+
 /// The stamp in three columns of a row.
 FileStamp stampFrom(const Statement& row, int column);
 
@@ -29,10 +33,10 @@ class RescueStore {
   /// A session of which nothing is kept goes.
   void end(SessionId session, SessionEnd how);
 
-  /// Keeps objects in place of what was kept of them.
-  void keep(SessionId session, const std::vector<KeptObject>& objects);
-  /// They are as their files again.
-  void forget(SessionId session, const std::vector<std::string>& paths);
+  /// Keeps objects in place of what was kept of them; of `paths` nothing is kept any more.
+  void keep(SessionId session, const std::vector<KeptObject>& objects,
+            const std::vector<std::string>& paths = {});
+  void forgetAll(SessionId session);
 
   /// To be called before the first file of a save is touched, and after the last one has reached
   /// the disk: then what was kept has been saved. `abandonSave` is for one that failed and was

@@ -8,11 +8,15 @@
 
 #include "base/Paths.h"
 #include "platform/files/Files.h"
+#include "rescue/KeptWorkList.h"
 #include "rescue/RescueStore.h"
 
 namespace velra {
 
 namespace {
+
+constexpr std::int64_t kOldestSeconds = std::int64_t{30} * 24 * 60 * 60;
+constexpr std::int64_t kMostBytes = 1'000'000'000;
 
 // A store that is damaged must not keep the program from keeping what comes now; it stays on the
 // disk for whoever can read it.
@@ -27,12 +31,15 @@ void putAside(const std::string& path) {
 std::unique_ptr<RescueStore> openedStore(const std::string& path, std::string& reason) {
   makeFolders(folderOf(path));
   try {
+    std::unique_ptr<RescueStore> store;
     try {
-      return std::make_unique<RescueStore>(path);
+      store = std::make_unique<RescueStore>(path);
     } catch (const DamagedDatabase&) {
       putAside(path);
-      return std::make_unique<RescueStore>(path);
+      store = std::make_unique<RescueStore>(path);
     }
+    pruneKeptWork(*store, std::time(nullptr) - kOldestSeconds, kMostBytes);
+    return store;
   } catch (const DatabaseError& error) {
     reason = error.what();
     return nullptr;

@@ -61,6 +61,12 @@ std::string SEColl::strInitAsNew(InstanceDocument& domDoc, const std::string&,
   return strLoadType(*domSchema, vClassName);
 }
 
+std::string SEColl::fileBytes(const InstanceDocument& domDoc) const {
+  XmlWriter writer(domDoc.shell());
+  WriteInstance(elements(), writer);
+  return writer.bytes();
+}
+
 bool SEColl::bSave(const InstanceDocument& domDoc, const std::string& strPath, ObjectFiles& io) {
   if (!bChanged()) return true;
   std::string message;

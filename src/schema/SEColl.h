@@ -22,6 +22,10 @@ class SEColl : public FieldList {
   /// `shared` is the document's, and used while reading and making fields.
   SEColl(ApplicationModule& app, SharedParts& shared);
 
+  /// The bytes of the object's file, as bSave would write them. kInvalidArgument for a value that
+  /// XML cannot hold.
+  std::string fileBytes(const InstanceDocument& domDoc) const;
+
   /// Reads an object's file and the schema of its class. A message, or "". With no schema in the
   /// settings the object stands with no fields, and that is no failure.
   std::string strLoad(InstanceDocument& domDoc, const std::string& strPath,

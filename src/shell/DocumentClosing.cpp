@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/DocumentClosing.h"
 
+#include <algorithm>
+
 #include "app/ApplicationModule.h"
 #include "platform/UserInterface.h"
 #include "protocol/OpenDocument.h"
@@ -30,15 +32,26 @@ bool DocumentClosing::CloseDocument(bool bNoPrompt) {
 
 void DocumentClosing::releaseDocument() {
   trees_.clear();
-  if (app_.gAVDoc) MarkUnsavedMediaObjects();
+  if (app_.gAVDoc) {
+    while (app_.gAVDoc->keepUnsavedWork()) {
+    }
+    MarkUnsavedMediaObjects();
+  }
   app_.gAVDoc.reset();
 }
 
 // Pictures that no saved object points at go with the document.
 void DocumentClosing::MarkUnsavedMediaObjects() {
-  for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
-    if (object->kind() != ObjectKind::MediaObject || !object->bChanged()) continue;
-    app_.gAVDoc->io()->RemoveGUID(object->strGUID());
+  const auto isPicture = [](const RegisteredRef& object) {
+    return object->kind() == ObjectKind::MediaObject;
+  };
+  const RegisteredList changed = app_.gAVDoc->collObjects().changedObjects();
+  const bool workIsKept = !std::all_of(changed.begin(), changed.end(), isPicture);
+  for (const RegisteredRef& object : changed) {
+    if (!isPicture(object)) continue;
+    const auto io = app_.gAVDoc->io();
+    if (workIsKept) io->keepInStore(object->strGUID());
+    io->RemoveGUID(object->strGUID());
   }
 }
 

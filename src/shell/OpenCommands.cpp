@@ -144,7 +144,10 @@ std::shared_ptr<AVDocument> OpenCommands::NewDocument() {
   }
   const std::string message =
       document->strInitAsNew(guid, schemaPath, "xsd", kUnsavedTitle, frmAVDocForm_, io);
-  if (message.empty()) return document;
+  if (message.empty()) {
+    io->joinStore(guid);
+    return document;
+  }
   app_.ui.messageBox(message);
   return nullptr;
 }

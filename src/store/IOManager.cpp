@@ -12,6 +12,10 @@
 #include "platform/files/Files.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlWriter.h"
+#include "rescue/DocumentRescue.h"
+#include "rescue/InterruptedSave.h"
+#include "rescue/KeptWorkList.h"
+#include "rescue/RescueWriter.h"
 #include "store/DataFolder.h"
 #include "store/ParentFinder.h"
 
@@ -21,7 +25,35 @@ IOManager::IOManager(ApplicationModule& app)
     : app_(app), names_(app), scans_(app), expressions_(app, scans_) {}
 
 IOManager::~IOManager() {
-  strSync();
+  // What could not be deleted now is tried again when the document is opened next.
+  if (strSync().empty() && rescue_) rescue_->removalsDone();
+}
+
+std::string IOManager::strFinishCutOffSaves(const std::string& strAVDocPathName) {
+  if (!app_.rescue || !bFileSystem_) return {};
+  std::string told;
+  const std::string document = strAbsolutePath(strAVDocPathName);
+  const std::string failure = app_.rescue->run([&](RescueStore& store) {
+    told = finishInterruptedSaves(store, document);
+    const std::string others = strTellOfOthers(store, document);
+    told += (told.empty() || others.empty() ? "" : " ") + others;
+  });
+  if (!failure.empty()) return "Unsaved work cannot be kept for the event of a crash: " + failure;
+  return told;
+}
+
+void IOManager::keepInStore(const std::string& strGUID) {
+  if (!rescue_) return;
+  const std::string path = strAbsolutePath(strGUID);
+  FileBytes file = readFile(path);
+  if (file.reason.empty()) {
+    rescue_->keep({{path, "MediaObject", "", std::move(file.bytes), false, {}}}, {});
+  }
+}
+
+void IOManager::joinStore(const std::string& strAVDocPathName) {
+  if (!app_.rescue || !bFileSystem_) return;
+  rescue_ = std::make_unique<DocumentRescue>(*app_.rescue, strAbsolutePath(strAVDocPathName));
 }
 
 std::string IOManager::strCreateGUID(ObjectRegistry& collObjects, const DescribedObject& objNew,

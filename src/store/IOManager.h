@@ -16,6 +16,7 @@
 namespace velra {
 
 class ApplicationModule;
+class DocumentRescue;
 class ObjectRegistry;
 
 /// Writes and deletes object files and reads them; `FolderScan` reads those of a search. One
@@ -75,6 +76,16 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// reason, or "".
   std::string strSync();
 
+  /// Carries saves of the document to their end that were cut off, before it is read. What is to be
+  /// told of them, or of another program that has it open; "" for nothing.
+  std::string strFinishCutOffSaves(const std::string& strAVDocPathName);
+  /// Has the store know of this opening of the document from now on.
+  void joinStore(const std::string& strAVDocPathName);
+  /// Keeps the bytes of a file that is about to go, and that kept work needs.
+  void keepInStore(const std::string& strGUID);
+  /// Null when nothing is kept.
+  DocumentRescue* rescue() const { return rescue_.get(); }
+
   /// Equality of identifiers: the same absolute path.
   bool bGUIDComp(const std::string& strGUID1, const std::string& strGUID2) const;
 
@@ -105,6 +116,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   ExpressionFinder expressions_;
   std::string unflushedFolder_;
   std::string saveFailure_;
+  std::unique_ptr<DocumentRescue> rescue_;
 };
 
 }  // namespace velra

@@ -22,7 +22,7 @@ void ObjectRegistry::Add(const RegisteredRef& object) {
   places_.emplace(object.get(), indexed(number, strAbsolutePath(object->strGUID())));
   object->setObjectListener(this);
   if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
-  if (object->bChanged()) changed_.insert(number);
+  if (object->bChanged()) markedChanged(*object);
 }
 
 bool ObjectRegistry::Remove(const RegisteredObject& object) {
@@ -33,6 +33,7 @@ bool ObjectRegistry::Remove(const RegisteredObject& object) {
   places_.erase(at);
   unindex(place);
   changed_.erase(place.number);
+  written_.erase(place.number);
   if (const auto* described = as<const DescribedObject>(&object)) references_.removed(*described);
   const auto entry = objects_.find(place.number);
   const RegisteredRef kept = entry->second;  // its end must not meet a half-changed list
@@ -72,7 +73,19 @@ void ObjectRegistry::referencesAdded(const DescribedObject& object) {
 
 void ObjectRegistry::markedChanged(const RegisteredObject& object) {
   const std::uint64_t number = numberOf(object);
-  if (number > 0) changed_.insert(number);
+  if (number == 0) return;
+  changed_.insert(number);
+  written_.insert(number);
+}
+
+ObjectList ObjectRegistry::takeWritten(std::size_t most) {
+  ObjectList list;
+  while (!written_.empty() && list.size() < most) {
+    auto object = as<DescribedObject>(objects_.at(*written_.begin()));
+    if (object && object->bChanged()) list.push_back(std::move(object));
+    written_.erase(written_.begin());
+  }
+  return list;
 }
 
 RegisteredList ObjectRegistry::all() const {
@@ -152,6 +165,7 @@ void ObjectRegistry::clear() {
   places_.clear();
   byKey_.clear();
   changed_.clear();
+  written_.clear();
   references_.clear();
   // An object may take others with it, and none of them may meet a list in the middle of its end.
   Sequence gone;

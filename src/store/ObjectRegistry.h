@@ -56,6 +56,10 @@ class ObjectRegistry : private ObjectListener {
   /// Those that have something to save, in order of registration.
   RegisteredList changedObjects();
 
+  /// Described objects with something to save that were written to since they were taken last: so
+  /// many at most, in order of registration.
+  ObjectList takeWritten(std::size_t most);
+
   ReferenceIndex& references() { return references_; }
 
   /// The numbers of new files; it hears of every identifier that goes out of use.
@@ -88,6 +92,7 @@ class ObjectRegistry : private ObjectListener {
   std::unordered_map<const RegisteredObject*, Place> places_;
   Keys byKey_;                       // by the normal form of the identifier
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
+  std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since
   ReferenceIndex references_{*this};
   NumberSource numbers_{*this};
   std::uint64_t next_ = 1;

@@ -16,9 +16,11 @@ void GuardedApplication::endAtOnce(const std::exception& failure) {
   std::fprintf(stderr, "%s\n", text.c_str());
   // The box runs events of its own, and what fails in them has nobody left to ask.
   if (!std::exchange(ending_, true)) {
+    const std::string kept = lastWish_ ? lastWish_() : std::string();
     while (QGuiApplication::overrideCursor()) QGuiApplication::restoreOverrideCursor();
-    showMessageBox(QApplication::activeModalWidget(), QMessageBox::Critical, toQString(text),
-                   QMessageBox::Ok, QMessageBox::Ok);
+    showMessageBox(QApplication::activeModalWidget(), QMessageBox::Critical,
+                   toQString(kept.empty() ? text : text + "\n\n" + kept), QMessageBox::Ok,
+                   QMessageBox::Ok);
   }
   std::_Exit(1);
 }

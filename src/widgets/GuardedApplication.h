@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <exception>
 #include <functional>
+#include <string>
+#include <utility>
 
 #include "widgets/ScreenBound.h"
 
@@ -21,6 +23,10 @@ class GuardedApplication : public QApplication {
     installEventFilter(&screenBound_);
   }
 
+  /// What is done before the box of such a failure shows. It touches no document, and gives a
+  /// sentence that is shown behind the failure's text, or "".
+  void setLastWish(std::function<std::string()> wish) { lastWish_ = std::move(wish); }
+
   /// Runs what is not an event under the same guard.
   void guarded(const std::function<void()>& action);
 
@@ -30,6 +36,7 @@ class GuardedApplication : public QApplication {
   [[noreturn]] void endAtOnce(const std::exception& failure);
 
   ScreenBound screenBound_;
+  std::function<std::string()> lastWish_;
   bool ending_ = false;
 };
 

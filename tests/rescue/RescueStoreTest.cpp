@@ -35,10 +35,12 @@ class RescueStoreTest : public ::testing::Test {
 TEST_F(RescueStoreTest, WhatIsKeptComesBackByteForByte) {
   const SessionId session = store_.begin("/films/f.xml", processIdentity());
   KeptObject first = object("one");
-  first.stamp = fileStamp(folder_.write("file", "x"));
+  first.stamp = keptStamp(folder_.write("file", "x"));
   store_.keep(session, {first, object("two")});
   store_.keep(session, {object("two", true)});
-  store_.forget(store_.begin("/films/f.xml", processIdentity()), {first.path});
+  store_.keep(session, {object("three")}, {});
+  store_.keep(session, {}, {object("three").path});
+  store_.keep(store_.begin("/films/f.xml", processIdentity()), {}, {first.path});
   store_.end(session, SessionEnd::Error);
 
   RescueStore other(folder_ / "rescue.sqlite");  // as another program sees it

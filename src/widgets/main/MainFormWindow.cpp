@@ -8,6 +8,7 @@
 
 #include "app/ApplicationModule.h"
 #include "platform/UserInterface.h"
+#include "protocol/OpenDocument.h"
 #include "shell/PaneLayout.h"
 #include "shell/frmMain.h"
 #include "widgets/QtText.h"
@@ -27,6 +28,7 @@ namespace velra {
 namespace {
 
 constexpr int kSplashMilliseconds = 2000;
+constexpr int kKeepMilliseconds = 250;  // after so long a change is in the store
 
 }  // namespace
 
@@ -57,6 +59,8 @@ MainFormWindow::MainFormWindow(ApplicationModule& app, frmMain& rules)
   timer1_.setSingleShot(true);
   connect(&timer1_, &QTimer::timeout, this, [this] { delete splash_; });
   timer1_.start(kSplashMilliseconds);
+  connect(&keeper_, &QTimer::timeout, this, &MainFormWindow::keepUnsavedWork);
+  keeper_.start(kKeepMilliseconds);
   rules_.setFace(this);
   showMenuState(rules_.menuState());
 }
@@ -71,6 +75,11 @@ UserInterface& MainFormWindow::ui() {
 
 QString MainFormWindow::text(Message message) const {
   return toQString(app_.LoadResString(message));
+}
+
+void MainFormWindow::keepUnsavedWork() {
+  const bool more = app_.gAVDoc && app_.gAVDoc->keepUnsavedWork();
+  keeper_.start(more ? 0 : kKeepMilliseconds);
 }
 
 void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {

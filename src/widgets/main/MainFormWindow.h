@@ -53,6 +53,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void keepUnsavedWork();
   void connectTree(NodeTreeView& view, TreeId id);
 
   ApplicationModule& app_;
@@ -65,6 +66,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   MainStatusBar* sbStatusBar_ = nullptr;
   QPointer<SplashWindow> splash_;
   QTimer timer1_{this};
+  QTimer keeper_{this};
   QPoint menuPosition_;
 };
 

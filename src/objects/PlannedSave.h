@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "protocol/RegisteredObject.h"
+
+namespace velra {
+
+class DocumentRescue;
+class IOManager;
+
+/// A save of the open document, told to the store before its first file is touched: when it is cut
+/// off, the next opening carries it to its end. Without a store it does nothing.
+class PlannedSave {
+ public:
+  /// The objects that will be written, the document among them, and the files that go when it is
+  /// closed.
+  PlannedSave(const IOManager& io, const RegisteredList& objects,
+              const std::vector<std::string>& removals);
+  PlannedSave(const PlannedSave&) = delete;
+  PlannedSave& operator=(const PlannedSave&) = delete;
+  /// A save that was not finished has failed, and the person was told.
+  ~PlannedSave();
+
+  /// All is on the disk.
+  void finished();
+
+ private:
+  DocumentRescue* rescue_;  // null: nothing is to be told any more
+};
+
+}  // namespace velra

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// velra-recover: unsaved work without windows.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "base/Paths.h"
+#include "base/Text.h"
+#include "rescue/InterruptedSave.h"
+#include "rescue/KeptWorkList.h"
+#include "rescue/ProcessIdentity.h"
+#include "rescue/Recovery.h"
+#include "rescue/RescueStore.h"
+
+namespace {
+
+using namespace velra;
+
+constexpr const char* kUsage = R"(Usage:
+  velra-recover --list [DOCUMENT]          what is kept, of one document or of all
+  velra-recover --to NEW.xml DOCUMENT      makes a new document of the files and what is kept
+  velra-recover --drop DOCUMENT            drops what is kept of a document
+  velra-recover --help | --version
+
+The document itself is only read, but for a save that was cut off: that one is finished first.
+)";
+
+constexpr int kUsageError = 2;
+
+const char* endOf(const KeptWork& work) {
+  switch (work.end) {
+    case SessionEnd::Left:
+      return "left without a save";
+    case SessionEnd::Error:
+      return "ended by an error";
+    default:
+      return mayBeRunning(work.process) ? "still running" : "killed";
+  }
+}
+
+void say(const std::string& text) {
+  std::printf("%s\n", text.c_str());
+}
+
+int fail(const std::string& text) {
+  std::fprintf(stderr, "%s\n", text.c_str());
+  return 1;
+}
+
+int list(RescueStore& store, const std::string& document) {
+  for (const KeptWork& work : keptWork(store, document)) {
+    say(work.document + ": " + strWhen(work.changed) + ", " + std::to_string(work.titles.size()) +
+        " objects, " + endOf(work));
+    for (const std::string& title : work.titles) {
+      if (!title.empty()) say("    " + title);
+    }
+  }
+  return 0;
+}
+
+int recover(RescueStore& store, const std::string& document, const std::string& newPath) {
+  if (asciiLower(strExtension(newPath)) != "xml") {
+    return fail("The new document has to end in \".xml\": " + newPath);
+  }
+  const std::string finished = finishInterruptedSaves(store, document);
+  if (!finished.empty()) say(finished);
+  const auto works = keptWork(store, document);
+  if (works.empty()) return fail("Nothing is kept of " + document + ".");
+  const Recovered result =
+      recoverDocument(document, keptObjects(store, works.front().session), newPath);
+  for (const std::string& note : result.notes) say(note);
+  if (!result.failure.empty()) return fail(result.failure);
+  say(std::to_string(result.files) + " files written: " + newPath);
+  return 0;
+}
+
+int drop(RescueStore& store, const std::string& document) {
+  for (const KeptWork& work : keptWork(store, document)) store.drop(work.session);
+  return 0;
+}
+
+int run(const std::vector<std::string>& words) {
+  const std::string command = words.empty() ? "" : words[0];
+  if (command == "--help" && words.size() == 1) return std::fputs(kUsage, stdout) < 0 ? 1 : 0;
+  if (command == "--version" && words.size() == 1) {
+    say("velra-recover " VELRA_VERSION);
+    return 0;
+  }
+  const bool lists = command == "--list" && words.size() <= 2;
+  const bool recovers = command == "--to" && words.size() == 3;
+  const bool drops = command == "--drop" && words.size() == 2;
+  if (!lists && !recovers && !drops) {
+    std::fputs(kUsage, stderr);
+    return kUsageError;
+  }
+  RescueStore store(RescueStore::defaultPath());
+  const std::string document = words.size() > 1 ? strAbsolutePath(words.back()) : "";
+  if (lists) return list(store, document);
+  return recovers ? recover(store, document, strAbsolutePath(words[1])) : drop(store, document);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run({argv + 1, argv + argc});
+  } catch (const std::exception& error) {
+    return fail(std::string("The store of unsaved work: ") + error.what());
+  }
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/SignalQuit.h"
+
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <csignal>
+
+namespace velra {
+
+namespace {
+
+sigset_t endingSignals() {
+  sigset_t set{};
+  sigemptyset(&set);
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) sigaddset(&set, signal);
+  return set;
+}
+
+}  // namespace
+
+// Threads that run already would still take a signal, so this stands before their start; those that
+// start later inherit the mask.
+SignalQuit::SignalQuit()
+    : signals_([] {
+        const sigset_t set = endingSignals();
+        return ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
+      }()) {
+  if (!signals_) return;
+  const sigset_t set = endingSignals();
+  ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+  notifier_.emplace(signals_.number(), QSocketNotifier::Read);
+  // A second signal finds the usual end, in case the first one is not followed.
+  QObject::connect(&*notifier_, &QSocketNotifier::activated, [this] {
+    notifier_->setEnabled(false);
+    const sigset_t again = endingSignals();
+    signalfd_siginfo first{};
+    if (::read(signals_.number(), &first, sizeof first) > 0) {
+      ::pthread_sigmask(SIG_UNBLOCK, &again, nullptr);
+    }
+    QCoreApplication::quit();
+  });
+}
+
+SignalQuit::~SignalQuit() {
+  const sigset_t set = endingSignals();
+  ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
+}  // namespace velra

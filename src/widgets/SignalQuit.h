@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSocketNotifier>
+#include <optional>
+
+#include "platform/files/FileHandle.h"
+
+namespace velra {
+
+/// While it lives, the signals by which a system ends its programs (TERM, HUP, INT) leave the event
+/// loop like the command to quit: what was not saved is kept, and nothing of a document is written.
+class SignalQuit {
+ public:
+  SignalQuit();
+  SignalQuit(const SignalQuit&) = delete;
+  SignalQuit& operator=(const SignalQuit&) = delete;
+  ~SignalQuit();
+
+ private:
+  FileHandle signals_;
+  std::optional<QSocketNotifier> notifier_;
+};
+
+}  // namespace velra

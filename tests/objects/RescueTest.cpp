@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <map>
+
+#include "platform/files/Files.h"
+#include "rescue/KeptWorkList.h"
+#include "rescue/RescueStore.h"
+#include "rescue/RescueWriter.h"
+#include "support/DocumentSession.h"
+
+namespace velra {
+namespace {
+
+using test::DocumentSession;
+
+constexpr int kVersions = 20;
+
+void writeDocument(DocumentSession& session) {
+  std::vector<std::string> names;
+  for (int i = 1; i <= kVersions; ++i) names.push_back("version" + std::to_string(i));
+  session.files.document(names);
+  for (const std::string& name : names) session.files.version(name, {});
+}
+
+// Gives all objects one title and saves, again and again.
+[[noreturn]] void saveUntilKilled(DocumentSession& session, const std::string& store) {
+  RescueWriter writer(store);
+  session.app.rescue = &writer;
+  session.open(session.files.documentPath());
+  const auto document = session.document();
+  for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1)) {
+    for (const ObjectRef& object : document->collObjects().described()) {
+      object->setStrTitle(std::string(letter % 2 == 0 ? 30 : 9000, letter));
+    }
+    document->bSave();
+  }
+}
+
+TEST(CutOffSave, TheNextOpeningFindsAllOfItOrNone) {
+  DocumentSession session;
+  writeDocument(session);
+  const std::string store = session.folder / "state/rescue.sqlite";
+  for (int i = 0; i < 10; ++i) {
+    const pid_t child = ::fork();
+    if (child == 0) saveUntilKilled(session, store);
+    ::usleep(static_cast<useconds_t>(150'000 + 7'001 * i));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+
+    RescueWriter writer(store);
+    session.app.rescue = &writer;
+    ASSERT_EQ(session.open(session.files.documentPath()), "") << i;
+    const std::string title = session.document()->strTitle();
+    EXPECT_EQ(title.find_first_not_of(title[0]), std::string::npos) << i;
+    for (const ObjectRef& object : session.document()->collObjects().described()) {
+      EXPECT_EQ(object->strTitle(), title) << i << ' ' << object->strGUID();
+    }
+    session.close();
+  }
+  EXPECT_EQ(session.takeShown(), std::vector<std::string>{});
+}
+
+TEST(CutOffSave, WhatASaveRemovedGoesThoughTheProgramDiesBeforeTheDocumentIsClosed) {
+  DocumentSession session;
+  writeDocument(session);
+  const std::string store = session.folder / "state/rescue.sqlite";
+  const pid_t child = ::fork();
+  if (child == 0) {
+    RescueWriter writer(store);
+    session.app.rescue = &writer;
+    session.open(session.files.documentPath());
+    ObjectRef removed = session.object("version1");
+    session.document()->RemoveObject(removed);
+    session.document()->bSave();
+    ::raise(SIGKILL);
+  }
+  ::waitpid(child, nullptr, 0);
+  EXPECT_TRUE(bFileExists(session.files.path("version1")));
+
+  RescueWriter writer(store);
+  session.app.rescue = &writer;
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  EXPECT_FALSE(bFileExists(session.files.path("version1")));
+  EXPECT_EQ(session.document()->collObjects().Count(), std::size_t{kVersions});
+  session.close();
+  writer.finish(std::chrono::seconds(10));
+  RescueStore after(store);
+  EXPECT_TRUE(interruptedSaves(after, "").empty());
+}
+
+TEST(UnsavedWork, IsKeptAsASaveWouldWriteItUntilItIsSaved) {
+  DocumentSession session;
+  writeDocument(session);
+  const std::string path = session.folder / "state/rescue.sqlite";
+  RescueWriter writer(path);
+  session.app.rescue = &writer;
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  RescueStore store(path);
+  const auto kept = [&] {
+    while (session.document()->keepUnsavedWork()) {
+    }
+    EXPECT_TRUE(writer.finish(std::chrono::seconds(10)));
+    std::map<std::string, KeptObject> objects;
+    for (const KeptWork& work : keptWork(store, session.files.documentPath())) {
+      for (const KeptObject& object : keptObjects(store, work.session))
+        objects[object.path] = object;
+    }
+    return objects;
+  };
+  EXPECT_TRUE(kept().empty());
+
+  session.object("version2")->setStrTitle("first");
+  kept();
+  session.object("version2")->setStrTitle("last");
+  session.version("version3")->AddChild("DVD");
+  ObjectRef removed = session.object("version4");
+  session.document()->RemoveObject(removed);
+  const auto objects = kept();
+  EXPECT_EQ(objects.size(), 5U)
+      << "a title, a child and its parent, what was removed, the document";
+  EXPECT_TRUE(objects.at(session.files.path("version4")).removed);
+  ASSERT_TRUE(session.document()->bSave());
+  for (const auto& [file, object] : objects) {
+    EXPECT_TRUE(object.removed || readFile(file).bytes == object.bytes) << file;
+  }
+  EXPECT_TRUE(kept().empty());
+
+  session.object("version3")->setStrTitle("unsaved");
+  kept();
+  session.close();
+  writer.finish(std::chrono::seconds(10));
+  ASSERT_EQ(keptWork(store, "").size(), 1U);
+  EXPECT_TRUE(keptWork(store, "")[0].end == SessionEnd::Left);
+  EXPECT_EQ(session.open(session.files.documentPath()), "");
+  EXPECT_NE(session.window.strStatusBarText().find("is kept"), std::string::npos);
+  session.close();
+  session.app.rescue = nullptr;  // the session's end comes after the writer's
+}
+
+}  // namespace
+}  // namespace velra

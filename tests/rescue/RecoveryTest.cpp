@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include "rescue/Recovery.h"
+#include "support/TemporaryFolder.h"
+
+namespace velra {
+namespace {
+
+using test::TemporaryFolder;
+
+std::string element(const std::string& content) {
+  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!-- kept -->\n<Video>" + content +
+         "</Video>\n";
+}
+
+TEST(Recovery, MakesACompleteDocumentAndOnlyReadsTheOldOne) {
+  const TemporaryFolder folder;
+  const std::string old = folder.path() + "/film_files/film_";
+  const std::string document = folder.write(
+      "film.xml", element("<GUID>film_files/film_version1.xml</GUID><T>film_files &amp; more</T>"));
+  folder.write("film_files/film_version1.xml", element("<Movie>/films/a.avi</Movie>"));
+  folder.write("film_files/film_video1.xml", element("old"));
+  folder.write("film_files/film_video2.xml", element("goes"));
+  folder.write("film_files/film_video9.xml", "no XML");
+  folder.write("film_files/film_mediaobject1.bmp", "BM");
+  folder.write("film_files/notes.xml", "not the document's");
+  const auto before = folder.snapshot();
+
+  const std::string link =
+      element("<Span start=\"0\">" + old + "mediaobject2.bmp</Span><N>" + old + "video3.xml</N>");
+  KeptObject changed{old + "video1.xml", "Video", "", link, false, fileStamp(document)};
+  const Recovered result =
+      recoverDocument(document,
+                      {changed,
+                       {old + "video3.xml", "Video", "", element("new"), false, {}},
+                       {old + "video2.xml", "Video", "", "", true, {}},
+                       {old + "mediaobject2.bmp", "MediaObject", "", "BM2", false, {}}},
+                      folder / "new/copy.xml");
+
+  EXPECT_EQ(result.failure, "");
+  EXPECT_EQ(result.notes.size(), 2U) << "changed meanwhile, and no XML";
+  const std::string place = folder.path() + "/new/copy_files/copy_";
+  auto after = folder.snapshot();
+  EXPECT_EQ(after["new/copy.xml"],
+            element("<GUID>" + place + "version1.xml</GUID><T>film_files &amp; more</T>"));
+  EXPECT_EQ(after["new/copy_files/copy_version1.xml"], before.at("film_files/film_version1.xml"));
+  EXPECT_EQ(after["new/copy_files/copy_video1.xml"],
+            element("<Span start=\"0\">" + place + "mediaobject2.bmp</Span><N>" + place +
+                    "video3.xml</N>"));
+  EXPECT_EQ(after["new/copy_files/copy_mediaobject2.bmp"], "BM2");
+  EXPECT_EQ(after["new/copy_files/copy_video9.xml"], "no XML");
+  EXPECT_EQ(after.count("new/copy_files/copy_video2.xml"), 0U);
+  std::erase_if(after, [](const auto& file) { return file.first.starts_with("new/"); });
+  EXPECT_EQ(after, before);
+
+  const Recovered again = recoverDocument(document, {}, folder / "new/copy.xml");
+  EXPECT_NE(again.failure, "");
+  EXPECT_EQ(folder.read("new/copy_files/copy_mediaobject2.bmp"), "BM2");
+  EXPECT_EQ(proposedRecoveryPath(document), folder / "film-recovered.xml");
+}
+
+}  // namespace
+}  // namespace velra
