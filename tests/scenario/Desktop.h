@@ -5,7 +5,6 @@
 #include <QContextMenuEvent>
 #include <QTest>
 #include <QTreeView>
-#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -19,7 +18,7 @@
 #include "shell/Start.h"
 #include "shell/VideoForm.h"
 #include "shell/frmMain.h"
-#include "support/TemporaryFolder.h"
+#include "support/SampleFolder.h"
 #include "widgets/ModalAnswer.h"
 #include "widgets/QtText.h"
 #include "widgets/QtUserInterface.h"
@@ -28,20 +27,6 @@
 #include "widgets/tool/QtVideoForms.h"
 
 namespace velra::test {
-
-/// A copy of the sample, in a folder of its own.
-class SampleFolder : public TemporaryFolder {
- public:
-  SampleFolder() {
-    std::filesystem::create_directories(*this / "sample");
-    for (const auto& entry : std::filesystem::directory_iterator(VELRA_SOURCE_DIR "/data/sample")) {
-      const std::string name = entry.path().filename();
-      if (!name.starts_with("lighthouse")) continue;
-      std::filesystem::copy(entry.path(), *this / ("sample/" + name),
-                            std::filesystem::copy_options::recursive);
-    }
-  }
-};
 
 /// One run of the whole program with its real windows, over a copy of the sample.
 class Desktop {

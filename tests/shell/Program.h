@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,8 +15,8 @@
 #include "shell/Factory.h"
 #include "shell/Start.h"
 #include "shell/frmMain.h"
+#include "support/SampleFolder.h"
 #include "support/ScriptedUserInterface.h"
-#include "support/TemporaryFolder.h"
 
 namespace velra::test {
 
@@ -40,18 +39,10 @@ class QuietForm : public ObjectForm {
 class Program {
  public:
   Program() {
-    const std::filesystem::path data = std::filesystem::path(VELRA_SOURCE_DIR) / "data";
-    for (const auto& entry : std::filesystem::directory_iterator(data / "sample")) {
-      const std::string name = entry.path().filename();
-      if (!name.starts_with("lighthouse")) continue;
-      std::filesystem::copy(entry.path(), folder / ("sample/" + name),
-                            std::filesystem::copy_options::recursive |
-                                std::filesystem::copy_options::overwrite_existing);
-    }
-    settings.write(ApplicationModule::kMachineSection, "XSDPath",
-                   std::string(data / "schema/velra.xsd"));
+    const std::string data = VELRA_SOURCE_DIR "/data";
+    settings.write(ApplicationModule::kMachineSection, "XSDPath", data + "/schema/velra.xsd");
     settings.write(ApplicationModule::kMachineSection, "ThematicKeywordsPath",
-                   std::string(data / "ThematicKeywords.xml"));
+                   data + "/ThematicKeywords.xml");
     LoadThematicKeywords(app);
     mainForm.setDialogPresenter(&presenter);
   }
@@ -88,21 +79,15 @@ class Program {
     return lines;
   }
 
-  TemporaryFolder folder;
+  SampleFolder folder;
   ScriptedUserInterface ui;
   ScriptedPresenter presenter;
   std::vector<std::string> expressionForms;
-  MachineSettings settings{makeFolders(folder) / "machine.ini"};
+  MachineSettings settings{folder / "machine.ini"};
   UserSettings userSettings{folder / "user.ini"};
   ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), settings, userSettings};
   Factory factory{app, presenter, [this] { return std::make_shared<QuietForm>(expressionForms); }};
   frmMain mainForm{app};
-
- private:
-  static const TemporaryFolder& makeFolders(const TemporaryFolder& folder) {
-    std::filesystem::create_directories(folder / "sample");
-    return folder;
-  }
 };
 
 }  // namespace velra::test

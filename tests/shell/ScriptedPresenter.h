@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "forms/AVDocSchemaDialog.h"
@@ -20,7 +19,6 @@ namespace velra::test {
 class ScriptedPresenter : public FormPresenter, public DialogPresenter {
  public:
   std::vector<std::string> captions;  // of the metadata forms
-  std::vector<std::string> dialogs;   // names of the dialogs
   const FormOwner* lastOwner = nullptr;
 
   std::function<void(LoadedForm&)> whileShown;
@@ -35,33 +33,20 @@ class ScriptedPresenter : public FormPresenter, public DialogPresenter {
     if (whileShown) whileShown(form);
   }
   void showSchemaDialog(FormOwner& owner, AVDocSchemaDialog& dialog) override {
-    note(owner, "AVDocSchemaDialog");
-    if (onSchema) {
-      onSchema(dialog);
-    } else {
-      dialog.CancelButton_Click();
-    }
+    lastOwner = &owner;
+    onSchema(dialog);
   }
   void showSearchDialog(FormOwner& owner, SearchDialog& dialog) override {
-    note(owner, "SearchDialog");
+    lastOwner = &owner;
     if (onSearch) onSearch(dialog);
   }
   void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) override {
-    note(owner, "SearchResultDialog");
+    lastOwner = &owner;
     if (onResults) onResults(dialog);
   }
   void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) override {
-    note(owner, "ConnectionDialog");
-    if (onConnection) onConnection(dialog);
-  }
-
-  /// The dialogs that were shown since the last call.
-  std::vector<std::string> takeDialogs() { return std::exchange(dialogs, {}); }
-
- private:
-  void note(const FormOwner& owner, const std::string& name) {
-    dialogs.push_back(name);
     lastOwner = &owner;
+    if (onConnection) onConnection(dialog);
   }
 };
 

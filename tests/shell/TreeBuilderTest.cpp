@@ -179,23 +179,5 @@ TEST(TreeBuilder, NodesOfAFormerTreeStandAsNewOnesWould) {
   EXPECT_GT(compared, 1000u);
 }
 
-// A chain that runs into itself hands its own member on as the next one when that is removed.
-TEST(TreeBuilder, ASegmentThatFollowedItselfIsGoneAtOnce) {
-  test::Program program;
-  program.mainForm.OpenFile(program.sample());
-  program.click(TreeId::tvwMainTree, *program.version(1));
-  Expression& main = *program.version(1)->vdMainVideo();
-  const std::string title = main.colSubExpressions()[1]->strTitle();
-  main.colSubExpressions()[1]->setObjFollowedBy(main.colSubExpressions()[1]);
-  main.colSubExpressions()[0]->setObjFollowedBy(main.colSubExpressions()[1]);
-  program.mainForm.ResetTree(TreeId::tvwExpression, program.version(1));
-  program.click(TreeId::tvwExpression, *main.colSubExpressions()[1]);
-  program.ui.yesNo.push_back(true);
-  program.mainForm.DeleteNode(TreeId::tvwExpression);
-  for (const std::string& text : program.texts(TreeId::tvwExpression)) {
-    EXPECT_EQ(text.find(title), std::string::npos) << text;
-  }
-}
-
 }  // namespace
 }  // namespace velra

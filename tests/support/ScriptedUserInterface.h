@@ -65,6 +65,11 @@ class ScriptedUserInterface : public UserInterface {
 
   void openMovie(const std::function<void()>& work) override { work(); }
 
+  void forgetAnswers() {
+    yesNo.clear();
+    yesNoCancel.clear();
+    for (std::deque<std::string>* texts : {&inputs, &filesToOpen, &filesToSave}) texts->clear();
+  }
   /// What was shown since the last call.
   std::vector<std::string> takeShown() { return std::exchange(shown, {}); }
 

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool/TranscriptView.h"
 
-#include "tool/ToolFixture.h"
+#include <gtest/gtest.h>
+
+#include "support/ScriptedExpression.h"
+#include "support/TestApplication.h"
 
 namespace velra::test {
 namespace {
 
-class TranscriptViewTest : public ToolTest {
+class TranscriptViewTest : public ::testing::Test, protected TestApplication {
  protected:
   void speak(const std::vector<double>& starts) {
-    use(ObjectKind::Transcript);
     const auto transcript = std::make_shared<ScriptedExpression>(ObjectKind::Transcript);
     obj->transcript = transcript;
     transcript->words = std::make_shared<WordColl>();
@@ -22,6 +24,7 @@ class TranscriptViewTest : public ToolTest {
     view.OpenTranscriptView(*obj);
   }
 
+  std::shared_ptr<ScriptedExpression> obj = ScriptedExpression::make(ObjectKind::Video, 0, 100);
   TranscriptView view{app};
   std::string shown;
 };
@@ -52,7 +55,6 @@ TEST_F(TranscriptViewTest, WordsComeAtTheirStartAndNotAfterAJump) {
 
 TEST_F(TranscriptViewTest, WithoutAWordListTheBoxSaysSo) {
   const std::string none = "<" + app.messages.text(1097) + ">";
-  use(ObjectKind::Video);
   view.OpenTranscriptView(*obj);
   EXPECT_EQ(view.text(), none);
   obj->transcript = std::make_shared<ScriptedExpression>(ObjectKind::Transcript);

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "shell/Program.h"
+#include "support/Scene.h"
+
+namespace velra::test {
+
+/// What stands before and behind a mark; nothing behind when there is no mark.
+inline std::pair<std::string, std::string> halves(const std::string& text,
+                                                  const std::string& mark) {
+  const std::size_t at = text.find(mark);
+  if (at == std::string::npos) return {text, ""};
+  return {text.substr(0, at), text.substr(at + mark.size())};
+}
+
+/// A person at the program without windows, over a copy of the sample. Objects are named by their
+/// files, as "version1", or "document"; trees are "left" and "right"; paths begin in the folder
+/// "~".
+class ProgramActor : public Actor {
+ public:
+  ProgramActor();
+
+ protected:
+  void prepare(const std::vector<std::string>& answers) override;
+  std::vector<std::string> takeShown() override;
+
+ private:
+  using Files = std::map<std::string, std::string>;
+
+  void learnFileMenu();
+  void learnEditMenu();
+  void learnDialogs();
+  void learnToPrepare();
+  void learnToLook();
+  void answerWindows();
+
+  ObjectRef object(const std::string& name) const;
+  ExpressionRef expression(const std::string& name) const { return as<Expression>(object(name)); }
+  static TreeId treeOf(const std::string& words) {
+    return words.starts_with("left") ? TreeId::tvwMainTree : TreeId::tvwExpression;
+  }
+  void click(const std::string& treeAndName, MouseButton button);
+  void act(ConnectionDialog& dialog, const std::string& changes);
+  void showMenus();
+  void showObject(const DescribedObject& object);
+  void showFiles();
+  void watch();
+  void showWatched();
+
+  Program program_;
+  std::vector<std::string> answers_;
+  std::string object_;               // of the command that runs
+  const FormOwner* list_ = nullptr;  // of the last search
+  Files files_;
+  std::vector<std::pair<std::string, std::weak_ptr<RegisteredObject>>> watched_;
+};
+
+}  // namespace velra::test
