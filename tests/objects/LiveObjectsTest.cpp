@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "objects/MediaObject.h"
 #include "platform/files/Files.h"
@@ -47,6 +48,20 @@ TEST(LiveObjects, ClosingReleasesObjectsFormsAndStoreAndDeletesWhatWasRemoved) {
   EXPECT_EQ(living(mediaObjects), 0);
   EXPECT_FALSE(bFileExists(session.files.path("transcript1")));
   EXPECT_TRUE(bFileExists(session.files.path("media2")));
+}
+
+TEST(IOManager, FilesThatCannotBeDeletedAreListedWithTheLastReason) {
+  DocumentSession session;
+  session.files.smallLadder();
+  IOManager io(session.app);
+  for (const char* name : {"gone1", "media1", "gone2", "media1"}) {
+    io.RemoveGUID(session.files.path(name));
+  }
+  const test::DocumentFiles& files = session.files;
+  EXPECT_EQ(io.strSync(), files.path("gone1") + " " + files.path("gone2") + " " +
+                              files.path("media1") + ": No such file or directory");
+  EXPECT_FALSE(std::filesystem::exists(files.path("media1")));
+  EXPECT_EQ(io.strSync(), "");
 }
 
 }  // namespace

@@ -11,14 +11,6 @@
 
 namespace velra::test {
 
-/// What stands before and behind a mark; nothing behind when there is no mark.
-inline std::pair<std::string, std::string> halves(const std::string& text,
-                                                  const std::string& mark) {
-  const std::size_t at = text.find(mark);
-  if (at == std::string::npos) return {text, ""};
-  return {text.substr(0, at), text.substr(at + mark.size())};
-}
-
 /// A person at the program without windows, over a copy of the sample. Objects are named by their
 /// files, as "version1", or "document"; trees are "left" and "right"; paths begin in the folder
 /// "~".
@@ -49,7 +41,6 @@ class ProgramActor : public Actor {
   void act(ConnectionDialog& dialog, const std::string& changes);
   void showMenus();
   void showObject(const DescribedObject& object);
-  void showFiles();
   void watch();
   void showWatched();
 

@@ -60,7 +60,10 @@ void ProgramActor::learnToLook() {
   verbs_["menus"] = [this](auto&) { showMenus(); };
   verbs_["status"] = [this](auto&) { say(program_.mainForm.strStatusBarText()); };
   verbs_["busy"] = [this](auto&) { say(std::to_string(std::exchange(program_.ui.busySigns, 0))); };
-  verbs_["files"] = [this](auto&) { showFiles(); };
+  verbs_["files"] = [this](auto&) {  // that differ from the last time
+    const Files before = std::exchange(files_, program_.folder.snapshot());
+    for (const std::string& change : changedFiles(before, files_)) say(change);
+  };
   verbs_["show"] = [this](auto& name) { showObject(*object(name)); };
   verbs_["document"] = [this](auto&) {
     if (!program_.document()) return say("none");
@@ -97,21 +100,6 @@ void ProgramActor::showObject(const DescribedObject& object) {
     if (storage->bIsSelected()) text += ", selected";
   }
   say(text);
-}
-
-/// How the files differ from the last time.
-void ProgramActor::showFiles() {
-  const Files before = std::exchange(files_, program_.folder.snapshot());
-  for (const auto& [name, bytes] : before) {
-    if (!files_.contains(name)) say("- " + name);
-  }
-  for (const auto& [name, bytes] : files_) {
-    if (!before.contains(name)) {
-      say("+ " + name);
-    } else if (before.at(name) != bytes) {
-      say("* " + name);
-    }
-  }
 }
 
 void ProgramActor::watch() {

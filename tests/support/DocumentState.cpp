@@ -44,31 +44,29 @@ std::string identifierOf(const std::shared_ptr<Object>& object) {
   return object ? object->strGUID() : "nothing";
 }
 
-std::string linksOf(const Expression& expression) {
-  std::string text = " main " + identifierOf(expression.objMainExpr()) + " next " +
-                     identifierOf(expression.objFollowedBy()) + " version " +
-                     identifierOf(expression.verVersion()) + " segments";
-  for (const ExpressionRef& segment : expression.colSubExpressions()) {
-    text += " " + identifierOf(segment);
-  }
-  return text;
-}
-
 }  // namespace
 
-std::string stateOf(const RegisteredObject& registered) {
-  std::string text = registered.className() + " " + registered.strGUID() +
-                     (registered.bChanged() ? " changed" : "");
+std::string linksOf(const RegisteredObject& registered) {
+  std::string text = registered.className() + " " + registered.strGUID() + ":";
   const auto* object = as<const DescribedObject>(&registered);
   if (!object) return text;
-  text += fieldsOf(object->secol()) + " children";
-  for (const ObjectRef& child : object->colChilds()) text += " " + child->strGUID();
+  for (const ObjectRef& child : object->colChilds()) text += " " + identifierOf(child);
+  const auto* expression = as<const Expression>(object);
+  if (!expression) return text;
+  for (const auto& segment : expression->colSubExpressions()) text += " " + identifierOf(segment);
+  return text + " next " + identifierOf(expression->objFollowedBy()) + " in " +
+         identifierOf(expression->objMainExpr()) + " of " + identifierOf(expression->verVersion());
+}
+
+std::string stateOf(const RegisteredObject& registered) {
+  std::string text = linksOf(registered) + (registered.bChanged() ? " changed" : "");
+  const auto* object = as<const DescribedObject>(&registered);
+  if (!object) return text;
   if (const auto* version = as<const Version>(object)) {
     text += " main expressions " + identifierOf(version->vdMainVideo()) + " " +
             identifierOf(version->auMainAudio()) + " " + identifierOf(version->trMainTranscript());
   }
-  const auto* expression = as<const Expression>(object);
-  return expression ? text + linksOf(*expression) : text;
+  return text + fieldsOf(object->secol());
 }
 
 std::vector<std::string> stateOf(OpenDocument& document) {

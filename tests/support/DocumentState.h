@@ -11,7 +11,10 @@ class RegisteredObject;
 
 namespace velra::test {
 
-/// Class, identifier, fields with their flags, and the objects below and beside.
+/// Class and identifier, and those of the objects below, behind and above.
+std::string linksOf(const RegisteredObject& object);
+
+/// Besides them the fields with their flags, and a Version's main expressions.
 std::string stateOf(const RegisteredObject& object);
 
 /// That of every registered object, in order of registration.

@@ -5,8 +5,8 @@
 
 #include <functional>
 #include <map>
-#include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velra::test {
@@ -22,13 +22,12 @@ struct Scene {
 /// Those in tests/FOLDER/scenes.
 std::vector<Scene> scenesIn(const std::string& folder);
 
-inline void PrintTo(const Scene& scene, std::ostream* out) {
-  *out << scene.file;
-}
-
-/// The name of its test.
-inline std::string sceneName(const ::testing::TestParamInfo<Scene>& info) {
-  return info.param.name;
+/// What stands before and behind a mark; nothing behind when there is no mark.
+inline std::pair<std::string, std::string> halves(const std::string& text,
+                                                  const std::string& mark) {
+  const std::size_t at = text.find(mark);
+  if (at == std::string::npos) return {text, ""};
+  return {text.substr(0, at), text.substr(at + mark.size())};
 }
 
 /// Plays scenes. A line "> VERB OBJECT <- ANSWER | ANSWER" calls the verb with its object, and
@@ -58,5 +57,23 @@ class Actor {
 
   std::string told_;
 };
+
+/// Makes a test of each scene of a folder.
+template <class Player>
+bool makeScenes(const std::string& folder) {
+  class SceneTest : public ::testing::Test {
+   public:
+    explicit SceneTest(Scene scene) : scene_(std::move(scene)) {}
+    void TestBody() override { Player().play(scene_); }
+
+   private:
+    Scene scene_;
+  };
+  for (const Scene& scene : scenesIn(folder)) {
+    ::testing::RegisterTest("Scenes", scene.name.c_str(), nullptr, nullptr, scene.file.c_str(), 1,
+                            [scene]() -> ::testing::Test* { return new SceneTest(scene); });
+  }
+  return true;
+}
 
 }  // namespace velra::test

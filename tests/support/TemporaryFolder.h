@@ -7,6 +7,7 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "base/Paths.h"
 
@@ -58,5 +59,21 @@ class TemporaryFolder {
   std::string before_;
   std::string path_;
 };
+
+/// How the files of two snapshots differ: "+ name", "- name" or "* name".
+inline std::vector<std::string> changedFiles(const std::map<std::string, std::string>& before,
+                                             const std::map<std::string, std::string>& after) {
+  std::vector<std::string> changes;
+  for (const auto& [name, bytes] : before) {
+    if (!after.contains(name)) changes.push_back("- " + name);
+  }
+  for (const auto& [name, bytes] : after) {
+    const auto old = before.find(name);
+    if (old == before.end() || old->second != bytes) {
+      changes.push_back((old == before.end() ? "+ " : "* ") + name);
+    }
+  }
+  return changes;
+}
 
 }  // namespace velra::test
