@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "expressions/ExpressionBase.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
+#include "protocol/ObjectFactory.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SEColl.h"
 #include "store/IOManager.h"
+#include "store/ObjectRegistry.h"
 #include "store/SubTreeRemoval.h"
 
 namespace velra {
@@ -19,30 +20,33 @@ namespace {
 
 constexpr std::string_view kTimeField = "Time";
 constexpr const char* kVersionField = "VersionGUID";
-// The identifier in a field; "" where a schema gave the field a type that holds none.
-std::string guidIn(const SchemaElement& field) {
-  const auto* text = std::get_if<std::string>(&field.vContent());
-  return text ? *text : std::string();
-}
 
 }  // namespace
 
 ExpressionBase::ExpressionBase(ApplicationModule& app, ObjectKind kind) : ObjectBase(app, kind) {}
-
-ExpressionBase::~ExpressionBase() = default;
 
 void ExpressionBase::setObjFollowedBy(const ExpressionRef& next) {
   objFollowedBy_ = next;
   tellReferences();
 }
 
-bool ExpressionBase::isReference(const SchemaElement& element) const {
-  return element.strLowerName() == "manifestedby" || isSingleReference(element);
+ReferenceFields ExpressionBase::references() const {
+  return {secol(), rules(), io()};
 }
 
-bool ExpressionBase::isSingleReference(const SchemaElement& element) const {
-  const std::vector<std::string>& names = rules().singleReferences;
-  return std::find(names.begin(), names.end(), element.strLowerName()) != names.end();
+bool ExpressionBase::isReference(const SchemaElement& element) const {
+  return ReferenceFields::holds(element, rules());
+}
+
+void ExpressionBase::visitReferences(ReferenceVisitor& visitor) const {
+  references().visit(visitor);
+  for (const ExpressionRef& segment : colSubExpressions()) visitor.object(*segment);
+  if (const auto next = objFollowedBy()) visitor.object(*next);
+}
+
+void ExpressionBase::RenameAllRelativesGUID(const std::string& oldGUID,
+                                            const std::string& newGUID) {
+  references().rename(oldGUID, newGUID);
 }
 
 void ExpressionBase::setTextField(const std::string& name, const std::string& text) {
@@ -53,13 +57,7 @@ void ExpressionBase::setTextField(const std::string& name, const std::string& te
 }
 
 std::string ExpressionBase::typedText(const std::string& lowerName, Message message) const {
-  const SchemaElement* field = secol().relationField(lowerName);
-  if (!field) return {};
-  if (field->tyType() != tyType::String) {
-    app().ui.messageBox(app().LoadResString(message));
-    return {};
-  }
-  return field->bValid() ? toText(field->vContent()) : std::string();
+  return references().typedText(lowerName, app(), message);
 }
 
 std::string ExpressionBase::strVersionGUID() const {
@@ -125,51 +123,9 @@ ObjectList ExpressionBase::waitsFor() const {
   return others;
 }
 
-void ExpressionBase::visitReferences(ReferenceVisitor& visitor) const {
-  for (const SchemaElement& field : secol()) {
-    // The parent is looked at whether the field is assigned or not.
-    const std::string only = isSingleReference(field) ? guidIn(field) : std::string();
-    if (!only.empty()) visitor.identifier(only);
-    if (field.strLowerName() != "manifestedby" || !field.bValid()) continue;
-    if (const StringList* list = asList(field.vContent())) {
-      for (const std::string& guid : *list) visitor.identifier(guid);
-    }
-  }
-  for (const ExpressionRef& segment : colSubExpressions_) visitor.object(*segment);
-  if (const auto next = objFollowedBy()) visitor.object(*next);
-}
-
-void ExpressionBase::RenameAllRelativesGUID(const std::string& oldGUID,
-                                            const std::string& newGUID) {
-  renameManifestations(oldGUID, newGUID);
-  for (SchemaElement& field : secol()) {
-    if (!isSingleReference(field) || !field.bValid()) continue;
-    if (!io()->bGUIDComp(guidIn(field), oldGUID)) continue;
-    field.assign(newGUID);
-  }
-}
-
-void ExpressionBase::renameManifestations(const std::string& oldGUID, const std::string& newGUID) {
-  for (SchemaElement& field : secol()) {
-    if (field.strLowerName() != "manifestedby" || !field.bValid()) continue;
-    const StringList* members = asList(field.vContent());
-    if (!members) continue;
-    const auto at = std::find_if(members->begin(), members->end(), [&](const std::string& member) {
-      return io()->bGUIDComp(member, oldGUID);
-    });
-    if (at == members->end()) continue;
-    const auto offset = at - members->begin();
-    field.changeList([&](StringList& list) {
-      list.erase(list.begin() + offset);
-      list.push_back(newGUID);
-    });
-    field.setBChanged(true);
-  }
-}
-
 ObjectList ExpressionBase::colSelSubTree() {
   ObjectList subTree;
-  for (const ExpressionRef& segment : colSubExpressions_) {
+  for (const ExpressionRef& segment : colSubExpressions()) {
     const ObjectList below = segment->colSelSubTree();
     if (below.empty()) return {};
     subTree.insert(subTree.end(), below.begin(), below.end());
@@ -180,6 +136,74 @@ ObjectList ExpressionBase::colSelSubTree() {
 
 std::string ExpressionBase::strRemoveAllChilds() {
   return strRemoveAllBelow(*this, document());
+}
+
+void ExpressionBase::OpenSubExpressions() {
+  segments_.replace(io()->colScanForExpressions(shared_from_this()));
+  tellReferences();
+  segments_.linkFollowers();
+}
+
+std::shared_ptr<ExpressionBase> ExpressionBase::makeSegment(const std::string& title) {
+  if (!canNameChild()) return nullptr;
+  auto segment = as<ExpressionBase>(app().objectFactory->createExpression(kind()));
+  const std::string guid =
+      io()->strCreateGUID(document().collObjects(), *segment, document().strGUID());
+  const std::string message = segment->strInitAsNew(guid, app().strXSDPath(), schemaPrefix(), title,
+                                                    app().objectFactory->createForm(kind()), io());
+  if (message.empty()) return segment;
+  app().ui.messageBox(message);
+  return nullptr;
+}
+
+void ExpressionBase::AddSubExpression(const std::string& title, double dStart, double dend) {
+  const std::shared_ptr<ExpressionBase> segment = makeSegment(title);
+  if (!segment) return;
+  segment->references().setPartOf(strGUID());
+  segments_.link(*segment, dStart, dend);
+  segment->SetChunk(dStart, dend);
+  segment->prepareAsSegmentOf(*this);
+  segment->setObjMainExpr(sharedOf(*this));
+  segment->setVerVersion(verVersion());
+  segments_.add(segment);
+  tellReferences();
+  segment->finishAsSegment();
+  segment->OpenSubExpressions();
+}
+
+void ExpressionBase::RemoveReferenceObj(DescribedObject& removed) {
+  if (removed.kind() == kind()) {
+    forgetExpression(removed);
+  } else if (removed.kind() == ObjectKind::Version) {
+    if (io()->bGUIDComp(strVersionGUID(), removed.strGUID())) setStrVersionGUID("");
+  }
+}
+
+void ExpressionBase::forgetExpression(DescribedObject& removed) {
+  const auto next = objFollowedBy();
+  if (next && static_cast<const DescribedObject*>(next.get()) == &removed) {
+    // The chain closes over the gap.
+    references().setFollowedBy(next->strFollowedBy());
+    setObjFollowedBy(next->objFollowedBy());
+    return;
+  }
+  segments_.forget(removed);
+  references().clearPartOf(removed.strGUID());
+}
+
+void ExpressionBase::removeSegment(ExpressionRef segment) {
+  const std::string message = segment->strRemoveAllChilds();
+  if (!message.empty()) {
+    app().ui.messageBox(message);
+    return;
+  }
+  ObjectRef object = std::move(segment);
+  document().RemoveObject(object);
+}
+
+void ExpressionBase::RemoveSubExpressionByPointer(const ExpressionRef& segment) {
+  if (!segment) raise(kNoObject);
+  removeSegment(segment);
 }
 
 }  // namespace velra

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "app/Message.h"
+#include "expressions/ReferenceFields.h"
+#include "expressions/SegmentList.h"
 #include "objects/ObjectBase.h"
 #include "protocol/Expression.h"
 
@@ -24,7 +26,7 @@ class ExpressionBase : public ObjectBase, public virtual Expression {
   ObjectRef verVersion() const override { return verVersion_.lock(); }
   void setVerVersion(const ObjectRef& version) override { verVersion_ = version; }
 
-  const ExpressionList& colSubExpressions() const override { return colSubExpressions_; }
+  const ExpressionList& colSubExpressions() const override { return segments_.all(); }
   void OpenSubExpressions();
   void AddSubExpression(const std::string& title, double dStart, double dend) override;
   void RemoveSubExpressionByPointer(const ExpressionRef& segment) override;
@@ -44,6 +46,7 @@ class ExpressionBase : public ObjectBase, public virtual Expression {
   bool bHasTranscript() const override { return objTranscript() != nullptr; }
   ExpressionRef objTranscript() const override { return objTranscript_.lock(); }
 
+  ReferenceFields references() const;
   ObjectList waitsFor() const override;
   void visitReferences(ReferenceVisitor& visitor) const override;
   void RenameAllRelativesGUID(const std::string& oldGUID, const std::string& newGUID) override;
@@ -53,13 +56,13 @@ class ExpressionBase : public ObjectBase, public virtual Expression {
 
  protected:
   ExpressionBase(ApplicationModule& app, ObjectKind kind);
-  ~ExpressionBase() override;
+  ~ExpressionBase() override = default;
   ExpressionBase(const ExpressionBase&) = delete;
   ExpressionBase& operator=(const ExpressionBase&) = delete;
 
   void setTextField(const std::string& name, const std::string& text) override;
   void openBelow() override { OpenSubExpressions(); }
-  void afterInit() override { colSubExpressions_.clear(); }
+  void afterInit() override { segments_.clear(); }
   bool isReference(const SchemaElement& element) const override;
 
   /// The class's own steps of a new segment: before it joins the tree of its parent, and at the
@@ -73,19 +76,10 @@ class ExpressionBase : public ObjectBase, public virtual Expression {
 
  private:
   std::shared_ptr<ExpressionBase> makeSegment(const std::string& title);
-  void linkIntoChain(ExpressionBase& segment, double dStart, double dend);
-  ExpressionRef siblingBefore(double time) const;
-  ExpressionRef siblingAfter(double time) const;
-  void LinkFollowers();
-  void SetPartOf(const std::string& guid);
-  void SetFollowedBy(const std::string& guid);
-  void ClearPartOf(const std::string& guid);
-  bool isSingleReference(const SchemaElement& element) const;
-  void renameManifestations(const std::string& oldGUID, const std::string& newGUID);
   void forgetExpression(DescribedObject& removed);
   void removeSegment(ExpressionRef segment);  // a copy: the caller's may stand in the list
 
-  ExpressionList colSubExpressions_;
+  SegmentList segments_;
   std::weak_ptr<Expression> objMainExpr_;
   std::weak_ptr<Expression> objFollowedBy_;
   std::weak_ptr<DescribedObject> verVersion_;
