@@ -22,10 +22,14 @@ void AdvancedSlider::changed(std::string_view property) const {
   if (events.PropertyChanged) events.PropertyChanged(property);
 }
 
+void AdvancedSlider::repaint() const {
+  if (events.Repaint) events.Repaint();
+}
+
 void AdvancedSlider::setRangeColor(std::int32_t colour) {
   RangeColor_ = colour;
   BlinkLine_.colour = colour;
-  for (Mark& mark : marks_) mark.colour = colour;
+  marks_.colourAll(colour);
   changed("RangeColor");
   repaint();
 }
@@ -49,7 +53,8 @@ void AdvancedSlider::setDPosition(double seconds) {
   dPosition_ = seconds;
   if (dPosition_ > dMax_) dPosition_ = dMax_;
   if (dPosition_ < dMin_) dPosition_ = dMin_;
-  Slider1_.value = toInt32(Slider::kMin + (Slider::kMax - Slider::kMin) * share(dPosition_));
+  Slider1_.value =
+      toInt32(Slider::kMin + (Slider::kMax - Slider::kMin) * scale().share(dPosition_));
   changed("dPosition");
   if (events.ThumbMoved) events.ThumbMoved();
 }
@@ -69,16 +74,15 @@ void AdvancedSlider::setEnabled(bool enabled) {
 }
 
 void AdvancedSlider::setIRangeSelectedStart(std::int16_t index) {
-  iRangeSelectedStart_ = index;
-  iRangeSelectedEnd_ = index;
+  selection_ = {index, index};
   colour();
   redraw();
   changed("iRangeSelectedStart");
 }
 
 void AdvancedSlider::setIRangeSelectedEnd(std::int16_t index) {
-  if (iRangeSelectedStart_ == -1) return;
-  iRangeSelectedEnd_ = index;
+  if (!selection_.any()) return;
+  selection_.end = index;
   redraw();
   changed("iRangeSelectedEnd");
 }
@@ -101,8 +105,8 @@ void AdvancedSlider::WriteProperties(PropertyBag& bag) const {
   bag.WriteProperty("StartRangeColor", StartRangeColor_, kWhite);
   bag.WriteProperty("dMin", dMin_, 0.0);
   bag.WriteProperty("dMax", dMax_, 1.0);
-  bag.WriteProperty(kSelectionWriteKey, std::int32_t{iRangeSelectedStart_}, kNone);
-  bag.WriteProperty(kSelectionWriteKey, std::int32_t{iRangeSelectedEnd_}, kNone);
+  bag.WriteProperty(kSelectionWriteKey, std::int32_t{selection_.start}, kNone);
+  bag.WriteProperty(kSelectionWriteKey, std::int32_t{selection_.end}, kNone);
   bag.WriteProperty("dPosition", dPosition_, dMin_);
   bag.WriteProperty("dLargeChange", dLargeChange_, kDefaultLargeChange);
   bag.WriteProperty("Enabled", Enabled(), true);
@@ -122,6 +126,95 @@ void AdvancedSlider::UserMovesThumb(std::int32_t value) {
 
 void AdvancedSlider::UserSteps(bool forward) {
   if (Enabled() && events.Step) events.Step(forward);
+}
+
+std::int16_t AdvancedSlider::iAddRange(double dBegin, double dend, const std::string& caption) {
+  if (dBegin > dend) return 0;
+  if (dBegin < dMin_) dBegin = dend;
+  if (dend > dMax_) dend = dMax_;
+  marks_.add({dBegin, dend}, caption, RangeColor_, scale());
+  repaint();
+  return Count();
+}
+
+void AdvancedSlider::takeBackLastRange() {
+  marks_.removeLast();
+  repaint();
+}
+
+void AdvancedSlider::UpdateRange(std::int16_t index, double dBegin, double dend) {
+  if (index < 1 || index > Count()) return;
+  marks_.setBounds(index, {dBegin, dend});
+  Refresh();
+}
+
+void AdvancedSlider::RemoveSelectedRanges() {
+  const std::vector<std::int16_t> selected = colSelectedIndexes();
+  marks_.remove(selected);
+  if (!selected.empty()) repaint();
+}
+
+void AdvancedSlider::colour() {
+  if (!selection_.any()) return;
+  setRangeColor(RangeColor_);
+  marks_.colour(selection_.start, StartRangeColor_);
+}
+
+void AdvancedSlider::redraw() {
+  marks_.placeAll(scale());
+  placeBlinkLine();
+  marks_.highlight(selection_);
+  colour();
+  repaint();
+}
+
+void AdvancedSlider::Refresh() {
+  redraw();
+}
+
+void AdvancedSlider::Resize(double widthTwips) {
+  Slider1_.left = 0;
+  Slider1_.width = widthTwips;
+  Refresh();
+}
+
+void AdvancedSlider::MouseDown(std::int16_t index, int shift) {
+  const bool extend = shift == kShiftArgument;
+  if (extend && !selection_.any()) return;
+  selection_.end = index;
+  if (!extend) selection_.start = index;
+  marks_.highlight(selection_);
+  if (!extend) colour();
+  repaint();
+  if (events.Click) events.Click(selection_.start);
+}
+
+void AdvancedSlider::DoubleClick(std::int16_t index) {
+  MouseDown(index, 0);
+  if (events.DblClick) events.DblClick(index);
+}
+
+void AdvancedSlider::placeBlinkLine() {
+  BlinkLine_.x = scale().x(dBlinkTime_);
+}
+
+void AdvancedSlider::PutBlinkLine(double seconds) {
+  BlinkLine_.visible = true;
+  if (events.RunBlinkTimer) events.RunBlinkTimer(true);
+  dBlinkTime_ = seconds;
+  placeBlinkLine();
+  repaint();
+}
+
+void AdvancedSlider::RemoveBlinkLine() {
+  BlinkLine_.visible = false;
+  if (events.RunBlinkTimer) events.RunBlinkTimer(false);
+  repaint();
+}
+
+void AdvancedSlider::BlinkTick() {
+  BlinkLine_.visible = !BlinkLine_.visible;
+  repaint();
 }
 
 }  // namespace velra

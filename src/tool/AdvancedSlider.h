@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "values/Range.h"
+#include "tool/RangeMarks.h"
 
 namespace velra {
 
@@ -36,21 +36,12 @@ class AdvancedSlider {
   struct Slider {
     static constexpr std::int32_t kMin = 0;
     static constexpr std::int32_t kMax = 5000;
-    static constexpr double kThumbMargin = 200;  // its centre keeps this far from both ends
+    static constexpr double kThumbMargin = TimelineScale::kMargin;  // of its centre at both ends
     double left = 0;
     double width = 0;
     std::int32_t value = 0;
     std::int32_t largeChange = 0;
     bool enabled = false;
-  };
-
-  /// How one range is drawn: a bracket over its span, and the caption as tool tip.
-  struct Mark {
-    std::string caption;
-    double left = 0;
-    double width = 0;
-    int borderWidth = kPlainBorder;
-    std::int32_t colour = 0;
   };
 
   struct BlinkLine {
@@ -59,8 +50,8 @@ class AdvancedSlider {
     std::int32_t colour = 0;
   };
 
-  static constexpr int kPlainBorder = 4;
-  static constexpr int kSelectedBorder = 6;
+  using Mark = RangeMarks::Mark;
+  static constexpr int kSelectedBorder = RangeMarks::kSelectedBorder;
   static constexpr int kShiftArgument = 1;  // Shift alone, in the argument of the mouse
 
   AdvancedSliderEvents events;
@@ -81,9 +72,9 @@ class AdvancedSlider {
   void setDLargeChange(double seconds);
   bool Enabled() const { return Slider1_.enabled; }
   void setEnabled(bool enabled);
-  std::int16_t iRangeSelectedStart() const { return iRangeSelectedStart_; }
+  std::int16_t iRangeSelectedStart() const { return selection_.start; }
   void setIRangeSelectedStart(std::int16_t index);
-  std::int16_t iRangeSelectedEnd() const { return iRangeSelectedEnd_; }
+  std::int16_t iRangeSelectedEnd() const { return selection_.end; }
   void setIRangeSelectedEnd(std::int16_t index);
 
   void ReadProperties(const PropertyBag& bag);
@@ -101,9 +92,9 @@ class AdvancedSlider {
   void UpdateRange(std::int16_t index, double dBegin, double dend);
   /// The indexes of the selected ranges in rising order. A selection index that no range has any
   /// more raises kSubscriptOutOfRange.
-  std::vector<std::int16_t> colSelectedIndexes() const;
-  std::int16_t Count() const;
-  const RangeSet& colRanges() const { return colRanges_; }
+  std::vector<std::int16_t> colSelectedIndexes() const { return marks_.selected(selection_); }
+  std::int16_t Count() const { return marks_.Count(); }
+  const RangeSet& colRanges() const { return marks_.ranges(); }
 
   // The blink line.
   void PutBlinkLine(double seconds);
@@ -123,24 +114,20 @@ class AdvancedSlider {
 
   // For the face.
   const Slider& slider() const { return Slider1_; }
-  const std::vector<Mark>& marks() const { return marks_; }
+  const std::vector<Mark>& marks() const { return marks_.all(); }
   const BlinkLine& blinkLine() const { return BlinkLine_; }
   /// The range drawn at a place, the topmost first; 0 for none. A mark too narrow to be hit answers
   /// over `slack` twips on both sides.
-  std::int16_t iRangeAt(double x, double slack) const;
+  std::int16_t iRangeAt(double x, double slack) const { return marks_.at(x, slack); }
   /// The range whose begin comes next in time after (or before) the one at the selection's end; 0
   /// for none. Without a selection the first (or last).
-  std::int16_t iNeighbour(bool forward) const;
+  std::int16_t iNeighbour(bool forward) const { return marks_.neighbour(selection_.end, forward); }
 
  private:
-  double share(double seconds) const;
-  double x(double seconds) const;
-  void place(std::size_t index);
+  TimelineScale scale() const { return {dMin_, dMax_, Slider1_.left, Slider1_.width}; }
   void placeBlinkLine();
   void redraw();
-  void highlight();
   void colour();
-  bool isSelected(const Range& range) const;
   void changed(std::string_view property) const;
   void repaint() const;
 
@@ -151,12 +138,10 @@ class AdvancedSlider {
   double dPosition_ = 0;
   double dLargeChange_ = 0;
   double dBlinkTime_ = 0;
-  std::int16_t iRangeSelectedStart_ = -1;
-  std::int16_t iRangeSelectedEnd_ = -1;
+  RangeSelection selection_;
   Slider Slider1_;
   BlinkLine BlinkLine_;
-  RangeSet colRanges_;
-  std::vector<Mark> marks_;  // one for each range, at the same place
+  RangeMarks marks_;
 };
 
 }  // namespace velra

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "base/Arithmetic.h"
-#include "base/RunTimeError.h"
 #include "tool/PropertyBag.h"
 
 namespace velra {
@@ -15,10 +14,7 @@ constexpr std::int32_t kWhiteSquare = 16777215;
 constexpr std::int16_t kDefaultImageX = 1000;
 constexpr std::int16_t kDefaultImageY = 750;
 constexpr std::int16_t kCellMargin = 100;
-
-bool between(std::int16_t tag, std::int16_t a, std::int16_t b) {
-  return tag >= std::min(a, b) && tag <= std::max(a, b);
-}
+constexpr double kPanelMargin = 100;
 
 }  // namespace
 
@@ -30,18 +26,9 @@ void Framelist::repaint() const {
   if (events.Repaint) events.Repaint();
 }
 
-const std::shared_ptr<Framelist::Image>& Framelist::at(std::int16_t position) const {
-  if (position < 1) raise(kSubscriptOutOfRange);
-  return colImages_.Item(static_cast<std::size_t>(position));
-}
-
-std::int16_t Framelist::Count() const {
-  return toInt16(static_cast<double>(colImages_.Count()));
-}
-
 void Framelist::setSquareColor(std::int32_t colour) {
   SquareColor_ = colour;
-  for (const auto& image : colImages_) image->squareColour = colour;
+  images_.colourAll(colour);
   changed("SquareColor");
   repaint();
 }
@@ -68,8 +55,7 @@ void Framelist::setISelectedStart(std::int16_t position) {
   iSelectedStart_ = position;
   iSelectedEnd_ = position;
   if (position != -1) {
-    hideSquares();
-    at(position)->squareVisible = true;
+    images_.showOne(position);
     colour();
     repaint();
   }
@@ -79,8 +65,7 @@ void Framelist::setISelectedStart(std::int16_t position) {
 void Framelist::setISelectedEnd(std::int16_t position) {
   if (position == 0 || position > Count() || iSelectedStart_ == -1) return;
   iSelectedEnd_ = position;
-  hideSquares();
-  showStretch(iSelectedStart_, iSelectedEnd_);
+  images_.showStretch(iSelectedStart_, iSelectedEnd_);
   colour();
   repaint();
   changed("iSelectedEnd");
@@ -105,68 +90,98 @@ void Framelist::WriteProperties(PropertyBag& bag) const {
   bag.WriteProperty("iSelectedEnd", std::int32_t{iSelectedEnd_}, kNone);
 }
 
-void Framelist::place(Image& image) const {
-  image.left = (image.tag - 1) * static_cast<double>(iCellX_);
-}
-
 std::int16_t Framelist::iAddImage(const Picture& picture, std::int16_t place,
                                   const std::string& caption) {
-  const auto image = std::make_shared<Image>();
-  image->picture = picture;
-  image->caption = caption;
-  image->tag = place;
-  image->squareColour = SquareColor_;
-  const auto atPlace = [&](const auto& other) { return other->tag == place; };
-  if (std::any_of(colImages_.begin(), colImages_.end(), atPlace)) {
-    for (const auto& other : colImages_) {
-      if (other->tag >= place) other->tag = addInt16(other->tag, 1);
-    }
-  }
-  colImages_.Add(image);
+  StripImage image;
+  image.picture = picture;
+  image.caption = caption;
+  image.tag = place;
+  image.squareColour = SquareColor_;
+  images_.add(image);
   layOut();
   return Count();
 }
 
 void Framelist::RemoveImage(std::int16_t position) {
-  const std::shared_ptr<Image> removed = at(position);
-  for (const auto& other : colImages_) {
-    if (other->tag > removed->tag) --other->tag;
-  }
-  colImages_.Remove(static_cast<std::size_t>(position));
+  images_.remove(position);
   layOut();
 }
 
 void Framelist::RemoveSelected() {
   if (iSelectedStart_ == -1) return;
-  const std::int16_t a = at(iSelectedStart_)->tag;
-  const std::int16_t b = at(iSelectedEnd_)->tag;
+  images_.removeStretch(iSelectedStart_, iSelectedEnd_);
   iSelectedStart_ = -1;
   iSelectedEnd_ = -1;
-  std::vector<std::shared_ptr<Image>> selected;
-  for (const auto& image : colImages_) {
-    if (between(image->tag, a, b)) selected.push_back(image);
-  }
-  for (const auto& image : selected) {
-    RemoveImage(toInt16(static_cast<double>(colImages_.find(image))));
-  }
-}
-
-void Framelist::hideSquares() {
-  for (const auto& image : colImages_) image->squareVisible = false;
-}
-
-void Framelist::showStretch(std::int16_t a, std::int16_t b) {
-  const std::int16_t tagA = at(a)->tag;
-  const std::int16_t tagB = at(b)->tag;
-  for (const auto& image : colImages_) {
-    if (between(image->tag, tagA, tagB)) image->squareVisible = true;
-  }
+  layOut();
 }
 
 void Framelist::colour() {
   if (iSelectedStart_ == -1) return;
   setSquareColor(SquareColor_);
-  at(iSelectedStart_)->squareColour = StartSquareColor_;
+  images_.at(iSelectedStart_)->squareColour = StartSquareColor_;
+}
+
+void Framelist::layOut() {
+  images_.placeAll(iCellX_);
+  if (iSelectedStart_ != -1) {
+    images_.showStretch(iSelectedStart_, iSelectedEnd_);
+    colour();
+  }
+  sizeScrollBar();
+  repaint();
+}
+
+double Framelist::panelWidth() const {
+  return static_cast<double>(Count()) * iCellX_ + kPanelMargin;
+}
+
+void Framelist::sizeScrollBar() {
+  HScroll1_.largeChange = iCellX_;
+  HScroll1_.smallChange = toInt16(ImageX_ / 4.0);
+  HScroll1_.max = toInt16(panelWidth() - width_);
+  HScroll1_.visible = width_ < panelWidth();
+  Scroll(HScroll1_.value);
+}
+
+void Framelist::Refresh() {
+  layOut();
+}
+
+void Framelist::Resize(double widthTwips) {
+  width_ = widthTwips;
+  Refresh();
+}
+
+void Framelist::Scroll(std::int16_t value) {
+  const std::int16_t highest = std::max<std::int16_t>(HScroll1_.max, 0);
+  HScroll1_.value = std::clamp<std::int16_t>(value, 0, highest);
+  repaint();
+}
+
+void Framelist::MouseDown(std::int16_t position, int shift) {
+  const bool extend = shift == kShiftArgument;
+  if (extend && iSelectedStart_ == -1) return;
+  iSelectedEnd_ = position;
+  if (!extend) iSelectedStart_ = position;
+  images_.showStretch(iSelectedStart_, iSelectedEnd_);
+  colour();
+  repaint();
+  if (events.Click) events.Click(iSelectedStart_, images_.at(iSelectedStart_)->tag);
+}
+
+void Framelist::DoubleClick(std::int16_t position) {
+  const std::int16_t tag = images_.at(position)->tag;
+  MouseDown(position, 0);
+  if (events.DblClick) events.DblClick(position, tag);
+}
+
+std::int16_t Framelist::iImageAt(double x, double y) const {
+  if (y < kMargin || y >= kMargin + ImageY_) return 0;
+  for (std::int16_t i = Count(); i >= 1; --i) {
+    const double left = images_.at(i)->left + kMargin;
+    if (x >= left && x < left + ImageX_) return i;
+  }
+  return 0;
 }
 
 }  // namespace velra

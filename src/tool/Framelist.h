@@ -3,13 +3,10 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "base/Collection.h"
-#include "values/Picture.h"
+#include "tool/StripImages.h"
 
 namespace velra {
 
@@ -29,14 +26,7 @@ struct FramelistEvents {
 /// are twips, colours 0x00bbggrr; -1 means that nothing is selected.
 class Framelist {
  public:
-  struct Image {
-    Picture picture;
-    std::string caption;
-    std::int16_t tag = 0;
-    double left = 0;  // of the cell, on the panel
-    bool squareVisible = false;
-    std::int32_t squareColour = 0;
-  };
+  using Image = StripImage;
 
   struct ScrollBar {
     static constexpr double kHeight = 255;
@@ -89,25 +79,21 @@ class Framelist {
 
   // For the face.
   double width() const { return width_; }
-  std::int16_t Count() const;
-  const Image& image(std::int16_t position) const { return *at(position); }
+  std::int16_t Count() const { return images_.Count(); }
+  const Image& image(std::int16_t position) const { return *images_.at(position); }
   const ScrollBar& scrollBar() const { return HScroll1_; }
   double panelLeft() const { return -HScroll1_.value; }
   /// The picture at a place on the panel; 0 for none.
   std::int16_t iImageAt(double x, double y) const;
   /// The picture next on the strip to the one at the selection's end; 0 for none. Without a
   /// selection the first (or last).
-  std::int16_t iNeighbour(bool forward) const;
+  std::int16_t iNeighbour(bool forward) const { return images_.neighbour(iSelectedEnd_, forward); }
   /// The first (or last) picture on the strip; 0 for none.
-  std::int16_t iImageAtEnd(bool last) const;
+  std::int16_t iImageAtEnd(bool last) const { return images_.atEnd(last); }
 
  private:
-  const std::shared_ptr<Image>& at(std::int16_t position) const;
-  void place(Image& image) const;
   void layOut();
   void sizeScrollBar();
-  void hideSquares();
-  void showStretch(std::int16_t a, std::int16_t b);
   void colour();
   void changed(std::string_view property) const;
   void repaint() const;
@@ -122,7 +108,7 @@ class Framelist {
   std::int16_t iSelectedEnd_ = -1;
   double width_ = 0;
   ScrollBar HScroll1_;
-  Collection<std::shared_ptr<Image>> colImages_;
+  StripImages images_;
 };
 
 }  // namespace velra

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "base/Collection.h"
+#include "values/Picture.h"
+
+namespace velra {
+
+/// One picture of the strip. Lengths are twips, colours 0x00bbggrr.
+struct StripImage {
+  Picture picture;
+  std::string caption;
+  std::int16_t tag = 0;  // the place on the strip, from 1
+  double left = 0;       // of the cell, on the panel
+  bool squareVisible = false;
+  std::int32_t squareColour = 0;
+};
+
+/// The pictures of a strip with their places. A position is the order of adding and counts from 1;
+/// one that no picture has raises kSubscriptOutOfRange.
+class StripImages {
+ public:
+  std::int16_t Count() const;
+  const std::shared_ptr<StripImage>& at(std::int16_t position) const;
+  auto begin() const { return images_.begin(); }
+  auto end() const { return images_.end(); }
+
+  /// At the end of the list. If a picture stands at the place, it and all behind it make room.
+  void add(const StripImage& image);
+  /// Those behind it close the gap.
+  void remove(std::int16_t position);
+  /// Removes all that stand from the one picture to the other.
+  void removeStretch(std::int16_t a, std::int16_t b);
+
+  void placeAll(double cellWidth);
+  void colourAll(std::int32_t colour);
+  /// Shows the square of one picture, and no other.
+  void showOne(std::int16_t position);
+  /// Shows the squares of the pictures that stand from the one to the other, and no others.
+  void showStretch(std::int16_t a, std::int16_t b);
+
+  /// The picture next on the strip to the one at a position; 0 for none. If the position is that of
+  /// no picture, the first (or last).
+  std::int16_t neighbour(std::int16_t position, bool forward) const;
+  /// The first (or last) picture on the strip; 0 for none.
+  std::int16_t atEnd(bool last) const;
+
+ private:
+  void hideSquares();
+
+  Collection<std::shared_ptr<StripImage>> images_;
+};
+
+}  // namespace velra
