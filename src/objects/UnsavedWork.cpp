@@ -66,7 +66,7 @@ bool UnsavedWork::keepChanged(ObjectRegistry& objects, const IOManager& io, Cloc
     }
   }
   if (!kept.empty()) io.rescue()->keep(std::move(kept), {});
-  return !one.empty();
+  return objects.anyWritten();
 }
 
 void UnsavedWork::saved(ObjectRegistry& objects) {

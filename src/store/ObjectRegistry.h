@@ -59,6 +59,7 @@ class ObjectRegistry : private ObjectListener {
   /// Described objects with something to save that were written to since they were taken last: so
   /// many at most, in order of registration.
   ObjectList takeWritten(std::size_t most);
+  bool anyWritten() const { return !written_.empty(); }
 
   ReferenceIndex& references() { return references_; }
 
