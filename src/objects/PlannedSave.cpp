@@ -14,7 +14,7 @@ namespace velra {
 namespace {
 
 void addToPlan(const RegisteredObject& object, SavePlan& plan) {
-  const auto* described = dynamic_cast<const ObjectBase*>(&object);
+  const auto* described = as<const ObjectBase>(&object);
   if (!described || !described->bChanged()) return;
   try {
     const std::string path = strAbsolutePath(object.strGUID());

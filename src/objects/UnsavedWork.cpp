@@ -55,7 +55,7 @@ bool UnsavedWork::keepChanged(ObjectRegistry& objects, const IOManager& io, Cloc
   std::vector<KeptObject> kept;
   ObjectList one;
   while (Clock::now() < end && !(one = objects.takeWritten(1)).empty()) {
-    const auto* described = dynamic_cast<const ObjectBase*>(one.front().get());
+    const auto* described = as<const ObjectBase>(one.front().get());
     if (!described) continue;
     const std::string path = strAbsolutePath(described->strGUID());
     try {
