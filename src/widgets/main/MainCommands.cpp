@@ -18,14 +18,14 @@ void showNoHelp(MainFormWindow& window) {
       "Unable to display Help Contents. There is no Help associated with this project.");
 }
 
-template <int kLanguage>
+template <int Language>
 void choose(MainFormWindow& window) {
-  window.rules().setLanguage(kLanguage);
+  window.rules().setLanguage(Language);
 }
 
-template <void (frmMain::*kCommand)()>
+template <void (frmMain::*Command)()>
 void call(MainFormWindow& window) {
-  (window.rules().*kCommand)();
+  (window.rules().*Command)();
 }
 
 constexpr MenuEntry kFile[] = {
