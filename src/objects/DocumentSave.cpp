@@ -100,7 +100,10 @@ bool DocumentSave::bSave() {
 std::vector<std::string> DocumentSave::filesToRemove() {
   RemovedFiles removed;
   for (const std::string& guid : io_.colGUIDToRemove()) removed.add(guid);
-  for (const std::string& guid : document_.colObjRemoved()) removed.add(guid);
+  for (const std::string& guid : document_.colObjRemoved()) {
+    // What lies under a name that was never written is another program's.
+    if (!io_.names().isPromised(guid)) removed.add(guid);
+  }
   removed.keepFilesOf(objects_);
   return removed.identifiers();
 }

@@ -112,6 +112,7 @@ void RescueStore::end(SessionId session, SessionEnd how) {
       .number(1, session)
       .number(2, static_cast<std::int64_t>(how))
       .run();
+  dropPlan(session);  // a program that lives knows how its saves have ended
   deleteIfEmpty(session);
   transaction.commit();
 }
@@ -157,6 +158,7 @@ void RescueStore::forgetAll(SessionId session) {
 
 void RescueStore::planSave(SessionId session, const SavePlan& plan) {
   Transaction transaction(database_);
+  dropPlan(session);  // one whose end could not be written is not to be carried out after this one
   Statement insert = database_.prepare("INSERT INTO planned VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)");
   std::int64_t position = 0;
   for (const PlannedFile& file : plan.files) {
@@ -181,11 +183,15 @@ void RescueStore::finishSave(SessionId session) {
 
 void RescueStore::abandonSave(SessionId session) {
   Transaction transaction(database_);
+  dropPlan(session);
+  transaction.commit();
+}
+
+void RescueStore::dropPlan(SessionId session) {
   for (const char* statement : {"DELETE FROM planned WHERE session = ?1",
                                 "DELETE FROM removal WHERE session = ?1 AND planned = 1"}) {
     database_.prepare(statement).number(1, session).run();
   }
-  transaction.commit();
 }
 
 std::optional<SavePlan> RescueStore::openPlan(SessionId session) {

@@ -59,6 +59,7 @@ class RescueStore {
  private:
   void makeTables();
   void deleteIfEmpty(SessionId session);
+  void dropPlan(SessionId session);
 
   Database database_;
 };

@@ -66,7 +66,9 @@ TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
   EXPECT_FALSE(store_.openPlan(session));
   EXPECT_EQ(keptWork(store_, "").size(), 1U);
 
+  store_.planSave(session, {{{"one", "stale", {}}}, {}});
   store_.planSave(session, {{{"one", kBytes, {}}}, {"gone"}});
+  EXPECT_EQ(store_.openPlan(session)->files.size(), 1U);
   EXPECT_EQ(store_.openPlan(session)->files[0].bytes, kBytes);
   store_.finishSave(session);
   EXPECT_TRUE(keptWork(store_, "").empty());
@@ -106,9 +108,11 @@ TEST(RescueWriter, GoesOnWithoutAStoreAndPutsADamagedOneAside) {
     const std::string outcome = rescue.planSave({{{"one", kBytes, {}}}, {}});
     EXPECT_EQ(outcome.empty(), works) << outcome;
     EXPECT_EQ(writer.failure(), outcome);
+    rescue.keep({{"one", "Video", "", kBytes, false, {}}}, {});
   }
   EXPECT_EQ(folder.snapshot().count("state/rescue.sqlite"), 1U);
-  EXPECT_TRUE(RescueStore(damaged).openPlan(1)) << "ended by the writer before it went";
+  RescueStore after(damaged);
+  EXPECT_EQ(keptWork(after, "f").size(), 1U) << "kept by the writer before it went";
 }
 
 }  // namespace
