@@ -24,7 +24,8 @@ bool make(const std::string& path, const std::string& codec) {
 
 void makeNoise(const std::string& path) {
   std::mt19937 random(3);
-  std::string bytes(20'000'000, '\0');
+  std::string bytes;
+  bytes.resize(20'000'000);
   for (char& byte : bytes) byte = static_cast<char>(random());
   std::ofstream(path, std::ios::binary) << bytes;
 }

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <ctime>
 #include <fstream>
@@ -35,7 +36,7 @@ double Times::at(double share) const {
   std::vector<double> sorted = values_;
   std::sort(sorted.begin(), sorted.end());
   const auto last = static_cast<double>(sorted.size() - 1);
-  return sorted[static_cast<std::size_t>(share * last + 0.5)];
+  return sorted[static_cast<std::size_t>(std::lround(share * last))];
 }
 
 bool report(const std::string& title, const std::vector<Measure>& measures) {

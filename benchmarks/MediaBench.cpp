@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <random>
 #include <thread>
@@ -147,8 +148,8 @@ void addPlay(std::vector<Measure>& measures, const std::string& name, const std:
   movie.graph->Stop();
   const double spent = std::chrono::duration<double>(Clock::now() - start).count();
   const double used = (processorSeconds() - processor) / spent * 100;
-  const int expected = static_cast<int>((movie.graph->CurrentPosition() - 5) / kBenchFrame + 0.5);
-  const int missed = std::max(0, expected - (movie.pictures - before));
+  const long expected = std::lround((movie.graph->CurrentPosition() - 5) / kBenchFrame);
+  const long missed = std::max(0L, expected - (movie.pictures - before));
   measures.push_back({"play, " + name + ", pictures missed", static_cast<double>(missed), "", 0});
   measures.push_back({"play, " + name + ", of one core", used, "%", 20});
   const double added = residentMegabytes() - memory;

@@ -35,7 +35,7 @@ deep_commands() {
             s/^ *"command": "\(.*\) -o [^ ]* -c \([^ ]*\)",$/\2\t\1/
             s/\\\(.\)/\1/g
             p
-          }' "$root/build/clang/compile_commands.json" | grep '/Unity/'
+          }' "$root/build/clang/compile_commands.json" | grep -E '/Unity/|/benchmarks/'
 }
 
 # Runs clang-tidy, which reports clang's own warnings too, over one line of deep_commands. What it
