@@ -69,11 +69,11 @@ class VideoFormTest : public ::testing::Test, public VideoFormFaces {
   Steps steps;
 };
 
-TEST_F(VideoFormTest, itHoldsNextToNothing) {
+TEST_F(VideoFormTest, ItHoldsNextToNothing) {
   EXPECT_LE(sizeof(VideoForm), 6 * sizeof(void*));
 }
 
-TEST_F(VideoFormTest, aWalkThroughTheTreeUnloadsEachFormBeforeTheNextShows) {
+TEST_F(VideoFormTest, AWalkThroughTheTreeUnloadsEachFormBeforeTheNextShows) {
   people = {[](LoadedVideoForm& form) { form.tool().advsld.DoubleClick(2); },
             [](LoadedVideoForm& form) { form.tool().BackButt(); },
             [](LoadedVideoForm& form) { form.tool().BackButt(); }};
@@ -84,14 +84,14 @@ TEST_F(VideoFormTest, aWalkThroughTheTreeUnloadsEachFormBeforeTheNextShows) {
   EXPECT_EQ(session.movie.opened, 0);
 }
 
-TEST_F(VideoFormTest, aMovieThatCannotBeOpenedShowsNoForm) {
+TEST_F(VideoFormTest, AMovieThatCannotBeOpenedShowsNoForm) {
   session.movie.refusal = "It is damaged.";
   session.show();
   EXPECT_EQ(steps, Steps{"gone Main"});
   EXPECT_EQ(session.ui.takeShown().size(), 1u);
 }
 
-TEST_F(VideoFormTest, anErrorInTheLoadPassesAndLeavesNothing) {
+TEST_F(VideoFormTest, AnErrorInTheLoadPassesAndLeavesNothing) {
   session.main->child(1)->span.reset();
   EXPECT_THROW(session.main->child(1)->ShowForm(session.mainWindow), RunTimeError)
       << "a timeline without a span";
@@ -101,7 +101,7 @@ TEST_F(VideoFormTest, anErrorInTheLoadPassesAndLeavesNothing) {
   EXPECT_EQ(steps.back(), "gone Main") << "other forms open as before";
 }
 
-TEST_F(VideoFormTest, aTimeThatNoPlaceCanHoldCostsTheFormAndItsFileIsNamed) {
+TEST_F(VideoFormTest, ATimeThatNoPlaceCanHoldCostsTheFormAndItsFileIsNamed) {
   session.main->child(2)->SetChunk(30, 4e8);
   session.show();
   EXPECT_EQ(steps.back(), "gone Main");
@@ -109,7 +109,7 @@ TEST_F(VideoFormTest, aTimeThatNoPlaceCanHoldCostsTheFormAndItsFileIsNamed) {
                                           "Overflow: a number is too large for its place"});
 }
 
-TEST_F(VideoFormTest, onlyOKTakesTheFieldsAndNeitherTouchesSegments) {
+TEST_F(VideoFormTest, OnlyOKTakesTheFieldsAndNeitherTouchesSegments) {
   const auto edit = [](LoadedVideoForm& form) {
     form.fields().colControls()[0].value = std::string("New title");
     form.tool().obj->AddSubExpression("made", 50, 60);
@@ -129,7 +129,7 @@ TEST_F(VideoFormTest, onlyOKTakesTheFieldsAndNeitherTouchesSegments) {
   EXPECT_EQ(session.main->children.size(), 4u);
 }
 
-TEST_F(VideoFormTest, aFormWithoutItsExpressionRefuses) {
+TEST_F(VideoFormTest, AFormWithoutItsExpressionRefuses) {
   VideoForm form(session.services);
   EXPECT_THROW(form.Show(session.mainWindow), RunTimeError);
 }

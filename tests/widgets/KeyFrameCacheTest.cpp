@@ -51,7 +51,7 @@ QImage pictureOf(const QIcon& icon, QIcon::Mode mode) {
 }
 
 // The sizes are such that the bound is passed many times over.
-TEST(KeyFrameCacheTest, showsWhatReadingEachTimeWouldShow) {
+TEST(KeyFrameCacheTest, ShowsWhatReadingEachTimeWouldShow) {
   const test::TemporaryFolder folder;
   std::mt19937 random(1);
   const std::vector<Picture> pictures = somePictures(folder, random);
@@ -68,7 +68,7 @@ TEST(KeyFrameCacheTest, showsWhatReadingEachTimeWouldShow) {
 }
 
 // More icons than are kept; they come and go and change, also under the name of a named one.
-TEST(TreeIconPainterTest, showsWhatAPainterWithoutMemoryWouldShow) {
+TEST(TreeIconPainterTest, ShowsWhatAPainterWithoutMemoryWouldShow) {
   const test::TemporaryFolder folder;
   std::mt19937 random(2);
   const std::vector<Picture> pictures = somePictures(folder, random);

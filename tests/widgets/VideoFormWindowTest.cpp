@@ -60,7 +60,7 @@ class VideoFormWindowTest : public ::testing::Test, public VideoFormFaces {
   ToolSession session{*this};
 };
 
-TEST_F(VideoFormWindowTest, everyControlStandsUnderItsNameAndInView) {
+TEST_F(VideoFormWindowTest, EveryControlStandsUnderItsNameAndInView) {
   inForm([](QWidget& window) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Main"));
     for (const char* name :
@@ -81,7 +81,7 @@ TEST_F(VideoFormWindowTest, everyControlStandsUnderItsNameAndInView) {
 }
 
 // The scripted movie is as long as the span, so that a step is no step of the thumb.
-TEST_F(VideoFormWindowTest, theArrowsOfTheTimelineMoveByAPicture) {
+TEST_F(VideoFormWindowTest, TheArrowsOfTheTimelineMoveByAPicture) {
   inForm([&](QWidget& window) {
     auto& advsld = find<AdvancedSliderWidget>(window, "advsld");
     const struct {
@@ -96,7 +96,7 @@ TEST_F(VideoFormWindowTest, theArrowsOfTheTimelineMoveByAPicture) {
   });
 }
 
-TEST_F(VideoFormWindowTest, draggingTheThumbSeeks) {
+TEST_F(VideoFormWindowTest, DraggingTheThumbSeeks) {
   inForm([&](QWidget& window) {
     auto& advsld = find<AdvancedSliderWidget>(window, "advsld");
     const int y = advsld.height() - 12;
@@ -108,7 +108,7 @@ TEST_F(VideoFormWindowTest, draggingTheThumbSeeks) {
 }
 
 // A set's row that came when the window was there sees the keys of the tool too.
-TEST_F(VideoFormWindowTest, escEndsASelectionAndDeleteAsksWhereverTheFocusIs) {
+TEST_F(VideoFormWindowTest, EscEndsASelectionAndDeleteAsksWhereverTheFocusIs) {
   session.main->fields->Add(tyType::SetOfStrings, {}, "Set", StringList{}, "", false, false, false,
                             true);
   inForm([&](QWidget& window) {
@@ -133,7 +133,7 @@ TEST_F(VideoFormWindowTest, escEndsASelectionAndDeleteAsksWhereverTheFocusIs) {
   EXPECT_EQ(session.main->children.size(), 1u);
 }
 
-TEST_F(VideoFormWindowTest, twoThousandPicturesAreCutSelectedAndScrolled) {
+TEST_F(VideoFormWindowTest, TwoThousandPicturesAreCutSelectedAndScrolled) {
   session.main->SetChunk(0, 4000);
   session.movie.duration = 4000;
   for (int i = 0; i < 1998; ++i) session.main->AddSubExpression("S", 41 + i, 42 + i);
@@ -171,7 +171,7 @@ TEST_F(VideoFormWindowTest, twoThousandPicturesAreCutSelectedAndScrolled) {
   });
 }
 
-TEST_F(VideoFormWindowTest, tabsOfFieldsTakeThePlaceOfTheTool) {
+TEST_F(VideoFormWindowTest, TabsOfFieldsTakeThePlaceOfTheTool) {
   session.giveFields(*session.main, 12);
   inForm([&](QWidget& window) {
     auto& tabs = find<QTabBar>(window, "TabStrip1");
@@ -197,7 +197,7 @@ void checkAccess(QAccessibleInterface& access) {
   }
 }
 
-TEST_F(VideoFormWindowTest, screenReadersMeetNamedControlsAndEveryRange) {
+TEST_F(VideoFormWindowTest, ScreenReadersMeetNamedControlsAndEveryRange) {
   inForm([&](QWidget& window) {
     checkAccess(*QAccessible::queryAccessibleInterface(&window));
     auto& advsld = find<AdvancedSliderWidget>(window, "advsld");
@@ -220,7 +220,7 @@ TEST_F(VideoFormWindowTest, screenReadersMeetNamedControlsAndEveryRange) {
   });
 }
 
-TEST_F(VideoFormWindowTest, twentyThousandWordsStayFluent) {
+TEST_F(VideoFormWindowTest, TwentyThousandWordsStayFluent) {
   auto words = std::make_shared<WordColl>();
   for (int i = 0; i < 20000; ++i) words->Add("", "", i / 250.0, i / 250.0, "word");
   const auto transcript = std::make_shared<ScriptedExpression>(ObjectKind::Transcript);
