@@ -16,18 +16,6 @@
 
 namespace velra {
 
-namespace {
-
-// The text of the first assigned field of the name; "" when there is none.
-std::string assignedText(const SEColl& fields, const std::string& name) {
-  for (const SchemaElement& element : fields) {
-    if (element.bValid() && element.strName() == name) return toText(element.vContent());
-  }
-  return {};
-}
-
-}  // namespace
-
 ObjectBase::ObjectBase(ApplicationModule& app, ObjectKind kind)
     : app_(app), rules_(rulesOf(kind)) {}
 
@@ -39,11 +27,11 @@ SEColl& ObjectBase::secol() const {
 }
 
 std::string ObjectBase::strGUID() const {
-  return secol_ ? assignedText(*secol_, rules_.identityField) : std::string();
+  return secol_ ? secol_->assignedText(rules_.identityField) : std::string();
 }
 
 std::string ObjectBase::strTitle() const {
-  return secol_ ? assignedText(*secol_, rules_.titleField) : std::string();
+  return secol_ ? secol_->assignedText(rules_.titleField) : std::string();
 }
 
 void ObjectBase::setStrGUID(const std::string& guid) {
@@ -66,10 +54,6 @@ void ObjectBase::strInitGUID(const std::string& guid) {
   field->setVContent(guid);
   field->setBChanged(false);
   field->setBValid(true);
-}
-
-void ObjectBase::setStrSchemaPath(const std::string& path) {
-  domDoc_.setSchemaPath(path);
 }
 
 bool ObjectBase::bChanged() const {

@@ -33,7 +33,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   void setStrGUID(const std::string& guid) override;
   std::string strTitle() const override;
   void setStrTitle(const std::string& title) override;
-  void setStrSchemaPath(const std::string& path) override;
+  void setStrSchemaPath(const std::string& path) override { domDoc_.setSchemaPath(path); }
   bool bChanged() const override;
 
   void ShowForm(FormOwner& owner) override;

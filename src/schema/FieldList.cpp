@@ -86,6 +86,13 @@ const SchemaElement* FieldList::relationField(std::string_view strLowerName) con
   return firstOf(elements_, hasLowerName(strLowerName));
 }
 
+std::string FieldList::assignedText(std::string_view strName) const {
+  for (const SchemaElement& element : elements_) {
+    if (element.bValid() && element.strName() == strName) return toText(element.vContent());
+  }
+  return {};
+}
+
 std::string FieldList::relationText(std::string_view strLowerName) const {
   const SchemaElement* field = relationField(strLowerName);
   const auto* text = field ? std::get_if<std::string>(&field->vContent()) : nullptr;

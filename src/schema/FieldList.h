@@ -34,6 +34,8 @@ class FieldList {
   const SchemaElement* field(std::string_view strName) const;
   SchemaElement* relationField(std::string_view strLowerName);
   const SchemaElement* relationField(std::string_view strLowerName) const;
+  /// The text of the first assigned field of the name; "" when there is none.
+  std::string assignedText(std::string_view strName) const;
   /// The text of a relation field, assigned or not; "" for a field that is absent or holds no text.
   std::string relationText(std::string_view strLowerName) const;
   /// The set in a relation field; null when it is absent or not assigned.

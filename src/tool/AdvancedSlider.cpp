@@ -18,44 +18,35 @@ constexpr const char* kSelectionWriteKey = "dMiRangeSelectedax";
 
 }  // namespace
 
-void AdvancedSlider::changed(std::string_view property) const {
-  if (events.PropertyChanged) events.PropertyChanged(property);
-}
-
-void AdvancedSlider::repaint() const {
-  if (events.Repaint) events.Repaint();
-}
-
 void AdvancedSlider::setRangeColor(std::int32_t colour) {
   RangeColor_ = colour;
   BlinkLine_.colour = colour;
   marks_.colourAll(colour);
-  changed("RangeColor");
-  repaint();
+  events.tellPropertyChanged("RangeColor");
+  events.tellRepaint();
 }
 
 void AdvancedSlider::setStartRangeColor(std::int32_t colour) {
   StartRangeColor_ = colour;
-  changed("StartRangeColor");
+  events.tellPropertyChanged("StartRangeColor");
 }
 
 void AdvancedSlider::setDMin(double seconds) {
   dMin_ = seconds;
-  changed("dMin");
+  events.tellPropertyChanged("dMin");
 }
 
 void AdvancedSlider::setDMax(double seconds) {
   dMax_ = seconds;
-  changed("dMax");
+  events.tellPropertyChanged("dMax");
 }
 
 void AdvancedSlider::setDPosition(double seconds) {
   dPosition_ = seconds;
   if (dPosition_ > dMax_) dPosition_ = dMax_;
   if (dPosition_ < dMin_) dPosition_ = dMin_;
-  Slider1_.value =
-      toInt32(Slider::kMin + (Slider::kMax - Slider::kMin) * scale().share(dPosition_));
-  changed("dPosition");
+  Slider1_.setShare(scale().share(dPosition_));
+  events.tellPropertyChanged("dPosition");
   if (events.ThumbMoved) events.ThumbMoved();
 }
 
@@ -63,28 +54,28 @@ void AdvancedSlider::setDLargeChange(double seconds) {
   const double span = dMax_ - dMin_;
   dLargeChange_ = span < seconds ? span : seconds;
   if (span == 0) raise(kDivisionByZero);
-  Slider1_.largeChange = toInt32(dLargeChange_ / span * (Slider::kMax - Slider::kMin));
-  changed("dLargeChange");
+  Slider1_.setLargeChange(dLargeChange_ / span);
+  events.tellPropertyChanged("dLargeChange");
 }
 
 void AdvancedSlider::setEnabled(bool enabled) {
   Slider1_.enabled = enabled;
-  changed("Enabled");
-  repaint();
+  events.tellPropertyChanged("Enabled");
+  events.tellRepaint();
 }
 
 void AdvancedSlider::setIRangeSelectedStart(std::int16_t index) {
   selection_ = {index, index};
   colour();
-  redraw();
-  changed("iRangeSelectedStart");
+  Refresh();
+  events.tellPropertyChanged("iRangeSelectedStart");
 }
 
 void AdvancedSlider::setIRangeSelectedEnd(std::int16_t index) {
   if (!selection_.any()) return;
   selection_.end = index;
-  redraw();
-  changed("iRangeSelectedEnd");
+  Refresh();
+  events.tellPropertyChanged("iRangeSelectedEnd");
 }
 
 void AdvancedSlider::ReadProperties(const PropertyBag& bag) {
@@ -114,12 +105,8 @@ void AdvancedSlider::WriteProperties(PropertyBag& bag) const {
 
 void AdvancedSlider::UserMovesThumb(std::int32_t value) {
   if (!Enabled()) return;
-  constexpr double kSteps = Slider::kMax - Slider::kMin;
-  Slider1_.value = value < Slider::kMin   ? Slider::kMin
-                   : value > Slider::kMax ? Slider::kMax
-                                          : value;
-  dPosition_ = (Slider1_.value - Slider::kMin) / kSteps * (dMax_ - dMin_) + dMin_;
-  changed("dPosition");
+  dPosition_ = Slider1_.moveTo(value) * (dMax_ - dMin_) + dMin_;
+  events.tellPropertyChanged("dPosition");
   if (events.ThumbMoved) events.ThumbMoved();
   if (events.Scroll) events.Scroll();
 }
@@ -133,13 +120,13 @@ std::int16_t AdvancedSlider::iAddRange(double dBegin, double dend, const std::st
   if (dBegin < dMin_) dBegin = dend;
   if (dend > dMax_) dend = dMax_;
   marks_.add({dBegin, dend}, caption, RangeColor_, scale());
-  repaint();
+  events.tellRepaint();
   return Count();
 }
 
 void AdvancedSlider::takeBackLastRange() {
   marks_.removeLast();
-  repaint();
+  events.tellRepaint();
 }
 
 void AdvancedSlider::UpdateRange(std::int16_t index, double dBegin, double dend) {
@@ -151,7 +138,7 @@ void AdvancedSlider::UpdateRange(std::int16_t index, double dBegin, double dend)
 void AdvancedSlider::RemoveSelectedRanges() {
   const std::vector<std::int16_t> selected = colSelectedIndexes();
   marks_.remove(selected);
-  if (!selected.empty()) repaint();
+  if (!selected.empty()) events.tellRepaint();
 }
 
 void AdvancedSlider::colour() {
@@ -160,16 +147,12 @@ void AdvancedSlider::colour() {
   marks_.colour(selection_.start, StartRangeColor_);
 }
 
-void AdvancedSlider::redraw() {
+void AdvancedSlider::Refresh() {
   marks_.placeAll(scale());
-  placeBlinkLine();
+  BlinkLine_.place(scale());
   marks_.highlight(selection_);
   colour();
-  repaint();
-}
-
-void AdvancedSlider::Refresh() {
-  redraw();
+  events.tellRepaint();
 }
 
 void AdvancedSlider::Resize(double widthTwips) {
@@ -185,7 +168,7 @@ void AdvancedSlider::MouseDown(std::int16_t index, int shift) {
   if (!extend) selection_.start = index;
   marks_.highlight(selection_);
   if (!extend) colour();
-  repaint();
+  events.tellRepaint();
   if (events.Click) events.Click(selection_.start);
 }
 
@@ -194,27 +177,23 @@ void AdvancedSlider::DoubleClick(std::int16_t index) {
   if (events.DblClick) events.DblClick(index);
 }
 
-void AdvancedSlider::placeBlinkLine() {
-  BlinkLine_.x = scale().x(dBlinkTime_);
-}
-
 void AdvancedSlider::PutBlinkLine(double seconds) {
   BlinkLine_.visible = true;
   if (events.RunBlinkTimer) events.RunBlinkTimer(true);
-  dBlinkTime_ = seconds;
-  placeBlinkLine();
-  repaint();
+  BlinkLine_.time = seconds;
+  BlinkLine_.place(scale());
+  events.tellRepaint();
 }
 
 void AdvancedSlider::RemoveBlinkLine() {
   BlinkLine_.visible = false;
   if (events.RunBlinkTimer) events.RunBlinkTimer(false);
-  repaint();
+  events.tellRepaint();
 }
 
 void AdvancedSlider::BlinkTick() {
   BlinkLine_.visible = !BlinkLine_.visible;
-  repaint();
+  events.tellRepaint();
 }
 
 }  // namespace velra

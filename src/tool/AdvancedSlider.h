@@ -2,29 +2,17 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "tool/AdvancedSliderEvents.h"
+#include "tool/BlinkLine.h"
 #include "tool/RangeMarks.h"
+#include "tool/TimelineThumb.h"
 
 namespace velra {
 
 class PropertyBag;
-
-/// What the person does on the timeline, and what its pixels must follow. Unset functions are not
-/// called.
-struct AdvancedSliderEvents {
-  std::function<void(std::int16_t)> DblClick;
-  std::function<void(std::int16_t)> Click;
-  std::function<void()> Scroll;
-  std::function<void(bool)> Step;  ///< an arrow key: one picture on (true) or back
-  std::function<void(std::string_view)> PropertyChanged;  ///< a setter ran; its property's name
-  std::function<void()> Repaint;                          ///< marks or blink line look different
-  std::function<void()> ThumbMoved;
-  std::function<void(bool)> RunBlinkTimer;  ///< 500 ms between ticks
-};
 
 /// The timeline of a movie: a slider for the position, and above it one bracket for each segment.
 /// It knows nothing of expressions. Range k belongs to element k of the owner's list. Times are
@@ -32,24 +20,7 @@ struct AdvancedSliderEvents {
 /// A span of no length raises kDivisionByZero wherever a time becomes a place.
 class AdvancedSlider {
  public:
-  /// The slider below the marks; its whole numbers are the thumb's own.
-  struct Slider {
-    static constexpr std::int32_t kMin = 0;
-    static constexpr std::int32_t kMax = 5000;
-    static constexpr double kThumbMargin = TimelineScale::kMargin;  // of its centre at both ends
-    double left = 0;
-    double width = 0;
-    std::int32_t value = 0;
-    std::int32_t largeChange = 0;
-    bool enabled = false;
-  };
-
-  struct BlinkLine {
-    bool visible = false;
-    double x = 0;
-    std::int32_t colour = 0;
-  };
-
+  using Slider = TimelineThumb;
   using Mark = RangeMarks::Mark;
   static constexpr int kSelectedBorder = RangeMarks::kSelectedBorder;
   static constexpr int kShiftArgument = 1;  // Shift alone, in the argument of the mouse
@@ -125,11 +96,7 @@ class AdvancedSlider {
 
  private:
   TimelineScale scale() const { return {dMin_, dMax_, Slider1_.left, Slider1_.width}; }
-  void placeBlinkLine();
-  void redraw();
   void colour();
-  void changed(std::string_view property) const;
-  void repaint() const;
 
   std::int32_t RangeColor_ = 0xFFFFFF;
   std::int32_t StartRangeColor_ = 0xFFFFFF;
@@ -137,7 +104,6 @@ class AdvancedSlider {
   double dMax_ = 1;
   double dPosition_ = 0;
   double dLargeChange_ = 0;
-  double dBlinkTime_ = 0;
   RangeSelection selection_;
   Slider Slider1_;
   BlinkLine BlinkLine_;

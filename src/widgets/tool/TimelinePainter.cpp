@@ -66,7 +66,7 @@ void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
   painter_.drawRect(body.adjusted(0, 0, -1, -1));
 }
 
-void TimelinePainter::paintBlinkLine(const AdvancedSlider::BlinkLine& line) {
+void TimelinePainter::paintBlinkLine(const BlinkLine& line) {
   const int half = pixelsFromTwips(kBlinkLineHalf);
   painter_.fillRect(pixelsFromTwips(line.x) - 1, kMarkRowHeight / 2 - half, 2, 2 * half,
                     colourOf(line.colour));

@@ -26,7 +26,7 @@ class TimelinePainter {
  private:
   void paintGround(const AdvancedSlider& advsld);
   void paintMark(const AdvancedSlider::Mark& mark);
-  void paintBlinkLine(const AdvancedSlider::BlinkLine& line);
+  void paintBlinkLine(const BlinkLine& line);
 
   QPainter& painter_;
   const QWidget& widget_;
