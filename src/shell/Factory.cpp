@@ -4,15 +4,9 @@
 #include <utility>
 
 #include "app/ApplicationModule.h"
-#include "expressions/Audio.h"
-#include "expressions/Transcript.h"
-#include "expressions/Video.h"
+#include "expressions/MakeObject.h"
 #include "forms/MetadataForm.h"
 #include "forms/MetadataKinds.h"
-#include "objects/AVDocument.h"
-#include "objects/Media.h"
-#include "objects/Storage.h"
-#include "objects/Version.h"
 
 namespace velra {
 
@@ -29,18 +23,11 @@ Factory::~Factory() {
 }
 
 ObjectRef Factory::createObject(ObjectKind kind) {
-  if (kind == ObjectKind::AVDocument) return std::make_shared<AVDocument>(app_);
-  if (kind == ObjectKind::Version) return std::make_shared<Version>(app_);
-  if (kind == ObjectKind::Media) return std::make_shared<Media>(app_);
-  if (kind == ObjectKind::Storage) return std::make_shared<Storage>(app_);
-  return createExpression(kind);
+  return makeObject(app_, kind);
 }
 
 ExpressionRef Factory::createExpression(ObjectKind kind) {
-  if (kind == ObjectKind::Video) return std::make_shared<Video>(app_);
-  if (kind == ObjectKind::Audio) return std::make_shared<Audio>(app_);
-  if (kind == ObjectKind::Transcript) return std::make_shared<Transcript>(app_);
-  return nullptr;
+  return makeExpression(app_, kind);
 }
 
 std::shared_ptr<ObjectForm> Factory::createForm(ObjectKind kind) {

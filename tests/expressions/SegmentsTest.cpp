@@ -4,6 +4,7 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "expressions/Audio.h"
 #include "expressions/Transcript.h"
 #include "expressions/Video.h"
 #include "schema/SEColl.h"

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "objects/AVDocument.h"
+#include "objects/Version.h"
 #include "support/DocumentFiles.h"
 #include "support/PlainObjectFactory.h"
 #include "support/RecordingMainWindow.h"

@@ -5,13 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "expressions/Audio.h"
-#include "expressions/Transcript.h"
-#include "expressions/Video.h"
-#include "objects/AVDocument.h"
-#include "objects/Media.h"
-#include "objects/Storage.h"
-#include "objects/Version.h"
+#include "expressions/MakeObject.h"
 #include "protocol/ObjectFactory.h"
 
 namespace velra::test {
@@ -32,19 +26,9 @@ class PlainObjectFactory : public ObjectFactory {
   std::vector<std::weak_ptr<DescribedObject>> objects;
   std::vector<std::weak_ptr<PlainForm>> forms;
 
-  ObjectRef createObject(ObjectKind kind) override {
-    if (ExpressionRef expression = createExpression(kind)) return expression;
-    if (kind == ObjectKind::AVDocument) return noted(std::make_shared<AVDocument>(app_));
-    if (kind == ObjectKind::Version) return noted(std::make_shared<Version>(app_));
-    if (kind == ObjectKind::Media) return noted(std::make_shared<Media>(app_));
-    if (kind == ObjectKind::Storage) return noted(std::make_shared<Storage>(app_));
-    return nullptr;
-  }
+  ObjectRef createObject(ObjectKind kind) override { return noted(makeObject(app_, kind)); }
   ExpressionRef createExpression(ObjectKind kind) override {
-    if (kind == ObjectKind::Video) return noted(std::make_shared<Video>(app_));
-    if (kind == ObjectKind::Audio) return noted(std::make_shared<Audio>(app_));
-    if (kind == ObjectKind::Transcript) return noted(std::make_shared<Transcript>(app_));
-    return nullptr;
+    return noted(makeExpression(app_, kind));
   }
   std::shared_ptr<ObjectForm> createForm(ObjectKind kind) override {
     if (kind == ObjectKind::MediaObject) return nullptr;
@@ -57,7 +41,7 @@ class PlainObjectFactory : public ObjectFactory {
  private:
   template <class Object>
   std::shared_ptr<Object> noted(std::shared_ptr<Object> object) {
-    objects.push_back(object);
+    if (object) objects.push_back(object);
     return object;
   }
 
