@@ -9,6 +9,7 @@
 #include "platform/UserInterface.h"
 #include "protocol/ObjectFactory.h"
 #include "schema/SEColl.h"
+#include "store/IOManager.h"
 
 namespace velra {
 
@@ -48,7 +49,7 @@ void Video::chooseKeyFrameTime() {
 
 // Only a segment has a key frame; its parent is known before it is read.
 void Video::afterLoad() {
-  if (!objMainExpr()) return;
+  if (!objMainExpr() || io()->bReadsOnly()) return;
   if (dGetKeyFrameTime() < 0) chooseKeyFrameTime();
   InitKeyFrameFile();
 }
@@ -60,7 +61,7 @@ void Video::fieldChanged(const SchemaElement& element) {
 
 void Video::openBelow() {
   ExpressionBase::openBelow();
-  CreateKeyFrameIcons();
+  if (!io()->bReadsOnly()) CreateKeyFrameIcons();
 }
 
 void Video::finishAsSegment() {

@@ -32,6 +32,10 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
 
   bool bFileSystem() const { return bFileSystem_; }
   void setBFileSystem(bool fileSystem) { bFileSystem_ = fileSystem; }
+  /// True: an opening takes the objects as their files are. It chooses no key frames, makes none of
+  /// the pictures that they lack, and does not ask for those that they have.
+  bool bReadsOnly() const { return bReadsOnly_; }
+  void setBReadsOnly(bool readsOnly) { bReadsOnly_ = readsOnly; }
   bool bConnectToDM() const { return false; }
   /// Address of a server; nothing sets it.
   std::string strHTTP() const { return {}; }
@@ -110,6 +114,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
 
   ApplicationModule& app_;
   bool bFileSystem_ = true;
+  bool bReadsOnly_ = false;
   NewFileNames names_;
   RemovedFiles removed_;
   FolderScans scans_;

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "exchange/Content.h"
+
+namespace velra {
+
+class ApplicationModule;
+class AVDocument;
+
+/// Everything that an open document says. The current folder is the document's. An object that a
+/// damaged document holds in two places is met in the first alone.
+Content contentOf(const ApplicationModule& app, const AVDocument& document);
+
+}  // namespace velra
