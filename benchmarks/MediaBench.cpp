@@ -43,7 +43,7 @@ struct Watched {
     graph->setNotify([this](MediaGraph::Notice notice) {
       if (notice == MediaGraph::Notice::PictureChanged) ++pictures;
     });
-    graph->RenderFile(path);
+    graph->RenderFile(path, {});
     waitFor(1);
   }
   ~Watched() { graph->setNotify({}); }
@@ -89,7 +89,7 @@ Measure opens(const std::string& name, const std::string& path) {
   Times times;
   for (int i = 0; i < 10; ++i) {
     const auto graph = makeMediaGraph();
-    times.take([&] { graph->RenderFile(path); });
+    times.take([&] { graph->RenderFile(path, {}); });
   }
   return {"open, " + name + ", p95", times.p95(), "ms", 300};
 }
@@ -98,7 +98,7 @@ Measure refusals(const std::string& path) {
   Times times;
   for (int i = 0; i < 10; ++i) {
     const auto graph = makeMediaGraph();
-    times.take([&] { graph->RenderFile(path); });
+    times.take([&] { graph->RenderFile(path, {}); });
   }
   return {"refusal of 20 MB of noise, p95", times.p95(), "ms", 150};
 }

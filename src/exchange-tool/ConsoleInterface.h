@@ -35,7 +35,10 @@ class ConsoleInterface : public UserInterface {
   }
   void beep() override {}
   std::unique_ptr<BusySign> showBusy() override { return std::make_unique<BusySign>(); }
-  void openMovie(const std::function<void()>& work) override { work(); }
+  bool openMovie(const std::function<void(const std::stop_token&)>& work) override {
+    work({});
+    return true;
+  }
 
  private:
   bool told(const std::string& text) {

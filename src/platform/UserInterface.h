@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 
 namespace velra {
@@ -12,6 +13,9 @@ namespace velra {
 enum class BoxKind { Plain, Exclamation, Critical };
 
 enum class Answer { Yes, No, Cancel };
+
+/// What is said of a movie when the person did not wait for it.
+inline constexpr char kOpeningCancelled[] = "The opening of the movie was cancelled.";
 
 /// While an object of this kind lives, the window shows that work is going on and takes no
 /// commands.
@@ -57,10 +61,10 @@ class UserInterface {
   /// Shows the busy cursor until the sign is released.
   [[nodiscard]] virtual std::unique_ptr<BusySign> showBusy() = 0;
 
-  /// Does work that opens a movie, which may take seconds, on another thread, and returns when it
-  /// is done. Windows paint themselves meanwhile and take no commands. What the work raises is
-  /// raised here.
-  virtual void openMovie(const std::function<void()>& work) = 0;
+  /// Does work that opens a movie, which may take a minute, on another thread, and returns when it
+  /// is done. Windows paint themselves meanwhile and take no commands, but the person can cancel:
+  /// the work is then asked to stop, and the answer is false. What the work raises is raised here.
+  virtual bool openMovie(const std::function<void(const std::stop_token&)>& work) = 0;
 };
 
 }  // namespace velra

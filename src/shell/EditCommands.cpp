@@ -2,6 +2,7 @@
 #include "shell/EditCommands.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
@@ -36,10 +37,14 @@ constexpr MainExpressionTexts kMainExpressions[] = {
     {ObjectKind::Audio, Message::MainAudioPrompt, Message::MainAudioName},
     {ObjectKind::Transcript, Message::MainTranscriptPrompt, Message::MainTranscriptName}};
 
-double durationOf(UserInterface& ui, const std::string& movie) {
+// Nothing when the person cancels, who is told so.
+std::optional<double> durationOf(UserInterface& ui, const std::string& movie) {
   double duration = 0;
-  ui.openMovie([&] { duration = dMovieDuration(movie); });
-  return duration;
+  const bool awaited =
+      ui.openMovie([&](const std::stop_token& stop) { duration = dMovieDuration(movie, stop); });
+  if (awaited) return duration;
+  ui.messageBox(kOpeningCancelled, BoxKind::Exclamation);
+  return std::nullopt;
 }
 
 std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
@@ -104,16 +109,17 @@ std::string EditCommands::askMovie() {
 }
 
 bool EditCommands::movieFits(const DescribedObject& media, const std::string& movie) {
-  const double duration = durationOf(app_.ui, movie);
-  if (duration == 0) {
+  const auto duration = durationOf(app_.ui, movie);
+  if (!duration) return false;
+  if (*duration == 0) {
     app_.ui.messageBox(app_.LoadResString(Message::FormatNotValid));
     return false;
   }
   const auto version = versionHolding(app_.gAVDoc->collObjects(), media);
   if (!version) return true;
   if (version->dDuration() == 0) {
-    version->setDDuration(duration);
-  } else if (version->dDuration() - duration > kShorterBy) {
+    version->setDDuration(*duration);
+  } else if (version->dDuration() - *duration > kShorterBy) {
     app_.ui.messageBox(app_.LoadResString(Message::DurationDiffers));
     return false;
   }
@@ -156,9 +162,10 @@ void EditCommands::AddMainExpr(ObjectKind kind) {
     name = app_.ui.inputBox(app_.LoadResString(texts.prompt), app_.LoadResString(texts.title));
   }
   if (name.empty()) return;
-  const double duration = durationOf(app_.ui, path);
-  version->AddMainExpression(name, kind, 0, duration);
-  version->setDDuration(duration);
+  const auto duration = durationOf(app_.ui, path);
+  if (!duration) return;
+  version->AddMainExpression(name, kind, 0, *duration);
+  version->setDDuration(*duration);
   trees_.ResetTree(TreeId::tvwExpression, version);
   exprTree_.makeCurrent(*version);
 }

@@ -50,7 +50,9 @@ bool Player::LoadMovie(const std::string& path) {
   if (!bFileExists(path)) return refuse("The movie file was not found.", path);
   auto graph = parts_.makeGraph();
   std::string reason;
-  parts_.app.ui.openMovie([&] { reason = graph->RenderFile(path); });
+  const bool awaited = parts_.app.ui.openMovie(
+      [&](const std::stop_token& stop) { reason = graph->RenderFile(path, stop); });
+  if (!awaited) reason = kOpeningCancelled;
   if (!reason.empty()) return refuse(reason, path);
   objMediaControl_ = std::move(graph);
   parts_.face.movieOpens(*objMediaControl_);

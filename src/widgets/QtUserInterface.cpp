@@ -135,13 +135,15 @@ std::unique_ptr<BusySign> QtUserInterface::showBusy() {
   return std::make_unique<BusyCursor>();
 }
 
-void QtUserInterface::openMovie(const std::function<void()>& work) {
+bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)>& work) {
   const BusyCursor cursor;
-  std::future<void> done = std::async(std::launch::async, work);
+  std::stop_source stop;
+  std::future<void> done = std::async(std::launch::async, work, stop.get_token());
   if (done.wait_for(kUnnoticedWait) == std::future_status::timeout) {
-    WaitingBox(QStringLiteral("The movie is being read."), owner()).showUntil(done);
+    WaitingBox(QStringLiteral("The movie is being read."), owner(), stop).showUntil(done);
   }
   done.get();
+  return !stop.stop_requested();
 }
 
 }  // namespace velra

@@ -31,7 +31,7 @@ class QtUserInterface : public UserInterface {
                                             const std::string& proposed) override;
   void beep() override;
   std::unique_ptr<BusySign> showBusy() override;
-  void openMovie(const std::function<void()>& work) override;
+  bool openMovie(const std::function<void(const std::stop_token&)>& work) override;
 
  private:
   QWidget* owner() const;

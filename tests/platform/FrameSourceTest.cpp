@@ -95,28 +95,29 @@ INSTANTIATE_TEST_SUITE_P(Movies, Pictures, ::testing::ValuesIn(test::numberedMov
 class OddPictures : public ::testing::TestWithParam<test::OddMovie> {};
 
 // In an order in which each is far from the one before, so that nothing but the seek finds it.
-TEST_P(OddPictures, AreThoseOfTheirTimesBeforeAndAfterASave) {
+TEST_P(OddPictures, AreThoseOfTheirTimesBeforeAndAfterASaveInSmallFilesAndLargeOnes) {
   const test::OddMovie& movie = GetParam();
-  const test::TemporaryFolder folder;
-  const std::string path = movie.make(folder);
-  const double duration = dMovieDuration(path);
-  FrameSource source;
-  PictureConverter converter;
-  ASSERT_EQ(source.open(path), "");
-  EXPECT_NEAR(source.frameTime(), 1 / movie.rate, 1e-9);
-  EXPECT_NEAR(source.duration(), movie.times.back() + 1 / movie.rate, 0.6 / movie.rate);
-  EXPECT_EQ(source.duration(), duration) << "another opening may know what the first has read";
-  const std::size_t count = movie.times.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::size_t k = i * 67 % count;
-    const double start = movie.times[k];
-    for (const double t : {start, std::round(start * 1000) / 1000, start + 0.4 / movie.rate}) {
-      const auto picture = source.at(t);
-      ASSERT_NE(picture, nullptr) << t;
-      ASSERT_EQ(test::numberIn(*converter.convert(*picture->frame)), movie.numbers[k]) << t;
+  for (const auto firstLook : {FrameSource::kFirstLook, std::chrono::milliseconds(0)}) {
+    const test::TemporaryFolder folder;
+    const std::string path = movie.make(folder);
+    FrameSource source(firstLook);
+    PictureConverter converter;
+    ASSERT_EQ(source.open(path), "");
+    EXPECT_NEAR(source.frameTime(), 1 / movie.rate, 1e-9);
+    EXPECT_NEAR(source.duration(), movie.times.back() + 1 / movie.rate, 0.6 / movie.rate);
+    EXPECT_EQ(source.duration(), dMovieDuration(path)) << "which may know what was read before";
+    const std::size_t count = movie.times.size();
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::size_t k = i * 67 % count;
+      const double start = movie.times[k];
+      for (const double t : {start, std::round(start * 1000) / 1000, start + 0.4 / movie.rate}) {
+        const auto picture = source.at(t);
+        ASSERT_NE(picture, nullptr) << t;
+        ASSERT_EQ(test::numberIn(*converter.convert(*picture->frame)), movie.numbers[k]) << t;
+      }
     }
+    EXPECT_LT(source.seeks(), static_cast<int>(count) * 2);
   }
-  EXPECT_LT(source.seeks(), static_cast<int>(count) * 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Movies, OddPictures, ::testing::ValuesIn(test::oddMovies()),
@@ -131,6 +132,13 @@ TEST(FrameSource, TakesAnEmptyPacketForThePictureBefore) {
     EXPECT_EQ(test::numberIn(*converter.convert(*source.at(k / 25.0)->frame)), numbers[k]);
   }
   EXPECT_NEAR(source.duration(), 51 / 25.0, 1e-6);
+}
+
+TEST(FrameSource, RefusesStampsThatOccurTwice) {
+  const test::TemporaryFolder folder;
+  FrameSource source;
+  EXPECT_EQ(source.open(test::makeFallingMovie(folder)),
+            "The times of its pictures cannot be told.");
 }
 
 TEST(FrameSource, TellsWhatIsLeftOfACutMovie) {

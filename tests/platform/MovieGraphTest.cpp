@@ -156,7 +156,7 @@ TEST_F(MovieGraphTest, RefusesSoonWithASentenceAndStaysEmpty) {
   for (const std::string& path : test::makeNoMovies(folder)) {
     PlayedMovie movie;
     const auto start = std::chrono::steady_clock::now();
-    const std::string reason = movie.graph().RenderFile(path);
+    const std::string reason = movie.graph().RenderFile(path, {});
     EXPECT_TRUE(reason.ends_with(".")) << path << ": " << reason;
     EXPECT_EQ(dMovieDuration(path), 0) << path;
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3)) << path;
@@ -172,11 +172,12 @@ TEST_F(MovieGraphTest, RefusesAMovieWhosePicturesCannotBeDecoded) {
   const test::TemporaryFolder folder;
   for (const std::string& path : test::makeBlindMovies(folder)) {
     PlayedMovie movie;
-    EXPECT_EQ(movie.graph().RenderFile(path), "It holds no picture that can be decoded.") << path;
+    EXPECT_EQ(movie.graph().RenderFile(path, {}), "It holds no picture that can be decoded.")
+        << path;
     EXPECT_EQ(dMovieDuration(path), 0) << path;
   }
   PlayedMovie huge;
-  EXPECT_EQ(huge.graph().RenderFile(test::makeHugeMovie(folder)),
+  EXPECT_EQ(huge.graph().RenderFile(test::makeHugeMovie(folder), {}),
             "Its pictures are larger than 8192 x 4320 pixels.");
 }
 
@@ -195,7 +196,7 @@ TEST_F(MovieGraphTest, PlaysInTheSizeThatIsShownAndStandsInItsOwn) {
 TEST_F(MovieGraphTest, LeavesNothingBehind) {
   const auto useOnce = [](int round) {
     PlayedMovie movie;
-    ASSERT_EQ(movie.graph().RenderFile(test::moviePath("mpeg4-25.avi")), "");
+    ASSERT_EQ(movie.graph().RenderFile(test::moviePath("mpeg4-25.avi"), {}), "");
     if (round % 2 == 0) movie.graph().Run();
     if (round % 4 == 0) movie.waitForShown(2);
     if (round % 3 == 0) movie.graph().setCurrentPosition(3);

@@ -192,6 +192,9 @@ std::vector<OddMovie> makeOddMovies() {
           odd("edited", "h264-b-23976.mp4", kFilm, 48, 119, editMovie),
           odd("coarse", "coarse-2997.mov", kVideo, 0, 149),
           odd("late", "late-2997.mkv", kVideo, 0, 149),
+          odd("leaping_mp4", "leaping-25.mp4", 25, 0, 149),
+          odd("leaping_mkv", "leaping-25.mkv", 25, 0, 149),
+          odd("leaping_flv", "leaping-25.flv", 25, 0, 149),
           longStream(),
           telecined(),
           lacking()};
@@ -218,6 +221,17 @@ std::vector<std::string> makeBlindMovies(const TemporaryFolder& folder) {
     at += 8 + size;
   }
   return {folder.write("unknown.avi", unknown), folder.write("empty.avi", empty)};
+}
+
+std::string makeFallingMovie(const TemporaryFolder& folder) {
+  std::string bytes = bytesOf("leaping-25.flv");
+  for (std::size_t at = 13; at + 7 < bytes.size();) {
+    const int size =
+        byteAt(bytes, at + 1) << 16 | byteAt(bytes, at + 2) << 8 | byteAt(bytes, at + 3);
+    if (byteAt(bytes, at + 7) > 0) bytes.replace(at + 4, 4, std::string(4, '\0'));
+    at += static_cast<std::size_t>(size) + 15;
+  }
+  return folder.write("falling.flv", bytes);
 }
 
 std::string makeHugeMovie(const TemporaryFolder& folder) {

@@ -29,6 +29,9 @@ inline void PrintTo(const OddMovie& movie, std::ostream* out) {
 /// Movies with sound whose pictures cannot be decoded.
 std::vector<std::string> makeBlindMovies(const TemporaryFolder& folder);
 
+/// A movie whose stamps occur twice: they begin anew in the middle.
+std::string makeFallingMovie(const TemporaryFolder& folder);
+
 /// A movie of 16,000 x 16,000 pixels.
 std::string makeHugeMovie(const TemporaryFolder& folder);
 

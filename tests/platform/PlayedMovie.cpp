@@ -25,7 +25,7 @@ void PlayedMovie::note(MediaGraph::Notice notice) {
 }
 
 std::string PlayedMovie::open(const std::string& path) {
-  const std::string reason = graph_->RenderFile(path);
+  const std::string reason = graph_->RenderFile(path, {});
   if (!reason.empty() || graph_->videoWidth() == 0) return reason;
   return waitUntil([this] { return graph_->picture() != nullptr; }) ? "" : "No picture comes.";
 }

@@ -33,19 +33,20 @@ TEST(SoundReader, StandsWhereThePicturesAre) {
     const char* name;
     double delay;  // of the encoder, which the container does not tell
   };
-  const Row rows[] = {{"mpeg4-25.avi", 0.025},        {"mjpeg-23976.avi", 0},
-                      {"mpeg1-noise-25.mpg", 0},      {"mpeg2-noise-2997.mpeg", 0},
-                      {"wmv2-noise-25.asf", 0},       {"h264-b-23976.mp4", 0},
-                      {"h264-b-noise-50.mkv", 0.025}, {"repeated-25.avi", 0.025}};
+  const Row rows[] = {
+      {"mpeg4-25.avi", 0.025},        {"mjpeg-23976.avi", 0},     {"mpeg1-noise-25.mpg", 0},
+      {"mpeg2-noise-2997.mpeg", 0},   {"wmv2-noise-25.asf", 0},   {"h264-b-23976.mp4", 0},
+      {"h264-b-noise-50.mkv", 0.025}, {"repeated-25.avi", 0.025}, {"leaping-25.mp4", 0.025},
+      {"leaping-25.mkv", 0.025},      {"leaping-25.flv", 0.025}};
   for (const Row& row : rows) {
     const std::string path = test::moviePath(row.name);
     FrameSource pictures;
     ASSERT_EQ(pictures.open(path), "");
     SoundReader reader;
-    ASSERT_EQ(reader.open(path, pictures.origin()), "");
-    for (const double from : {1.5, 0.7, 0.2, 1.5}) {
+    ASSERT_EQ(reader.open(path, pictures.stampLine()), "");
+    for (const double from : {1.5, 0.7, 0.2, 4.5, 2.7, 1.5}) {
       if (from > pictures.duration() - 1) continue;
-      const double burst = from < 1 ? 1 : 2;
+      const double burst = std::ceil(from);
       const double heard = firstBurst(reader, from, 1);
       EXPECT_NEAR(heard, burst, row.delay + 0.012) << row.name << " from " << from;
     }
@@ -59,7 +60,7 @@ TEST(SoundReader, EndsAndRefuses) {
   std::vector<std::int16_t> samples;
   EXPECT_FALSE(reader.read(samples));
   SoundReader silent;
-  EXPECT_NE(silent.open(test::moviePath("mpeg4-b-2997.avi"), 0), "");
+  EXPECT_NE(silent.open(test::moviePath("mpeg4-b-2997.avi"), std::nullopt), "");
 }
 
 }  // namespace

@@ -97,6 +97,7 @@ void ProgramActor::learnEditMenu() {
   verbs_["flags"] = [&](auto& field) { object_ = field, main.mnuEditAttributes(); };
   verbs_["child"] = [&](auto&) { main.mnuAddChild(); };
   verbs_["main"] = [&](auto& kind) { main.AddMainExpr(kindOfRoot(kind).value()); };
+  verbs_["cancel-movies"] = [&](auto&) { program_.ui.waits = false; };
   verbs_["language"] = [&](auto& number) { main.setLanguage(std::stoi(number)); };
 }
 

@@ -36,7 +36,7 @@ class ScriptedMediaGraph : public MediaGraph {
   explicit ScriptedMediaGraph(MovieScript& script) : script_(script) { ++script_.opened; }
   ~ScriptedMediaGraph() override { --script_.opened; }
 
-  std::string RenderFile(const std::string&) override {
+  std::string RenderFile(const std::string&, const std::stop_token&) override {
     script_.calls.emplace_back("RenderFile");
     return script_.refusal;
   }

@@ -25,6 +25,7 @@ class ScriptedUserInterface : public UserInterface {
   std::deque<std::string> inputs;
   std::deque<std::string> filesToOpen;  // "" is Cancel
   std::deque<std::string> filesToSave;
+  bool waits = true;  // for a movie
   int busySigns = 0;  // how many were asked for
 
   void messageBox(const std::string& text, BoxKind kind) override {
@@ -63,7 +64,10 @@ class ScriptedUserInterface : public UserInterface {
     return std::make_unique<BusySign>();
   }
 
-  void openMovie(const std::function<void()>& work) override { work(); }
+  bool openMovie(const std::function<void(const std::stop_token&)>& work) override {
+    work({});
+    return waits;
+  }
 
   void forgetAnswers() {
     yesNo.clear();

@@ -98,6 +98,7 @@ void ToolActor::learnToPrepare() {
     obj_->refusesNewSegments = what == "segments";
     movie_.refusal = obj_->refusesNewSegments ? "" : what;
   };
+  verbs_["cancel-movies"] = [this](auto&) { application_.ui.waits = false; };
   verbs_["open"] = [this](auto&) {
     if (!open()) tool_.reset(), say("no form");
   };

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 #include <future>
 
 #include "base/RunTimeError.h"
@@ -118,24 +119,29 @@ TEST(QtUserInterface, FileDialogsProposeAndRemember) {
   EXPECT_EQ(ui.openFileDialog("Open", "XML Files (*.xml)|*.xml"), std::nullopt);
 }
 
-TEST(QtUserInterface, WaitsForAMovieWithWindowsThatAnswer) {
+TEST(QtUserInterface, WaitsForAMovieWithWindowsThatAnswerUntilAPersonCancels) {
   QtUserInterface ui;
   std::promise<void> seen;
+  std::stop_token given;
   QTimer look;
   look.callOnTimeout([&] {
     QWidget* box = QApplication::activeModalWidget();
     if (!box) return;
     look.stop();
-    box->close();
+    EXPECT_FALSE(given.stop_requested());
+    QTest::keyClick(box, Qt::Key_Escape);
+    EXPECT_TRUE(given.stop_requested());
     EXPECT_TRUE(box->isVisible()) << "it stays until the work is done";
     seen.set_value();
   });
   look.start(5);
-  const auto work = [&] {
+  EXPECT_FALSE(ui.openMovie([&](const std::stop_token& stop) {
+    given = stop;
     seen.get_future().wait();
-    raise(kPathNotFound);
-  };
-  EXPECT_EQ(test::errorOf([&] { ui.openMovie(work); }), kPathNotFound);
+  }));
+  EXPECT_TRUE(ui.openMovie([](const std::stop_token&) {}));
+  const auto failing = [&](const std::stop_token&) { raise(kPathNotFound); };
+  EXPECT_EQ(test::errorOf([&] { ui.openMovie(failing); }), kPathNotFound);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 

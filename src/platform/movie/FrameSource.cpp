@@ -40,7 +40,7 @@ constexpr int kMeasuredPictures = 24;
 
 }  // namespace
 
-FrameSource::FrameSource() = default;
+FrameSource::FrameSource(std::chrono::milliseconds firstLook) : firstLook_(firstLook) {}
 
 FrameSource::~FrameSource() = default;
 
@@ -48,17 +48,19 @@ void FrameSource::cancel() {
   reader_.input().cancel();
 }
 
-std::string FrameSource::open(const std::string& path) {
+std::string FrameSource::open(const std::string& path, const std::stop_token& stop) {
+  const std::stop_callback stopping(stop, [this] { cancel(); });
   const FileStamp stamp = fileStamp(path);
   if (std::string reason = reader_.open(path); !reason.empty()) return reason;
   if (const auto known = IndexMemory::ofProcess().find(stamp)) {
     index_ = *known;
     reader_.forget();
   } else {
-    if (std::string reason = indexMovie(reader_, index_); !reason.empty()) return reason;
+    if (std::string reason = indexMovie(reader_, firstLook_, index_); !reason.empty())
+      return reason;
     if (index_.tookLong) IndexMemory::ofProcess().add(stamp, index_);
   }
-  setFrameTime();
+  setTimes();
   reader_.input().settle();
   return {};
 }
@@ -67,11 +69,12 @@ bool FrameSource::hasPictures() const {
   return reader_.input().has(MovieTrack::Pictures);
 }
 
-void FrameSource::setFrameTime() {
+void FrameSource::setTimes() {
+  setLine();
   const bool stampedPictures = reader_.input().stamps() == MovieStamps::OfPictures;
   const double usual = stampedPictures ? index_.usualDistance() * reader_.tick() : 0;
   frameTime_ = chooseFrameTime(reader_.statedFrameTime(), usual, reader_.tick(), index_.pictures);
-  reader_.setClock(frameTime_ > 0 ? frameTime_ : kUsualFrame, index_.leap);
+  reader_.setClock(frameTime_ > 0 ? frameTime_ : kUsualFrame, index_.leap, line_);
   if (frameTime_ <= 0) frameTime_ = medianDistance();
 }
 
@@ -88,16 +91,12 @@ double FrameSource::medianDistance() {
   return *middle;
 }
 
-double FrameSource::origin() const {
-  const double stamp = offsetAt(0);
-  return std::isnan(stamp) ? 0 : stamp;
-}
-
-// What the stamps exceed times by at a time.
-double FrameSource::offsetAt(double seconds) const {
-  if (index_.leaps) return index_.offsetAt(seconds + index_.first) + index_.first;
+void FrameSource::setLine() {
+  line_ = index_.line.startingAt(index_.first);
+  if (line_.leaps()) return;
   const double stamp = reader_.firstStamp();
-  return std::isnan(stamp) ? index_.offset + index_.first : stamp;
+  const double offset = std::isnan(stamp) ? line_.offsetAt(0) : stamp;
+  line_ = StampLine(std::isnan(offset) ? 0 : offset);
 }
 
 FrameSource::Found FrameSource::at(double seconds) {
@@ -141,7 +140,7 @@ FrameSource::Found FrameSource::seekTo(double target) {
   while (!reader_.input().cancelled()) {
     const double from = sought - back;
     if (from <= 0) break;
-    if (reader_.startBehind(from, offsetAt(from)) && *reader_.time() <= target) {
+    if (reader_.startBehind(from) && *reader_.time() <= target) {
       return decodeOn(target);
     }
     back = back == 0 ? kFirstStepBack : back * kStepBackFactor;
@@ -169,8 +168,7 @@ double FrameSource::duration() {
 // one at the end has no time of its own.
 double FrameSource::measure() {
   if (index_.known()) return index_.length(frameTime_);
-  const double offset = offsetAt(0);
-  const double first = std::isnan(offset) ? 0 : offset;
+  const double first = line_.offsetAt(0);
   const PacketTail tail =
       findTail(reader_.input(), static_cast<std::int64_t>(std::llround(first / reader_.tick())));
   reader_.forget();

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <memory>
+#include <stop_token>
 #include <string>
 
 #include "platform/movie/FrameGrabber.h"
@@ -17,14 +19,18 @@ namespace velra {
 /// start counts as that picture. One thread, but for `cancel`.
 class FrameSource {
  public:
-  FrameSource();
+  /// So long an opening reads in each case, to know more than the container tells.
+  static constexpr std::chrono::milliseconds kFirstLook{100};
+
+  explicit FrameSource(std::chrono::milliseconds firstLook = kFirstLook);
   ~FrameSource();
   FrameSource(const FrameSource&) = delete;
   FrameSource& operator=(const FrameSource&) = delete;
 
   /// "" on success, else one sentence that tells why not. A file of which no picture can be decoded
-  /// is refused, and one whose pictures cannot be told their times. Called once.
-  std::string open(const std::string& path);
+  /// is refused, and one whose pictures cannot be told their times. `stop` lets it fail soon.
+  /// Called once.
+  std::string open(const std::string& path, const std::stop_token& stop = {});
 
   /// True when the file has a track of pictures, also when they cannot be decoded.
   bool hasPictures() const;
@@ -45,8 +51,8 @@ class FrameSource {
   /// The coded size of the first picture, without correction of the aspect.
   PixelSize size() const { return reader_.size(); }
 
-  /// The time in seconds that the container gives to the first picture.
-  double origin() const;
+  /// What the stamps of the container exceed times by.
+  const StampLine& stampLine() const { return line_; }
 
   /// Makes the running call and all later ones fail soon. From any thread.
   void cancel();
@@ -57,18 +63,20 @@ class FrameSource {
  private:
   using Found = std::shared_ptr<const MoviePicture>;
 
-  void setFrameTime();
+  void setTimes();
+  void setLine();
   double medianDistance();
   Found find(double target);
   Found step(bool& ended);
   Found decodeOn(double target);
   Found seekTo(double target);
   Found seekByKeys(double target);
-  double offsetAt(double seconds) const;
   double measure();
 
+  const std::chrono::milliseconds firstLook_;
   PictureReader reader_;
   MovieIndex index_;
+  StampLine line_;
   PictureCache cache_;
   double frameTime_ = 0;
   double duration_ = -1;  // not measured yet

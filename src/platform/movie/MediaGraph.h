@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -25,8 +26,9 @@ class MediaGraph {
   virtual ~MediaGraph() = default;
 
   /// Opens the movie. "" on success, else one sentence that tells why not. May be called on another
-  /// thread while no other call is made: it reads for seconds where a file must be read whole.
-  virtual std::string RenderFile(const std::string& path) = 0;
+  /// thread while no other call is made: it reads for up to a minute where a file must be read
+  /// whole. `stop` lets it fail soon.
+  virtual std::string RenderFile(const std::string& path, const std::stop_token& stop) = 0;
 
   virtual void Run() = 0;
   virtual void Pause() = 0;

@@ -14,7 +14,7 @@ MovieGraph::MovieGraph() = default;
 
 MovieGraph::~MovieGraph() = default;
 
-std::string MovieGraph::RenderFile(const std::string& path) {
+std::string MovieGraph::RenderFile(const std::string& path, const std::stop_token& stop) {
   std::unique_ptr<MoviePlayer> old;
   {
     const std::lock_guard lock(notifyMutex_);
@@ -24,10 +24,10 @@ std::string MovieGraph::RenderFile(const std::string& path) {
   duration_ = frameTime_ = 0;
   width_ = height_ = 0;
   auto source = std::make_unique<FrameSource>();
-  std::string reason = source->open(path);
+  std::string reason = source->open(path, stop);
   if (reason.empty()) {
     renderPictures(path, std::move(source));
-  } else if (!source->hasPictures() && renderSound(path)) {
+  } else if (!stop.stop_requested() && !source->hasPictures() && renderSound(path)) {
     reason.clear();
   }
   return reason;
@@ -37,7 +37,7 @@ void MovieGraph::renderPictures(const std::string& path, std::unique_ptr<FrameSo
   frameTime_ = source->frameTime();
   width_ = source->size().width;
   height_ = source->size().height;
-  PlayClock clock(std::make_unique<SoundOut>(path, source->origin()));
+  PlayClock clock(std::make_unique<SoundOut>(path, source->stampLine()));
   duration_ = source->duration();
   const std::lock_guard lock(notifyMutex_);
   player_ = std::make_unique<MoviePlayer>(std::move(source), std::move(clock), duration_,

@@ -23,7 +23,7 @@ class MovieGraph final : public MediaGraph {
   MovieGraph(const MovieGraph&) = delete;
   MovieGraph& operator=(const MovieGraph&) = delete;
 
-  std::string RenderFile(const std::string& path) override;
+  std::string RenderFile(const std::string& path, const std::stop_token& stop) override;
   void Run() override;
   void Pause() override;
   void Stop() override;

@@ -8,6 +8,7 @@
 #include "platform/movie/MovieInput.h"
 #include "platform/movie/PictureClock.h"
 #include "platform/movie/PictureReader.h"
+#include "platform/movie/PictureTable.h"
 
 namespace velra {
 
@@ -15,9 +16,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// So long is read in each case; what is not read by then is told by its stamps, if these can be
-// trusted.
-constexpr milliseconds kScanLimit{100};
+// Who does not want to wait so long for a file that must be read whole can cancel.
+constexpr std::chrono::seconds kWholeLimit{60};
 
 // Stamps of bytes come several times a second, and a recording that begins anew shows by them.
 constexpr double kLeapOfBytes = 10;
@@ -25,6 +25,7 @@ constexpr double kLeapOfPictures = 3600;
 
 // Holds a key at any usual rate.
 constexpr std::int64_t kTailBytes = 8'000'000;
+constexpr milliseconds kTailLook{100};
 
 // How much more or less time the rest of a file may take for its bytes than its beginning.
 constexpr double kMostShare = 3;
@@ -33,24 +34,23 @@ constexpr double kMostShare = 3;
 constexpr double kAssumedFrame = 0.04;
 
 constexpr char kNoSureTimes[] = "The times of its pictures cannot be told.";
+constexpr char kTooMany[] = "Its pictures carry no sure times, and they are too many to count.";
 
 class MovieIndexer {
  public:
-  MovieIndexer(PictureReader& reader, MovieIndex& index)
-      : reader_(reader), input_(reader.input()), index_(index) {
+  MovieIndexer(PictureReader& reader, milliseconds firstLook, MovieIndex& index)
+      : reader_(reader), input_(reader.input()), firstLook_(firstLook), index_(index) {
     frameTime_ = reader.statedFrameTime();
     if (frameTime_ <= 0) frameTime_ = kAssumedFrame;
   }
 
   std::string run() {
     if (!input_.hasBareStamps()) {
-      if (input_.stamps() == MovieStamps::OfPictures) readPictures();
-      return index_.leaps && index_.lost ? kNoSureTimes : "";
+      return input_.stamps() == MovieStamps::OfPictures ? readPictures() : "";
     }
     readBytes();
     if (index_.stampedLength >= 0) return {};
-    if (!index_.complete)
-      return "Its pictures carry no sure times, and they are too many to count.";
+    if (!index_.complete) return kTooMany;
     index_.byKeys = true;
     index_.leap = kLeapOfBytes;
     findFirst();
@@ -58,36 +58,55 @@ class MovieIndexer {
   }
 
  private:
-  // Not every way leads to the start; on another the first picture is missing.
-  void readPictures() {
+  std::string readPictures() {
     const double first = reader_.firstStamp();
+    if (std::isnan(first)) return {};
     const auto ticks = static_cast<std::int64_t>(std::llround(first / reader_.tick()));
-    const auto arrived = [&] {
-      PictureIndexer(input_, frameTime_, kLeapOfPictures, index_).read(kScanLimit);
-      index_.sure = index_.sure && !(index_.offset > first + frameTime_ / 2);
-      return index_.sure;
+    // Not every way leads to the start; on another the first picture is missing.
+    const auto read = [&](milliseconds limit) {
+      return input_.toStart(ticks, [&] {
+        readFromHere(kLeapOfPictures, limit);
+        index_.sure = index_.sure && !(index_.line.offsetAt(0) > first + frameTime_ / 2);
+        return index_.sure || limit == kWholeLimit;
+      });
     };
-    if (!std::isnan(first)) input_.toStart(ticks, arrived);
-    index_.tookLong = !index_.complete;
-    if (!index_.known()) index_.leaps = false;
+    read(firstLook_);
+    if (index_.sure && mayLeapFartherOn()) {
+      read(kWholeLimit);
+      if (!index_.complete) return kTooMany;
+    }
+    const bool told = index_.known() && !index_.lost && index_.line.rises();
+    if (index_.line.leaps() && !told) return kNoSureTimes;
     if (index_.known()) index_.leap = kLeapOfPictures;
-    index_.first = index_.known() ? first - index_.offset : 0;
+    index_.first = index_.known() ? first - index_.line.offsetAt(0) : 0;
+    return {};
+  }
+
+  bool mayLeapFartherOn() {
+    if (index_.complete) return false;
+    index_.tookLong = true;
+    if (index_.line.leaps()) return true;
+    return !input_.countsPictures() && !tableShowsNoLeap(reader_, frameTime_, kLeapOfPictures);
+  }
+
+  void readFromHere(double leap, milliseconds limit) {
+    PictureIndexer indexer(input_, frameTime_, leap, index_);
+    if (limit == kWholeLimit) input_.allow(kWholeLimit);
+    indexer.read(limit);
   }
 
   void readBytes() {
     if (!input_.seekByte(0)) return;
-    PictureIndexer start(input_, frameTime_, kLeapOfBytes, index_);
-    start.read(kScanLimit);
+    readFromHere(kLeapOfBytes, firstLook_);
     if (index_.complete) return;
     index_.tookLong = true;
-    if (!mayTrustStamps()) return start.read(MovieInput::kOpenLimit);
-    if (trustsStamps() || !input_.seekByte(0)) return;
-    PictureIndexer(input_, frameTime_, kLeapOfBytes, index_).read(MovieInput::kOpenLimit);
+    if (mayTrustStamps() && trustsStamps()) return;
+    if (input_.seekByte(0)) readFromHere(kLeapOfBytes, kWholeLimit);
   }
 
   // Where keys have stamps, these lead to every picture, unless they leap.
   bool mayTrustStamps() const {
-    return !std::isnan(reader_.firstStamp()) && index_.stampedKeys && !index_.leaps &&
+    return !std::isnan(reader_.firstStamp()) && index_.stampedKeys && !index_.line.leaps() &&
            index_.bytes > 0;
   }
 
@@ -99,9 +118,10 @@ class MovieIndexer {
         index_.last * static_cast<double>(bytes) / static_cast<double>(index_.bytes);
     if (!input_.seekByte(std::max<std::int64_t>(0, bytes - kTailBytes))) return false;
     PictureIndex tail;
-    PictureIndexer(input_, frameTime_, kLeapOfBytes, tail).read(kScanLimit);
-    if (!tail.complete || std::isnan(tail.offset) || tail.leaps) return false;
-    const double last = tail.offset + tail.last - first;
+    PictureIndexer(input_, frameTime_, kLeapOfBytes, tail).read(kTailLook);
+    const double offset = tail.line.offsetAt(0);
+    if (!tail.complete || std::isnan(offset) || tail.line.leaps()) return false;
+    const double last = offset + tail.last - first;
     if (last < expected / kMostShare || last > expected * kMostShare) return false;
     index_.stampedLength = last + tail.lastFields * frameTime_ / PictureClock::kFields;
     return true;
@@ -109,8 +129,9 @@ class MovieIndexer {
 
   void findFirst() {
     const double stamp = reader_.firstStamp();
-    if (!std::isnan(stamp) && !std::isnan(index_.offset)) {
-      index_.first = stamp - index_.offset;
+    const double offset = index_.line.offsetAt(0);
+    if (!std::isnan(stamp) && !std::isnan(offset)) {
+      index_.first = stamp - offset;
       return;
     }
     const auto key = std::find_if(index_.keys.begin(), index_.keys.end(),
@@ -120,6 +141,7 @@ class MovieIndexer {
 
   PictureReader& reader_;
   MovieInput& input_;
+  milliseconds firstLook_;
   MovieIndex& index_;
   double frameTime_;
 };
@@ -131,8 +153,8 @@ double MovieIndex::length(double frameTime) const {
   return last - first + lastFields * frameTime / PictureClock::kFields;
 }
 
-std::string indexMovie(PictureReader& reader, MovieIndex& index) {
-  std::string reason = MovieIndexer(reader, index).run();
+std::string indexMovie(PictureReader& reader, milliseconds firstLook, MovieIndex& index) {
+  std::string reason = MovieIndexer(reader, firstLook, index).run();
   reader.forget();
   return reason;
 }

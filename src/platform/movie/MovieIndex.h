@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <limits>
 #include <string>
 
@@ -25,9 +26,10 @@ struct MovieIndex : PictureIndex {
   double length(double frameTime) const;
 };
 
-/// Reads the packets of a movie that has been opened, from its start: all of them where the file is
-/// short, or where its pictures cannot be told their times otherwise. "" on success, else one
-/// sentence that tells why not. Leaves the reader without a picture.
-std::string indexMovie(PictureReader& reader, MovieIndex& index);
+/// Reads the packets of a movie that has been opened, from its start: all of them where that takes
+/// no longer than a first look, or where its pictures cannot be told their times otherwise. "" on
+/// success, else one sentence that tells why not. Leaves the reader without a picture.
+std::string indexMovie(PictureReader& reader, std::chrono::milliseconds firstLook,
+                       MovieIndex& index);
 
 }  // namespace velra

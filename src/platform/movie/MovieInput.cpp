@@ -32,6 +32,10 @@ void MovieInput::cancel() {
   file_->cancel();
 }
 
+void MovieInput::allow(std::chrono::seconds limit) {
+  file_->allow(limit);
+}
+
 bool MovieInput::cancelled() const {
   return file_->cancelled();
 }
@@ -65,7 +69,7 @@ bool MovieInput::choose(MovieTrack track) {
   return true;
 }
 
-const AVStream* MovieInput::stream() const {
+AVStream* MovieInput::stream() const {
   return index_ < 0 ? nullptr : file_->format()->streams[index_];
 }
 
@@ -76,6 +80,11 @@ MovieStamps MovieInput::stamps() const {
   if (name == "avi") return MovieStamps::OfChunks;
   const bool stream = name == "mpegvideo" || (format.flags & AVFMT_NOTIMESTAMPS) != 0;
   return stream ? MovieStamps::None : MovieStamps::OfPictures;
+}
+
+bool MovieInput::countsPictures() const {
+  const std::string name = file_->format()->iformat->name;
+  return name == "mxf" || name == "dv";
 }
 
 bool MovieInput::hasBareStamps() const {

@@ -50,13 +50,16 @@ class MovieInput {
   bool choose(MovieTrack track);
 
   /// The chosen track; null before that.
-  const AVStream* stream() const;
+  AVStream* stream() const;
 
   /// See `MovieFile`.
   bool statesTooLarge() const;
 
   /// What the times of the file belong to.
   MovieStamps stamps() const;
+
+  /// True when the stamps are counts of pictures, which cannot leap.
+  bool countsPictures() const;
 
   /// True when packets of pictures carry the stamps of the file and no others.
   bool hasBareStamps() const;
@@ -69,6 +72,9 @@ class MovieInput {
 
   /// Tells that the movie is taken: until then all reads together have `kOpenLimit`.
   void settle() { opening_ = false; }
+
+  /// All reads of an opening that follow have so long, together.
+  void allow(std::chrono::seconds limit);
 
   /// Next packet of the chosen track; false at the end of the file or when it cannot be read on.
   bool read(AVPacket& packet);

@@ -6,10 +6,10 @@
 
 namespace velra {
 
-double dMovieDuration(const std::string& path) {
+double dMovieDuration(const std::string& path, const std::stop_token& stop) {
   FrameSource source;
-  if (source.open(path).empty()) return source.duration();
-  return source.hasPictures() ? 0 : soundLength(path);
+  if (source.open(path, stop).empty()) return source.duration();
+  return stop.stop_requested() || source.hasPictures() ? 0 : soundLength(path);
 }
 
 }  // namespace velra

@@ -27,7 +27,6 @@ double PictureClock::take(double stamp, int fields) {
     const double stamped = stamp - offset_;
     if (leaps(stamped - expected_)) {
       offset_ = stamp - expected_;
-      leapt_ = true;
     } else if (stamped > last_) {
       time = stamped;
     }

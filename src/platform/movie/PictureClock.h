@@ -31,9 +31,6 @@ class PictureClock {
   /// What stamps exceed times by at present; `kUnknown` before the first stamp.
   double offset() const { return offset_; }
 
-  /// Whether stamps have leapt since the beginning.
-  bool leapt() const { return leapt_; }
-
  private:
   bool leaps(double ahead) const;
 
@@ -42,7 +39,6 @@ class PictureClock {
   double offset_ = kUnknown;
   double last_ = -std::numeric_limits<double>::infinity();
   double expected_ = 0;
-  bool leapt_ = false;
 };
 
 }  // namespace velra

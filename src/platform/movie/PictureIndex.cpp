@@ -17,6 +17,9 @@ namespace {
 // More different distances than that say nothing.
 constexpr std::size_t kMostDistances = 1000;
 
+// So many packets are read in any case: they tell the usual distance.
+constexpr int kFewest = 100;
+
 // Such a share of the pictures is most of them.
 constexpr double kMost = 0.6;
 
@@ -31,7 +34,7 @@ class IndexMaker {
     const double stamp =
         stamped ? static_cast<double>(packet.ticks) * tick_ : PictureClock::kUnknown;
     const double time = clock_.take(stamp, packet.fields);
-    if (std::isnan(firstOffset_)) firstOffset_ = clock_.offset();
+    addOffset(time);
     index_.last = time;
     index_.lastFields = packet.fields;
     ++index_.pictures;
@@ -40,17 +43,16 @@ class IndexMaker {
     if (packet.key) addKey(packet, time, stamped);
   }
 
-  void finish() {
-    index_.leaps = clock_.leapt();
-    index_.stampedKeys = stampedKeys_ > 0 && stampedKeys_ * 2 >= keys_;
-    // The first stamp may come only after the first keys.
-    index_.offset = firstOffset_;
-    for (KeyPlace& key : index_.keys) {
-      if (std::isnan(key.offset)) key.offset = firstOffset_;
-    }
-  }
+  void finish() { index_.stampedKeys = stampedKeys_ > 0 && stampedKeys_ * 2 >= keys_; }
 
  private:
+  void addOffset(double time) {
+    const double offset = clock_.offset();
+    if (std::isnan(offset) || offset == lastOffset_) return;
+    index_.line.add(time, offset);
+    lastOffset_ = offset;
+  }
+
   void addDistance(std::int64_t ticks) {
     if (ticks > 0 && index_.distances.size() < kMostDistances) ++index_.distances[ticks];
   }
@@ -59,7 +61,7 @@ class IndexMaker {
     ++keys_;
     if (stamped) ++stampedKeys_;
     if (!index_.keys.empty() && time < index_.keys.back().time + PictureIndex::kKeyDistance) return;
-    index_.keys.push_back({packet.position, packet.behind, packet.size, time, clock_.offset()});
+    index_.keys.push_back({packet.position, packet.behind, packet.size, time});
   }
 
   PictureClock clock_;
@@ -68,7 +70,7 @@ class IndexMaker {
   std::int64_t lastTicks_ = kNoTime;
   std::int64_t keys_ = 0;
   std::int64_t stampedKeys_ = 0;
-  double firstOffset_ = PictureClock::kUnknown;
+  double lastOffset_ = PictureClock::kUnknown;
 };
 
 }  // namespace
@@ -77,11 +79,6 @@ const KeyPlace* PictureIndex::keyBefore(double time) const {
   const auto behind = std::upper_bound(keys.begin(), keys.end(), time,
                                        [](double t, const KeyPlace& key) { return t < key.time; });
   return behind == keys.begin() ? nullptr : &*std::prev(behind);
-}
-
-double PictureIndex::offsetAt(double time) const {
-  const KeyPlace* key = keyBefore(time);
-  return key != nullptr ? key->offset : offset;
 }
 
 double PictureIndex::usualDistance() const {
@@ -128,7 +125,8 @@ PictureIndexer::~PictureIndexer() = default;
 void PictureIndexer::read(std::chrono::milliseconds limit) {
   const auto stop = std::chrono::steady_clock::now() + limit;
   AVPacket& packet = *state_->packet;
-  while (!index_.complete && std::chrono::steady_clock::now() < stop) {
+  for (int taken = 0; !index_.complete; ++taken) {
+    if (taken >= kFewest && std::chrono::steady_clock::now() > stop) break;
     if (input_.read(packet)) {
       index_.bytes = std::max(index_.bytes, packet.pos);
       state_->order.take(packet);

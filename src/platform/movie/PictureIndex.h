@@ -8,6 +8,8 @@
 #include <memory>
 #include <vector>
 
+#include "platform/movie/StampLine.h"
+
 namespace velra {
 
 class MovieInput;
@@ -18,18 +20,16 @@ struct KeyPlace {
   int behind = 0;             // how many pictures begin in that stretch before it
   int size = 0;               // of its packet in bytes, by which it is known
   double time = 0;            // seconds from the first picture of the file
-  double offset = 0;          // what stamps exceed times by there; not a number without stamps
 };
 
 /// What the packets of a picture track tell without being decoded.
 struct PictureIndex {
   bool complete = false;       // all packets of the file were read
   bool stampedKeys = false;    // half of the keys or more carry a time of their own
-  bool leaps = false;          // the stamps leap somewhere
   bool sure = true;            // packets could be given their places in time
   bool lost = false;           // though not all of them
   std::vector<KeyPlace> keys;  // in time, `kKeyDistance` apart at least
-  double offset = 0;           // the stamp of the first picture, not a number when there is none
+  StampLine line;              // what stamps exceed times by, as far as pictures have some
   double last = 0;             // the last picture, in seconds from the first one
   int lastFields = 0;          // for which that is shown
   std::int64_t pictures = 0;
@@ -40,9 +40,6 @@ struct PictureIndex {
 
   /// The last key that is shown at a time or before it; null when there is none.
   const KeyPlace* keyBefore(double time) const;
-
-  /// What stamps exceed times by at a time.
-  double offsetAt(double time) const;
 
   /// The distance in ticks that most pictures have: the mean of those that differ from the median
   /// by no more than the rounding to ticks. 0 when these are not most.
@@ -59,7 +56,7 @@ class PictureIndexer {
   PictureIndexer(const PictureIndexer&) = delete;
   PictureIndexer& operator=(const PictureIndexer&) = delete;
 
-  /// Reads on to the end of the file, or until so much time has passed.
+  /// Reads on to the end of the file, or until so much time has passed and some packets have come.
   void read(std::chrono::milliseconds limit);
 
  private:

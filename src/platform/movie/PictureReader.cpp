@@ -95,6 +95,11 @@ double PictureReader::take(const AVFrame& frame) {
   return clock_.take(stampOf(frame), PictureClock::kFields + frame.repeat_pict);
 }
 
+void PictureReader::setClock(double frameTime, double leap, StampLine line) {
+  clock_ = PictureClock(frameTime, leap);
+  line_ = std::move(line);
+}
+
 std::optional<double> PictureReader::time() const {
   return current_ ? std::optional(current_->time) : std::nullopt;
 }
@@ -122,19 +127,19 @@ bool PictureReader::decodesFirst() {
 }
 
 // Pictures before the first whole one lean on others that were not decoded.
-bool PictureReader::startBehind(double seconds, double offset) {
+bool PictureReader::startBehind(double seconds) {
   current_.reset();
   ++starts_;
-  const double known = std::isnan(offset) ? 0 : offset;
-  if (!input_->seek(static_cast<std::int64_t>(std::floor((seconds + known) / tick()))))
-    return false;
+  const double sought = seconds + line_.offsetAt(seconds);
+  if (!input_->seek(static_cast<std::int64_t>(std::floor(sought / tick())))) return false;
   decoder_->flush();
   bool whole = false;
   while (AvFrame frame = decoder_->next(*input_)) {
     whole = whole || isKey(*frame) || input_->hidesKey();
     const double stamp = stampOf(*frame);
     if (!whole || std::isnan(stamp) || (ownStamps_ && !hasOwnStamp(*frame))) continue;
-    clock_.restart(stamp - known, known);
+    const double start = line_.timeOf(stamp);
+    clock_.restart(start, stamp - start);
     const double time = take(*frame);
     current_ = std::make_unique<Current>(Current{std::move(frame), time});
     return true;
@@ -152,7 +157,8 @@ bool PictureReader::startAt(const KeyPlace& key, double shift) {
   // What a stretch of bytes holds of the picture before comes with the first that begins in it.
   const int excess = frame ? frame->pkt_size - key.size : -1;
   if (excess < 0 || (excess > 0 && key.behind > 0)) return false;
-  clock_.restart(key.time - shift, key.offset + shift);
+  const double start = key.time - shift;
+  clock_.restart(start, line_.offsetAt(start));
   const double time = take(*frame);
   current_ = std::make_unique<Current>(Current{std::move(frame), time});
   return true;

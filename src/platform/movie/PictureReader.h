@@ -9,6 +9,7 @@
 #include "platform/movie/FrameGrabber.h"
 #include "platform/movie/PictureCache.h"
 #include "platform/movie/PictureClock.h"
+#include "platform/movie/StampLine.h"
 
 namespace velra {
 
@@ -44,11 +45,15 @@ class PictureReader {
   /// The stamp of the first picture in seconds; not a number when it has none.
   double firstStamp() const { return firstStamp_; }
 
+  /// Where the packet of the first picture stands, in bytes.
+  std::int64_t firstPosition() const { return firstPosition_; }
+
   /// True when a key is the first picture.
   bool isFirst(const KeyPlace& key) const;
 
-  /// How pictures without stamps go on, and how far stamps may leap; see `PictureClock`.
-  void setClock(double frameTime, double leap) { clock_ = PictureClock(frameTime, leap); }
+  /// How pictures without stamps go on, and how far stamps may leap; see `PictureClock`. `line` is
+  /// where they do.
+  void setClock(double frameTime, double leap, StampLine line);
 
   /// Time of the picture that came out last; nothing before a start and after the end.
   std::optional<double> time() const;
@@ -59,9 +64,9 @@ class PictureReader {
   /// Starts at the first picture.
   bool rewind();
 
-  /// Starts at or before a time as far as the container knows. `offset` is what stamps exceed times
-  /// by there. False when nothing with a sure time comes.
-  bool startBehind(double seconds, double offset);
+  /// Starts at or before a time as far as the container knows. False when nothing with a sure time
+  /// comes.
+  bool startBehind(double seconds);
 
   /// Starts at a key, whose times begin `shift` seconds before the first picture. False when it
   /// does not come.
@@ -88,6 +93,7 @@ class PictureReader {
   std::unique_ptr<TrackDecoder> decoder_;
   std::unique_ptr<Current> current_;  // came out last; its end is not known yet
   PictureClock clock_;
+  StampLine line_;
   std::int64_t firstTicks_ = 0;
   std::int64_t firstPosition_ = 0;
   int firstBytes_ = 0;

@@ -15,8 +15,8 @@ constexpr std::size_t kBeforeStart = SoundRing::kCapacity / 10;
 
 }  // namespace
 
-SoundOut::SoundOut(std::string path, std::optional<double> origin)
-    : path_(std::move(path)), origin_(origin), thread_([this] { work(); }) {}
+SoundOut::SoundOut(std::string path, std::optional<StampLine> line)
+    : path_(std::move(path)), line_(std::move(line)), thread_([this] { work(); }) {}
 
 SoundOut::~SoundOut() {
   {
@@ -65,7 +65,7 @@ double SoundOut::now() const {
 }
 
 void SoundOut::work() {
-  const bool opened = reader_.open(path_, origin_).empty();
+  const bool opened = reader_.open(path_, line_).empty();
   std::unique_lock lock(mutex_);
   refused_ = !opened;
   if (refused_) state_ = State::Silent;

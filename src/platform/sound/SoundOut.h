@@ -29,8 +29,8 @@ class SoundOut {
     Silent,    // nothing will be heard
   };
 
-  /// `origin` as for `SoundReader::open`. Opening begins at once.
-  SoundOut(std::string path, std::optional<double> origin);
+  /// `line` as for `SoundReader::open`. Opening begins at once.
+  SoundOut(std::string path, std::optional<StampLine> line);
   ~SoundOut();
   SoundOut(const SoundOut&) = delete;
   SoundOut& operator=(const SoundOut&) = delete;
@@ -54,7 +54,7 @@ class SoundOut {
   void fill(std::int16_t* samples, std::size_t count);
 
   const std::string path_;
-  const std::optional<double> origin_;
+  const std::optional<StampLine> line_;
   SoundReader reader_;
   std::unique_ptr<SoundDevice> device_;
 

@@ -75,7 +75,7 @@ void SoundReader::cancel() {
   input_->cancel();
 }
 
-std::string SoundReader::open(const std::string& path, std::optional<double> origin) {
+std::string SoundReader::open(const std::string& path, const std::optional<StampLine>& line) {
   if (std::string reason = input_->open(path); !reason.empty()) return reason;
   if (!input_->choose(MovieTrack::Sound)) return "It has no sound that can be decoded.";
   if (std::string reason = decoder_->open(*input_->stream()); !reason.empty()) return reason;
@@ -84,7 +84,8 @@ std::string SoundReader::open(const std::string& path, std::optional<double> ori
   input_->settle();
   firstTicks_ = converter_->block->best_effort_timestamp;
   if (firstTicks_ == kNoTime) firstTicks_ = 0;
-  origin_ = origin.value_or(static_cast<double>(firstTicks_) * av_q2d(input_->stream()->time_base));
+  const double first = static_cast<double>(firstTicks_) * av_q2d(input_->stream()->time_base);
+  line_ = line.value_or(StampLine(first));
   return {};
 }
 
@@ -106,7 +107,8 @@ bool SoundReader::takeFirst(double seconds) {
 }
 
 bool SoundReader::startBehind(double seconds) {
-  const double ticks = (seconds + origin_) / av_q2d(input_->stream()->time_base);
+  const double stamp = seconds + line_.offsetAt(seconds);
+  const double ticks = stamp / av_q2d(input_->stream()->time_base);
   return input_->seek(static_cast<std::int64_t>(ticks)) && decodesFirst();
 }
 
@@ -125,7 +127,7 @@ bool SoundReader::rewind() {
 double SoundReader::timeOfBlock() const {
   const std::int64_t ticks = converter_->block->best_effort_timestamp;
   if (ticks == kNoTime) return start_ + static_cast<double>(given_) / kRate;
-  return static_cast<double>(ticks) * av_q2d(input_->stream()->time_base) - origin_;
+  return line_.timeOf(static_cast<double>(ticks) * av_q2d(input_->stream()->time_base));
 }
 
 // Samples from the end of what was given to a time; negative when the time lies before it.

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/movie/StampLine.h"
+
 namespace velra {
 
 class MovieInput;
@@ -26,9 +28,9 @@ class SoundReader {
   SoundReader(const SoundReader&) = delete;
   SoundReader& operator=(const SoundReader&) = delete;
 
-  /// `origin` is the time in seconds that the container gives to time 0 of the movie; without it
-  /// the first block of sound is time 0. "" on success, else one sentence.
-  std::string open(const std::string& path, std::optional<double> origin);
+  /// `line` tells the times of the container's stamps; without it the first block of sound is time
+  /// 0. "" on success, else one sentence.
+  std::string open(const std::string& path, const std::optional<StampLine>& line);
 
   /// The samples that are read next begin at a time in seconds.
   void seek(double seconds);
@@ -53,7 +55,7 @@ class SoundReader {
   std::unique_ptr<MovieInput> input_;
   std::unique_ptr<TrackDecoder> decoder_;
   std::unique_ptr<Converter> converter_;
-  double origin_ = 0;
+  StampLine line_;
   std::int64_t firstTicks_ = 0;
   double start_ = 0;          // where the row of samples begins, in seconds
   std::int64_t given_ = 0;    // samples a channel since then

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -19,8 +20,8 @@ bool isDone(const std::future<void>& work) {
 
 }  // namespace
 
-WaitingBox::WaitingBox(const QString& text, QWidget* owner)
-    : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source& stop)
+    : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), stop_(stop) {
   setObjectName(QStringLiteral("WaitingBox"));
   setWindowTitle(QCoreApplication::applicationName());
   auto* column = new QVBoxLayout(this);
@@ -32,7 +33,17 @@ WaitingBox::WaitingBox(const QString& text, QWidget* owner)
   bar->setAccessibleName(text);
   bar->setRange(0, 0);  // how much is left is not known
   column->addWidget(label);
+  cancel_ = new QPushButton(QStringLiteral("Cancel"), this);
+  cancel_->setObjectName(QStringLiteral("cmdCancel"));
+  cancel_->setAutoDefault(false);  // the key that opened the movie may still be down
+  connect(cancel_, &QPushButton::clicked, this, &WaitingBox::reject);
   column->addWidget(bar);
+  column->addWidget(cancel_, 0, Qt::AlignRight);
+}
+
+void WaitingBox::reject() {
+  stop_.request_stop();
+  cancel_->setEnabled(false);  // seen to be pressed: the work may take a moment to notice
 }
 
 void WaitingBox::showUntil(const std::future<void>& done) {

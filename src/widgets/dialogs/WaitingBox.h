@@ -3,21 +3,29 @@
 
 #include <QDialog>
 #include <future>
+#include <stop_token>
+
+class QPushButton;
 
 namespace velra {
 
 /// Tells what the program waits for, while all windows paint themselves and take no commands. It
-/// closes by itself and in no other way.
+/// closes by itself, when the work is done: Cancel and Escape ask the work to stop.
 class WaitingBox : public QDialog {
   Q_OBJECT
 
  public:
-  WaitingBox(const QString& text, QWidget* owner);
+  /// `stop` outlives the box.
+  WaitingBox(const QString& text, QWidget* owner, std::stop_source& stop);
 
   /// Shows the box until the work is done.
   void showUntil(const std::future<void>& done);
 
-  void reject() override {}
+  void reject() override;
+
+ private:
+  std::stop_source& stop_;
+  QPushButton* cancel_;
 };
 
 }  // namespace velra
