@@ -68,3 +68,24 @@ check_code() {
     xargs -0 -P "$(nproc)" -I '{}' bash -c 'check_deeply "$1"' - '{}' ||
     fail "clang-tidy has found what is above."
 }
+
+# What desktops, man and package managers read of the package.
+check_packaging() {
+  local made page
+  made=$(mktemp -d)
+  desktop-file-validate packaging/*.desktop || fail "The menu entry is wrong."
+  sed -e 's/@PROJECT_VERSION@/0.0.1/; s/@VELRA_DATE@/2026-01-01/' \
+    -e 's/@PROJECT_HOMEPAGE_URL@/https:\/\/velra.example.org/' \
+    packaging/org.velra.velra.metainfo.xml.in >"$made/org.velra.velra.metainfo.xml"
+  appstreamcli validate --pedantic --no-net "$made"/*.xml || fail "The AppStream data are wrong."
+  mkdir -p "$made/mime/packages"
+  cp packaging/*.mime.xml "$made/mime/packages"
+  # It says what is wrong and ends well all the same.
+  [ -z "$(XDG_DATA_DIRS=$made update-mime-database "$made/mime" 2>&1 | tee /dev/stderr)" ] ||
+    fail "The MIME type is wrong."
+  for page in packaging/man/*.1 packaging/man/it/*.1; do
+    [ -z "$(man --warnings -l -Tutf8 -Z "$page" 2>&1 >/dev/null | tee /dev/stderr)" ] ||
+      fail "The man page $page is wrong."
+  done
+  rm -r "$made"
+}

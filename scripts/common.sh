@@ -53,3 +53,9 @@ build_preset() {
     cmake --build "build/$preset" "${@/#/--target=}"
   )
 }
+
+# The time that everything made bears: of the last commit, unless the caller names another.
+source_date() {
+  [ -n "${SOURCE_DATE_EPOCH:-}" ] || SOURCE_DATE_EPOCH=$(git -C "$root" log -1 --format=%ct)
+  export SOURCE_DATE_EPOCH
+}
