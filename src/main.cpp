@@ -3,6 +3,7 @@
 
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <cstdio>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
@@ -14,6 +15,7 @@
 #include "shell/Factory.h"
 #include "shell/LastWish.h"
 #include "shell/Start.h"
+#include "shell/TerminalAnswer.h"
 #include "shell/VideoForm.h"
 #include "shell/frmMain.h"
 #include "widgets/GuardedApplication.h"
@@ -44,8 +46,8 @@ void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
   }
 }
 
-int run(GuardedApplication& application, const std::string& commandLine) {
-  const InterfaceLanguage language = interfaceLanguage(environmentLocale());
+int run(GuardedApplication& application, InterfaceLanguage language,
+        const std::string& commandLine) {
   QTranslator translator;
   translateToolkit(translator, language);
 
@@ -77,14 +79,20 @@ int run(GuardedApplication& application, const std::string& commandLine) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Before anything that needs a display.
+  const InterfaceLanguage language = interfaceLanguage(environmentLocale());
+  if (const auto answer = terminalAnswer(argc - 1, argv + 1, language, VELRA_VERSION)) {
+    return std::fputs(answer->c_str(), stdout) >= 0 && std::fflush(stdout) == 0 ? 0 : 1;
+  }
   mallopt(M_TRIM_THRESHOLD, kKeptMemory);
   mallopt(M_MMAP_THRESHOLD, kLargestKeptBlock);
   GuardedApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("velra"));
   QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.velra.velra"));
   int status = 1;
   application.guarded([&] {
-    status = run(application, commandLineOf(argc - 1, argv + 1, velra::currentFolder()));
+    status = run(application, language, commandLineOf(argc - 1, argv + 1, velra::currentFolder()));
   });
   return status;
 }

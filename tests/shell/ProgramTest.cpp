@@ -4,6 +4,7 @@
 #include "Program.h"
 #include "objects/MediaObject.h"
 #include "protocol/VideoExpression.h"
+#include "shell/TerminalAnswer.h"
 #include "store/SubTreeRemoval.h"
 #include "support/FormObject.h"
 
@@ -25,9 +26,14 @@ TEST(Start, TheCommandLineIsOnePath) {
   struct Case {
     std::vector<const char*> arguments;
     std::string line;
+    std::string answerInTerminal = "";  // how it begins
   };
   const Case cases[] = {
       {{}, ""},
+      {{"--version"}, "/start/--version", "velra 1.2.3\n"},
+      {{"--help"}, "/start/--help", "Uso:\n"},
+      {{"./--help"}, "/start/--help"},
+      {{"--help", "me.xml"}, "/start/--help me.xml"},
       {{"film.xml"}, "/start/film.xml"},
       {{"./film.xml"}, "/start/film.xml"},
       {{"/abs/film.xml"}, "/abs/film.xml"},
@@ -37,8 +43,12 @@ TEST(Start, TheCommandLineIsOnePath) {
       {{"one\"quote.xml"}, "one\"quote.xml"},
       {{"\"a\"", "\"b\""}, "\"a\" \"b\""},
   };
-  for (const auto& [arguments, line] : cases) {
-    EXPECT_EQ(commandLineOf(static_cast<int>(arguments.size()), arguments.data(), "/start"), line);
+  for (const auto& [arguments, line, answer] : cases) {
+    const int count = static_cast<int>(arguments.size());
+    EXPECT_EQ(commandLineOf(count, arguments.data(), "/start"), line);
+    const auto said =
+        terminalAnswer(count, arguments.data(), InterfaceLanguage::Italian, "1.2.3").value_or("");
+    EXPECT_EQ(said.substr(0, answer.empty() ? said.npos : answer.size()), answer) << line;
   }
 }
 
