@@ -56,16 +56,22 @@ void ApplicationModule::RegWrite(std::string_view subKey, std::string_view name,
   machineSettings.write(subKey, name, text);
 }
 
+std::string ApplicationModule::machineText(std::string_view name) const {
+  std::string text;
+  bRegRead(kMachineSection, name, text);
+  return text;
+}
+
 std::string ApplicationModule::strXSDPath() const {
-  std::string path;
-  bRegRead(kMachineSection, "XSDPath", path);
-  return path;
+  return machineText("XSDPath");
 }
 
 std::string ApplicationModule::strThematicKeywordsPath() const {
-  std::string path;
-  bRegRead(kMachineSection, "ThematicKeywordsPath", path);
-  return path;
+  return machineText("ThematicKeywordsPath");
+}
+
+std::string ApplicationModule::strHelpPath() const {
+  return machineText("HelpPath");
 }
 
 bool ApplicationModule::bReadConnectionSettings(ConnectionSettings& settings) const {

@@ -68,12 +68,16 @@ class ApplicationModule {
 
   std::string strXSDPath() const;
   std::string strThematicKeywordsPath() const;
+  std::string strHelpPath() const;
 
   /// True when all four values are there and the port is numeric; else what could be read is in
   /// `settings`, a missing text is "", and the port is as it was. kOverflow for a port that does
   /// not fit into 16 bits.
   bool bReadConnectionSettings(ConnectionSettings& settings) const;
   void WriteConnectionSettings(const ConnectionSettings& settings);
+
+ private:
+  std::string machineText(std::string_view name) const;  // "": there is none
 };
 
 /// The middle piece of a text in one pair of double quotes; any other text as it stands.

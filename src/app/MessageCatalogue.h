@@ -27,6 +27,7 @@ class MessageCatalogue {
   std::string text(Message message) const { return text(static_cast<int>(message)); }
 
   bool holds(int id) const;
+  InterfaceLanguage language() const { return language_; }
 
  private:
   InterfaceLanguage language_;

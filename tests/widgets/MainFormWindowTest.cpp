@@ -4,12 +4,17 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>
 
+#include "platform/settings/MachineSettings.h"
 #include "shell/frmMain.h"
 #include "support/TestApplication.h"
 
@@ -110,6 +115,33 @@ TEST_F(MainFormWindowTest, EntriesFollowTheMenuState) {
   window.findChild<QMenu*>(QStringLiteral("mnuFile"))->aboutToShow();
   EXPECT_FALSE(action("mnuExportToDB")->isEnabled());
   EXPECT_FALSE(window.findChild<QMenu*>(QStringLiteral("mnuView"))->isEnabled());
+}
+
+TEST_F(MainFormWindowTest, HelpIsThePageOfTheWindow) {
+  QTemporaryDir guide;
+  QDir(guide.path()).mkdir(QStringLiteral("en"));
+  for (const char* page : {"index", "search", "main-window", "forms"}) {
+    QFile file(guide.filePath(QStringLiteral("en/%1.html").arg(QLatin1String(page))));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+  }
+  machineSettings.write(ApplicationModule::kMachineSection, "HelpPath", guide.path().toStdString());
+  QTextBrowser browser;
+  QDesktopServices::setUrlHandler(QStringLiteral("file"), &browser, "setSource");
+  const auto opened = [&](const std::function<void()>& ask) {
+    browser.setSource(QUrl(QStringLiteral("nothing:")));
+    ask();
+    return browser.source().fileName().toStdString();
+  };
+  QDialog form(&window);
+  form.setObjectName(QStringLiteral("MediaForm"));
+  QMessageBox box(&form);
+  EXPECT_EQ(opened([&] { action("mnuHelpContents")->trigger(); }), "index.html");
+  EXPECT_EQ(opened([&] { action("mnuHelpSearchForHelpOn")->trigger(); }), "search.html");
+  EXPECT_EQ(opened([&] { QTest::keyClick(&window, Qt::Key_F1); }), "main-window.html");
+  EXPECT_EQ(opened([&] { QTest::keyClick(&box, Qt::Key_F1); }), "forms.html");
+  EXPECT_EQ(opened([&] { QTest::keyClick(&box, Qt::Key_F1, Qt::ShiftModifier); }), "");
+  QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+  EXPECT_EQ(ui.takeShown(), Shown{});
 }
 
 TEST_F(MainFormWindowTest, CommandsWithoutAFunctionSaySo) {

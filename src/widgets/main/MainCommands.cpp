@@ -13,7 +13,8 @@ using Kind = MenuEntry::Kind;
 
 void doNothing(MainFormWindow&) {}
 
-void showNoHelp(MainFormWindow& window) {
+void showHelp(MainFormWindow& window, const char* page) {
+  if (window.guide().open(QLatin1String(page))) return;
   window.ui().messageBox(
       "Unable to display Help Contents. There is no Help associated with this project.");
 }
@@ -130,8 +131,12 @@ constexpr MenuEntry kOptions[] = {
 };
 
 constexpr MenuEntry kHelp[] = {
-    {.name = "mnuHelpContents", .caption = Message::HelpContents, .run = showNoHelp},
-    {.name = "mnuHelpSearchForHelpOn", .caption = Message::SearchForHelpOn, .run = showNoHelp},
+    {.name = "mnuHelpContents",
+     .caption = Message::HelpContents,
+     .run = [](MainFormWindow& window) { showHelp(window, "index"); }},
+    {.name = "mnuHelpSearchForHelpOn",
+     .caption = Message::SearchForHelpOn,
+     .run = [](MainFormWindow& window) { showHelp(window, "search"); }},
     {.name = "mnuHelpBar0", .kind = Kind::Separator},
     {.name = "mnuHelpAbout",
      .caption = Message::About,

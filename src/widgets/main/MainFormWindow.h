@@ -7,6 +7,7 @@
 
 #include "app/Message.h"
 #include "shell/MainWindowFace.h"
+#include "widgets/Guide.h"
 #include "widgets/main/TreeIconPainter.h"
 #include "widgets/main/TreeModel.h"
 
@@ -35,6 +36,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
 
   frmMain& rules() { return rules_; }
   UserInterface& ui();
+  const Guide& guide() const { return guide_; }
   QString text(Message message) const;
 
   void showSplash();
@@ -58,6 +60,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
 
   ApplicationModule& app_;
   frmMain& rules_;
+  Guide guide_{app_};
   TreeIconPainter icons_;
   TreeModel mainTree_;
   TreeModel expressionTree_;
