@@ -3,7 +3,7 @@
 # The checks of ./test that run no program of ours. Sourced by bash, after common.sh.
 
 check_format() {
-  find src tests benchmarks \( -name '*.h' -o -name '*.cpp' \) -print0 |
+  find src tests benchmarks docs \( -name '*.h' -o -name '*.cpp' \) -print0 |
     xargs -0 -P "$(nproc)" -n 16 clang-format --dry-run -Werror ||
     fail "The sources above differ from .clang-format; clang-format -i puts them right."
 }
@@ -17,7 +17,7 @@ check_licences() {
   local without
   without=$({
     runnable_files
-    find src tests benchmarks cmake CMakeLists.txt scripts/*.sh \
+    find src tests benchmarks docs packaging cmake CMakeLists.txt scripts/*.sh \
       -name '*.h' -o -name '*.cpp' -o -name '*.cmake' -o -name CMakeLists.txt -o -name '*.sh'
   } | xargs grep -LE '^(//|#) SPDX-License-Identifier: GPL-3.0-or-later$' || true)
   [ -z "$without" ] || fail "These files name no licence in an SPDX line:"$'\n'"$without"
@@ -27,6 +27,24 @@ check_scripts() {
   local scripts
   mapfile -t scripts < <(runnable_files | xargs grep -lE -m1 '^#!.*sh$')
   shellcheck -x -P SCRIPTDIR "${scripts[@]}" || fail "shellcheck has found what is above."
+}
+
+# The guide: both languages have the same chapters and pictures, each link leads to a chapter, and
+# each picture is used.
+check_guide() {
+  local language made link
+  made=$(mktemp -d)
+  docs/guide/make-guide "$made"
+  for language in en it; do
+    while IFS= read -r link; do
+      [ -e "$made/$language/$link" ] || fail "docs/guide/$language: $link is not there."
+    done < <(grep -hoE '(href|src)="[^"#]+"' "$made/$language"/*.html | cut -d'"' -f2 | sort -u)
+    diff <(cd docs/guide/pictures/$language && ls) \
+      <(grep -hoE "pictures/$language/[a-z-]+\.png" "docs/guide/$language"/*.md | cut -d/ -f3 | sort -u) ||
+      fail "docs/guide/$language: other pictures are there (<) than are shown (>)."
+  done
+  diff <(cd docs/guide/en && ls) <(cd docs/guide/it && ls) || fail "A chapter lacks a language."
+  rm -r "$made"
 }
 
 # The compile command of each group of sources, as "FILE<tab>COMMAND" without what it would write.

@@ -116,7 +116,6 @@ void CuttingDay::cutTheNight(QWidget& tool) {
     typeBounds(dialog, "0:58:0", "1:3:0");
   });
   press(tool, "cmdNew");
-  Desktop::keepPicture(tool, "expression-tool.png");
   EXPECT_EQ(partOf(tool, "Framelist1", "The steamer"), 4);
   EXPECT_TRUE(expressions().contains(QStringLiteral("The steamer")));
 }

@@ -99,13 +99,6 @@ class Desktop {
     found->trigger();
   }
 
-  /// Keeps a picture of a window for the documents when VELRA_PICTURES names a folder.
-  static void keepPicture(QWidget& widget, const char* name) {
-    const QString folderName = qEnvironmentVariable("VELRA_PICTURES");
-    if (!folderName.isEmpty())
-      widget.grab().save(folderName + QLatin1Char('/') + QLatin1String(name));
-  }
-
   std::shared_ptr<const SampleFolder> sharedFolder() const { return folder_; }
 
  private:

@@ -18,12 +18,8 @@ TEST(WorkingDay, TheSampleShowsBothTreesAndItsForms) {
   EXPECT_EQ(desktop.texts("tvwMainTree").size(), 10);
   desktop.click("tvwMainTree", QStringLiteral("Original English sound version"));
   EXPECT_EQ(desktop.texts("tvwExpression").size(), 19);
-  desktop.window.resize(900, 620);
-  QTest::qWait(0);
-  Desktop::keepPicture(desktop.window, "main-window.png");
 
   whenModal([](QWidget& form) {
-    Desktop::keepPicture(form, "metadata-form.png");
     QPlainTextEdit* text = &textOf(form, QStringLiteral("VersionTitle"));
     text->selectAll();
     QTest::keyClicks(text, QStringLiteral("Renamed version"));
