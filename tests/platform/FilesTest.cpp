@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 #include "platform/files/FileMoves.h"
 #include "support/ErrorOf.h"
 #include "support/TemporaryFolder.h"
@@ -83,6 +85,10 @@ TEST(Files, MovesWithoutReplacingAndCopiesWith) {
   EXPECT_EQ(errorOf([&] { CopyFileTo(one, folder.path()); }), kPermissionDenied);
   EXPECT_EQ(errorOf([&] { CopyFileTo(one, folder / "./one"); }), kPermissionDenied);
   EXPECT_EQ(folder.snapshot(), (std::map<std::string, std::string>{{"one", "1"}, {"two", "22"}}));
+  const std::string holes = folder.write("holes", "x");
+  std::filesystem::resize_file(holes, 30'000'000'000);
+  EXPECT_EQ(errorOf([&] { CopyFileTo(holes, two); }), kDiskFull);
+  std::filesystem::remove(holes);
   CopyFileTo(one, two);
   EXPECT_EQ(folder.read("two"), "1");
   MoveFileTo(two, folder / "three");

@@ -19,6 +19,8 @@
 namespace velra {
 namespace {
 
+constexpr off_t kMostCopied = 1'000'000'000;
+
 ErrorNumber numberOf(int error) {
   switch (error) {
     case ENOENT:
@@ -107,6 +109,8 @@ void CopyFileTo(const std::string& source, const std::string& destination) {
   const FileHandle file(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat status {};
   if (!file || ::fstat(file.number(), &status) != 0) raiseFor(errno, source);
+  // A file with holes may be longer than the memory, or than the disk.
+  if (status.st_size > kMostCopied) raiseFor(EFBIG, source);
   std::string bytes;
   int error = readAll(file, static_cast<std::size_t>(status.st_size), bytes);
   if (error) raiseFor(error, source);

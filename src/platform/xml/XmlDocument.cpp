@@ -3,6 +3,7 @@
 
 #include "base/Paths.h"
 #include "platform/files/Files.h"
+#include "platform/xml/XmlBounds.h"
 #include "platform/xml/XmlLibrary.h"
 #include "platform/xml/XmlText.h"
 
@@ -168,7 +169,7 @@ void XmlDocument::Free::operator()(_xmlDoc* document) const {
 XmlDocument::~XmlDocument() = default;
 
 bool XmlDocument::load(const std::string& path) {
-  const FileBytes file = readFile(path);
+  const FileBytes file = readFile(path, xml::kLargestFile);
   if (file.reason.empty() && parse(file.bytes, path)) return true;
   document_.reset();
   // Of the many files of a document the reason must tell which.

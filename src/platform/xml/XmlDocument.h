@@ -39,8 +39,7 @@ class XmlNode {
   std::string_view baseName() const;
   std::string_view prefix() const;
 
-  /// The text of the node and of all below it, in document order. Bounded: entity references expand
-  /// to at most 10 MB in all.
+  /// The text of the node and of all below it, in document order.
   std::string text() const;
   /// The same of an element whose text people write: blanks count when it holds nothing else.
   std::string typedText() const;

@@ -12,6 +12,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "platform/files/Files.h"
+#include "platform/xml/XmlBounds.h"
 #include "platform/xml/XmlText.h"
 
 namespace velra::xml {
@@ -19,23 +20,11 @@ namespace {
 
 constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_BIG_LINES |
                          XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+constexpr const char* kTooFar = "entities expand too far";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Names that a context has met stay in its dictionary, which refuses to grow beyond 10 MB.
 constexpr std::size_t kLargestDictionary = 1'000'000;
-
-/// The library counts bytes in an int.
-constexpr std::size_t kMostBytes = 1'000'000'000;
-
-/// What belongs to one parse; the context's _private points at it.
-struct Session {
-  const std::string& path;
-  std::string reason;
-
-  void note(const std::string& text) {
-    if (reason.empty()) reason = text;
-  }
-};
 
 #if LIBXML_VERSION >= 21200
 using ErrorPointer = const xmlError*;
@@ -52,9 +41,9 @@ std::string oneLine(std::string text) {
 /// declaration are no fault here.
 void onError(void* context, ErrorPointer error) {
   if (error->level < XML_ERR_ERROR || error->domain == XML_FROM_NAMESPACE) return;
-  auto* session = static_cast<Session*>(static_cast<xmlParserCtxt*>(context)->_private);
+  auto* session = static_cast<ParseSession*>(static_cast<xmlParserCtxt*>(context)->_private);
   if (!session) return;
-  std::string text = error->code == XML_ERR_ENTITY_LOOP ? "entities expand too far"
+  std::string text = error->code == XML_ERR_ENTITY_LOOP ? kTooFar
                      : error->message                   ? oneLine(error->message)
                                                         : "unknown error";
   if (error->line > 0) text = "Line " + std::to_string(error->line) + ": " + text;
@@ -74,7 +63,7 @@ std::string pathOfIdentifier(const char* url, const std::string& folder) {
 /// Lets a document read a document type that lies beside it, and nothing else: a file must not be
 /// able to draw other files, or the network, into itself.
 xmlParserInput* loadEntity(const char* url, const char*, xmlParserCtxt* context) {
-  auto* session = static_cast<Session*>(context->_private);
+  auto* session = static_cast<ParseSession*>(context->_private);
   if (!url || !session || session->path.empty()) return nullptr;
   const std::string folder = strAbsolutePath(folderOf(session->path));
   const std::string path = pathOfIdentifier(url, folder);
@@ -82,7 +71,7 @@ xmlParserInput* loadEntity(const char* url, const char*, xmlParserCtxt* context)
     session->note("\"" + oneLine(url) + "\" is no document type beside the file and is not read");
     return nullptr;
   }
-  const FileBytes file = readFile(path);
+  const FileBytes file = readFile(path, kLargestDocumentType);
   if (!file.reason.empty()) {
     session->note(path + ": " + file.reason);
     return nullptr;
@@ -102,6 +91,7 @@ Context makeContext() {
   Context context(xmlNewParserCtxt());
   if (!context) throw std::bad_alloc();
   context->sax->serror = onError;
+  installBounds(*context->sax);
   return context;
 }
 
@@ -124,7 +114,7 @@ Document parseValidated(xmlParserCtxt& context, std::string_view bytes) {
   Document document = parseOnce(context, bytes, 0);
   if (!document || !document->intSubset) return document;
   document.reset();
-  static_cast<Session*>(context._private)->reason.clear();
+  static_cast<ParseSession*>(context._private)->restart();
   document = parseOnce(context, bytes, XML_PARSE_DTDVALID);
   if (document && !context.valid) document.reset();
   return document;
@@ -138,13 +128,11 @@ using ParseStep = Document (*)(xmlParserCtxt& context, std::string_view bytes);
 
 Document parseWith(ParseStep step, std::string_view bytes, const std::string& path,
                    std::string& reason) {
-  reason.clear();
-  if (bytes.size() > kMostBytes) {
-    reason = "The file is too large";
-    return nullptr;
-  }
+  reason = refusalOf(bytes);
+  if (!reason.empty()) return nullptr;
   Context& context = threadContext();
-  Session session{path, {}};
+  ParseSession session{path, {}, {}};
+  const Patience patience(session);
   context->_private = &session;
   Document document = step(*context, bytes);
   context->_private = nullptr;
@@ -194,7 +182,12 @@ void initXml() {
 
 Document parse(std::string_view bytes, const std::string& path, std::string& reason) {
   Document document = parseWith(parseValidated, bytes, path, reason);
-  if (document) dropBlankTexts(xmlDocGetRootElement(document.get()));
+  if (!document) return nullptr;
+  if (document->intSubset && expandsTooFar(*document)) {
+    reason = kTooFar;
+    return nullptr;
+  }
+  dropBlankTexts(xmlDocGetRootElement(document.get()));
   return document;
 }
 

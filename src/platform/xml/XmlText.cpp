@@ -8,55 +8,74 @@
 namespace velra::xml {
 namespace {
 
-/// Collects text. What comes out of entities is bounded, since a file of a few kilobytes can make
-/// them stand for gigabytes; what stands in the file itself is bounded by the file.
+/// Collects text. What entities stand for has been bounded when the document was parsed.
 class TextWalk {
  public:
-  void walk(const xmlNode* first, int depth, bool inEntity) {
-    for (const xmlNode* node = first; node; node = node->next) {
-      if (inEntity && (++steps_ > kMostSteps || fromEntities_ >= kMostBytes)) return;
-      visit(*node, depth, inEntity);
-    }
+  void walk(const xmlNode* first) {
+    for (const xmlNode* node = first; node; node = node->next) visit(*node);
   }
   std::string take() { return std::move(text_); }
 
  private:
-  static constexpr std::size_t kMostBytes = 10'000'000;
-  static constexpr int kMostSteps = 1'000'000;
-  static constexpr int kMostLevels = 1000;
-
-  void visit(const xmlNode& node, int depth, bool inEntity) {
-    if (depth > kMostLevels) return;
+  void visit(const xmlNode& node) {
     if (node.type == XML_TEXT_NODE || node.type == XML_CDATA_SECTION_NODE) {
-      if (isLoneBlank(node)) return;
-      append(viewOf(node.content), inEntity);
+      if (!isLoneBlank(node)) text_ += viewOf(node.content);
     } else if (node.type == XML_ELEMENT_NODE) {
-      walk(node.children, depth + 1, inEntity);
+      walk(node.children);
     } else if (node.type == XML_ENTITY_REF_NODE) {
-      expand(xmlGetDocEntity(node.doc, node.name), depth + 1);
+      expand(xmlGetDocEntity(node.doc, node.name));
     }
   }
 
-  void expand(const xmlEntity* entity, int depth) {
+  void expand(const xmlEntity* entity) {
     if (!entity) return;
     if (entity->children) {
-      walk(entity->children, depth, true);
+      walk(entity->children);
     } else {
-      append(viewOf(entity->content), true);
+      text_ += viewOf(entity->content);
     }
-  }
-
-  void append(std::string_view text, bool inEntity) {
-    if (inEntity) {
-      text = text.substr(0, kMostBytes - fromEntities_);
-      fromEntities_ += text.size();
-    }
-    text_ += text;
   }
 
   std::string text_;
-  std::size_t fromEntities_ = 0;
-  int steps_ = 0;
+};
+
+constexpr std::size_t kMostExpanded = 1'000'000;  // bytes, and steps
+constexpr int kMostLevels = 1'000;
+
+/// Follows the references to entities, as far as a sound file could have them.
+class ExpansionWalk {
+ public:
+  bool exceeds(const xmlNode* first, int depth, bool inEntity) {
+    for (const xmlNode* node = first; node; node = node->next) {
+      if (inEntity && ++steps_ > kMostExpanded) return true;
+      if (depth > kMostLevels || visit(*node, depth, inEntity)) return true;
+    }
+    return false;
+  }
+
+ private:
+  bool visit(const xmlNode& node, int depth, bool inEntity) {
+    switch (node.type) {
+      case XML_ELEMENT_NODE:
+        for (const xmlAttr* at = node.properties; at; at = at->next) {
+          if (exceeds(at->children, depth + 1, inEntity)) return true;
+        }
+        return exceeds(node.children, depth + 1, inEntity);
+      case XML_ENTITY_REF_NODE: {
+        const xmlEntity* entity = xmlGetDocEntity(node.doc, node.name);
+        if (!entity) return false;
+        return entity->children ? exceeds(entity->children, depth + 1, true)
+                                : grows(viewOf(entity->content));
+      }
+      default:
+        return inEntity && grows(viewOf(node.content));
+    }
+  }
+
+  bool grows(std::string_view text) { return (bytes_ += text.size()) > kMostExpanded; }
+
+  std::size_t bytes_ = 0;
+  std::size_t steps_ = 0;
 };
 
 }  // namespace
@@ -75,8 +94,12 @@ std::string textOf(const xmlNode* first) {
   if (!first || isLoneBlank(*first)) return {};
   if (!first->next && first->type == XML_TEXT_NODE) return std::string(viewOf(first->content));
   TextWalk walk;
-  walk.walk(first, 0, false);
+  walk.walk(first);
   return walk.take();
+}
+
+bool expandsTooFar(const xmlDoc& document) {
+  return ExpansionWalk().exceeds(xmlDocGetRootElement(&document), 0, false);
 }
 
 }  // namespace velra::xml

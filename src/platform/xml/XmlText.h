@@ -16,4 +16,7 @@ bool isLoneBlank(const xmlNode& node);
 /// The text of a list of nodes and of all below them, as XmlNode::text has it.
 std::string textOf(const xmlNode* first);
 
+/// True when the entities of a document stand for more than anybody would write.
+bool expandsTooFar(const xmlDoc& document);
+
 }  // namespace velra::xml
