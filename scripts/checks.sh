@@ -35,6 +35,7 @@ check_guide() {
   local language made link
   made=$(mktemp -d)
   docs/guide/make-guide "$made"
+  ! grep -rn 'raw HTML omitted' "$made" || fail "The guide has \"<\" where HTML would begin."
   for language in en it; do
     while IFS= read -r link; do
       [ -e "$made/$language/$link" ] || fail "docs/guide/$language: $link is not there."
