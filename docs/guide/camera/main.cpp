@@ -24,12 +24,11 @@ constexpr const char* kTranscript = "Commentary of Skarholm Light";
 class Camera {
  public:
   Camera(QString folder, InterfaceLanguage language)
-      : folder_(std::move(folder)), desktop_(language) {
-    desktop_.app.iLanguage = language == InterfaceLanguage::Italian ? 1 : 0;
-  }
+      : folder_(std::move(folder)), language_(language), desktop_(language) {}
 
   void takeAll() {
     desktop_.start(desktop_.sample());
+    desktop_.rules.setLanguage(language_ == InterfaceLanguage::Italian ? 1 : 0);
     desktop_.window.resize(900, 620);
     desktop_.click("tvwMainTree", QLatin1String(kVersion));
     desktop_.view("tvwExpression");
@@ -135,6 +134,7 @@ class Camera {
   }
 
   QString folder_;
+  InterfaceLanguage language_;
   Desktop desktop_;
 };
 
