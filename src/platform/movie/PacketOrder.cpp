@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "platform/movie/LibAv.h"
@@ -15,7 +16,8 @@ namespace {
 // No decoder holds back more pictures than that.
 constexpr std::size_t kMostWaiting = 20;
 
-// No picture is shown so many seconds before one that stands before it in the file.
+// No picture of a stream is shown so many seconds before one that stands before it; those of a
+// container may be, where one before them is shown for long.
 constexpr double kMostFall = 1;
 
 // Of so many packets one may have lost its stamp, as where others leap.
@@ -51,7 +53,8 @@ struct PacketOrder::Parser {
 PacketOrder::PacketOrder(const AVStream& stream, bool bareStamps, double leap, Receiver receiver)
     : receiver_(std::move(receiver)),
       leap_(leap),
-      fall_(kMostFall / av_q2d(stream.time_base)),
+      fall_(bareStamps ? kMostFall / av_q2d(stream.time_base)
+                       : std::numeric_limits<double>::infinity()),
       bareStamps_(bareStamps),
       lastTicks_(kNoTime) {
   if (!bareStamps_) return;
