@@ -134,6 +134,13 @@ TEST(FrameSource, TakesAnEmptyPacketForThePictureBefore) {
   EXPECT_NEAR(source.duration(), 51 / 25.0, 1e-6);
 }
 
+TEST(FrameSource, ComesToAPictureThatIsShownForLongAndOnWhichNoOtherLeans) {
+  FrameSource source;
+  PictureConverter converter;
+  ASSERT_EQ(source.open(test::moviePath("lacking-25.mp4")), "");
+  EXPECT_EQ(test::numberIn(*converter.convert(*source.at(4.3)->frame)), 61);
+}
+
 TEST(FrameSource, RefusesStampsThatOccurTwice) {
   const test::TemporaryFolder folder;
   FrameSource source;

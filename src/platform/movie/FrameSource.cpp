@@ -6,7 +6,6 @@
 #include <cmath>
 #include <limits>
 #include <utility>
-#include <vector>
 
 #include "platform/movie/FrameTime.h"
 #include "platform/movie/IndexMemory.h"
@@ -23,6 +22,16 @@ constexpr double kInfinite = std::numeric_limits<double>::infinity();
 // Closer than this many pictures ahead it is cheaper to decode on than to seek.
 constexpr double kDecodeOnPictures = 40;
 
+// Nor is it dearer for so many when no key lies on the way.
+constexpr double kMostOnTheWay = 300;
+
+// So many pictures before the one that is sought are decoded all, if the cache has room, since
+// people step back; who does so by no more than two pictures does it again.
+constexpr double kFewestWhole = 4;
+constexpr double kWholeBefore = 8;
+constexpr double kStepBack = 2;
+constexpr double kWholeBeforeSteps = 30;
+
 // A decoder that starts inside a group gives its first picture later than was asked; so far back
 // the next attempt starts, and each further one by a factor.
 constexpr double kFirstStepBack = 0.6;
@@ -36,7 +45,6 @@ constexpr double kSameTime = 1e-6;
 
 // For pictures without a time of their own in a file that tells nothing.
 constexpr double kUsualFrame = 0.04;
-constexpr int kMeasuredPictures = 24;
 
 }  // namespace
 
@@ -72,23 +80,11 @@ bool FrameSource::hasPictures() const {
 void FrameSource::setTimes() {
   setLine();
   const bool stampedPictures = reader_.input().stamps() == MovieStamps::OfPictures;
+  mayLeaveOut_ = stampedPictures && !index_.lost;
   const double usual = stampedPictures ? index_.usualDistance() * reader_.tick() : 0;
   frameTime_ = chooseFrameTime(reader_.statedFrameTime(), usual, reader_.tick(), index_.pictures);
   reader_.setClock(frameTime_ > 0 ? frameTime_ : kUsualFrame, index_.leap, line_);
-  if (frameTime_ <= 0) frameTime_ = medianDistance();
-}
-
-double FrameSource::medianDistance() {
-  std::vector<double> distances;
-  bool ended = !reader_.rewind();
-  while (!ended && distances.size() < kMeasuredPictures) {
-    const Found picture = step(ended);
-    if (picture && !ended) distances.push_back(picture->end - picture->time);
-  }
-  if (distances.empty()) return kUsualFrame;
-  const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
-  std::nth_element(distances.begin(), middle, distances.end());
-  return *middle;
+  if (frameTime_ <= 0) frameTime_ = medianDistance(reader_).value_or(kUsualFrame);
 }
 
 void FrameSource::setLine() {
@@ -110,33 +106,54 @@ FrameSource::Found FrameSource::after(const MoviePicture& picture) {
 
 // The picture whose span holds a time.
 FrameSource::Found FrameSource::find(double target) {
+  const double back = std::exchange(lastTarget_, target) - target;
   if (Found known = cache_.find(target)) return known;
   const double ahead = target - reader_.time().value_or(kInfinite);
-  if (ahead >= 0 && ahead < kDecodeOnPictures * frameTime_) return decodeOn(target);
-  return index_.byKeys ? seekByKeys(target) : seekTo(target);
+  const double near = (reader_.leadsTo(target) ? kMostOnTheWay : kDecodeOnPictures) * frameTime_;
+  const bool stepsBack = back > 0 && back < kStepBack * frameTime_;
+  const double most = stepsBack ? kWholeBeforeSteps : kWholeBefore;
+  whole_ = std::clamp(0.9 * cache_.room(), kFewestWhole, most) * frameTime_;
+  if (ahead >= 0 && ahead < near) return decodeOn(target);
+  const double lead = stepsBack ? whole_ : 0;
+  return index_.byKeys ? seekByKeys(target, lead) : seekTo(target, lead);
 }
 
 FrameSource::Found FrameSource::step(bool& ended) {
   Found picture = reader_.step(ended);
-  if (picture) cache_.add(picture);
+  if (picture && picture->time >= wholeFrom_) cache_.add(picture);
   return picture;
 }
 
 FrameSource::Found FrameSource::decodeOn(double target) {
+  leaveOut(target);
   bool ended = false;
   Found picture;
-  while (!ended) {
+  while (!ended && !(picture && target < picture->end)) {
     if (Found next = step(ended)) picture = std::move(next);
-    if (picture && target < picture->end) return picture;
   }
-  return reader_.input().cancelled() ? nullptr : picture;
+  const bool doubtful = picture && picture->time < wholeFrom_;
+  wholeFrom_ = -kInfinite;
+  reader_.leaveOutBefore(-kInfinite);
+  if (reader_.input().cancelled()) return nullptr;
+  if (!doubtful) return picture;
+  mayLeaveOut_ = false;  // a picture is shown for long, or the movie ends before its length
+  return seekTo(target, 0);
 }
 
-FrameSource::Found FrameSource::seekTo(double target) {
+// The picture that is sought, and those that it may be stepped back to, come whole.
+void FrameSource::leaveOut(double target) {
+  const double end = duration_ >= 0 ? std::min(target, duration_) : target;
+  const double from = end - whole_;
+  if (!mayLeaveOut_ || !(reader_.time().value_or(kInfinite) < from)) return;
+  wholeFrom_ = from;
+  reader_.leaveOutBefore(from);
+}
+
+FrameSource::Found FrameSource::seekTo(double target, double lead) {
   const double claimed = reader_.input().claimedLength();
   const bool behindEnd = claimed <= 0 || target > claimed - kClaimSlack || index_.known();
   const double sought = behindEnd ? std::min(target, duration()) : target;
-  double back = 0;
+  double back = lead;
   while (!reader_.input().cancelled()) {
     const double from = sought - back;
     if (from <= 0) break;
@@ -149,8 +166,8 @@ FrameSource::Found FrameSource::seekTo(double target) {
 }
 
 // A key that does not come, as in a damaged file, leaves those before it.
-FrameSource::Found FrameSource::seekByKeys(double target) {
-  const KeyPlace* key = index_.keyBefore(target + index_.first);
+FrameSource::Found FrameSource::seekByKeys(double target, double lead) {
+  const KeyPlace* key = index_.keyBefore(target - lead + index_.first);
   while (key != nullptr && !reader_.input().cancelled()) {
     if (reader_.isFirst(*key)) break;
     if (reader_.startAt(*key, index_.first) && *reader_.time() <= target) return decodeOn(target);
@@ -175,7 +192,7 @@ double FrameSource::measure() {
   const double last = tail.any ? static_cast<double>(tail.last) * reader_.tick() - first : 0;
   if (tail.any && !tail.missing) return last + frameTime_;
   duration_ = std::max(reader_.input().claimedLength() - 1, last);  // for the search
-  const Found picture = seekTo(kInfinite);
+  const Found picture = seekTo(kInfinite, 0);
   return picture ? picture->time + frameTime_ : 0;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <limits>
 #include <memory>
 #include <stop_token>
 #include <string>
@@ -65,12 +66,12 @@ class FrameSource {
 
   void setTimes();
   void setLine();
-  double medianDistance();
   Found find(double target);
   Found step(bool& ended);
   Found decodeOn(double target);
-  Found seekTo(double target);
-  Found seekByKeys(double target);
+  void leaveOut(double target);
+  Found seekTo(double target, double lead);
+  Found seekByKeys(double target, double lead);
   double measure();
 
   const std::chrono::milliseconds firstLook_;
@@ -79,7 +80,11 @@ class FrameSource {
   StampLine line_;
   PictureCache cache_;
   double frameTime_ = 0;
-  double duration_ = -1;  // not measured yet
+  double lastTarget_ = 0;
+  double whole_ = 0;          // seconds before a target in which none are left out
+  bool mayLeaveOut_ = false;  // pictures on the way to another
+  double wholeFrom_ = -std::numeric_limits<double>::infinity();  // before that some are
+  double duration_ = -1;                                         // not measured yet
 };
 
 }  // namespace velra

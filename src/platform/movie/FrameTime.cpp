@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/FrameTime.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <initializer_list>
+#include <vector>
+
+#include "platform/movie/PictureReader.h"
 
 namespace velra {
 
@@ -14,6 +19,8 @@ constexpr double kSameShare = 0.005;
 // Rates that films and television have, and those a thousandth slower.
 constexpr double kRates[] = {10, 12, 12.5, 15, 24, 25, 30, 48, 50, 60, 100, 120};
 constexpr double kSlower = 1.001;
+
+constexpr std::size_t kMeasuredPictures = 24;
 
 }  // namespace
 
@@ -28,6 +35,19 @@ double chooseFrameTime(double stated, double usual, double tick, std::int64_t pi
     }
   }
   return frame;
+}
+
+std::optional<double> medianDistance(PictureReader& reader) {
+  std::vector<double> distances;
+  bool ended = !reader.rewind();
+  while (!ended && distances.size() < kMeasuredPictures) {
+    const PictureReader::Found picture = reader.step(ended);
+    if (picture && !ended) distances.push_back(picture->end - picture->time);
+  }
+  if (distances.empty()) return std::nullopt;
+  const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
+  std::nth_element(distances.begin(), middle, distances.end());
+  return *middle;
 }
 
 }  // namespace velra

@@ -136,6 +136,12 @@ bool MovieInput::seek(std::int64_t ticks) {
   return sought(avformat_seek_file(file_->format(), index_, INT64_MIN, ticks, ticks, 0));
 }
 
+std::optional<std::int64_t> MovieInput::keyBefore(std::int64_t ticks) const {
+  const AVIndexEntry* key =
+      avformat_index_get_entry_from_timestamp(stream(), ticks, AVSEEK_FLAG_BACKWARD);
+  return key == nullptr ? std::nullopt : std::optional(key->timestamp);
+}
+
 bool MovieInput::seekByte(std::int64_t position) {
   if (!opening_) file_->allow(kReadLimit);
   return sought(av_seek_frame(file_->format(), -1, position, AVSEEK_FLAG_BYTE));

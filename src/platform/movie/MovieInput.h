@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 struct AVFormatContext;
@@ -85,6 +86,10 @@ class MovieInput {
   /// Goes to the last place from which the picture of a time (in ticks of the track) can be
   /// decoded, as far as the container knows. False when the container refuses.
   bool seek(std::int64_t ticks);
+
+  /// The stamp of the last key picture before a time, both in ticks of the track, as far as the
+  /// library's table of keys has come; nothing when it has none.
+  std::optional<std::int64_t> keyBefore(std::int64_t ticks) const;
 
   /// Goes to a place in the file. False when the container refuses.
   bool seekByte(std::int64_t position);

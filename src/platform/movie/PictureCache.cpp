@@ -45,4 +45,10 @@ void PictureCache::remove(std::map<double, Entry>::iterator entry) {
   entries_.erase(entry);
 }
 
+double PictureCache::room() const {
+  if (bytes_ == 0) return 0;
+  return static_cast<double>(byteLimit_) * static_cast<double>(entries_.size()) /
+         static_cast<double>(bytes_);
+}
+
 }  // namespace velra

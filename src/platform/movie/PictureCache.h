@@ -30,6 +30,9 @@ class PictureCache {
 
   std::size_t bytes() const { return bytes_; }
 
+  /// For how many pictures there is room, when all are like those here; 0 when there are none.
+  double room() const;
+
  private:
   struct Entry {
     std::shared_ptr<const MoviePicture> picture;

@@ -14,7 +14,7 @@ namespace velra {
 
 namespace {
 
-// A length of a picture outside these bounds is a container's lie: ticks of a clock, or nothing.
+// A length outside these bounds is a container's lie: ticks of a clock, or nothing.
 constexpr double kShortestFrame = 1.0 / 121;
 constexpr double kLongestFrame = 1.1;
 
@@ -85,8 +85,7 @@ double PictureReader::stampOf(const AVFrame& frame) const {
   return ticks == kNoTime ? PictureClock::kUnknown : static_cast<double>(ticks) * tick();
 }
 
-// Where several pictures share one packet of the container, the library counts on the times of the
-// others, and after a seek that count starts wrong.
+// Where pictures share a packet the library counts on times, and wrong after a seek.
 bool PictureReader::hasOwnStamp(const AVFrame& frame) const {
   return frame.pts != kNoTime && (input_->hasBareStamps() || frame.pkt_pos >= 0);
 }
@@ -130,8 +129,7 @@ bool PictureReader::decodesFirst() {
 bool PictureReader::startBehind(double seconds) {
   current_.reset();
   ++starts_;
-  const double sought = seconds + line_.offsetAt(seconds);
-  if (!input_->seek(static_cast<std::int64_t>(std::floor(sought / tick())))) return false;
+  if (!input_->seek(ticksAt(seconds))) return false;
   decoder_->flush();
   bool whole = false;
   while (AvFrame frame = decoder_->next(*input_)) {
@@ -162,6 +160,19 @@ bool PictureReader::startAt(const KeyPlace& key, double shift) {
   const double time = take(*frame);
   current_ = std::make_unique<Current>(Current{std::move(frame), time});
   return true;
+}
+
+std::int64_t PictureReader::ticksAt(double seconds) const {
+  return std::llround(std::floor((seconds + line_.offsetAt(seconds)) / tick()));
+}
+
+void PictureReader::leaveOutBefore(double seconds) {
+  decoder_->leaveOutBefore(std::isfinite(seconds) ? ticksAt(seconds) : kNoTime);
+}
+
+bool PictureReader::leadsTo(double seconds) const {
+  if (!current_ || !std::isfinite(seconds)) return false;
+  return input_->keyBefore(ticksAt(seconds)).value_or(INT64_MAX) <= ticksAt(current_->time);
 }
 
 PictureReader::Found PictureReader::complete(double end) {

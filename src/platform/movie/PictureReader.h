@@ -72,6 +72,14 @@ class PictureReader {
   /// does not come.
   bool startAt(const KeyPlace& key, double shift);
 
+  /// Pictures before a time may be left out when no other leans on them, so that those that come
+  /// may seem longer than they are. Only where each picture has a stamp of its own.
+  void leaveOutBefore(double seconds);
+
+  /// True when no key is known between the picture that came out last and a time, so that the way
+  /// on is no longer than the one from a key.
+  bool leadsTo(double seconds) const;
+
   /// Brings one more picture out of the decoder and gives the one before it, whose end is known by
   /// that; null when there was none. `ended` tells that none came.
   Found step(bool& ended);
@@ -87,6 +95,7 @@ class PictureReader {
   double stampOf(const AVFrame& frame) const;
   bool hasOwnStamp(const AVFrame& frame) const;
   double take(const AVFrame& frame);
+  std::int64_t ticksAt(double seconds) const;
   Found complete(double end);
 
   std::unique_ptr<MovieInput> input_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/movie/TrackDecoder.h"
 
+#include <algorithm>
+
 #include "platform/movie/MovieFile.h"
 #include "platform/movie/MovieInput.h"
 
@@ -16,6 +18,10 @@ constexpr std::chrono::milliseconds kFirstLimit{80};
 constexpr int kVainPackets = 100;
 constexpr int kVainKeys = 3;
 
+// Each one works at a picture of its own, which takes its memory and is waited for after a seek.
+constexpr int kFewestThreads = 2;
+constexpr int kMostThreads = 8;
+
 }  // namespace
 
 std::string TrackDecoder::open(const AVStream& stream) {
@@ -25,7 +31,7 @@ std::string TrackDecoder::open(const AVStream& stream) {
   packet_.reset(av_packet_alloc());
   avcodec_parameters_to_context(codec_.get(), stream.codecpar);
   codec_->pkt_timebase = stream.time_base;
-  codec_->thread_count = 2;
+  codec_->thread_count = std::clamp(av_cpu_count(), kFewestThreads, kMostThreads);
   codec_->max_pixels = MovieFile::kMostPixels;
   draining_ = false;
   if (avcodec_open2(codec_.get(), decoder, nullptr) < 0) return "The decoder refuses it.";
@@ -85,6 +91,8 @@ void TrackDecoder::feed(MovieInput& input) {
       ++vain_->packets;
       if ((packet_->flags & AV_PKT_FLAG_KEY) != 0) ++vain_->keys;
     }
+    const bool mayGo = packet_->pts != kNoTime && packet_->pts < wholeFrom_;
+    codec_->skip_frame = mayGo ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
     avcodec_send_packet(codec_.get(), packet_.get());
     av_packet_unref(packet_.get());
     return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,6 +23,9 @@ class TrackDecoder {
   /// Pictures of two fields a second, as the stream itself states it; 0 when it does not, or before
   /// the first picture.
   AVRational rate() const;
+
+  /// Pictures with stamps before this one, in ticks, are left out when no other leans on them.
+  void leaveOutBefore(std::int64_t ticks) { wholeFrom_ = ticks; }
 
   /// To be called after each seek of the input.
   void flush();
@@ -48,6 +52,7 @@ class TrackDecoder {
   AvCodec codec_;
   AvPacket packet_;
   bool draining_ = false;
+  std::int64_t wholeFrom_ = kNoTime;
   std::optional<Vain> vain_;
 };
 
