@@ -10,13 +10,14 @@ namespace velra::bench {
 
 namespace {
 
-bool make(const std::string& path, const std::string& codec) {
+bool make(const std::string& path, const std::string& codec, const char* size = "1280x720") {
   if (std::filesystem::exists(path)) return true;
   const std::string part = path + ".part";
-  const std::string command =
-      "ffmpeg -v fatal -y -f lavfi -t 40 -i testsrc2=s=1280x720:r=25,noise=alls=6:allf=t"
-      " -f lavfi -t 40 -i sine=440:r=44100 " +
-      codec + " '" + part + "'";
+  const std::string command = std::string("ffmpeg -v fatal -y -f lavfi -t 40 -i testsrc2=s=") +
+                              size +
+                              ":r=25,noise=alls=6:allf=t"
+                              " -f lavfi -t 40 -i sine=440:r=44100 " +
+                              codec + " '" + part + "'";
   if (std::system(command.c_str()) != 0) return false;
   std::filesystem::rename(part, path);
   return true;
@@ -35,12 +36,17 @@ void makeNoise(const std::string& path) {
 BenchMovies makeBenchMovies(const std::string& folder) {
   std::filesystem::create_directories(folder);
   BenchMovies movies{folder + "/groups15.mpg", folder + "/keys250.avi", folder + "/h264.mp4",
-                     folder + "/noise.avi"};
+                     folder + "/noise.avi",    folder + "/mpeg2.mpg",   folder + "/mpeg4.avi",
+                     folder + "/h264-1080.mp4"};
   makeNoise(movies.noise);
   movies.made =
       make(movies.groups15, "-c:v mpeg1video -b:v 6M -g 15 -bf 2 -c:a mp2 -f mpeg") &&
       make(movies.keys250, "-c:v mpeg4 -b:v 4M -g 250 -c:a mp2 -f avi") &&
-      make(movies.h264, "-c:v libx264 -preset veryfast -b:v 3M -g 250 -bf 2 -c:a aac -f mp4");
+      make(movies.h264, "-c:v libx264 -preset veryfast -b:v 3M -g 250 -bf 2 -c:a aac -f mp4") &&
+      make(movies.mpeg2, "-c:v mpeg2video -b:v 6M -g 15 -bf 2 -c:a mp2 -f vob") &&
+      make(movies.mpeg4, "-c:v mpeg4 -b:v 4M -g 15 -bf 2 -c:a mp2 -f avi") &&
+      make(movies.h264Large, "-c:v libx264 -preset veryfast -b:v 6M -g 250 -bf 2 -c:a aac -f mp4",
+           "1920x1080");
   return movies;
 }
 

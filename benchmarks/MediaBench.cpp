@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "BenchMovies.h"
+#include "OtherPlayer.h"
 #include "platform/movie/FrameGrabber.h"
 #include "platform/movie/FrameSource.h"
 #include "platform/movie/MediaGraph.h"
@@ -83,6 +84,28 @@ Measure steps(const std::string& name, const std::string& path, double step) {
     times.take([&] { converter.convert(*source.at(t)->frame); });
   }
   return {(step > 0 ? "step +1, " : "step -1, ") + name + ", p95", times.p95(), "ms", 25};
+}
+
+// Both go to the same times and convert or paint nothing. Nothing without the other.
+void addBeside(std::vector<Measure>& measures, const std::string& name, const std::string& path,
+               const std::string& folder) {
+  RandomTimes random;
+  std::vector<double> targets(kSeeks);
+  for (double& t : targets) t = random.next();
+  const auto other = measureMpv(path, targets, folder);
+  if (!other) return;
+  FrameSource source;
+  source.open(path);
+  Times seeks;
+  for (const double t : targets) seeks.take([&] { source.at(t); });
+  Times steps;
+  for (int i = 0; i < kSteps; ++i) {
+    const double t = kBenchSeconds / 2 - i * kBenchFrame;
+    steps.take([&] { source.at(t); });
+  }
+  measures.push_back({"exact seek, " + name + ", p95 / mpv's", seeks.p95() / other->seek, "", 1});
+  const double step = steps.p95() / other->stepBack;
+  measures.push_back({"step -1, " + name + ", p95 / mpv's", step, "", 0.2});
 }
 
 Measure opens(const std::string& name, const std::string& path) {
@@ -180,6 +203,10 @@ std::vector<Measure> measureMedia(const std::string& folder) {
   measures.push_back(stills("key every 15", movies.groups15, folder));
   measures.push_back(stills("h264", movies.h264, folder));
   addPlayStarts(measures, movies.groups15);
+  addBeside(measures, "MPEG-2, key every 15", movies.mpeg2, folder);
+  addBeside(measures, "MPEG-4, key every 15", movies.mpeg4, folder);
+  addBeside(measures, "h264", movies.h264, folder);
+  addBeside(measures, "h264, 1920 x 1080", movies.h264Large, folder);
   addPlay(measures, "key every 15", movies.groups15);
   addPlay(measures, "h264", movies.h264);
   return measures;

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "OtherPlayer.h"
+
+#include <cstdlib>
+#include <fstream>
+
+namespace velra::bench {
+
+namespace {
+
+constexpr int kStepsBack = 40;
+
+// Each act begins a moment after the one before has ended, as a person's would.
+constexpr char kScript[] = R"(
+local spent, begun = {}, nil
+local function p95()
+  table.sort(spent)
+  local value = spent[math.max(1, math.ceil(#spent * 0.95))]
+  spent = {}
+  return value * 1000
+end
+local function act(...)
+  begun = mp.get_time()
+  mp.commandv(...)
+end
+local acts = 0
+local function next()
+  acts = acts + 1
+  if acts == #times + 1 then seek = p95() end
+  if acts <= #times then
+    act("seek", times[acts], "absolute+exact")
+  elseif acts <= #times + steps then
+    act("frame-back-step")
+  else
+    local file = io.open(target, "w")
+    file:write(seek, " ", p95(), "\n")
+    file:close()
+    mp.command("quit")
+  end
+end
+mp.register_event("playback-restart", function()
+  if begun then table.insert(spent, mp.get_time() - begun) end
+  begun = nil
+  mp.add_timeout(0.02, next)
+end)
+)";
+
+}  // namespace
+
+std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
+                                      const std::string& folder) {
+  const std::string script = folder + "/mpv.lua";
+  const std::string target = folder + "/mpv.txt";
+  std::ofstream lua(script);
+  lua << "times, steps, target = {";
+  for (const double t : times) lua << t << ",";
+  lua << "}, " << kStepsBack << ", '" << target << "'\n" << kScript;
+  lua.close();
+  std::ofstream(target).close();
+  const std::string command =
+      "timeout 120 mpv --no-config --really-quiet --vo=null --ao=null --hwdec=no --pause"
+      " --script='" +
+      script + "' '" + movie + "' > /dev/null 2>&1";
+  if (std::system(command.c_str()) != 0) return std::nullopt;
+  OtherPlayer found;
+  std::ifstream answer(target);
+  if (!(answer >> found.seek >> found.stepBack)) return std::nullopt;
+  return found;
+}
+
+}  // namespace velra::bench

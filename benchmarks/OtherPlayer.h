@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velra::bench {
+
+/// What mpv takes in a movie, in milliseconds, 95th percentiles.
+struct OtherPlayer {
+  double seek = 0;
+  double stepBack = 0;
+};
+
+/// Has mpv go to the times of a movie, and then step back; it decodes in software and paints
+/// nothing. Nothing when it is not installed.
+std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
+                                      const std::string& folder);
+
+}  // namespace velra::bench
