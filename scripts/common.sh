@@ -54,8 +54,10 @@ build_preset() {
   )
 }
 
-# The time that everything made bears: of the last commit, unless the caller names another.
-source_date() {
+# What a package has from its surroundings: the time that all files bear, which is that of the last
+# commit unless the caller names another, and the modes of what CPack puts together.
+package_surroundings() {
+  umask 022
   [ -n "${SOURCE_DATE_EPOCH:-}" ] || SOURCE_DATE_EPOCH=$(git -C "$root" log -1 --format=%ct)
   export SOURCE_DATE_EPOCH
 }
