@@ -10,7 +10,9 @@ namespace velra {
 namespace {
 
 const MessageRow* findMessage(int id) {
-  const auto rows = id < 1100 ? messagesFrom1000() : messagesFrom1100();
+  const auto rows = id < 1100   ? messagesFrom1000()
+                    : id < 1178 ? messagesFrom1100()
+                                : messagesFrom1178();
   const int position = id - rows.front().id;
   if (position < 0 || position >= static_cast<int>(rows.size())) return nullptr;
   return &rows[static_cast<std::size_t>(position)];

@@ -13,8 +13,9 @@ struct MessageRow {
   const char* italian;  // null: the default text stands in
 };
 
-/// The rows in the order of their ids, without a gap: 1000 to 1099, and 1100 to 1177.
+/// The rows in the order of their ids, without a gap: 1000 to 1099, 1100 to 1177, and from 1178 on.
 std::span<const MessageRow> messagesFrom1000();
 std::span<const MessageRow> messagesFrom1100();
+std::span<const MessageRow> messagesFrom1178();
 
 }  // namespace velra

@@ -9,7 +9,6 @@
 #include "base/Text.h"
 #include "rescue/InterruptedSave.h"
 #include "rescue/KeptWorkList.h"
-#include "rescue/ProcessIdentity.h"
 #include "rescue/Recovery.h"
 #include "rescue/RescueStore.h"
 
@@ -29,13 +28,15 @@ The document itself is only read, but for a save that was cut off: that one is f
 constexpr int kUsageError = 2;
 
 const char* endOf(const KeptWork& work) {
-  switch (work.end) {
-    case SessionEnd::Left:
+  switch (fateOf(work)) {
+    case Fate::Left:
       return "left without a save";
-    case SessionEnd::Error:
+    case Fate::Error:
       return "ended by an error";
+    case Fate::StillOpen:
+      return "still open";
     default:
-      return mayBeRunning(work.process) ? "still running" : "killed";
+      return "killed";
   }
 }
 
@@ -67,8 +68,11 @@ int recover(RescueStore& store, const std::string& document, const std::string& 
   if (!finished.empty()) say(finished);
   const auto works = keptWork(store, document);
   if (works.empty()) return fail("Nothing is kept of " + document + ".");
-  const Recovered result =
-      recoverDocument(document, keptObjects(store, works.front().session), newPath);
+  const auto kept = keptObjects(store, works.front().session);
+  for (const std::string& path : changedSince(kept)) {
+    say(path + " has been changed by another program since; the kept state was taken.");
+  }
+  const Recovered result = recoverDocument(document, kept, newPath);
   for (const std::string& note : result.notes) say(note);
   if (!result.failure.empty()) return fail(result.failure);
   say(std::to_string(result.files) + " files written: " + newPath);
@@ -76,7 +80,7 @@ int recover(RescueStore& store, const std::string& document, const std::string& 
 }
 
 int drop(RescueStore& store, const std::string& document) {
-  for (const KeptWork& work : keptWork(store, document)) store.drop(work.session);
+  for (const KeptWork& work : keptWork(store, document)) dropKeptWork(store, work);
   return 0;
 }
 

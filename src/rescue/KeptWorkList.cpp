@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <ctime>
+#include <utility>
 
+#include "base/Paths.h"
 #include "rescue/ProcessIdentity.h"
 #include "rescue/RescueStore.h"
 
@@ -12,8 +14,12 @@ namespace velra {
 
 namespace {
 
-std::vector<KeptWork> works(Database& database, const std::string& condition,
-                            const std::string& document) {
+constexpr const char* kHasObjects = "EXISTS(SELECT 1 FROM object WHERE session = id)";
+constexpr const char* kHasReplaced = "EXISTS(SELECT 1 FROM replaced WHERE session = id)";
+
+// Without titles.
+std::vector<KeptWork> sessions(Database& database, const std::string& condition,
+                               const std::string& document) {
   std::vector<KeptWork> found;
   Statement rows = database.prepare(
       "SELECT id, document, process, changed, ended FROM session"
@@ -21,13 +27,20 @@ std::vector<KeptWork> works(Database& database, const std::string& condition,
       condition + ") ORDER BY changed DESC, id DESC");
   rows.text(1, document);
   while (rows.next()) {
-    found.push_back({rows.number(0),
-                     rows.text(1),
-                     rows.text(2),
-                     rows.number(3),
-                     static_cast<SessionEnd>(rows.number(4)),
-                     {}});
+    KeptWork work;
+    work.session = rows.number(0);
+    work.document = rows.text(1);
+    work.process = rows.text(2);
+    work.changed = rows.number(3);
+    work.end = static_cast<SessionEnd>(rows.number(4));
+    found.push_back(std::move(work));
   }
+  return found;
+}
+
+std::vector<KeptWork> works(Database& database, const std::string& condition,
+                            const std::string& document) {
+  std::vector<KeptWork> found = sessions(database, condition, document);
   Statement titles = database.prepare("SELECT title FROM object WHERE session = ?1 ORDER BY rowid");
   for (KeptWork& work : found) {
     titles.number(1, work.session);
@@ -36,10 +49,54 @@ std::vector<KeptWork> works(Database& database, const std::string& condition,
   return found;
 }
 
+bool mayGoOn(const KeptWork& work) {
+  return work.end == SessionEnd::Running && mayBeRunning(work.process);
+}
+
+bool isOpenHere(const KeptWork& work) {
+  return work.end == SessionEnd::Running && work.process == processIdentity();
+}
+
+std::vector<KeptWork> replacedWork(RescueStore& store) {
+  std::vector<KeptWork> found = sessions(store.database(), kHasReplaced, "");
+  for (KeptWork& work : found) {
+    work.replaced = true;
+    for (const PlannedFile& file : store.replaced(work.session)) {
+      work.titles.push_back(strFileName(file.path));
+    }
+  }
+  return found;
+}
+
 }  // namespace
 
 std::vector<KeptWork> keptWork(RescueStore& store, const std::string& document) {
-  return works(store.database(), "EXISTS(SELECT 1 FROM object WHERE session = id)", document);
+  return works(store.database(), kHasObjects, document);
+}
+
+std::vector<KeptWork> restorableWork(RescueStore& store, const std::string& first) {
+  std::vector<KeptWork> found = keptWork(store, "");
+  std::erase_if(found, isOpenHere);
+  for (KeptWork& work : replacedWork(store)) found.push_back(std::move(work));
+  std::stable_sort(found.begin(), found.end(), [&](const KeptWork& a, const KeptWork& b) {
+    const bool aFirst = a.document == first;
+    const bool bFirst = b.document == first;
+    return aFirst != bFirst ? aFirst : a.changed > b.changed;
+  });
+  return found;
+}
+
+bool hasRestorableWork(RescueStore& store) {
+  if (!sessions(store.database(), kHasReplaced, "").empty()) return true;
+  const auto kept = sessions(store.database(), kHasObjects, "");
+  return !std::all_of(kept.begin(), kept.end(), isOpenHere);
+}
+
+Fate fateOf(const KeptWork& work) {
+  if (work.replaced) return Fate::Replaced;
+  if (work.end == SessionEnd::Left) return Fate::Left;
+  if (work.end == SessionEnd::Error) return Fate::Error;
+  return mayBeRunning(work.process) ? Fate::StillOpen : Fate::CutOff;
 }
 
 std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& document) {
@@ -57,17 +114,13 @@ std::string strWhen(std::int64_t secondsSince1970) {
   return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &local)};
 }
 
-std::string strTellOfOthers(RescueStore& store, const std::string& document) {
-  const auto sessions = works(store.database(), "1", document);
-  if (std::any_of(sessions.begin(), sessions.end(), [](const KeptWork& work) {
-        return work.end == SessionEnd::Running && mayBeRunning(work.process);
-      })) {
-    return "This document is open in another window of the program.";
-  }
-  const auto kept = keptWork(store, document);
-  return kept.empty() ? std::string()
-                      : "Unsaved work of " + strWhen(kept.front().changed) +
-                            " is kept; velra-recover brings it back.";
+OthersAtWork othersAtWork(RescueStore& store, const std::string& document) {
+  const auto all = sessions(store.database(), "1", document);
+  OthersAtWork others;
+  others.open = std::any_of(all.begin(), all.end(), mayGoOn);
+  const auto kept = sessions(store.database(), kHasObjects, document);
+  if (!kept.empty()) others.kept = kept.front().changed;
+  return others;
 }
 
 std::vector<KeptObject> keptObjects(RescueStore& store, SessionId session) {
@@ -81,6 +134,29 @@ std::vector<KeptObject> keptObjects(RescueStore& store, SessionId session) {
                      stampFrom(rows, 5)});
   }
   return found;
+}
+
+std::vector<KeptObject> keptObjects(RescueStore& store, const KeptWork& work) {
+  if (!work.replaced) return keptObjects(store, work.session);
+  std::vector<KeptObject> found;
+  for (PlannedFile& file : store.replaced(work.session)) {
+    KeptObject object;
+    object.path = std::move(file.path);
+    object.bytes = std::move(file.bytes);
+    found.push_back(std::move(object));
+  }
+  return found;
+}
+
+void dropKeptWork(RescueStore& store, const KeptWork& work) {
+  Transaction transaction(store.database());
+  store.database()
+      .prepare(work.replaced ? "DELETE FROM replaced WHERE session = ?1"
+                             : "DELETE FROM object WHERE session = ?1")
+      .number(1, work.session)
+      .run();
+  if (!mayGoOn(work)) store.deleteIfEmpty(work.session);
+  transaction.commit();
 }
 
 void pruneKeptWork(RescueStore& store, std::int64_t oldest, std::int64_t bytes) {

@@ -19,15 +19,33 @@ std::vector<KeptWork> keptWork(RescueStore& store, const std::string& document);
 /// Sessions of a document whose save was not finished, or whose removed files are still there.
 std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& document);
 
-/// What whoever opens a document should know: that a program that runs has it open, or that unsaved
-/// work is kept. "" for nothing.
-std::string strTellOfOthers(RescueStore& store, const std::string& document);
+/// What a person may bring back: unsaved work, but that of the document that this process has open,
+/// and files that a save has replaced, with their names as titles. What is of the document `first`
+/// comes first, then the latest.
+std::vector<KeptWork> restorableWork(RescueStore& store, const std::string& first);
+bool hasRestorableWork(RescueStore& store);
+
+/// How work came to be kept, as people are told.
+enum class Fate { Left, Error, CutOff, StillOpen, Replaced };
+Fate fateOf(const KeptWork& work);
+
+/// What whoever opens a document should know.
+struct OthersAtWork {
+  bool open = false;      // a program that runs has it open
+  std::int64_t kept = 0;  // when unsaved work was changed last; 0 for none
+};
+OthersAtWork othersAtWork(RescueStore& store, const std::string& document);
 
 /// The time of a change as people read it, in local time: "2026-11-25 18:30".
 std::string strWhen(std::int64_t secondsSince1970);
 
 /// What is kept of one session, in the order of keeping.
 std::vector<KeptObject> keptObjects(RescueStore& store, SessionId session);
+/// The same of what `restorableWork` lists.
+std::vector<KeptObject> keptObjects(RescueStore& store, const KeptWork& work);
+
+/// Drops that and no more: a save that was cut off is still finished at the next opening.
+void dropKeptWork(RescueStore& store, const KeptWork& work);
 
 /// Drops what was last changed before `oldest`, in seconds since 1970, and the oldest beyond so
 /// many bytes. Sessions whose process may be running stay, and count for nothing.

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "platform/files/Files.h"
 #include "platform/xml/XmlTexts.h"
+#include "rescue/ReferenceElements.h"
 #include "rescue/RescueStore.h"
 
 namespace velra {
@@ -47,6 +48,7 @@ class DocumentCopy {
   void read(const std::string& path);
   void choosePlaces();
   std::string freePlaceFor(const std::string& path) const;
+  std::string textAtNewPlace(std::string_view element, const std::string& text) const;
   std::string bytesAtNewPlace(const std::string& path, const std::string& bytes);
   std::string writeFile(const std::string& place, const std::string& bytes);
 
@@ -77,10 +79,6 @@ void DocumentCopy::readFiles() {
 
 void DocumentCopy::layOver(const std::vector<KeptObject>& kept) {
   for (const KeptObject& object : kept) {
-    if (object.stamp.exists && keptStamp(object.path) != object.stamp) {
-      notes_.push_back(object.path +
-                       " has been changed by another program since; the kept state was taken.");
-    }
     if (object.removed) {
       files_.erase(object.path);
     } else {
@@ -108,13 +106,21 @@ void DocumentCopy::choosePlaces() {
   }
 }
 
+// What is relative and does not come along has to be found from another folder, too.
+std::string DocumentCopy::textAtNewPlace(std::string_view element, const std::string& text) const {
+  const bool refers = holdsIdentifier(element);
+  if (text.empty() || (!refers && !holdsMoviePath(element))) return text;
+  const std::string path = strAbsolutePath(text, from_.folder);
+  const auto place = places_.find(path);
+  if (refers && place != places_.end()) return place->second;
+  return text.starts_with('/') || to_.folder == from_.folder ? text : path;
+}
+
 std::string DocumentCopy::bytesAtNewPlace(const std::string& path, const std::string& bytes) {
   if (asciiLower(strExtension(path)) != "xml") return bytes;
   const RewrittenXml rewritten =
-      withTextsReplaced(bytes, path, [this](const std::string& text) -> std::string {
-        if (text.empty() || text.find('\n') != std::string::npos) return text;
-        const auto place = places_.find(strAbsolutePath(text, from_.folder));
-        return place == places_.end() ? text : place->second;
+      withTextsReplaced(bytes, path, [this](std::string_view element, const std::string& text) {
+        return textAtNewPlace(element, text);
       });
   if (rewritten.reason.empty()) return rewritten.bytes;
   notes_.push_back(path + " was taken as it stands: " + rewritten.reason);
@@ -150,6 +156,16 @@ std::string DocumentCopy::write() {
 }
 
 }  // namespace
+
+std::vector<std::string> changedSince(const std::vector<KeptObject>& kept) {
+  std::vector<std::string> changed;
+  for (const KeptObject& object : kept) {
+    if (object.stamp.exists && keptStamp(object.path) != object.stamp) {
+      changed.push_back(object.path);
+    }
+  }
+  return changed;
+}
 
 Recovered recoverDocument(const std::string& document, const std::vector<KeptObject>& kept,
                           const std::string& newPath) {

@@ -15,9 +15,14 @@ struct Recovered {
   std::size_t files = 0;
 };
 
+/// Files of kept objects that are not what they were when the objects were read, in order: what the
+/// disk holds of these and what is kept are two states, of which a document can have one.
+std::vector<std::string> changedSince(const std::vector<KeptObject>& kept);
+
 /// Makes a complete document at a new path, which no file has yet: the files of a document with
 /// what is kept laid over them, new objects and pictures included, removed ones left out, and each
-/// reference between them following to the new place. The document itself is only read.
+/// reference between them following to the new place; movies stay where they are. The document
+/// itself is only read.
 Recovered recoverDocument(const std::string& document, const std::vector<KeptObject>& kept,
                           const std::string& newPath);
 

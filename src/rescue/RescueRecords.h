@@ -37,6 +37,7 @@ struct KeptWork {
   std::int64_t changed = 0;  // when the last change was kept, seconds since 1970
   SessionEnd end = SessionEnd::Running;
   std::vector<std::string> titles;  // of the objects that are kept, removed ones included
+  bool replaced = false;  // what is kept are other programs' files that this session wrote over
 };
 
 /// A file that a save brings to new bytes.

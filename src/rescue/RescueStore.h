@@ -54,11 +54,12 @@ class RescueStore {
   std::vector<PlannedFile> replaced(SessionId session);
 
   void drop(SessionId session);
+  /// A session of which nothing is kept goes; to be called for one that has ended.
+  void deleteIfEmpty(SessionId session);
   Database& database() { return database_; }
 
  private:
   void makeTables();
-  void deleteIfEmpty(SessionId session);
   void dropPlan(SessionId session);
 
   Database database_;

@@ -22,7 +22,7 @@ std::string keepAtUntrappedError(ApplicationModule& app) {
     }
     io->rescue()->endedByError();
     const bool kept = app.rescue->finish(kPatience) && app.rescue->failure().empty();
-    return kept ? "The unsaved work is kept; velra-recover brings it back." : "";
+    return kept ? app.LoadResString(Message::UnsavedWorkIsKept) + "." : "";
   } catch (const std::exception&) {
     return {};  // the document may be in any state; what was kept before is there all the same
   }

@@ -32,14 +32,20 @@ IOManager::~IOManager() {
 std::string IOManager::strFinishCutOffSaves(const std::string& strAVDocPathName) {
   if (!app_.rescue || !bFileSystem_) return {};
   std::string told;
+  OthersAtWork others;
   const std::string document = strAbsolutePath(strAVDocPathName);
   const std::string failure = app_.rescue->run([&](RescueStore& store) {
     told = finishInterruptedSaves(store, document);
-    const std::string others = strTellOfOthers(store, document);
-    told += (told.empty() || others.empty() ? "" : " ") + others;
+    others = othersAtWork(store, document);
   });
   if (!failure.empty()) return "Unsaved work cannot be kept for the event of a crash: " + failure;
-  return told;
+  std::string sentence;
+  if (others.open) {
+    sentence = app_.LoadResString(Message::DocumentOpenElsewhere);
+  } else if (others.kept != 0) {
+    sentence = app_.LoadResString(Message::UnsavedWorkIsKept) + " (" + strWhen(others.kept) + ").";
+  }
+  return told + (told.empty() || sentence.empty() ? "" : " ") + sentence;
 }
 
 void IOManager::keepInStore(const std::string& strGUID) {

@@ -19,14 +19,14 @@ const MessageCatalogue kItalian(InterfaceLanguage::Italian);
 
 TEST(MessageCatalogue, HoldsEveryIdOnceAndInOrder) {
   int next = 1000;
-  for (const auto rows : {messagesFrom1000(), messagesFrom1100()}) {
+  for (const auto rows : {messagesFrom1000(), messagesFrom1100(), messagesFrom1178()}) {
     for (const MessageRow& row : rows) EXPECT_EQ(row.id, next++);
   }
-  EXPECT_EQ(next, 1178);
+  EXPECT_EQ(next, 1210);
   EXPECT_EQ(kDefault.text(1177), "Keyframe updated.");
   EXPECT_EQ(kItalian.text(1177), "Fotogramma chiave aggiornato.");
   EXPECT_EQ(kItalian.text(1044), "Paste") << "what is not translated";
-  for (const int id : {0, -1, 20, 21, 999, 1178, 40'000}) {
+  for (const int id : {0, -1, 20, 21, 999, 1210, 40'000}) {
     EXPECT_FALSE(kDefault.holds(id)) << id;
     EXPECT_EQ(kDefault.text(id), "") << id;
   }
@@ -35,7 +35,7 @@ TEST(MessageCatalogue, HoldsEveryIdOnceAndInOrder) {
 /// Those who join texts depend on blanks and colons, windows on the marks of access keys.
 TEST(MessageCatalogue, TranslationsKeepTheShapeOfTheirText) {
   const std::set<int> untranslated = {1032, 1033, 1034, 1044, 1045, 1046, 1047, 1048, 1049, 1050};
-  for (const auto rows : {messagesFrom1000(), messagesFrom1100()}) {
+  for (const auto rows : {messagesFrom1000(), messagesFrom1100(), messagesFrom1178()}) {
     for (const MessageRow& row : rows) {
       ASSERT_EQ(row.italian == nullptr, untranslated.contains(row.id)) << row.id;
       const std::string text = row.text;
@@ -55,7 +55,8 @@ TEST(MessageCatalogue, TranslationsKeepTheShapeOfTheirText) {
 TEST(MessageCatalogue, ItalianAccessKeysDifferWithinAMenu) {
   const std::vector<std::vector<int>> menus = {
       {1000, 1009, 1017, 1028, 1030, 1036},
-      {1001, 1002, 1003, 1004, 1005, 1006, 1007, 1008, 1080, 1130, 1135},
+      {1001, 1002, 1003, 1004, 1005, 1006, 1007, 1008, 1080, 1130, 1135, 1178, 1179},
+      {1192, 1193, 1194, 1008},
       {1010, 1011, 1012, 1013, 1014, 1015, 1016, 1084, 1085, 1105, 1115},
       {1111, 1116, 1117},
       {1018, 1019, 1020, 1021, 1022, 1023, 1024, 1025, 1026, 1027},

@@ -27,27 +27,30 @@ TEST(Recovery, MakesACompleteDocumentAndOnlyReadsTheOldOne) {
   folder.write("film_files/notes.xml", "not the document's");
   const auto before = folder.snapshot();
 
-  const std::string link =
-      element("<Span start=\"0\">" + old + "mediaobject2.bmp</Span><N>" + old + "video3.xml</N>");
+  // A note that is a path stays as it is; what is relative is found from the new folder, too.
+  const auto linked = [&](const std::string& from, const std::string& movie) {
+    return element("<Keyframe start=\"0\">" + from + "mediaobject2.bmp</Keyframe><PartOfVideo>" +
+                   from + "video3.xml</PartOfVideo><Collocation>" + movie + "</Collocation><Note>" +
+                   old + "video3.xml</Note>");
+  };
+  const std::string link = linked(old, "a.avi");
   KeptObject changed{old + "video1.xml", "Video", "", link, false, fileStamp(document)};
-  const Recovered result =
-      recoverDocument(document,
-                      {changed,
-                       {old + "video3.xml", "Video", "", element("new"), false, {}},
-                       {old + "video2.xml", "Video", "", "", true, {}},
-                       {old + "mediaobject2.bmp", "MediaObject", "", "BM2", false, {}}},
-                      folder / "new/copy.xml");
+  const std::vector<KeptObject> kept = {
+      changed,
+      {old + "video3.xml", "Video", "", element("new"), false, {}},
+      {old + "video2.xml", "Video", "", "", true, {}},
+      {old + "mediaobject2.bmp", "MediaObject", "", "BM2", false, {}}};
+  EXPECT_EQ(changedSince(kept), std::vector<std::string>{changed.path});
+  const Recovered result = recoverDocument(document, kept, folder / "new/copy.xml");
 
   EXPECT_EQ(result.failure, "");
-  EXPECT_EQ(result.notes.size(), 2U) << "changed meanwhile, and no XML";
+  EXPECT_EQ(result.notes.size(), 1U) << "no XML";
   const std::string place = folder.path() + "/new/copy_files/copy_";
   auto after = folder.snapshot();
   EXPECT_EQ(after["new/copy.xml"],
             element("<GUID>" + place + "version1.xml</GUID><T>film_files &amp; more</T>"));
   EXPECT_EQ(after["new/copy_files/copy_version1.xml"], before.at("film_files/film_version1.xml"));
-  EXPECT_EQ(after["new/copy_files/copy_video1.xml"],
-            element("<Span start=\"0\">" + place + "mediaobject2.bmp</Span><N>" + place +
-                    "video3.xml</N>"));
+  EXPECT_EQ(after["new/copy_files/copy_video1.xml"], linked(place, folder.path() + "/a.avi"));
   EXPECT_EQ(after["new/copy_files/copy_mediaobject2.bmp"], "BM2");
   EXPECT_EQ(after["new/copy_files/copy_video9.xml"], "no XML");
   EXPECT_EQ(after.count("new/copy_files/copy_video2.xml"), 0U);

@@ -98,6 +98,31 @@ TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
   EXPECT_EQ(documents(), "db");
 }
 
+TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
+  EXPECT_FALSE(hasRestorableWork(store_));
+  const SessionId open = store_.begin("open", processIdentity());
+  store_.keep(open, {object("one")});
+  EXPECT_FALSE(hasRestorableWork(store_)) << "what this program works on";
+  store_.keepReplaced(open, "/films/film_video1.xml", kBytes);
+  EXPECT_TRUE(hasRestorableWork(store_));
+  const SessionId killed = store_.begin("killed", goneProcess());
+  store_.keep(killed, {object("two")});
+  store_.planSave(killed, {{{"two", kBytes, {}}}, {}});
+  store_.keep(store_.begin("elsewhere", "another-machine boot 1 1"), {object("three")});
+
+  std::string seen;
+  for (const KeptWork& work : restorableWork(store_, "open")) {
+    seen += work.document + " " + work.titles.front() + " " +
+            std::to_string(static_cast<int>(fateOf(work))) + "; ";
+    EXPECT_EQ(keptObjects(store_, work).front().bytes, kBytes);
+    dropKeptWork(store_, work);
+  }
+  EXPECT_EQ(seen, "open film_video1.xml 4; elsewhere Title of three 3; killed Title of two 2; ");
+  EXPECT_FALSE(hasRestorableWork(store_));
+  EXPECT_TRUE(store_.openPlan(killed)) << "a save that was cut off is no work to be dropped";
+  EXPECT_EQ(keptObjects(store_, open).size(), 1U);
+}
+
 TEST(RescueWriter, GoesOnWithoutAStoreAndPutsADamagedOneAside) {
   const TemporaryFolder folder;
   const std::string damaged = folder.write("state/rescue.sqlite", std::string(5000, 'x'));

@@ -8,18 +8,17 @@ namespace velra {
 
 namespace {
 
-using Replace = std::function<std::string(const std::string&)>;
-
-void replaceText(xmlNode& element, const Replace& replace) {
-  const std::string before = XmlNode(&element).text();
-  const std::string after = replace(before);
+void replaceText(xmlNode& element, const ReplaceText& replace) {
+  const XmlNode node(&element);
+  const std::string before = node.text();
+  const std::string after = replace(node.baseName(), before);
   if (after == before) return;
   xmlNodeSetContent(&element, nullptr);
   xmlNodeAddContent(&element, xml::bytesOf(after));  // plain text: it is escaped when written
 }
 
 // The parser refuses a depth that this could not go down to.
-void replaceTexts(xmlNode& element, const Replace& replace) {
+void replaceTexts(xmlNode& element, const ReplaceText& replace) {
   bool holdsElements = false;
   for (xmlNode* child = element.children; child; child = child->next) {
     if (child->type != XML_ELEMENT_NODE) continue;
@@ -32,7 +31,7 @@ void replaceTexts(xmlNode& element, const Replace& replace) {
 }  // namespace
 
 RewrittenXml withTextsReplaced(std::string_view bytes, const std::string& path,
-                               const Replace& replace) {
+                               const ReplaceText& replace) {
   RewrittenXml result;
   const xml::Document document = xml::parse(bytes, path, result.reason);
   if (!document) return result;

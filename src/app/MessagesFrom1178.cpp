@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/MessageTable.h"
+
+namespace velra {
+namespace {
+
+constexpr MessageRow kFrom1178[] = {
+    {1178, "Recover &Unsaved Work...", "Recupera lavoro non sal&vato..."},
+    {1179, "Make This Copy &Independent...", "Ren&di indipendente questa copia..."},
+    {1180, "Unsaved work is kept; \"Recover Unsaved Work...\" in the menu File brings it back",
+     "Il lavoro non salvato è conservato; lo riporta \"Recupera lavoro non salvato...\" nel menu "
+     "File"},
+    {1181, "This document is open in another window of the program.",
+     "Questo documento è aperto in un'altra finestra del programma."},
+    {1182, "Document", "Documento"},
+    {1183, "Last Change", "Ultima modifica"},
+    {1184, "Objects", "Oggetti"},
+    {1185, "Titles", "Titoli"},
+    {1186, "How It Ended", "Come è finito"},
+    {1187, "Left without saving", "Lasciato senza salvare"},
+    {1188, "Ended by an error", "Terminato da un errore"},
+    {1189, "Cut off", "Interrotto"},
+    {1190, "Still open", "Ancora aperto"},
+    {1191, "Replaced by your save", "Sostituito dal salvataggio"},
+    {1192, "&Recover...", "&Recupera..."},
+    {1193, "Save As &Files...", "Salva come &file..."},
+    {1194, "&Drop", "&Elimina"},
+    {1195, "Drop for good what is kept of ", "Eliminare per sempre ciò che è conservato di "},
+    {1196,
+     "Changed on the disk since this work was done:", "Modificati su disco dopo questo lavoro:"},
+    {1197,
+     "Shall the new document have the kept state of them? No takes them as they are on the disk.",
+     "Il nuovo documento deve averne lo stato conservato? Con No li prende come sono su disco."},
+    {1198, "Folder for the Files", "Cartella per i file"},
+    {1199, "The unsaved work is being brought back.", "Il lavoro non salvato viene recuperato."},
+    {1200, "Files written: ", "File scritti: "},
+    {1201, "There is a file of this name already; choose another one: ",
+     "Esiste già un file con questo nome; sceglierne un altro: "},
+    {1202, "This document is a copy: it works on the objects in ",
+     "Questo documento è una copia: lavora sugli oggetti in "},
+    {1203, "The objects of this document are looked for in ",
+     "Gli oggetti di questo documento vengono cercati in "},
+    {1204, ", and not on those in ", ", e non su quelli in "},
+    {1205, ", and lie in ", ", e si trovano in "},
+    {1206, ". \"Make This Copy Independent...\" in the menu File changes that.",
+     ". Lo cambia \"Rendi indipendente questa copia...\" nel menu File."},
+    {1207, "Not saved. ", "Non salvato. "},
+    {1208,
+     "From now on this document will use its own objects alone. What was changed and not saved is "
+     "not taken along. The objects are in ",
+     "D'ora in poi questo documento userà soltanto i propri oggetti. Ciò che è stato modificato e "
+     "non salvato non viene ripreso. Gli oggetti sono in "},
+    {1209, "The copy is being made independent.", "La copia viene resa indipendente."},
+};
+
+}  // namespace
+
+std::span<const MessageRow> messagesFrom1178() {
+  return kFrom1178;
+}
+
+}  // namespace velra
