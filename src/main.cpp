@@ -3,6 +3,7 @@
 
 #include <QLibraryInfo>
 #include <QTranslator>
+#include <chrono>
 #include <cstdio>
 
 #include "app/ApplicationModule.h"
@@ -37,6 +38,9 @@ constexpr int kKeptMemory = 256 * 1024 * 1024;
 // megabytes, and fresh pages for each cost as much as its colours.
 constexpr int kLargestKeptBlock = 32 * 1024 * 1024;
 
+// What is on its way to the store gets so much time when the display goes away.
+constexpr std::chrono::seconds kPatienceAtExit{2};
+
 // The buttons of boxes and file dialogs speak the language of the interface.
 void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
   if (language != InterfaceLanguage::Italian) return;
@@ -54,11 +58,12 @@ int run(GuardedApplication& application, InterfaceLanguage language,
   QtUserInterface ui;
   MachineSettings machineSettings(MachineSettings::defaultPath());
   UserSettings userSettings(UserSettings::defaultPath());
-  const SignalQuit quitBySignal;  // before the first thread
+  const SignalQuit quitBySignal;
   RescueWriter rescue(RescueStore::defaultPath());
   ApplicationModule app(ui, MessageCatalogue(language), machineSettings, userSettings);
   app.rescue = &rescue;
   application.setLastWish([&] { return keepAtUntrappedError(app); });
+  application.setExitWish([&] { rescue.finish(kPatienceAtExit); });
   QtFormPresenter presenter(app);
   QtVideoForms videoForms(app, [&](FormOwner& owner) { return presenter.windowOf(owner); });
   VideoFormServices forExpressions{app, makeMediaGraph, videoForms};
@@ -72,6 +77,7 @@ int run(GuardedApplication& application, InterfaceLanguage language,
   Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
   const int status = QCoreApplication::exec();
   application.setLastWish({});
+  application.setExitWish({});
   rules.releaseDocument();  // while the windows that it may report to are still there
   return status;
 }
@@ -86,6 +92,7 @@ int main(int argc, char** argv) {
   }
   mallopt(M_TRIM_THRESHOLD, kKeptMemory);
   mallopt(M_MMAP_THRESHOLD, kLargestKeptBlock);
+  SignalQuit::holdSignals();
   GuardedApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("velra"));
   QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));

@@ -11,6 +11,17 @@
 
 namespace velra {
 
+GuardedApplication::GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {
+  installEventFilter(&screenBound_);
+  std::atexit(exiting);
+}
+
+// A program that ends as it should has no application any more when this is called.
+void GuardedApplication::exiting() {
+  const auto* application = dynamic_cast<GuardedApplication*>(instance());
+  if (application && application->exitWish_) application->exitWish_();
+}
+
 void GuardedApplication::endAtOnce(const std::exception& failure) {
   const std::string text = failure.what();
   std::fprintf(stderr, "%s\n", text.c_str());

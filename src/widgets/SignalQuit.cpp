@@ -18,34 +18,41 @@ sigset_t endingSignals() {
   return set;
 }
 
+// As any program that knows nothing of them.
+void letSignalsEnd() {
+  const sigset_t set = endingSignals();
+  ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
 }  // namespace
 
-// Threads that run already would still take a signal, so this stands before their start; those that
-// start later inherit the mask.
+void SignalQuit::holdSignals() {
+  const sigset_t set = endingSignals();
+  ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+}
+
 SignalQuit::SignalQuit()
     : signals_([] {
         const sigset_t set = endingSignals();
         return ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
       }()) {
-  if (!signals_) return;
-  const sigset_t set = endingSignals();
-  ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+  if (!signals_) {
+    letSignalsEnd();
+    return;
+  }
+  holdSignals();
   notifier_.emplace(signals_.number(), QSocketNotifier::Read);
   // A second signal finds the usual end, in case the first one is not followed.
   QObject::connect(&*notifier_, &QSocketNotifier::activated, [this] {
     notifier_->setEnabled(false);
-    const sigset_t again = endingSignals();
     signalfd_siginfo first{};
-    if (::read(signals_.number(), &first, sizeof first) > 0) {
-      ::pthread_sigmask(SIG_UNBLOCK, &again, nullptr);
-    }
+    if (::read(signals_.number(), &first, sizeof first) > 0) letSignalsEnd();
     QCoreApplication::quit();
   });
 }
 
 SignalQuit::~SignalQuit() {
-  const sigset_t set = endingSignals();
-  ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+  letSignalsEnd();
 }
 
 }  // namespace velra

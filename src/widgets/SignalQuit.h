@@ -12,6 +12,10 @@ namespace velra {
 /// loop like the command to quit: what was not saved is kept, and nothing of a document is written.
 class SignalQuit {
  public:
+  /// Holds those signals back until one lives. To be called before the first thread of the program
+  /// starts, as the toolkit's do: a signal takes any thread that lets it through.
+  static void holdSignals();
+
   SignalQuit();
   SignalQuit(const SignalQuit&) = delete;
   SignalQuit& operator=(const SignalQuit&) = delete;
