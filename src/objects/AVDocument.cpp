@@ -16,6 +16,7 @@
 #include "protocol/MainWindow.h"
 #include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
+#include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
 
@@ -66,7 +67,7 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
                                 const std::shared_ptr<IOManager>& io) {
   app().gAVDoc = sharedOf(*this);
   const FolderScans::Opening opening(io->scans());
-  const std::string told = io->strFinishCutOffSaves(guid);
+  std::string told = io->strFinishCutOffSaves(guid);
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {
@@ -75,12 +76,29 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   }
   if (message.empty()) {
     io->joinStore(guid);
+    copied_ = copiedFolderOf(collObjects_, *this);
+    const std::string copy = strCopyTold();
+    told += (told.empty() || copy.empty() ? "" : " ") + copy;
     if (!told.empty() && app().gMainForm) app().gMainForm->setStrStatusBarText(told);
   }
   return message;
 }
 
+std::string AVDocument::strCopyTold() const {
+  if (copied_.other.empty()) return {};
+  const auto text = [this](Message message) { return app().LoadResString(message); };
+  const std::string own = dataFolderOf(strGUID());
+  return text(copied_.works ? Message::IsCopyWorkingIn : Message::ObjectsSoughtIn) + copied_.other +
+         text(copied_.works ? Message::AndNotIn : Message::AndLieIn) + own +
+         text(Message::IndependentChangesThat);
+}
+
 bool AVDocument::bSave() {
+  if (copied_.works) {
+    app().ui.messageBox(app().LoadResString(Message::NotSaved) + strCopyTold(),
+                        BoxKind::Exclamation);
+    return false;
+  }
   return DocumentSave(app(), *this).bSave();
 }
 

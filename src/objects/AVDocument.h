@@ -10,6 +10,7 @@
 #include "objects/UnsavedWork.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SharedParts.h"
+#include "store/CopiedFolder.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -35,7 +36,8 @@ class AVDocument : public LadderObject, public OpenDocument {
   std::string strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                       const std::shared_ptr<IOManager>& io) override;
 
-  /// Saves what has changed, the document last. False after a box that tells of the failure.
+  /// Saves what has changed, the document last. False after a box that tells of the failure: also
+  /// for a copy that works on the objects of the original, which are not its to write.
   bool bSave() override;
 
   /// Saves everything under a new path: every object gets a new identifier in the new data folder
@@ -60,6 +62,11 @@ class AVDocument : public LadderObject, public OpenDocument {
   /// Identifiers of the files of objects that were removed since the document was opened.
   const std::deque<std::string>& colObjRemoved() const { return colObjRemoved_; }
 
+  /// Where its objects lie when its own data folder has them too, and a sentence for the person
+  /// about that; "" for a document that is all its own.
+  const CopiedFolder& copiedFolder() const { return copied_; }
+  std::string strCopyTold() const;
+
   /// Which folder could not be searched when the document was opened, and why; else "".
   const std::string& strUnlisted() const { return unlisted_; }
 
@@ -78,6 +85,7 @@ class AVDocument : public LadderObject, public OpenDocument {
 
   SharedParts shared_;
   std::string unlisted_;
+  CopiedFolder copied_;
   UnsavedWork unsaved_;
   // A vector that grows makes the allocator sweep all that a removal has freed so far.
   std::deque<std::string> colObjRemoved_;

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/CopiedFolder.h"
+
+#include <map>
+#include <optional>
+#include <set>
+
+#include "base/Paths.h"
+#include "platform/files/Files.h"
+#include "platform/xml/XmlDocument.h"
+#include "protocol/DescribedObject.h"
+#include "store/DataFolder.h"
+#include "store/ObjectRegistry.h"
+
+namespace velra {
+
+namespace {
+
+bool isOneFolder(const std::string& a, const std::string& b) {
+  const FileStamp one = fileStamp(a);
+  const FileStamp other = fileStamp(b);
+  return one.exists && one.device == other.device && one.inode == other.inode;
+}
+
+/// The own data folder of a document, and what lies in it for objects that were read elsewhere.
+class OwnFolder {
+ public:
+  OwnFolder(ObjectRegistry& objects, const std::string& document)
+      : objects_(objects), folder_(dataFolderOf(document)) {}
+
+  /// True when the folder holds the object's file, by name, and another folder's was read.
+  bool hasCopyOf(const std::string& path) {
+    const std::string folder = folderOf(path);
+    if (folder == folder_) return false;
+    const std::string own = folder_ + path.substr(folder.size());
+    return holds(path.substr(folder.size())) && !isOwn(folder) && !objects_.find(own);
+  }
+  /// The class of that file.
+  std::string classOfCopy(const std::string& path) const {
+    XmlDocument copy;
+    if (!copy.load(folder_ + path.substr(folderOf(path).size()))) return {};
+    return std::string(copy.documentElement().baseName());
+  }
+
+ private:
+  bool holds(const std::string& name) {
+    if (!names_) {
+      const auto listed = colListFiles(folder_ + "*.xml");
+      names_.emplace(listed.begin(), listed.end());
+    }
+    return names_->contains(name);
+  }
+  // By another name, through a link.
+  bool isOwn(const std::string& folder) {
+    const auto [known, isNew] = own_.try_emplace(folder, false);
+    if (isNew) known->second = isOneFolder(folder, folder_);
+    return known->second;
+  }
+
+  ObjectRegistry& objects_;
+  const std::string folder_;
+  std::optional<std::set<std::string>> names_;
+  std::map<std::string, bool> own_;
+};
+
+// Of a document that was moved the objects are missing; what it lists is all that there is.
+class MissingObjects : public ReferenceVisitor {
+ public:
+  MissingObjects(ObjectRegistry& objects, OwnFolder& own) : objects_(objects), own_(own) {}
+
+  void identifier(const std::string& guid) override {
+    if (!other.empty() || objects_.find(guid)) return;
+    const std::string path = strAbsolutePath(guid);
+    if (own_.hasCopyOf(path)) other = folderOf(path);
+  }
+  void object(const DescribedObject&) override {}
+
+  std::string other;
+
+ private:
+  ObjectRegistry& objects_;
+  OwnFolder& own_;
+};
+
+}  // namespace
+
+CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document) {
+  OwnFolder own(objects, document.strGUID());
+  for (const auto& [number, registered] : objects.sequence()) {
+    const auto* object = as<const DescribedObject>(registered.get());
+    if (!object || object == &document) continue;
+    const std::string path = strAbsolutePath(object->strGUID());
+    if (own.hasCopyOf(path) && own.classOfCopy(path) == object->className()) {
+      return {folderOf(path), true};
+    }
+  }
+  MissingObjects missing(objects, own);
+  document.visitReferences(missing);
+  return {missing.other, false};
+}
+
+}  // namespace velra

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace velra {
+
+class DescribedObject;
+class ObjectRegistry;
+
+/// Where the objects of a document lie when they should lie in its own data folder: the document
+/// was copied or moved with that folder, and its identifiers still lead to the first place.
+struct CopiedFolder {
+  std::string other;   // with a separator at its end; "" for a document that is no such one
+  bool works = false;  // on objects that lie there, and not on those of its own folder
+};
+
+/// Looks through the objects of a document that has just been opened. Texts are compared first:
+/// only an object that lies elsewhere has the disk asked.
+CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document);
+
+}  // namespace velra
