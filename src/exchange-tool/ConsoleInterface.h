@@ -33,8 +33,12 @@ class ConsoleInterface : public UserInterface {
                                             const std::string&) override {
     return std::nullopt;
   }
+  std::optional<std::string> folderDialog(const std::string&, const std::string&) override {
+    return std::nullopt;
+  }
   void beep() override {}
   std::unique_ptr<BusySign> showBusy() override { return std::make_unique<BusySign>(); }
+  void workAside(const std::string&, const std::function<void()>& work) override { work(); }
   bool openMovie(const std::function<void(const std::stop_token&)>& work) override {
     work({});
     return true;

@@ -56,10 +56,19 @@ class UserInterface {
                                                     const std::string& filter,
                                                     const std::string& proposed) = 0;
 
+  /// The path of a folder to put files into; nothing for Cancel.
+  virtual std::optional<std::string> folderDialog(const std::string& title,
+                                                  const std::string& proposed) = 0;
+
   virtual void beep() = 0;
 
   /// Shows the busy cursor until the sign is released.
   [[nodiscard]] virtual std::unique_ptr<BusySign> showBusy() = 0;
+
+  /// Does work that may take seconds on another thread, and returns when it is done. Windows paint
+  /// themselves meanwhile and take no commands; when it lasts, `sentence` tells what is waited for.
+  /// What the work raises is raised here.
+  virtual void workAside(const std::string& sentence, const std::function<void()>& work) = 0;
 
   /// Does work that opens a movie, which may take a minute, on another thread, and returns when it
   /// is done. Windows paint themselves meanwhile and take no commands, but the person can cancel:

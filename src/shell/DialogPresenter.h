@@ -5,6 +5,7 @@ namespace velra {
 
 class ConnectionDialog;
 class FormOwner;
+class RecoverDialog;
 class SearchDialog;
 class SearchResultDialog;
 
@@ -18,6 +19,7 @@ class DialogPresenter {
   virtual void showSearchDialog(FormOwner& owner, SearchDialog& dialog) = 0;
   virtual void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) = 0;
   virtual void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) = 0;
+  virtual void showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) = 0;
 };
 
 }  // namespace velra

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/MainMenus.h"
 
+#include <chrono>
+
 #include "app/ApplicationModule.h"
+#include "objects/AVDocument.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
 #include "protocol/OpenDocument.h"
+#include "rescue/KeptWorkList.h"
+#include "rescue/RescueWriter.h"
 #include "shell/MainWindowFace.h"
 #include "shell/OpenedDocument.h"
 #include "store/IOManager.h"
@@ -36,6 +41,15 @@ MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fr
   return open;
 }
 
+// The menu does not wait long for a store that is busy: then it stays as it was.
+bool anyUnsavedWork(const ApplicationModule& app, bool otherwise) {
+  constexpr std::chrono::milliseconds kPatience{100};
+  if (!app.rescue || !app.rescue->finish(kPatience)) return otherwise;
+  bool any = false;
+  app.rescue->run([&](RescueStore& store) { any = hasRestorableWork(store); });
+  return any;
+}
+
 }  // namespace
 
 MainMenus::MainMenus(ApplicationModule& app, MainWindowFace& face) : app_(app), face_(face) {
@@ -53,6 +67,8 @@ void MainMenus::mnuFile_Click() {
   const std::shared_ptr<IOManager> io = documentIsOpen(app_) ? app_.gAVDoc->io() : nullptr;
   menus.mnuExportToDB = io && io->bFileSystem();
   menus.mnuImportToFS = io && !io->bFileSystem();
+  menus.mnuFileIndependent = io && !openedDocument(app_)->copiedFolder().other.empty();
+  menus.mnuFileRecover = anyUnsavedWork(app_, menus.mnuFileRecover);
   apply(menus);
 }
 

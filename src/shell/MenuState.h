@@ -14,6 +14,8 @@ struct MenuState {
   bool mnuAddMainTranscript = true;
   bool mnuImportToFS = true;
   bool mnuExportToDB = true;
+  bool mnuFileRecover = false;
+  bool mnuFileIndependent = false;
   /// The ticked entry of the language menu: 0 mnuEnglish, 1 mnuItalian, 2 mnuDutch, 3 mnuGerman,
   /// 4 mnuFrench, 5 mnuCLDisabled.
   std::int32_t language = 0;

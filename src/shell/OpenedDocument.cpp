@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/OpenedDocument.h"
 
-#include <utility>
-
 #include "app/ApplicationModule.h"
 #include "base/Text.h"
 #include "objects/AVDocument.h"
@@ -25,10 +23,13 @@ bool needsDocument(ApplicationModule& app) {
   return false;
 }
 
+std::string plainCaption(const ApplicationModule& app, Message command) {
+  return replaceAll(replaceAll(app.LoadResString(command), "&", ""), "...", "");
+}
+
 void tellDone(const ApplicationModule& app, MainWindow& window, Message command,
               const std::string& outcome) {
-  std::string caption = replaceAll(app.LoadResString(command), "&", "");
-  window.setStrStatusBarText(replaceAll(std::move(caption), "...", "") + ": " + outcome);
+  window.setStrStatusBarText(plainCaption(app, command) + ": " + outcome);
 }
 
 }  // namespace velra

@@ -26,6 +26,9 @@ bool documentIsOpen(const ApplicationModule& app);
 /// The same, with a box that says so when none is open.
 bool needsDocument(ApplicationModule& app);
 
+/// The caption of a command without the marks that menus need.
+std::string plainCaption(const ApplicationModule& app, Message command);
+
 /// The status line names a command as its menu does, and what came of it.
 void tellDone(const ApplicationModule& app, MainWindow& window, Message command,
               const std::string& outcome);

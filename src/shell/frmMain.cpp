@@ -13,6 +13,7 @@ frmMain::frmMain(ApplicationModule& app)
       closing_(app, trees_),
       opening_(app, *this, trees_, clicks_, closing_),
       saving_(app, *this, trees_, clicks_, closing_, opening_),
+      recovering_(app, *this, closing_, opening_),
       transfer_(app, closing_, opening_, saving_),
       editing_(app, *this, trees_, clicks_),
       dialogs_(app, *this, trees_.icons()),

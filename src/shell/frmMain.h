@@ -12,6 +12,7 @@
 #include "shell/MainMenus.h"
 #include "shell/MainTrees.h"
 #include "shell/OpenCommands.h"
+#include "shell/RecoverCommands.h"
 #include "shell/SaveCommands.h"
 #include "shell/TransferCommands.h"
 #include "shell/TreeClicks.h"
@@ -32,7 +33,10 @@ class frmMain : public MainWindow {
   /// Set while the window exists; null without one, as in tests.
   void setFace(MainWindowFace* face);
   /// Shows the dialogs of the commands; without one these commands do nothing.
-  void setDialogPresenter(DialogPresenter* presenter) { dialogs_.setPresenter(presenter); }
+  void setDialogPresenter(DialogPresenter* presenter) {
+    dialogs_.setPresenter(presenter);
+    recovering_.setPresenter(presenter);
+  }
 
   Tree& tree(TreeId id) { return trees_.tree(id); }
   const TreeIcons& imlTreeIcons() const { return trees_.icons(); }
@@ -66,6 +70,8 @@ class frmMain : public MainWindow {
   void mnuFileFind() { dialogs_.mnuFileFind(); }
   void mnuExportToDB() { transfer_.mnuExportToDB(); }
   void mnuImportToFS() { transfer_.mnuImportToFS(); }
+  void mnuFileRecover() { recovering_.mnuFileRecover(); }
+  void mnuFileIndependent() { recovering_.mnuFileIndependent(); }
   void ShowAVDocTitle() { clicks_.ShowAVDocTitle(); }
   /// The last step of a program that ends as it should.
   void releaseDocument() { closing_.releaseDocument(); }
@@ -93,6 +99,7 @@ class frmMain : public MainWindow {
   DocumentClosing closing_;
   OpenCommands opening_;
   SaveCommands saving_;
+  RecoverCommands recovering_;
   TransferCommands transfer_;
   EditCommands editing_;
   DialogCommands dialogs_;

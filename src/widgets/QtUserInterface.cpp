@@ -127,6 +127,14 @@ std::optional<std::string> QtUserInterface::saveFileDialog(const std::string& ti
   return chosenFile(dialog);
 }
 
+std::optional<std::string> QtUserInterface::folderDialog(const std::string& title,
+                                                         const std::string& proposed) {
+  QFileDialog dialog(owner(), toQString(title), pathToQString(proposed));
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  return chosenFile(dialog);
+}
+
 void QtUserInterface::beep() {
   QApplication::beep();
 }
@@ -135,15 +143,24 @@ std::unique_ptr<BusySign> QtUserInterface::showBusy() {
   return std::make_unique<BusyCursor>();
 }
 
+void QtUserInterface::workAside(const std::string& sentence, const std::function<void()>& work) {
+  waitFor(sentence, std::async(std::launch::async, work), nullptr);
+}
+
 bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)>& work) {
-  const BusyCursor cursor;
   std::stop_source stop;
-  std::future<void> done = std::async(std::launch::async, work, stop.get_token());
+  waitFor("The movie is being read.", std::async(std::launch::async, work, stop.get_token()),
+          &stop);
+  return !stop.stop_requested();
+}
+
+void QtUserInterface::waitFor(const std::string& sentence, std::future<void> done,
+                              std::stop_source* stop) {
+  const BusyCursor cursor;
   if (done.wait_for(kUnnoticedWait) == std::future_status::timeout) {
-    WaitingBox(QStringLiteral("The movie is being read."), owner(), stop).showUntil(done);
+    WaitingBox(toQString(sentence), owner(), stop).showUntil(done);
   }
   done.get();
-  return !stop.stop_requested();
 }
 
 }  // namespace velra

@@ -3,6 +3,8 @@
 
 #include <QPointer>
 #include <QString>
+#include <future>
+#include <stop_token>
 
 #include "platform/UserInterface.h"
 
@@ -29,12 +31,17 @@ class QtUserInterface : public UserInterface {
                                             const std::string& filter) override;
   std::optional<std::string> saveFileDialog(const std::string& title, const std::string& filter,
                                             const std::string& proposed) override;
+  std::optional<std::string> folderDialog(const std::string& title,
+                                          const std::string& proposed) override;
   void beep() override;
   std::unique_ptr<BusySign> showBusy() override;
+  void workAside(const std::string& sentence, const std::function<void()>& work) override;
   bool openMovie(const std::function<void(const std::stop_token&)>& work) override;
 
  private:
   QWidget* owner() const;
+  /// Null: it cannot be cancelled.
+  void waitFor(const std::string& sentence, std::future<void> done, std::stop_source* stop);
   std::optional<std::string> chosenFile(QFileDialog& dialog);
 
   QPointer<QWidget> mainWindow_;

@@ -80,6 +80,7 @@ void ProgramActor::learnFileMenu() {
   verbs_["save-as"] = [&](auto&) { main.mnuFileSaveAs(); };
   verbs_["export"] = [&](auto&) { main.mnuExportToDB(); };
   verbs_["import"] = [&](auto&) { main.mnuImportToFS(); };
+  verbs_["independent"] = [&](auto&) { main.mnuFileIndependent(); };
   verbs_["leave"] = [&](auto&) { main.releaseDocument(); };
   verbs_["start"] = [&](const std::string& line) {
     Main(program_.app, main, replaceAll(line, "~", program_.folder.path()),
@@ -113,6 +114,8 @@ void ProgramActor::learnDialogs() {
   frmMain& main = program_.mainForm;
   verbs_["find"] = [&](auto& text) { object_ = text, main.mnuFileFind(); };
   verbs_["connection"] = [&](auto& changes) { object_ = changes, main.mnuConnection(); };
+  verbs_["recover"] = [&](auto& button) { object_ = button, main.mnuFileRecover(); };
+  program_.presenter.onRecover = [this](RecoverDialog& dialog) { act(dialog, object_); };
   program_.presenter.onSearch = [this](SearchDialog& dialog) {
     say("Find: " + dialog.strText() + (dialog.bMatchCase() ? " (case)" : "") +
         (dialog.bSingleWord() ? " (word)" : ""));
@@ -155,6 +158,22 @@ void ProgramActor::act(ConnectionDialog& dialog, const std::string& changes) {
       " | " + dialog.text(Box::Text4) + " | port " + std::to_string(dialog.settings().iPort) +
       (dialog.bChanged() ? ", changed" : ""));
   changes.ends_with("OK") ? dialog.OKButton_Click() : dialog.CancelButton_Click();
+}
+
+/// As "drop 1", with the number of a row; tells the rows before and, if they are others, after.
+void ProgramActor::act(RecoverDialog& dialog, const std::string& button) {
+  const auto tell = [&] {
+    for (const RecoverDialog::Row& row : dialog.rows()) {
+      say(row.texts[0] + " | " + row.texts[2] + " | " + row.texts[3] + " | " + row.texts[4]);
+    }
+  };
+  tell();
+  dialog.onRows = tell;
+  const auto [name, row] = halves(button, " ");
+  const std::size_t place = row.empty() ? 0 : std::stoul(row) - 1;
+  if (name == "make") dialog.RecoverButton_Click(place);
+  if (name == "files") dialog.SaveAsFilesButton_Click(place);
+  if (name == "drop") dialog.DropButton_Click(place);
 }
 
 void ProgramActor::answerWindows() {

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "rescue/RescueWriter.h"
 #include "shell/Program.h"
 #include "support/Scene.h"
 
@@ -39,11 +40,14 @@ class ProgramActor : public Actor {
   }
   void click(const std::string& treeAndName, MouseButton button);
   void act(ConnectionDialog& dialog, const std::string& changes);
+  void act(RecoverDialog& dialog, const std::string& button);
   void showMenus();
   void showObject(const DescribedObject& object);
   void watch();
   void showWatched();
 
+  const TemporaryFolder state_;  // where a store is, if there is one
+  std::unique_ptr<RescueWriter> rescue_;
   Program program_;
   std::vector<std::string> answers_;
   std::string object_;               // of the command that runs

@@ -28,10 +28,22 @@ void ProgramActor::learnToPrepare() {
     const auto [from, to] = halves(files, " to ");
     fs::rename(folder / from, folder / to);
   };
+  verbs_["copy"] = [&](const std::string& files) {
+    const auto [from, to] = halves(files, " to ");
+    fs::copy(folder / from, folder / to, fs::copy_options::recursive);
+  };
   verbs_["setting"] = [&](const std::string& words) {
     const auto [name, value] = halves(words, "=");
     program_.settings.write(ApplicationModule::kMachineSection, name,
                             replaceAll(value, "~", folder.path()));
+  };
+  verbs_["store"] = [&](auto&) {
+    rescue_ = std::make_unique<RescueWriter>(state_ / "rescue.sqlite");
+    program_.app.rescue = rescue_.get();
+  };
+  verbs_["keep"] = [&](auto&) {
+    while (program_.document()->keepUnsavedWork()) {
+    }
   };
   verbs_["vocabulary"] = [&](auto&) { LoadThematicKeywords(program_.app); };
   verbs_["title"] = [&](const std::string& words) {
@@ -58,7 +70,9 @@ void ProgramActor::learnToLook() {
     };
   }
   verbs_["menus"] = [this](auto&) { showMenus(); };
-  verbs_["status"] = [this](auto&) { say(program_.mainForm.strStatusBarText()); };
+  verbs_["status"] = [this](auto&) {  // without the time, which stands at the end
+    say(halves(program_.mainForm.strStatusBarText(), " (20").first);
+  };
   verbs_["busy"] = [this](auto&) { say(std::to_string(std::exchange(program_.ui.busySigns, 0))); };
   verbs_["files"] = [this](auto&) {  // that differ from the last time
     const Files before = std::exchange(files_, program_.folder.snapshot());
@@ -86,6 +100,8 @@ void ProgramActor::showMenus() {
   if (menus.mnuAddMainExpr) open += ", main";
   if (menus.mnuExportToDB) open += ", export";
   if (menus.mnuImportToFS) open += ", import";
+  if (menus.mnuFileRecover) open += ", recover";
+  if (menus.mnuFileIndependent) open += ", independent";
   say(open);
 }
 

@@ -10,6 +10,7 @@
 #include "forms/LoadedForm.h"
 #include "shell/ConnectionDialog.h"
 #include "shell/DialogPresenter.h"
+#include "shell/RecoverDialog.h"
 #include "shell/SearchDialog.h"
 #include "shell/SearchResultDialog.h"
 
@@ -26,6 +27,7 @@ class ScriptedPresenter : public FormPresenter, public DialogPresenter {
   std::function<void(SearchDialog&)> onSearch;
   std::function<void(SearchResultDialog&)> onResults;
   std::function<void(ConnectionDialog&)> onConnection;
+  std::function<void(RecoverDialog&)> onRecover;
 
   void showForm(FormOwner& owner, LoadedForm& form) override {
     captions.push_back(form.caption());
@@ -47,6 +49,10 @@ class ScriptedPresenter : public FormPresenter, public DialogPresenter {
   void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) override {
     lastOwner = &owner;
     if (onConnection) onConnection(dialog);
+  }
+  void showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) override {
+    lastOwner = &owner;
+    if (onRecover) onRecover(dialog);
   }
 };
 

@@ -17,7 +17,7 @@ class ScriptedUserInterface : public UserInterface {
  public:
   /// What was shown, in order: "plain: text", "exclamation: text", "critical: text", "ok-cancel:
   /// text", "yes-no: text", "yes-no-cancel: text", "input: prompt | title", "open: title",
-  /// "save: title | proposed", "beep".
+  /// "save: title | proposed", "folder: title | proposed", "beep".
   std::vector<std::string> shown;
 
   std::deque<bool> yesNo;
@@ -58,12 +58,18 @@ class ScriptedUserInterface : public UserInterface {
     shown.push_back("save: " + title + " | " + proposed);
     return chosen(filesToSave);
   }
+  std::optional<std::string> folderDialog(const std::string& title,
+                                          const std::string& proposed) override {
+    shown.push_back("folder: " + title + " | " + proposed);
+    return chosen(filesToSave);
+  }
   void beep() override { shown.emplace_back("beep"); }
   std::unique_ptr<BusySign> showBusy() override {
     ++busySigns;
     return std::make_unique<BusySign>();
   }
 
+  void workAside(const std::string&, const std::function<void()>& work) override { work(); }
   bool openMovie(const std::function<void(const std::stop_token&)>& work) override {
     work({});
     return waits;

@@ -7,12 +7,17 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTreeView>
+#include <QTreeWidget>
 
+#include "rescue/RescueStore.h"
+#include "rescue/RescueWriter.h"
 #include "shell/ConnectionDialog.h"
 #include "shell/Program.h"
+#include "shell/RecoverDialog.h"
 #include "shell/SearchDialog.h"
 #include "shell/SearchResultDialog.h"
 #include "support/FormObject.h"
+#include "widgets/AccessibilityWalk.h"
 #include "widgets/ModalAnswer.h"
 #include "widgets/QtText.h"
 #include "widgets/forms/QtFormPresenter.h"
@@ -39,6 +44,7 @@ class CommandDialogs : public ::testing::Test {
   test::TestApplication application_;
   ApplicationModule& app_ = application_.app;
   test::RecordingMainWindow owner_;
+  const test::TemporaryFolder folder_;
   QtFormPresenter presenter_{app_};
 };
 
@@ -110,6 +116,45 @@ TEST_F(CommandDialogs, ConnectionHasItsTextsAndRefusesPorts) {
   });
   dialog.Show(presenter_, owner_);
   EXPECT_FALSE(dialog.bChanged());
+}
+
+TEST_F(CommandDialogs, UnsavedWorkHasAButtonForEachThingToDo) {
+  RescueWriter rescue(folder_ / "rescue.sqlite");
+  app_.rescue = &rescue;
+  rescue.run([](RescueStore& store) {
+    const SessionId session = store.begin("/films/film.xml", "a-machine boot 1 1");
+    store.keep(session, {{"/films/a.xml", "Video", "<b>Dawn</b>", "<a/>", false, {}},
+                         {"/films/b.xml", "Video", "Dusk", "", true, {}}});
+    store.end(session, SessionEnd::Error);
+    store.keepReplaced(session, "/films/c.xml", "<c/>");
+  });
+  RecoverDialog dialog(app_, "");
+  whenModal([&](QWidget& window) {
+    QTreeWidget& list = child<QTreeWidget>(window, "lvwKept");
+    EXPECT_EQ(test::accessibilityFaults(window), std::vector<std::string>{});
+    const auto open = [&] {
+      std::string names;
+      for (const char* name : {"cmdRecover", "cmdSaveAsFiles", "cmdDrop", "cmdClose"}) {
+        if (child<QPushButton>(window, name).isEnabled()) names += std::string(name) + " ";
+      }
+      return names;
+    };
+    EXPECT_EQ(open(), "cmdRecover cmdSaveAsFiles cmdDrop cmdClose ");
+    EXPECT_EQ(list.currentItem()->text(3), QStringLiteral("<b>Dawn</b>, Dusk"));
+    EXPECT_EQ(list.currentItem()->text(4), QStringLiteral("Ended by an error"));
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(open(), "cmdSaveAsFiles cmdDrop cmdClose ");
+    application_.ui.yesNo = {true};
+    press(window, "cmdDrop");
+    EXPECT_EQ(list.topLevelItemCount(), 1);
+    application_.ui.filesToSave = {};
+    QTest::keyClick(&list, Qt::Key_Return);  // Recover, which asks for a path
+    QTest::keyClick(&window, Qt::Key_Escape);
+  });
+  EXPECT_EQ(dialog.Show(presenter_, owner_), "");
+  EXPECT_EQ(application_.ui.takeShown().back(),
+            "save: Recover Unsaved Work | /films/film-recovered.xml");
+  app_.rescue = nullptr;
 }
 
 TEST(SearchResults, RowsOpenTheirFormsByMouseAndKeyboard) {

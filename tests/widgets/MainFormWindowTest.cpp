@@ -57,6 +57,9 @@ constexpr const char* kMenus = R"(mnuFile &File
  mnuImportToFS Import To FileSystem
  mnuExportToDB Export To Database
  -
+ mnuFileRecover Recover &Unsaved Work...
+ mnuFileIndependent Make This Copy &Independent...
+ -
  mnuFileClose &Close
 mnuEdit &Edit
  mnuEditMetadata Edit M&etadata...

@@ -20,7 +20,7 @@ bool isDone(const std::future<void>& work) {
 
 }  // namespace
 
-WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source& stop)
+WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source* stop)
     : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), stop_(stop) {
   setObjectName(QStringLiteral("WaitingBox"));
   setWindowTitle(QCoreApplication::applicationName());
@@ -37,12 +37,13 @@ WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source& st
   cancel_->setObjectName(QStringLiteral("cmdCancel"));
   cancel_->setAutoDefault(false);  // the key that opened the movie may still be down
   connect(cancel_, &QPushButton::clicked, this, &WaitingBox::reject);
+  cancel_->setVisible(stop_ != nullptr);
   column->addWidget(bar);
   column->addWidget(cancel_, 0, Qt::AlignRight);
 }
 
 void WaitingBox::reject() {
-  stop_.request_stop();
+  if (stop_) stop_->request_stop();
   cancel_->setEnabled(false);  // seen to be pressed: the work may take a moment to notice
 }
 

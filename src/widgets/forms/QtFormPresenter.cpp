@@ -6,6 +6,7 @@
 
 #include "protocol/ObjectForm.h"
 #include "widgets/dialogs/ConnectionDialogWindow.h"
+#include "widgets/dialogs/RecoverDialogWindow.h"
 #include "widgets/dialogs/SchemaDialogWindow.h"
 #include "widgets/dialogs/SearchDialogWindow.h"
 #include "widgets/dialogs/SearchResultWindow.h"
@@ -39,6 +40,11 @@ void QtFormPresenter::showSearchResults(FormOwner& owner, SearchResultDialog& di
 
 void QtFormPresenter::showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) {
   ConnectionDialogWindow window(app_, dialog, windowOf(owner));
+  showModally(window);
+}
+
+void QtFormPresenter::showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) {
+  RecoverDialogWindow window(app_, dialog, windowOf(owner));
   showModally(window);
 }
 

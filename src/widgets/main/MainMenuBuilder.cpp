@@ -68,7 +68,9 @@ constexpr struct {
                {"mnuAddMainAudio", &MenuState::mnuAddMainAudio},
                {"mnuAddMainTranscript", &MenuState::mnuAddMainTranscript},
                {"mnuImportToFS", &MenuState::mnuImportToFS},
-               {"mnuExportToDB", &MenuState::mnuExportToDB}};
+               {"mnuExportToDB", &MenuState::mnuExportToDB},
+               {"mnuFileRecover", &MenuState::mnuFileRecover},
+               {"mnuFileIndependent", &MenuState::mnuFileIndependent}};
 
 }  // namespace
 
