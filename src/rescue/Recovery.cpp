@@ -48,7 +48,8 @@ class DocumentCopy {
   void read(const std::string& path);
   void choosePlaces();
   std::string freePlaceFor(const std::string& path) const;
-  std::string textAtNewPlace(std::string_view element, const std::string& text) const;
+  std::string textAtNewPlace(std::string_view element, const std::string& text,
+                             const std::string& file);
   std::string bytesAtNewPlace(const std::string& path, const std::string& bytes);
   std::string writeFile(const std::string& place, const std::string& bytes);
 
@@ -57,6 +58,7 @@ class DocumentCopy {
   std::map<std::string, std::string> files_;   // bytes by absolute path
   std::map<std::string, std::string> places_;  // absolute path by absolute path
   std::set<std::string> taken_;                // the new places
+  std::set<std::string> outside_;              // folders of what does not come along
   std::vector<std::string> made_;              // what has been written so far
   std::vector<std::string> notes_;
 };
@@ -107,20 +109,23 @@ void DocumentCopy::choosePlaces() {
 }
 
 // What is relative and does not come along has to be found from another folder, too.
-std::string DocumentCopy::textAtNewPlace(std::string_view element, const std::string& text) const {
+std::string DocumentCopy::textAtNewPlace(std::string_view element, const std::string& text,
+                                         const std::string& file) {
   const bool refers = holdsIdentifier(element);
   if (text.empty() || (!refers && !holdsMoviePath(element))) return text;
   const std::string path = strAbsolutePath(text, from_.folder);
   const auto place = places_.find(path);
   if (refers && place != places_.end()) return place->second;
+  // What a file says of its own place does not count.
+  if (refers && strFileName(path) != strFileName(file)) outside_.insert(folderOf(path));
   return text.starts_with('/') || to_.folder == from_.folder ? text : path;
 }
 
 std::string DocumentCopy::bytesAtNewPlace(const std::string& path, const std::string& bytes) {
   if (asciiLower(strExtension(path)) != "xml") return bytes;
   const RewrittenXml rewritten =
-      withTextsReplaced(bytes, path, [this](std::string_view element, const std::string& text) {
-        return textAtNewPlace(element, text);
+      withTextsReplaced(bytes, path, [&](std::string_view element, const std::string& text) {
+        return textAtNewPlace(element, text, path);
       });
   if (rewritten.reason.empty()) return rewritten.bytes;
   notes_.push_back(path + " was taken as it stands: " + rewritten.reason);
@@ -146,6 +151,9 @@ std::string DocumentCopy::write() {
     } else if (failure.empty()) {
       failure = writeFile(places_[path], rewritten);
     }
+  }
+  for (const std::string& folder : outside_) {
+    notes_.push_back("The new document still refers to files in " + folder + ".");
   }
   if (failure.empty()) failure = writeFile(to_.path, document);
   if (failure.empty()) failure = syncFolder(to_.folder);
