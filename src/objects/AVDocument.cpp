@@ -87,10 +87,10 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
 std::string AVDocument::strCopyTold() const {
   if (copied_.other.empty()) return {};
   const auto text = [this](Message message) { return app().LoadResString(message); };
-  const std::string own = dataFolderOf(strGUID());
-  return text(copied_.works ? Message::IsCopyWorkingIn : Message::ObjectsSoughtIn) + copied_.other +
-         text(copied_.works ? Message::AndNotIn : Message::AndLieIn) + own +
-         text(Message::IndependentChangesThat);
+  return text(Message::ThisCopy) +
+         text(copied_.works ? Message::WorksOnObjectsIn : Message::LooksForObjectsIn) +
+         copied_.other + text(copied_.works ? Message::AndNotIn : Message::WhileTheyLieIn) +
+         dataFolderOf(strGUID()) + ".";
 }
 
 bool AVDocument::bSave() {
