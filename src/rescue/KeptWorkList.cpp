@@ -15,6 +15,7 @@ namespace velra {
 namespace {
 
 constexpr const char* kHasObjects = "EXISTS(SELECT 1 FROM object WHERE session = id)";
+constexpr const char* kObjectTitles = "SELECT title FROM object WHERE session = ?1 ORDER BY rowid";
 constexpr const char* kHasReplaced = "EXISTS(SELECT 1 FROM replaced WHERE session = id)";
 
 // Without titles.
@@ -38,13 +39,14 @@ std::vector<KeptWork> sessions(Database& database, const std::string& condition,
   return found;
 }
 
+// With what `titles` selects for each.
 std::vector<KeptWork> works(Database& database, const std::string& condition,
-                            const std::string& document) {
+                            const std::string& document, const char* titles) {
   std::vector<KeptWork> found = sessions(database, condition, document);
-  Statement titles = database.prepare("SELECT title FROM object WHERE session = ?1 ORDER BY rowid");
+  Statement rows = database.prepare(titles);
   for (KeptWork& work : found) {
-    titles.number(1, work.session);
-    while (titles.next()) work.titles.push_back(titles.text(0));
+    rows.number(1, work.session);
+    while (rows.next()) work.titles.push_back(rows.text(0));
   }
   return found;
 }
@@ -57,27 +59,32 @@ bool isOpenHere(const KeptWork& work) {
   return work.end == SessionEnd::Running && work.process == processIdentity();
 }
 
-std::vector<KeptWork> replacedWork(RescueStore& store) {
-  std::vector<KeptWork> found = sessions(store.database(), kHasReplaced, "");
+std::vector<KeptWork> replacedWork(Database& database) {
+  std::vector<KeptWork> found =
+      works(database, kHasReplaced, "", "SELECT path FROM replaced WHERE session = ?1");
   for (KeptWork& work : found) {
     work.replaced = true;
-    for (const PlannedFile& file : store.replaced(work.session)) {
-      work.titles.push_back(strFileName(file.path));
-    }
+    for (std::string& path : work.titles) path = strFileName(path);
   }
   return found;
+}
+
+void dropFrom(Database& database, const char* rows, SessionId session) {
+  database.prepare("DELETE FROM " + std::string(rows) + " WHERE session = ?1")
+      .number(1, session)
+      .run();
 }
 
 }  // namespace
 
 std::vector<KeptWork> keptWork(RescueStore& store, const std::string& document) {
-  return works(store.database(), kHasObjects, document);
+  return works(store.database(), kHasObjects, document, kObjectTitles);
 }
 
 std::vector<KeptWork> restorableWork(RescueStore& store, const std::string& first) {
   std::vector<KeptWork> found = keptWork(store, "");
   std::erase_if(found, isOpenHere);
-  for (KeptWork& work : replacedWork(store)) found.push_back(std::move(work));
+  for (KeptWork& work : replacedWork(store.database())) found.push_back(std::move(work));
   std::stable_sort(found.begin(), found.end(), [&](const KeptWork& a, const KeptWork& b) {
     const bool aFirst = a.document == first;
     const bool bFirst = b.document == first;
@@ -100,10 +107,10 @@ Fate fateOf(const KeptWork& work) {
 }
 
 std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& document) {
-  return works(store.database(),
-               "EXISTS(SELECT 1 FROM planned WHERE session = id) OR "
-               "EXISTS(SELECT 1 FROM removal WHERE session = id)",
-               document);
+  return sessions(store.database(),
+                  "EXISTS(SELECT 1 FROM planned WHERE session = id) OR "
+                  "EXISTS(SELECT 1 FROM removal WHERE session = id)",
+                  document);
 }
 
 std::string strWhen(std::int64_t secondsSince1970) {
@@ -150,11 +157,7 @@ std::vector<KeptObject> keptObjects(RescueStore& store, const KeptWork& work) {
 
 void dropKeptWork(RescueStore& store, const KeptWork& work) {
   Transaction transaction(store.database());
-  store.database()
-      .prepare(work.replaced ? "DELETE FROM replaced WHERE session = ?1"
-                             : "DELETE FROM object WHERE session = ?1")
-      .number(1, work.session)
-      .run();
+  dropFrom(store.database(), work.replaced ? "replaced" : "object", work.session);
   if (!mayGoOn(work)) store.deleteIfEmpty(work.session);
   transaction.commit();
 }
@@ -173,7 +176,14 @@ void pruneKeptWork(RescueStore& store, std::int64_t oldest, std::int64_t bytes) 
     kept += sizes.number(3);
     if (sizes.number(2) < oldest || kept > bytes) gone.push_back(sizes.number(0));
   }
-  for (const SessionId session : gone) store.drop(session);
+  Transaction transaction(store.database());
+  for (const SessionId session : gone) {
+    // A save that was cut off is finished however late its document is opened.
+    dropFrom(store.database(), "object", session);
+    dropFrom(store.database(), "replaced", session);
+    store.deleteIfEmpty(session);
+  }
+  transaction.commit();
 }
 
 }  // namespace velra

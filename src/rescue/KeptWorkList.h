@@ -16,7 +16,8 @@ class RescueStore;
 /// Sessions in which unsaved work is kept, the latest first: of one document, or of all for "".
 std::vector<KeptWork> keptWork(RescueStore& store, const std::string& document);
 
-/// Sessions of a document whose save was not finished, or whose removed files are still there.
+/// Sessions whose save was not finished, or whose removed files are still there: of one document,
+/// or of all for "". Without titles.
 std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& document);
 
 /// What a person may bring back: unsaved work, but that of the document that this process has open,

@@ -235,8 +235,4 @@ std::vector<PlannedFile> RescueStore::replaced(SessionId session) {
   return found;
 }
 
-void RescueStore::drop(SessionId session) {
-  database_.prepare("DELETE FROM session WHERE id = ?1").number(1, session).run();
-}
-
 }  // namespace velra

@@ -53,7 +53,6 @@ class RescueStore {
   void keepReplaced(SessionId session, const std::string& path, const std::string& bytes);
   std::vector<PlannedFile> replaced(SessionId session);
 
-  void drop(SessionId session);
   /// A session of which nothing is kept goes; to be called for one that has ended.
   void deleteIfEmpty(SessionId session);
   Database& database() { return database_; }

@@ -89,6 +89,8 @@ TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
     return all;
   };
   keepOne("a", goneProcess());
+  const SessionId cutOff = store_.begin("e", goneProcess());
+  store_.planSave(cutOff, {{{"one", kBytes, {}}}, {}});
   keepOne("b", processIdentity());
   keepOne("c", goneProcess());
   keepOne("d", "another-machine boot 1 1");
@@ -96,6 +98,7 @@ TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
   EXPECT_EQ(documents(), "dcb") << "the oldest of those that count is too much";
   pruneKeptWork(store_, std::time(nullptr) + 60, 1000);
   EXPECT_EQ(documents(), "db");
+  EXPECT_TRUE(store_.openPlan(cutOff)) << "a save that was cut off can always be finished";
 }
 
 TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
