@@ -27,6 +27,7 @@ void UnsavedWork::removed(const RegisteredObject& object) {
 
 bool UnsavedWork::keepSome(ObjectRegistry& objects, const IOManager& io) {
   const auto end = Clock::now() + kAtATime;
+  io.rescue()->keepAgain();
   // What was removed comes first: a new object may have its identifier.
   return keepRemoved(io, end) || keepChanged(objects, io, end);
 }

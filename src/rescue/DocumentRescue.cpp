@@ -9,45 +9,95 @@
 
 namespace velra {
 
+SessionId DocumentRescue::Session::begun(RescueStore& store) {
+  if (id == 0) id = store.begin(document, processIdentity());
+  return id;
+}
+
+void DocumentRescue::Session::keepWaiting(RescueStore& store) {
+  if (waiting.empty()) return;
+  std::vector<KeptObject> objects;
+  std::vector<std::string> paths;
+  for (const auto& [path, object] : waiting) {
+    if (object) {
+      objects.push_back(*object);
+    } else {
+      paths.push_back(path);
+    }
+  }
+  store.keep(begun(store), objects, paths);
+  waiting.clear();
+}
+
 DocumentRescue::DocumentRescue(RescueWriter& writer, std::string document)
-    : writer_(writer), session_(std::make_shared<SessionId>(0)) {
-  writer_.post([session = session_, document = std::move(document)](RescueStore& store) {
-    *session = store.begin(document, processIdentity());
-  });
+    : writer_(writer), session_(std::make_shared<Session>()) {
+  session_->document = std::move(document);
+  post([](RescueStore& store, Session& session) { session.begun(store); });
 }
 
 DocumentRescue::~DocumentRescue() {
-  writer_.post([session = session_](RescueStore& store) { store.end(*session, SessionEnd::Left); });
+  post([](RescueStore& store, Session& session) {
+    session.keepWaiting(store);
+    store.end(session.begun(store), SessionEnd::Left);
+  });
+}
+
+std::function<void(RescueStore&)> DocumentRescue::inSession(Task task) const {
+  return
+      [session = session_, task = std::move(task)](RescueStore& store) { task(store, *session); };
+}
+
+void DocumentRescue::post(Task task) {
+  writer_.post(inSession(std::move(task)));
 }
 
 std::string DocumentRescue::planSave(SavePlan plan) {
-  return writer_.run([this, &plan](RescueStore& store) { store.planSave(*session_, plan); });
+  return writer_.run(inSession([&plan](RescueStore& store, Session& session) {
+    store.planSave(session.begun(store), plan);
+  }));
 }
 
 void DocumentRescue::finishSave() {
-  writer_.post([session = session_](RescueStore& store) { store.finishSave(*session); });
+  post([](RescueStore& store, Session& session) {
+    session.waiting.clear();
+    store.finishSave(session.begun(store));
+  });
 }
 
 void DocumentRescue::abandonSave() {
-  writer_.post([session = session_](RescueStore& store) { store.abandonSave(*session); });
+  post([](RescueStore& store, Session& session) { store.abandonSave(session.begun(store)); });
 }
 
 void DocumentRescue::savedElsewhere() {
-  writer_.post([session = session_](RescueStore& store) { store.forgetAll(*session); });
+  post([](RescueStore& store, Session& session) {
+    session.waiting.clear();
+    store.forgetAll(session.begun(store));
+  });
 }
 
 void DocumentRescue::keep(std::vector<KeptObject> objects, std::vector<std::string> paths) {
-  writer_.post([session = session_, objects = std::move(objects), paths = std::move(paths)](
-                   RescueStore& store) { store.keep(*session, objects, paths); });
+  post([objects = std::move(objects), paths = std::move(paths)](RescueStore& store,
+                                                                Session& session) {
+    for (const std::string& path : paths) session.waiting[path] = std::nullopt;
+    for (const KeptObject& object : objects) session.waiting[object.path] = object;
+    session.keepWaiting(store);
+  });
+}
+
+void DocumentRescue::keepAgain() {
+  if (writer_.failure().empty()) return;
+  post([](RescueStore& store, Session& session) { session.keepWaiting(store); });
 }
 
 void DocumentRescue::endedByError() {
-  writer_.post(
-      [session = session_](RescueStore& store) { store.end(*session, SessionEnd::Error); });
+  post([](RescueStore& store, Session& session) {
+    session.keepWaiting(store);
+    store.end(session.begun(store), SessionEnd::Error);
+  });
 }
 
 void DocumentRescue::removalsDone() {
-  writer_.post([session = session_](RescueStore& store) { store.removalsDone(*session); });
+  post([](RescueStore& store, Session& session) { store.removalsDone(session.begun(store)); });
 }
 
 }  // namespace velra

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +12,7 @@
 
 namespace velra {
 
+class RescueStore;
 class RescueWriter;
 
 /// One opening of one document, as the store keeps it. Used by the thread of the windows.
@@ -32,6 +36,8 @@ class DocumentRescue {
 
   /// Keeps objects, in place of what was kept of them; those of `paths` are kept no more.
   void keep(std::vector<KeptObject> objects, std::vector<std::string> paths);
+  /// Tries once more what the store could not take.
+  void keepAgain();
 
   /// An untrapped error ends the program.
   void endedByError();
@@ -40,8 +46,23 @@ class DocumentRescue {
   void removalsDone();
 
  private:
+  /// What the writer's thread knows of the session.
+  struct Session {
+    std::string document;
+    SessionId id = 0;  // 0 until the store has taken it
+    // By path, what has not reached the store; nothing where nothing is to be kept.
+    std::map<std::string, std::optional<KeptObject>> waiting;
+
+    SessionId begun(RescueStore& store);
+    void keepWaiting(RescueStore& store);
+  };
+  using Task = std::function<void(RescueStore& store, Session& session)>;
+
+  std::function<void(RescueStore&)> inSession(Task task) const;
+  void post(Task task);
+
   RescueWriter& writer_;
-  std::shared_ptr<SessionId> session_;  // set by the writer's thread
+  std::shared_ptr<Session> session_;
 };
 
 }  // namespace velra

@@ -101,7 +101,7 @@ std::string RescueWriter::failure() const {
 
 void RescueWriter::work() {
   std::string noStore;
-  const std::unique_ptr<RescueStore> store = openedStore(path_, noStore);
+  std::unique_ptr<RescueStore> store = openedStore(path_, noStore);
   Lock lock(mutex_);
   failure_ = noStore;
   while (true) {
@@ -113,6 +113,8 @@ void RescueWriter::work() {
     jobs_.pop_front();
     busy_ = true;
     lock.unlock();
+    // The disk may have been full, or the folder not there yet.
+    if (!store) store = openedStore(path_, noStore);
     std::string failure = store ? performed(job.task, *store) : noStore;
     lock.lock();
     failure_ = failure;

@@ -16,7 +16,8 @@ class RescueStore;
 
 /// The thread that uses the store, so that the windows need not wait for the disk. Tasks are done
 /// one after the other, in the order in which they came. Without a store (a home that cannot be
-/// written, a full disk) each task fails, and the program goes on without.
+/// written, a full disk) each task fails, and the program goes on without; each tries to open it
+/// once more.
 class RescueWriter {
  public:
   using Task = std::function<void(RescueStore&)>;
