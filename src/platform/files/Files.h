@@ -48,7 +48,7 @@ FileBytes readStart(const std::string& path, std::uint64_t most);
 /// Writes a file in place, whole: room is reserved first, then one write from the start, then the
 /// rest is cut off; on any failure the old bytes and the old length are put back. Makes the file
 /// when there is none. Returns the failure's description, "" on success. What is written reaches
-/// the disk at the next syncFolder or syncFile.
+/// the disk at the next syncFolder or syncFile. A file that is made appears when it is whole.
 std::string writeFileInPlace(const std::string& path, std::string_view bytes);
 
 /// Makes a file that is not there yet and refuses one that is, whoever made it; a file that cannot
