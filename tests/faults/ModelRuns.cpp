@@ -246,7 +246,7 @@ void Sequence::recover() {
   life_->report.complain(recovered.failure);
   for (const std::string& note : recovered.notes) life_->report.complain(note);
   checkDisk(newPath, life_->now, life_->now);
-  for (const KeptWork& work : works) store.drop(work.session);
+  for (const KeptWork& work : works) dropKeptWork(store, work);
   if (random_() % 2 == 0) return;
   path_ = newPath;
   put(life_->saved, life_->now);
