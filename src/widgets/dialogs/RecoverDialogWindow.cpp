@@ -67,6 +67,7 @@ void RecoverDialogWindow::fillList() {
     }
   }
   lvwKept_->setCurrentItem(lvwKept_->topLevelItem(0));
+  lvwKept_->setFocus();  // Return is not to drop the next one
   openButtons();
 }
 
