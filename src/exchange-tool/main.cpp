@@ -7,6 +7,8 @@
 
 #include "ConsoleInterface.h"
 #include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "exchange/BagCheck.h"
 #include "exchange/DocumentReading.h"
 #include "exchange/ExchangeFailure.h"
 #include "exchange/Export.h"
@@ -20,6 +22,7 @@ using namespace velra;
 
 constexpr const char* kUsage = R"(Usage:
   velra-exchange export FORMAT DOCUMENT [-o FILE] [OPTION ...]
+  velra-exchange verify BAG                whether the files of a bag are what they were
   velra-exchange --list                    the formats, and which options each takes
   velra-exchange --help | --version
 
@@ -30,6 +33,9 @@ Options:
   --of-version N     of the N-th Version; by default of all, or of the first where one it must be
   --segments         segments in place of words
   --rate R           pictures per second
+  --movies           the movies too
+  --mapping FILE     which field is which element; by default the one beside the schema
+  --base ADDRESS     where on the web the document's folder is served
 
 The schema and the vocabulary are those of velra's settings (VELRA_MACHINE_SETTINGS names another
 file of them). The document is only read. A save that was cut off has to be finished first, by
@@ -85,6 +91,13 @@ int exportDocument(const ExportFormat& format, const std::string& document,
   return ui.hasTold() ? kIncomplete : 0;
 }
 
+int verify(const std::string& bag) {
+  const std::vector<std::string> faults = bagFaults(strAbsolutePath(bag));
+  for (const std::string& fault : faults) say(fault);
+  if (faults.empty()) say("All files of the bag are what they were.");
+  return faults.empty() ? 0 : kFailed;
+}
+
 int exportCommand(const std::vector<std::string>& words) {
   const ExportFormat* format = exportFormat(words[1]);
   if (!format) {
@@ -108,6 +121,7 @@ int run(const std::vector<std::string>& words) {
   if (command == "--list" && alone) return list();
   if (command == "--version" && alone) return write("velra-exchange " VELRA_VERSION "\n") ? 0 : 1;
   if (command == "export" && words.size() >= 3) return exportCommand(words);
+  if (command == "verify" && words.size() == 2) return verify(words[1]);
   std::fputs(kUsage, stderr);
   return kUsageError;
 }

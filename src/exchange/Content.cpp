@@ -26,7 +26,8 @@ std::size_t Content::numberOf(const ContentObject& object) const {
 std::vector<const ContentObject*> Content::below(const ContentObject& object) const {
   std::vector<const ContentObject*> children;
   const std::size_t number = numberOf(object);
-  for (std::size_t i = number + 1; i < objects.size(); ++i) {
+  // What is below an object stands in one row behind it.
+  for (std::size_t i = number + 1; i < objects.size() && objects[i].parent >= number; ++i) {
     if (objects[i].parent == number) children.push_back(&objects[i]);
   }
   return children;

@@ -35,12 +35,14 @@ struct ContentField {
   std::string name;
   tyType type = tyType::String;
   bool assigned = false;
+  bool linking = false;  // tells how objects hang together, and nothing of what they describe
   /// What it holds: one text, or one for each member of a set; of a span the file that goes with
   /// it, if any; of references the identifiers as `ContentObject` has them.
   std::vector<std::string> texts;
   std::optional<ContentSpan> span;
   std::vector<ContentWord> words;
-  /// For a field of the vocabulary: each of `texts` in all languages.
+  /// For a field of the vocabulary: each of `texts` in all languages, or empty ones where it is
+  /// none of the vocabulary's names. English is never empty else.
   std::vector<Translations> translations;
 };
 
@@ -69,11 +71,12 @@ struct ContentObject {
   std::string text(const std::string& name) const;
 };
 
-/// All that a document says, read once for whatever is made of it. Parents stand before what is
-/// below them: the document, then each Version with its Media, their Storages, and the trees of its
-/// main Video, Audio and Transcript in chain order.
+/// All that a document says, read once for whatever is made of it. Each object stands before what
+/// is below it, and that before all else: the document, then each Version with its Media, their
+/// Storages, and the trees of its main Video, Audio and Transcript in chain order.
 struct Content {
-  std::string path;  // of the document's own file, absolute
+  std::string path;    // of the document's own file, absolute
+  std::string schema;  // of the schema's
   std::vector<ContentObject> objects;
 
   const ContentObject& document() const { return objects.front(); }

@@ -41,6 +41,7 @@ ContentField contentFieldOf(const SchemaElement& element, const std::string& doc
   field.name = element.strName();
   field.type = element.tyType();
   field.assigned = element.bValid();
+  field.linking = element.bIgnore() || element.tyType() == tyType::SetOfGUIDs;
   if (!field.assigned) return field;
   if (const auto chunk = asChunk(element.vContent())) {
     readSpan(*chunk, documentFolder, field);
@@ -80,9 +81,7 @@ void VocabularyTranslations::translate(std::vector<ContentField>& fields) const 
     if (!names) continue;
     for (const std::string& text : field.texts) {
       const auto known = names->find(text);
-      Translations same;
-      same.fill(text);
-      field.translations.push_back(known == names->end() ? same : known->second);
+      field.translations.push_back(known == names->end() ? Translations() : known->second);
     }
   }
 }

@@ -35,6 +35,7 @@ class ContentWalk {
       : folder_(strAbsolutePath(folderOf(document.strGUID()))),
         translations_(app.objNaroThematicKeywords.get()) {
     content_.path = strAbsolutePath(document.strGUID());
+    content_.schema = strAbsolutePath(app.strXSDPath());
   }
 
   Content take() { return std::move(content_); }
@@ -124,6 +125,7 @@ class ContentWalk {
       const bool refers = field.name == rules.identityField || lower == "hasaudiotranscript" ||
                           std::find(single.begin(), single.end(), lower) != single.end();
       if (!refers || field.type != tyType::String) continue;
+      field.linking = true;
       for (std::string& text : field.texts) text = pathInContent(text, folder_);
     }
   }

@@ -39,6 +39,19 @@ double rateOption(const std::string& value) {
   return *rate;
 }
 
+std::string baseOption(const std::string& value) {
+  if (value.starts_with("http://") || value.starts_with("https://")) {
+    return value.ends_with('/') ? value.substr(0, value.size() - 1) : value;
+  }
+  throw ExchangeFailure("--base takes an address of the web, not \"" + value + "\".");
+}
+
+// Options that stand alone; null for all others.
+bool* switchOf(const std::string& option, ExportOptions& options) {
+  if (option == "--segments") return &options.segments;
+  return option == "--movies" ? &options.movies : nullptr;
+}
+
 bool takes(const ExportFormat& format, const std::string& option) {
   const auto names = split(format.options, ' ');
   return option.starts_with("--") &&
@@ -51,6 +64,8 @@ void setOption(const std::string& option, const std::string& value, ExportOption
   if (option == "--level") options.level = numberOption(option, value);
   if (option == "--of-version") options.version = numberOption(option, value);
   if (option == "--rate") options.rate = rateOption(value);
+  if (option == "--mapping") options.mapping = strAbsolutePath(value);
+  if (option == "--base") options.base = baseOption(value);
 }
 
 void refuseOwnFiles(const Content& content, const std::string& output) {
@@ -71,8 +86,8 @@ ExportOptions exportOptions(const ExportFormat& format, const std::vector<std::s
     if (word != "-o" && !takes(format, word)) {
       throw ExchangeFailure(std::string(format.name) + " takes no \"" + word + "\".");
     }
-    if (word == "--segments") {
-      options.segments = true;
+    if (bool* const on = switchOf(word, options)) {
+      *on = true;
       continue;
     }
     if (++i == words.size() || words[i].empty()) {
@@ -86,8 +101,11 @@ ExportOptions exportOptions(const ExportFormat& format, const std::vector<std::s
 Exported exportContent(const ExportFormat& format, const Content& content,
                        const ExportOptions& options) {
   if (!options.output.empty()) refuseOwnFiles(content, options.output);
+  if (format.makesFolder && options.output.empty()) {
+    throw ExchangeFailure(std::string(format.name) + " makes a folder, which -o has to name.");
+  }
   Exported exported = format.write(content, options);
-  if (options.output.empty()) return exported;
+  if (options.output.empty() || format.makesFolder) return exported;
   const std::string reason = replaceFile(options.output, exported.bytes);
   if (!reason.empty()) throw ExchangeFailure(options.output + ": " + reason);
   return exported;

@@ -18,6 +18,9 @@ struct ExportOptions {
   std::optional<int> version;      // which of the document's Versions, from 1
   std::optional<double> rate;      // pictures per second
   bool segments = false;           // segments instead of words
+  bool movies = false;             // the movies too
+  std::string mapping;             // absolute path of a mapping file; "" for the schema's own
+  std::string base;                // address under which the files are served; no "/" at its end
 };
 
 /// What comes of it.
@@ -26,8 +29,8 @@ struct Exported {
   std::vector<std::string> notes;  // closing sentences for the person
 };
 
-/// One format to write. A new one is a file in formats/ that defines one of these, and its line in
-/// ExportFormats.cpp.
+/// One format to write. A new one is a file in formats/ that defines one of these, and its lines in
+/// ExportFormats.h and .cpp.
 struct ExportFormat {
   std::string_view name;
   std::string_view extension;  // of its files, without the point
@@ -36,6 +39,8 @@ struct ExportFormat {
   std::string_view options;
   /// Raises ExchangeFailure.
   Exported (*write)(const Content& content, const ExportOptions& options);
+  /// True for one that writes a folder of its own, the output, and returns no bytes.
+  bool makesFolder = false;
 };
 
 /// All of them, in the order of the list that people see.

@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
+#include "exchange/ExportFormats.h"
 
-#include "exchange/ExportFormat.h"
+#include <algorithm>
 
 namespace velra {
 
-extern const ExportFormat kCsvFormat;
-extern const ExportFormat kTsvFormat;
-extern const ExportFormat kJsonLinesFormat;
-extern const ExportFormat kWebVttFormat;
-extern const ExportFormat kSubRipFormat;
-extern const ExportFormat kChaptersFormat;
-extern const ExportFormat kEdlFormat;
-
 const std::vector<const ExportFormat*>& exportFormats() {
   static const std::vector<const ExportFormat*> kFormats{
-      &kCsvFormat,    &kTsvFormat,      &kJsonLinesFormat, &kWebVttFormat,
-      &kSubRipFormat, &kChaptersFormat, &kEdlFormat,
+      &kCsvFormat,    &kTsvFormat,      &kJsonLinesFormat,  &kWebVttFormat,
+      &kSubRipFormat, &kChaptersFormat, &kEdlFormat,        &kHtmlFormat,
+      &kBagFormat,    &kManifestFormat, &kDublinCoreFormat, &kPbCoreFormat,
   };
   return kFormats;
 }

@@ -14,11 +14,9 @@ bool isSegment(const ContentObject& object) {
   return isExpression(object.kind) && object.level > 0;
 }
 
-bool passes(const Content& content, const ContentObject& segment, const ExportOptions& options) {
-  const bool rightKind = !options.kind || segment.kind == *options.kind;
-  const bool rightLevel = !options.level || segment.level == *options.level;
-  return rightKind && rightLevel &&
-         (!options.version || &content.objects[segment.version] == chosenVersion(content, options));
+bool passes(const ContentObject& segment, const ExportOptions& options) {
+  return (!options.kind || segment.kind == *options.kind) &&
+         (!options.level || segment.level == *options.level);
 }
 
 }  // namespace
@@ -33,10 +31,12 @@ const ContentObject* chosenVersion(const Content& content, const ExportOptions& 
 }
 
 ContentList allSegments(const Content& content, const ExportOptions& options) {
-  if (options.version) chosenVersion(content, options);
+  const std::size_t version =
+      options.version ? content.numberOf(*chosenVersion(content, options)) : kNoContent;
   ContentList segments;
   for (const ContentObject& object : content.objects) {
-    if (isSegment(object) && passes(content, object, options)) segments.push_back(&object);
+    const bool rightVersion = version == kNoContent || object.version == version;
+    if (isSegment(object) && rightVersion && passes(object, options)) segments.push_back(&object);
   }
   return segments;
 }

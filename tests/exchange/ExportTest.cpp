@@ -5,6 +5,7 @@
 #include <random>
 
 #include "base/Text.h"
+#include "exchange/BagCheck.h"
 #include "exchange/Cues.h"
 #include "exchange/ExchangeFailure.h"
 #include "exchange/FrameCount.h"
@@ -35,6 +36,10 @@ const ExpectedFile kExpectedFiles[] = {
     {"edl", {}, "film.edl"},
     {"edl", {"--rate", "29.97", "--class", "transcript"}, "drop.edl"},
     {"edl", {"--of-version", "2", "--rate", "25"}, "none.edl"},
+    {"html", {}, "film.html"},
+    {"dc", {}, "film.dc.xml"},
+    {"pbcore", {}, "film.pbcore.xml"},
+    {"iiif", {"--base", "https://archive.example/film/"}, "film.json"},
 };
 
 std::string failureOf(const std::function<void()>& action) {
@@ -71,7 +76,9 @@ TEST(Export, IsReadByProgramsOfOthers) {
   const Content content = session.content();
   for (const ExportFormat* format : exportFormats()) {
     exported(std::string(format->name), content,
-             {"-o", session.folder / ("film." + std::string(format->extension))});
+             {"-o", session.folder /
+                        ("film." + (format->extension == "xml" ? std::string(format->name) + ".xml"
+                                                               : std::string(format->extension)))});
   }
   exported("vtt", content, {"--segments", "-o", session.folder / "segments.vtt"});
   const std::string command =
@@ -94,6 +101,9 @@ TEST(Export, RefusesWhatCannotBeMeant) {
       {"csv", {"--level", "1e30"}, "--level takes a number from 1, not \"1e30\"."},
       {"csv", {"--class", "media"}, "--class takes video, audio or transcript, not \"media\"."},
       {"edl", {"--rate", "nan"}, "--rate takes pictures per second from 1 to 1000, not \"nan\"."},
+      {"iiif", {"--base", "ftp://x"}, "--base takes an address of the web, not \"ftp://x\"."},
+      {"bag", {"--movies"}, "bag makes a folder, which -o has to name."},
+      {"bag", {"-o", session.folder / "a"}, session.folder / "a" + " is there already."},
       {"vtt", {"--of-version", "3"}, "The document has 2 Versions and no number 3."},
       {"csv", {"--of-version", "3"}, "The document has 2 Versions and no number 3."},
       {"edl",
@@ -124,6 +134,59 @@ TEST(Export, ReadsNoDocumentOfWhichASaveWasCutOff) {
   EXPECT_EQ(failureOf([&] { session.content(); }),
             "A save of " + session.document +
                 " was cut off. Open the document in velra once, which finishes it.");
+}
+
+TEST(Mapping, IsRefusedWithLineAndField) {
+  ExchangeSession session;
+  const Content content = session.content();
+  const std::string path = session.folder.write("own.map", "");
+  const std::pair<const char*, const char*> kCases[] = {
+      {"# none\n\nAVDocument.Title", "line 3: \"AVDocument.Title\" is not of the form"},
+      {"Film.Title = title", "line 1: Film.Title: there is no class of that name."},
+      {"Media.Format = title",
+       "line 1: Media.Format: there is no element \"title\" for this class."},
+      {"AVDocument.Titel = title", ": the schema has no field Titel of class AVDocument."},
+  };
+  for (const auto& [text, sentence] : kCases) {
+    session.folder.write("own.map", text);
+    const std::string told = failureOf([&] { exported("pbcore", content, {"--mapping", path}); });
+    EXPECT_NE(told.find(sentence), std::string::npos) << told;
+  }
+}
+
+// Absolute identifiers of the place where it was made would not open anywhere else.
+TEST(Bag, OpensWhereItIsUnpackedAndTellsWhatHasChanged) {
+  ExchangeSession session;
+  const std::string film = session.folder.read("a/film.xml");
+  session.folder.write("a/film.xml", replaceAll(film, "<GUID>film_files",
+                                                "<GUID>" + session.folder / "a/film_files"));
+  const Exported made =
+      exported("bag", session.content(), {"--movies", "-o", session.folder / "b"});
+  EXPECT_EQ(made.notes.back(),
+            "The movie /no such archive/film, copy.mpg is not there and left out.");
+  EXPECT_EQ(session.folder.read("b/data/film_files/film_video1.xml"),
+            session.folder.read("a/film_files/film_video1.xml"));
+  EXPECT_EQ(session.folder.read("b/data/film.xml").find("<GUID>/"), std::string::npos);
+  std::filesystem::rename(session.folder / "b", session.folder / "c");
+  std::filesystem::rename(session.folder / "a", session.folder / "gone");
+  EXPECT_EQ(bagFaults(session.folder / "c"), std::vector<std::string>());
+  const Content content = readContent(session.application.app, session.folder / "c/data/film.xml");
+  EXPECT_EQ(content.objects.size(), 15U);
+  EXPECT_EQ(content.objects[1].movie, session.folder / "c/data/movies/film.avi");
+
+  session.folder.write("c/data/film_files/film_media1.xml", "<Media/>");
+  session.folder.write("c/data/more", "x");
+  std::filesystem::remove(session.folder / "c/bag-info.txt");
+  EXPECT_EQ(
+      bagFaults(session.folder / "c"),
+      (std::vector<std::string>{
+          "data/film_files/film_media1.xml is not what it was (sha256).",
+          "data/more is not in manifest-sha256.txt.", "bag-info.txt: No such file or directory",
+          "data/film_files/film_media1.xml is not what it was (sha512).",
+          "data/more is not in manifest-sha512.txt.", "bag-info.txt: No such file or directory"}));
+  session.folder.write("c/manifest-sha256.txt", "00  ../film.xml\n");
+  EXPECT_EQ(bagFaults(session.folder / "c")[0], "../film.xml leads out of the bag.");
+  EXPECT_EQ(bagFaults(session.folder.path()).size(), 3U);
 }
 
 TEST(FrameCount, LabelsPicturesAsEditingRoomsDo) {

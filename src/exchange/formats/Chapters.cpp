@@ -2,6 +2,7 @@
 
 // FFmpeg's metadata file, by which segments become the chapters of a movie.
 #include "exchange/ContentText.h"
+#include "exchange/ExportFormats.h"
 #include "exchange/SegmentChoice.h"
 
 namespace velra {
@@ -33,7 +34,6 @@ Exported writeChapters(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-extern const ExportFormat kChaptersFormat;
 const ExportFormat kChaptersFormat{"chapters", "ffmeta",
                                    "segments of one level as chapters, FFmpeg's metadata",
                                    "class level of-version", writeChapters};

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "exchange/ContentText.h"
+#include "exchange/ExportFormats.h"
 #include "exchange/SegmentChoice.h"
 #include "protocol/ClassRules.h"
 
@@ -109,14 +110,12 @@ Exported writeTable(const Content& content, const ExportOptions& options, char s
 
 }  // namespace
 
-extern const ExportFormat kCsvFormat;
 const ExportFormat kCsvFormat{"csv", "csv", "a table of the segments, RFC 4180",
                               "class level of-version",
                               [](const Content& content, const ExportOptions& options) {
                                 return writeTable(content, options, ',');
                               }};
 
-extern const ExportFormat kTsvFormat;
 const ExportFormat kTsvFormat{"tsv", "tsv", "the same with tabs", "class level of-version",
                               [](const Content& content, const ExportOptions& options) {
                                 return writeTable(content, options, '\t');

@@ -6,6 +6,7 @@
 #include "base/Paths.h"
 #include "exchange/ContentText.h"
 #include "exchange/ExchangeFailure.h"
+#include "exchange/ExportFormats.h"
 #include "exchange/FrameCount.h"
 #include "exchange/SegmentChoice.h"
 #include "platform/movie/MovieFacts.h"
@@ -109,7 +110,6 @@ Exported writeEdl(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-extern const ExportFormat kEdlFormat;
 const ExportFormat kEdlFormat{"edl", "edl", "segments of one level as a cut list, CMX 3600",
                               "class level of-version rate", writeEdl};
 

@@ -6,7 +6,7 @@
 
 #include "base/Text.h"
 #include "exchange/ContentText.h"
-#include "exchange/ExportFormat.h"
+#include "exchange/ExportFormats.h"
 
 namespace velra {
 
@@ -95,8 +95,10 @@ Json jsonValue(const ContentField& field) {
 Json jsonField(const ContentField& field) {
   Json entry{{"type", typeName(field.type)}, {"value", jsonValue(field)}};
   for (const Translations& names : field.translations) {
-    Json languages;
-    for (std::size_t i = 0; i < names.size(); ++i) languages[kContentLanguages[i]] = names[i];
+    Json languages;  // null for what is no name of the vocabulary
+    for (std::size_t i = 0; i < names.size() && !names[0].empty(); ++i) {
+      languages[kContentLanguages[i]] = names[i];
+    }
     entry["languages"].push_back(std::move(languages));
   }
   return entry;
@@ -141,7 +143,6 @@ Exported writeJsonLines(const Content& content, const ExportOptions&) {
 
 }  // namespace
 
-extern const ExportFormat kJsonLinesFormat;
 const ExportFormat kJsonLinesFormat{
     "jsonl", "jsonl", "every object as one line of JSON, for databases", "", writeJsonLines};
 

@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "exchange/ContentText.h"
 #include "exchange/Cues.h"
+#include "exchange/ExportFormats.h"
 #include "exchange/SegmentChoice.h"
 
 namespace velra {
@@ -54,14 +55,12 @@ constexpr std::string_view kCueOptions = "segments class level of-version";
 
 }  // namespace
 
-extern const ExportFormat kWebVttFormat;
 const ExportFormat kWebVttFormat{"vtt", "vtt", "the transcript, or --segments, as WebVTT",
                                  kCueOptions,
                                  [](const Content& content, const ExportOptions& options) {
                                    return writeCues(content, options, true);
                                  }};
 
-extern const ExportFormat kSubRipFormat;
 const ExportFormat kSubRipFormat{"srt", "srt", "the transcript, or --segments, as SubRip",
                                  kCueOptions,
                                  [](const Content& content, const ExportOptions& options) {
