@@ -2,6 +2,7 @@
 #include "exchange/DocumentReading.h"
 
 #include <algorithm>
+#include <variant>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
@@ -60,7 +61,8 @@ void refuseCutOffSave(const std::string& document) {
     RescueStore store(RescueStore::defaultPath());
     const auto saves = interruptedSaves(store, document);
     cutOff = std::any_of(saves.begin(), saves.end(), [&](const KeptWork& save) {
-      const auto plan = store.openPlan(save.session);
+      const auto open = store.plans().open(save.session);
+      const auto* plan = std::get_if<SavePlan>(&open);
       return !mayBeRunning(save.process) && plan && !plan->files.empty();
     });
   } catch (const DatabaseError&) {

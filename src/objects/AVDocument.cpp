@@ -10,6 +10,7 @@
 #include "objects/DocumentSave.h"
 #include "objects/Media.h"
 #include "objects/MediaObject.h"
+#include "objects/SaveUnderName.h"
 #include "objects/Storage.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
@@ -103,7 +104,7 @@ bool AVDocument::bSave() {
 }
 
 bool AVDocument::bSaveAs(const std::string& strAVDocPathName) {
-  return DocumentSave(app(), *this).bSaveAs(strAVDocPathName);
+  return SaveUnderName(app(), *this).bSaveAs(strAVDocPathName);
 }
 
 bool AVDocument::bSaveOwnFileAs(const std::string& path) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/DocumentSave.h"
 
+#include <utility>
+
 #include "app/ApplicationModule.h"
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "objects/AVDocument.h"
 #include "objects/MediaObject.h"
@@ -12,7 +15,6 @@
 #include "platform/files/Files.h"
 #include "protocol/MainWindow.h"
 #include "protocol/VideoExpression.h"
-#include "rescue/DocumentRescue.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
@@ -20,30 +22,12 @@
 
 namespace velra {
 
-namespace {
-
-// The picture of a segment goes with its Video to the new place.
-void relocateKeyFrame(VideoExpression& video, ObjectRegistry& objects, IOManager& io,
-                      const std::string& strAVDocPathName, SavePoint& before) {
-  const auto picture = video.objKeyframeObject();
-  if (!picture || picture->strGUID().empty()) return;
-  const std::string oldGUID = picture->strGUID();
-  const std::string newGUID = io.strCreateGUID(objects, ObjectKind::MediaObject,
-                                               picture->strTypeOfObject(), strAVDocPathName);
-  before.named(newGUID);
-  picture->setStrGUID(newGUID);
-  video.UpdateLocationKeyFrameObject(oldGUID, newGUID);
-  before.relocated(picture, oldGUID, newGUID);
-}
-
-}  // namespace
-
 DocumentSave::DocumentSave(ApplicationModule& app, AVDocument& document)
     : app_(app), document_(document), objects_(document.collObjects()), io_(*document.io()) {}
 
-bool DocumentSave::refused(const std::string& message) {
-  if (!message.empty()) app_.ui.messageBox(message);
-  app_.ui.messageBox(app_.LoadResString(Message::ObjectsNotSaved));
+bool bRefused(ApplicationModule& app, const std::string& message) {
+  if (!message.empty()) app.ui.messageBox(message);
+  app.ui.messageBox(app.LoadResString(Message::ObjectsNotSaved));
   return false;
 }
 
@@ -79,13 +63,13 @@ bool DocumentSave::bSave() {
   }
   SavePoint before(objects_.changedObjects());
   PlannedSave planned(io_, objects_.changedObjects(), filesToRemove());
-  if (!bSaveAllObjects()) return refused({});
+  if (!bSaveAllObjects()) return bRefused(app_, {});
   const bool saved = document_.bSaveOwnFile();
   const std::string failure = io_.strFlush();
   if (!failure.empty()) {
     // Nobody knows what reached the disk, so all of it is to be written again.
     before.restoreFlags();
-    return refused(failure + " (" + document_.strGUID() + ")");
+    return bRefused(app_, failure + " (" + document_.strGUID() + ")");
   }
   for (const std::string& guid : document_.colObjRemoved()) io_.RemoveGUID(guid);
   io_.keepFilesOf(objects_);
@@ -106,87 +90,6 @@ std::vector<std::string> DocumentSave::filesToRemove() {
   }
   removed.keepFilesOf(objects_);
   return removed.identifiers();
-}
-
-bool DocumentSave::bSaveAs(const std::string& strAVDocPathName) {
-  const std::string& unlisted = document_.strUnlisted();
-  if (!unlisted.empty()) {
-    app_.ui.messageBox(unlisted + ": Save As would leave out the expressions in it.");
-    return false;
-  }
-  const bool hadFolder = bFolderExists(dataFolderOf(strAVDocPathName));
-  SavePoint before(objects_.all());
-  const Outcome outcome = saveAsFrom(before, strAVDocPathName);
-  if (outcome == Outcome::Done) return true;
-  before.restore(io_, outcome == Outcome::NotSynced);
-  if (!hadFolder) removeFolderIfEmpty(dataFolderOf(strAVDocPathName));
-  return false;
-}
-
-DocumentSave::Outcome DocumentSave::saveAsFrom(SavePoint& before,
-                                               const std::string& strAVDocPathName) {
-  if (!bRenamedAndSaved(before, strAVDocPathName)) {
-    refused({});
-    return Outcome::NotWritten;
-  }
-  document_.setStrSchemaPath(app_.strXSDPath());
-  document_.setStrGUID(strAVDocPathName);
-  if (!document_.bSaveOwnFileAs(strAVDocPathName)) return Outcome::NotWritten;
-  if (!io_.strSaveFailure().empty()) {
-    app_.ui.messageBox(io_.strSaveFailure());
-    return Outcome::NotWritten;
-  }
-  const std::string failure = io_.strFlush();
-  if (!failure.empty()) {
-    refused(failure + " (" + strAVDocPathName + ")");
-    return Outcome::NotSynced;
-  }
-  io_.keepFilesOf(objects_);
-  if (io_.rescue()) io_.rescue()->savedElsewhere();
-  document_.unsavedWork().saved(objects_);
-  return Outcome::Done;
-}
-
-// A folder that cannot be written or a disk that is full ends the command and not the program.
-bool DocumentSave::bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName) {
-  try {
-    return bSaveAllObjectsAs(before, strAVDocPathName);
-  } catch (const RunTimeError& error) {
-    app_.ui.messageBox(error.description());
-    return false;
-  }
-}
-
-bool DocumentSave::bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName) {
-  // The folder comes before the first name: what tells that there is none must not become one.
-  if (objects_.Count() > 1) {
-    const std::string message = io_.strMakeDataFolder(strAVDocPathName);
-    if (!message.empty()) {
-      app_.ui.messageBox(message);
-      return false;
-    }
-  }
-  const NewFileNames::Listing listing(io_.names(), objects_, strAVDocPathName);
-  const std::string schemaPath = app_.strXSDPath();
-  ReferenceIndex& references = objects_.references();
-  ReferenceIndex::Batch batch(references);
-  for (const ObjectRef& object : objects_.described()) {
-    if (object.get() == &document_) continue;
-    const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);
-    before.named(newGUID);
-    const std::string oldGUID = object->strGUID();
-    object->setStrGUID(newGUID);
-    object->setStrSchemaPath(schemaPath);
-    for (const ObjectRef& holder : references.holdersOf(oldGUID)) {
-      holder->RenameAllRelativesGUID(oldGUID, newGUID);
-    }
-    batch.renamed(oldGUID, newGUID);
-    auto* video = as<VideoExpression>(object.get());
-    if (video && io_.bFileSystem()) {
-      relocateKeyFrame(*video, objects_, io_, strAVDocPathName, before);
-    }
-  }
-  return bSaveInDependencyOrder(app_, objects_, document_);
 }
 
 }  // namespace velra

@@ -11,7 +11,9 @@ class AVDocument;
 class DescribedObject;
 class IOManager;
 class ObjectRegistry;
-class SavePoint;
+
+/// Tells in boxes of a save that failed, first of the reason if there is one. Always false.
+bool bRefused(ApplicationModule& app, const std::string& reason);
 
 /// How a document is saved with all of its objects, and what of that is taken back when it fails.
 /// One instance is made for one command.
@@ -19,20 +21,13 @@ class DocumentSave {
  public:
   DocumentSave(ApplicationModule& app, AVDocument& document);
 
-  /// What `AVDocument` has under the same names.
+  /// What `AVDocument` has under the same name.
   bool bSave();
-  bool bSaveAs(const std::string& strAVDocPathName);
 
  private:
-  enum class Outcome { Done, NotWritten, NotSynced };
-
-  bool refused(const std::string& message);
   void renumber(DescribedObject& object);
   bool bSaveAllObjects();
   std::vector<std::string> filesToRemove();
-  Outcome saveAsFrom(SavePoint& before, const std::string& strAVDocPathName);
-  bool bRenamedAndSaved(SavePoint& before, const std::string& strAVDocPathName);
-  bool bSaveAllObjectsAs(SavePoint& before, const std::string& strAVDocPathName);
 
   ApplicationModule& app_;
   AVDocument& document_;

@@ -6,19 +6,27 @@
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "objects/AVDocument.h"
+#include "platform/files/Files.h"
 #include "rescue/DocumentRescue.h"
+#include "rescue/TornFile.h"
 #include "store/IOManager.h"
 
 namespace velra {
 
 namespace {
 
+PlannedFile plannedFile(const ObjectBase& object) {
+  PlannedFile file{strAbsolutePath(object.strGUID()), object.fileBytes(), {}, {}};
+  file.stamp = fileStamp(file.path);
+  if (file.stamp.exists) file.blocks = blocksOf(readFile(file.path).bytes);
+  return file;
+}
+
 void addToPlan(const RegisteredObject& object, SavePlan& plan) {
   const auto* described = as<const ObjectBase>(&object);
   if (!described || !described->bChanged()) return;
   try {
-    const std::string path = strAbsolutePath(object.strGUID());
-    plan.files.push_back({path, described->fileBytes(), fileStamp(path)});
+    plan.files.push_back(plannedFile(*described));
   } catch (const RunTimeError&) {
     return;  // the save itself will tell of a value that no file can hold
   }
@@ -40,9 +48,22 @@ PlannedSave::PlannedSave(const IOManager& io, const RegisteredList& objects,
     }
   }
   if (document) addToPlan(*document, all);
-  for (const std::string& guid : removals) all.removals.push_back(strAbsolutePath(guid));
-  // A store that fails does not keep the files from being written.
-  if (!rescue_->planSave(std::move(all)).empty()) rescue_ = nullptr;
+  for (const std::string& guid : removals) {
+    const std::string path = strAbsolutePath(guid);
+    all.removals.push_back({path, fileStamp(path)});
+  }
+  planned_ = rescue_->plan(all).empty();
+}
+
+PlannedSave::PlannedSave(const IOManager& io, const AVDocument& document,
+                         std::vector<MadeFile> made)
+    : rescue_(io.rescue()), copies_(true) {
+  if (!rescue_) return;
+  try {
+    planned_ = rescue_->plan(CopyPlan{plannedFile(document), std::move(made)}).empty();
+  } catch (const RunTimeError&) {
+    return;  // as above
+  }
 }
 
 PlannedSave::~PlannedSave() {
@@ -50,7 +71,12 @@ PlannedSave::~PlannedSave() {
 }
 
 void PlannedSave::finished() {
-  if (rescue_) rescue_->finishSave();
+  if (!rescue_) return;
+  if (planned_ && !copies_) {
+    rescue_->finishSave();
+  } else {
+    rescue_->finishCopy();
+  }
   rescue_ = nullptr;
 }
 

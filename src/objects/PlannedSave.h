@@ -5,20 +5,24 @@
 #include <vector>
 
 #include "protocol/RegisteredObject.h"
+#include "rescue/RescueRecords.h"
 
 namespace velra {
 
+class AVDocument;
 class DocumentRescue;
 class IOManager;
 
 /// A save of the open document, told to the store before its first file is touched: when it is cut
-/// off, the next opening carries it to its end. Without a store it does nothing.
+/// off, the next opening carries it to its end, or undoes it. Without a store it does nothing.
 class PlannedSave {
  public:
   /// The objects that will be written, the document among them, and the files that go when it is
   /// closed.
   PlannedSave(const IOManager& io, const RegisteredList& objects,
               const std::vector<std::string>& removals);
+  /// A save under another name, by which the document goes already, and what it makes beside it.
+  PlannedSave(const IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
   PlannedSave(const PlannedSave&) = delete;
   PlannedSave& operator=(const PlannedSave&) = delete;
   /// A save that was not finished has failed, and the person was told.
@@ -29,6 +33,9 @@ class PlannedSave {
 
  private:
   DocumentRescue* rescue_;  // null: nothing is to be told any more
+  // A store that fails does not keep the files from being written.
+  bool planned_ = false;
+  bool copies_ = false;
 };
 
 }  // namespace velra

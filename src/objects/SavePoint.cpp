@@ -87,8 +87,12 @@ void SavePoint::restore(IOManager& io, bool filesStay) {
   std::vector<Relocation> stranded;
   // Backward, since a picture may have taken the name that an earlier one left.
   for (auto at = relocations_.rbegin(); at != relocations_.rend(); ++at) {
-    if (!bringBack(io, *at, filesStay)) stranded.push_back(*at);
     std::erase(newNames_, at->to);
+    if (bringBack(io, *at, filesStay)) {
+      std::erase(newNames_, at->from);  // it may have been given to another
+    } else {
+      stranded.push_back(*at);
+    }
   }
   restoreFields();
   // A picture that cannot come back is kept where it is rather than lost.

@@ -22,7 +22,7 @@ constexpr const char* kUsage = R"(Usage:
   velra-recover --drop DOCUMENT            drops what is kept of a document
   velra-recover --help | --version
 
-The document itself is only read, but for a save that was cut off: that one is finished first.
+Saves that were cut off are finished first, of whatever document. Else documents are only read.
 )";
 
 constexpr int kUsageError = 2;
@@ -64,8 +64,6 @@ int recover(RescueStore& store, const std::string& document, const std::string& 
   if (asciiLower(strExtension(newPath)) != "xml") {
     return fail("The new document has to end in \".xml\": " + newPath);
   }
-  const std::string finished = finishInterruptedSaves(store, document);
-  if (!finished.empty()) say(finished);
   const auto works = keptWork(store, document);
   if (works.empty()) return fail("Nothing is kept of " + document + ".");
   const auto kept = keptObjects(store, works.front().session);
@@ -99,6 +97,8 @@ int run(const std::vector<std::string>& words) {
     return kUsageError;
   }
   RescueStore store(RescueStore::defaultPath());
+  const std::string finished = finishInterruptedSaves(store, "");
+  if (!finished.empty()) say(finished);
   const std::string document = words.size() > 1 ? strAbsolutePath(words.back()) : "";
   if (lists) return list(store, document);
   return recovers ? recover(store, document, strAbsolutePath(words[1])) : drop(store, document);

@@ -51,28 +51,34 @@ void DocumentRescue::post(Task task) {
   writer_.post(inSession(std::move(task)));
 }
 
-std::string DocumentRescue::planSave(SavePlan plan) {
-  return writer_.run(inSession([&plan](RescueStore& store, Session& session) {
-    store.planSave(session.begun(store), plan);
+std::string DocumentRescue::plan(const SavePlan& save) {
+  return writer_.run(inSession([&save](RescueStore& store, Session& session) {
+    store.plans().planSave(session.begun(store), save);
+  }));
+}
+
+std::string DocumentRescue::plan(const CopyPlan& copy) {
+  return writer_.run(inSession([&copy](RescueStore& store, Session& session) {
+    store.plans().planCopy(session.begun(store), copy);
   }));
 }
 
 void DocumentRescue::finishSave() {
   post([](RescueStore& store, Session& session) {
     session.waiting.clear();
-    store.finishSave(session.begun(store));
+    store.plans().finishSave(session.begun(store));
+  });
+}
+
+void DocumentRescue::finishCopy() {
+  post([](RescueStore& store, Session& session) {
+    session.waiting.clear();
+    store.plans().finishCopy(session.begun(store));
   });
 }
 
 void DocumentRescue::abandonSave() {
-  post([](RescueStore& store, Session& session) { store.abandonSave(session.begun(store)); });
-}
-
-void DocumentRescue::savedElsewhere() {
-  post([](RescueStore& store, Session& session) {
-    session.waiting.clear();
-    store.forgetAll(session.begun(store));
-  });
+  post([](RescueStore& store, Session& session) { store.plans().abandon(session.begun(store)); });
 }
 
 void DocumentRescue::keep(std::vector<KeptObject> objects, std::vector<std::string> paths) {
@@ -97,7 +103,7 @@ void DocumentRescue::endedByError() {
 }
 
 void DocumentRescue::removalsDone() {
-  post([](RescueStore& store, Session& session) { store.removalsDone(session.begun(store)); });
+  post([](RescueStore& store, Session& session) { store.plans().removalsDone(session.begun(store)); });
 }
 
 }  // namespace velra

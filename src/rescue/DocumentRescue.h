@@ -27,12 +27,14 @@ class DocumentRescue {
 
   /// Returns when the plan has reached the disk. Why it has not, or "": the save is then as safe as
   /// the files alone can make it.
-  std::string planSave(SavePlan plan);
-  void finishSave();
-  void abandonSave();
+  std::string plan(const SavePlan& save);
+  std::string plan(const CopyPlan& copy);
 
-  /// All that is kept of the document has been saved under another name.
-  void savedElsewhere();
+  /// All that is kept of the document has been saved: as it was planned, or under another name or
+  /// without a plan.
+  void finishSave();
+  void finishCopy();
+  void abandonSave();
 
   /// Keeps objects, in place of what was kept of them; those of `paths` are kept no more.
   void keep(std::vector<KeptObject> objects, std::vector<std::string> paths);

@@ -37,7 +37,7 @@ class OwnIdentifiers {
     for (const std::string& name : names_) {
       const std::string path = folder_ + dataFolder_ + name;
       // What a link leads to is not the copy's.
-      if (isOwnFile(path, folder_ + dataFolder_, "")) all.push_back(path);
+      if (OwnFiles(document_).holds(path)) all.push_back(path);
     }
     all.push_back(document_);  // comes last, as in a save
     return all;

@@ -7,11 +7,13 @@ namespace velra {
 
 class RescueStore;
 
-/// Carries the saves of a document to their end that were under way when their program died: their
-/// files are brought to the new bytes, and what they removed goes. Other programs' bytes in a place
-/// that is written over are kept in the store. To be called before the document is read. What was
-/// done, or what could not be done and is tried again next time, as one sentence; "" for nothing.
-/// Raises DatabaseError.
+/// Carries saves to their end that were under way when their program died: their files are brought
+/// to the new bytes, and what they removed goes; a save under another name that had not come to the
+/// document's own file is undone. A file that has been changed by somebody else since is left
+/// alone; what its save would have written is then kept as unsaved work. The saves of all documents
+/// are looked after, but for those that a running program has open. To be called before a document
+/// is read, with its absolute path, or with "" for none. What was done, or what could not be done
+/// and is tried again next time, in sentences; "" for nothing. Raises DatabaseError.
 std::string finishInterruptedSaves(RescueStore& store, const std::string& document);
 
 }  // namespace velra

@@ -9,6 +9,7 @@
 #include "base/Paths.h"
 #include "rescue/ProcessIdentity.h"
 #include "rescue/RescueStore.h"
+#include "rescue/RescueTables.h"
 
 namespace velra {
 
@@ -49,10 +50,6 @@ std::vector<KeptWork> works(Database& database, const std::string& condition,
     while (rows.next()) work.titles.push_back(rows.text(0));
   }
   return found;
-}
-
-bool mayGoOn(const KeptWork& work) {
-  return work.end == SessionEnd::Running && mayBeRunning(work.process);
 }
 
 bool isOpenHere(const KeptWork& work) {
@@ -113,6 +110,15 @@ std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& do
                   document);
 }
 
+bool isRunning(const KeptWork& work) {
+  return work.end == SessionEnd::Running && mayBeRunning(work.process);
+}
+
+bool isOpen(RescueStore& store, const std::string& document) {
+  const std::vector<KeptWork> all = sessions(store.database(), "1", document);
+  return std::any_of(all.begin(), all.end(), isRunning);
+}
+
 std::string strWhen(std::int64_t secondsSince1970) {
   const std::time_t time = secondsSince1970;
   std::tm local{};
@@ -122,9 +128,8 @@ std::string strWhen(std::int64_t secondsSince1970) {
 }
 
 OthersAtWork othersAtWork(RescueStore& store, const std::string& document) {
-  const auto all = sessions(store.database(), "1", document);
   OthersAtWork others;
-  others.open = std::any_of(all.begin(), all.end(), mayGoOn);
+  others.open = isOpen(store, document);
   const auto kept = sessions(store.database(), kHasObjects, document);
   if (!kept.empty()) others.kept = kept.front().changed;
   return others;
@@ -158,7 +163,7 @@ std::vector<KeptObject> keptObjects(RescueStore& store, const KeptWork& work) {
 void dropKeptWork(RescueStore& store, const KeptWork& work) {
   Transaction transaction(store.database());
   dropFrom(store.database(), work.replaced ? "replaced" : "object", work.session);
-  if (!mayGoOn(work)) store.deleteIfEmpty(work.session);
+  if (!isRunning(work)) store.deleteIfEmpty(work.session);
   transaction.commit();
 }
 

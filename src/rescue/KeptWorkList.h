@@ -20,6 +20,12 @@ std::vector<KeptWork> keptWork(RescueStore& store, const std::string& document);
 /// or of all for "". Without titles.
 std::vector<KeptWork> interruptedSaves(RescueStore& store, const std::string& document);
 
+/// True when a program may be at work in the session.
+bool isRunning(const KeptWork& work);
+
+/// True when a program that may be running, this one among them, has the document open.
+bool isOpen(RescueStore& store, const std::string& document);
+
 /// What a person may bring back: unsaved work, but that of the document that this process has open,
 /// and files that a save has replaced, with their names as titles. What is of the document `first`
 /// comes first, then the latest.

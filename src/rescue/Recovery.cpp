@@ -9,7 +9,7 @@
 #include "platform/files/Files.h"
 #include "platform/xml/XmlTexts.h"
 #include "rescue/ReferenceElements.h"
-#include "rescue/RescueStore.h"
+#include "rescue/RescueTables.h"
 
 namespace velra {
 

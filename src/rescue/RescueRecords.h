@@ -44,13 +44,33 @@ struct KeptWork {
 struct PlannedFile {
   std::string path;
   std::string bytes;
-  FileStamp stamp;  // of what it writes over
+  FileStamp stamp;     // of what it writes over
+  std::string blocks;  // the same, block by block: `blocksOf`
+};
+
+/// A file that goes when the document is closed.
+struct PlannedRemoval {
+  std::string path;
+  FileStamp stamp;  // another file of the name stays
 };
 
 /// All that a save will do to files, told before the first is touched.
 struct SavePlan {
-  std::vector<PlannedFile> files;     // in the order of writing
-  std::vector<std::string> removals;  // all that go when the document is closed after this save
+  std::vector<PlannedFile> files;  // in the order of writing
+  std::vector<PlannedRemoval> removals;
+};
+
+/// A file that a save under another name makes where none was.
+struct MadeFile {
+  std::string path;
+  std::string movedFrom;  // empty for a new one
+};
+
+/// All that a save under another name will do. The files that are made are on the disk before that
+/// of the document, the only one that may be written over, is touched.
+struct CopyPlan {
+  PlannedFile document;
+  std::vector<MadeFile> made;
 };
 
 }  // namespace velra

@@ -50,7 +50,7 @@ bool RecoverCommands::writeKeptWhenCutOff(const std::string& document, const Sav
   if (app_.rescue) rescue = std::make_unique<DocumentRescue>(*app_.rescue, document);
   std::string failure;
   app_.ui.workAside(app_.LoadResString(Message::MakingIndependent), [&] {
-    if (rescue) rescue->planSave(plan);
+    if (rescue) rescue->plan(plan);
     failure = writeIndependentCopy(plan);
   });
   if (!failure.empty()) app_.ui.messageBox(failure, BoxKind::Exclamation);

@@ -129,7 +129,7 @@ TEST(Export, ReadsNoDocumentOfWhichASaveWasCutOff) {
     const std::string living = processIdentity();
     const SessionId dead =
         store.begin(session.document, living.substr(0, living.rfind(' ')) + " 1");
-    store.planSave(dead, {{{session.document, "<AVDocument/>", {}}}, {}});
+    store.plans().planSave(dead, {{{session.document, "<AVDocument/>", {}, {}}}, {}});
   }
   EXPECT_EQ(failureOf([&] { session.content(); }),
             "A save of " + session.document +

@@ -64,6 +64,40 @@ TEST(CutOffSave, TheNextOpeningFindsAllOfItOrNone) {
   EXPECT_EQ(session.takeShown(), std::vector<std::string>{});
 }
 
+// Makes a copy of all, again and again.
+[[noreturn]] void copyUntilKilled(DocumentSession& session, const std::string& store) {
+  RescueWriter writer(store);
+  session.app.rescue = &writer;
+  session.open(session.files.documentPath());
+  for (int i = 0;; ++i) {
+    session.document()->bSaveAs(session.folder / ("copy" + std::to_string(i) + ".xml"));
+  }
+}
+
+TEST(CutOffSave, ACopyIsThereWholeOrNotAtAll) {
+  for (int i = 0; i < 10; ++i) {
+    DocumentSession session;
+    writeDocument(session);
+    const std::string store = session.folder / "state/rescue.sqlite";
+    const pid_t child = ::fork();
+    if (child == 0) copyUntilKilled(session, store);
+    ::usleep(static_cast<useconds_t>(150'000 + 7'001 * i));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+
+    RescueWriter writer(store);
+    session.app.rescue = &writer;
+    ASSERT_EQ(session.open(session.files.documentPath()), "");
+    std::map<std::string, int> files;
+    for (const auto& [name, bytes] : session.folder.snapshot()) {
+      if (name.starts_with("copy")) ++files[name.substr(0, name.find_first_of("._"))];
+    }
+    for (const auto& [copy, count] : files) EXPECT_EQ(count, kVersions + 1) << copy;
+    session.close();
+    session.app.rescue = nullptr;
+  }
+}
+
 TEST(CutOffSave, WhatASaveRemovedGoesThoughTheProgramDiesBeforeTheDocumentIsClosed) {
   DocumentSession session;
   writeDocument(session);

@@ -4,10 +4,16 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <filesystem>
+#include <functional>
+#include <map>
 
 #include "rescue/InterruptedSave.h"
+#include "rescue/KeptWorkList.h"
 #include "rescue/ProcessIdentity.h"
 #include "rescue/RescueStore.h"
+#include "rescue/RescueTables.h"
+#include "rescue/TornFile.h"
 #include "support/TemporaryFolder.h"
 
 namespace velra {
@@ -25,8 +31,26 @@ class InterruptedSave : public ::testing::Test {
     const std::string identity = processIdentity();
     return identity.substr(0, identity.rfind(' ')) + " 1";  // one that has ended
   }
-  PlannedFile planned(const std::string& name, const std::string& bytes) const {
-    return {folder_ / name, bytes, fileStamp(folder_ / name)};
+  // A plan over what a file holds now; without bytes there is none.
+  PlannedFile planned(const std::string& name, const std::string& old, const std::string& bytes) {
+    put(name, old);
+    const std::string path = folder_ / name;
+    return {path, bytes, keptStamp(path), blocksOf(old)};
+  }
+  void rename(const std::string& from, const std::string& to) {
+    std::filesystem::rename(folder_ / from, folder_ / to);
+  }
+  std::map<std::string, std::string> files() const {
+    auto all = folder_.snapshot();
+    std::erase_if(all, [](const auto& file) { return file.first.starts_with("rescue"); });
+    return all;
+  }
+  void put(const std::string& name, const std::string& bytes) {
+    if (bytes.empty()) {
+      deleteFile(folder_ / name);
+    } else if (folder_.read(name) != bytes) {
+      folder_.write(name, bytes);
+    }
   }
 
   const TemporaryFolder folder_;
@@ -34,60 +58,120 @@ class InterruptedSave : public ::testing::Test {
   RescueStore store_{folder_ / "rescue.sqlite"};
 };
 
-TEST_F(InterruptedSave, EveryFileIsBroughtToItsNewBytes) {
-  const std::string torn = folder_.write("film_files/film_media1.xml", "old");
-  folder_.write("film_files/film_media2.xml", "old");
-  folder_.write("film_files/film_media4.xml", "old");
-  const SessionId session = store_.begin(document_, process());
-  store_.planSave(session,
-                  {{planned("film_files/film_media1.xml", "new1"),
-                    planned("film_files/film_media2.xml", "new2"),
-                    planned("film_files/film_media3.xml", "new3"),
-                    planned("film_files/film_media4.xml", "new4"), planned("film.xml", "document")},
-                   {}});
-  folder_.write("film_files/film_media1.xml", "n");
-  folder_.write("film_files/film_media2.xml", "new2");
-
-  EXPECT_FALSE(finishInterruptedSaves(store_, document_).empty());
-  for (const char* number : {"1", "2", "3", "4"}) {
-    EXPECT_EQ(folder_.read(std::string("film_files/film_media") + number + ".xml"),
-              std::string("new") + number);
+TEST_F(InterruptedSave, EachFileIsBroughtToItsNewBytesUnlessSomebodyElseHasChangedOne) {
+  const std::string old = bytesOf('a', 3000);
+  const std::string bytes = bytesOf('b', 2000);
+  const std::string longer = bytesOf('c', 3000);
+  const std::string padded = bytes + std::string(old.size() - bytes.size(), '\n');
+  const struct {
+    const char* what;
+    std::string old;      // "": no file
+    std::string present;  // the same
+    bool replaced;        // what lies there is kept, since it may be somebody's
+    bool changed;
+  } cases[] = {
+      {"untouched", old, old, false, false},
+      {"written", old, bytes, false, false},
+      {"not made yet", "", "", false, false},
+      {"begun", "", bytes.substr(0, 700), true, false},
+      {"reserved", "", bytes.substr(0, 512) + std::string(1495, '\0'), true, false},
+      {"some blocks", old, padded.substr(0, 1024) + old.substr(1024), true, false},
+      {"the last block", old, old.substr(0, 2560) + padded.substr(2560), true, false},
+      {"longer than before", bytes, longer.substr(0, 512) + bytes.substr(512), true, false},
+      {"not cut off yet", old, padded, true, false},
+      {"cut off too early", old, old.substr(0, bytes.size()), true, false},
+      {"edited", old, "<a>theirs</a>", false, true},
+      {"edited a little", old, bytesOf('a', 2999) + "x", false, true},
+      {"deleted", old, "", false, true},
+      {"come from elsewhere", "", "<a>theirs</a>", false, true},
+  };
+  const std::string name = "film_files/film_media1.xml";
+  for (const auto& one : cases) {
+    SCOPED_TRACE(one.what);
+    const std::string wanted = one.old == bytes ? longer : bytes;
+    const SessionId session = store_.begin(document_, process());
+    store_.plans().planSave(
+        session, {{planned(name, one.old, wanted), planned("film.xml", "before", "after")}, {}});
+    put(name, one.present);
+    const std::string told = finishInterruptedSaves(store_, document_);
+    EXPECT_EQ(told.find("has been changed since") != std::string::npos, one.changed) << told;
+    EXPECT_EQ(folder_.read(name), one.changed ? one.present : wanted);
+    EXPECT_EQ(folder_.read("film.xml"), one.changed ? "before" : "after");
+    EXPECT_EQ(store_.replaced(session).size(), one.replaced && !one.changed ? 1U : 0U);
+    EXPECT_EQ(keptObjects(store_, session).size(), one.changed ? 2U : 0U);
+    EXPECT_EQ(finishInterruptedSaves(store_, document_), "");
+    store_.database().prepare("DELETE FROM session").run();
   }
-  EXPECT_EQ(folder_.read("film.xml"), "document");
-  ASSERT_EQ(store_.replaced(session).size(), 1U) << "what nobody planned to write over";
-  EXPECT_EQ(store_.replaced(session)[0].bytes, "n");
-  EXPECT_EQ(finishInterruptedSaves(store_, document_), "");
 }
 
-TEST_F(InterruptedSave, ARunningProgramFinishesItsOwnAndAFailureIsTriedAgain) {
-  store_.planSave(store_.begin(document_, processIdentity()), {{planned("film.xml", "one")}, {}});
-  EXPECT_EQ(finishInterruptedSaves(store_, document_), "");
-  EXPECT_EQ(folder_.read("film.xml"), "");
-
+TEST_F(InterruptedSave, ThoseOfOtherDocumentsAreFinishedButForWhatIsOpenOrAway) {
+  const auto plan = [&](const std::string& program, const char* document, const char* file) {
+    store_.plans().planSave(store_.begin(folder_ / document, program),
+                            {{planned(file, "", "new")}, {}});
+  };
+  plan(processIdentity(), "film.xml", "film.xml");
+  plan(process(), "other.xml", "other.xml");
+  plan(process(), "away/third.xml", "away/third.xml");
   folder_.write("file", "");
-  store_.planSave(store_.begin(document_, process()), {{planned("file/below", "two")}, {}});
+  plan(process(), "fourth.xml", "file/below");
+  EXPECT_EQ(finishInterruptedSaves(store_, document_),
+            "A save of " + (folder_ / "other.xml") + " that was cut off has been finished.");
+  const auto files = folder_.snapshot();
+  EXPECT_EQ(files.count("other.xml"), 1U);
+  EXPECT_EQ(files.count("film.xml") + files.count("away/third.xml"), 0U);
   for (int i = 0; i < 2; ++i) {
-    EXPECT_NE(finishInterruptedSaves(store_, document_).find("could not"), std::string::npos);
+    const std::string told = finishInterruptedSaves(store_, folder_ / "fourth.xml");
+    EXPECT_NE(told.find("could not be finished: Not a directory"), std::string::npos) << told;
   }
 }
 
-TEST_F(InterruptedSave, OnlyTheDocumentsOwnFilesAreRemoved) {
+TEST_F(InterruptedSave, OneUnderAnotherNameIsUndoneUntilItsDocumentIsTouched) {
+  // The picture 2 takes the place that 1 leaves, within the folder of the document itself.
+  const std::string data = "copy_files/copy_";
+  const std::map<std::string, std::string> before = {{data + "mediaobject1.bmp", "1"},
+                                                     {data + "mediaobject2.bmp", "2"},
+                                                     {data + "version1.xml", "theirs"},
+                                                     {"copy.xml", "old"}};
+  const std::vector<std::function<void()>> steps = {
+      [&] { rename(data + "mediaobject1.bmp", data + "mediaobject3.bmp"); },
+      [&] { rename(data + "mediaobject2.bmp", data + "mediaobject1.bmp"); },
+      [&] { put(data + "version2.xml", "mine"); }, [&] { put("copy.xml", "new"); }};
+  for (std::size_t done = 0; done <= steps.size(); ++done) {
+    for (const auto& [name, bytes] : before) put(name, bytes);
+    const SessionId session = store_.begin(document_, process());
+    store_.plans().planCopy(
+        session, {planned("copy.xml", "old", "new"),
+                  {{folder_ / (data + "mediaobject3.bmp"), folder_ / (data + "mediaobject1.bmp")},
+                   {folder_ / (data + "mediaobject1.bmp"), folder_ / (data + "mediaobject2.bmp")},
+                   {folder_ / (data + "version2.xml"), {}}}});
+    for (std::size_t i = 0; i < done; ++i) steps[i]();
+    const auto cutOff = files();
+    const std::string told = finishInterruptedSaves(store_, document_);
+    EXPECT_EQ(told.empty(), done == steps.size());
+    EXPECT_EQ(files(), done == steps.size() ? cutOff : before) << done;
+    EXPECT_EQ(store_.plans().open(session).index(), 0U);
+  }
+}
+
+TEST_F(InterruptedSave, OnlyTheDocumentsOwnFilesAreRemovedAndOnlyAsTheyWere) {
   const std::string foreign = folder_.write("other_files/other_media1.xml", "x");
   const std::vector<std::string> stay = {
       folder_.write("film_files/notes.xml", "x"), folder_.write("film_files/below/film_a.xml", "x"),
-      folder_.write("film_media1.xml", "x"), foreign, folder_ / "film_files/film_link.xml"};
-  ASSERT_EQ(::symlink(foreign.c_str(), stay.back().c_str()), 0);
+      folder_.write("film_media1.xml", "x"),      foreign,
+      folder_ / "film_files/film_link.xml",       folder_.write("film_files/film_media2.xml", "x")};
+  ASSERT_EQ(::symlink(foreign.c_str(), (folder_ / "film_files/film_link.xml").c_str()), 0);
   const std::string goes = folder_.write("film_files/film_media1.xml", "x");
-  SavePlan plan{{}, stay};
-  plan.removals.push_back(goes);
+  SavePlan plan{{}, {{goes, keptStamp(goes)}}};
+  for (const std::string& path : stay) plan.removals.push_back({path, keptStamp(path)});
   const SessionId session = store_.begin(document_, process());
-  store_.planSave(session, plan);
-  store_.finishSave(session);
+  store_.plans().planSave(session, plan);
+  store_.plans().finishSave(session);
+  folder_.write("film_files/film_media2.xml", "a new object");
 
   finishInterruptedSaves(store_, document_);
   EXPECT_FALSE(bFileExists(goes));
   for (const std::string& path : stay) EXPECT_TRUE(bFileExists(path)) << path;
-  EXPECT_FALSE(store_.openPlan(session));
+  EXPECT_EQ(store_.plans().open(session).index(), 0U);
 }
 
 // Saves two files of one letter for ever.
@@ -98,11 +182,12 @@ TEST_F(InterruptedSave, OnlyTheDocumentsOwnFilesAreRemoved) {
   for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1)) {
     SavePlan plan;
     for (const char* name : {"film_files/film_media1.xml", "film.xml"}) {
-      plan.files.push_back({folder / name, bytesOf(letter, size), fileStamp(folder / name)});
+      plan.files.push_back({folder / name, bytesOf(letter, size), keptStamp(folder / name),
+                            blocksOf(folder.read(name))});
     }
-    store.planSave(session, plan);
+    store.plans().planSave(session, plan);
     for (const PlannedFile& file : plan.files) writeFileInPlace(file.path, file.bytes);
-    store.finishSave(session);
+    store.plans().finishSave(session);
   }
 }
 

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <variant>
 
 #include "rescue/DocumentRescue.h"
 #include "rescue/KeptWorkList.h"
 #include "rescue/ProcessIdentity.h"
 #include "rescue/RescueStore.h"
+#include "rescue/RescueTables.h"
 #include "rescue/RescueWriter.h"
 #include "support/TemporaryFolder.h"
 
@@ -59,22 +61,27 @@ TEST_F(RescueStoreTest, WhatIsKeptComesBackByteForByte) {
 }
 
 TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
+  SavePlans plans = store_.plans();
   const SessionId session = store_.begin("f", processIdentity());
+  const auto open = [&] { return std::get<SavePlan>(plans.open(session)); };
   store_.keep(session, {object("one")});
-  store_.planSave(session, {{{"one", kBytes, {}}}, {"gone"}});
-  store_.abandonSave(session);
-  EXPECT_FALSE(store_.openPlan(session));
+  const SavePlan plan{{{"one", kBytes, {}, "blocks"}}, {{"gone", {}}}};
+  plans.planSave(session, plan);
+  plans.abandon(session);
+  EXPECT_EQ(plans.open(session).index(), 0U);
   EXPECT_EQ(keptWork(store_, "").size(), 1U);
 
-  store_.planSave(session, {{{"one", "stale", {}}}, {}});
-  store_.planSave(session, {{{"one", kBytes, {}}}, {"gone"}});
-  EXPECT_EQ(store_.openPlan(session)->files.size(), 1U);
-  EXPECT_EQ(store_.openPlan(session)->files[0].bytes, kBytes);
-  store_.finishSave(session);
+  plans.planCopy(session, {{"copy", kBytes, {}, {}}, {{"made", "from"}}});
+  const auto copy = std::get<CopyPlan>(plans.open(session));
+  EXPECT_EQ(copy.document.path + copy.made.at(0).path + copy.made.at(0).movedFrom, "copymadefrom");
+  plans.planSave(session, plan);
+  EXPECT_EQ(open().files.size(), 1U) << "one whose end was not written is out of date";
+  EXPECT_EQ(open().files[0].bytes + open().files[0].blocks, kBytes + "blocks");
+  plans.finishSave(session);
   EXPECT_TRUE(keptWork(store_, "").empty());
-  EXPECT_TRUE(store_.openPlan(session)->files.empty());
-  EXPECT_EQ(store_.openPlan(session)->removals, std::vector<std::string>{"gone"});
-  store_.removalsDone(session);
+  EXPECT_TRUE(open().files.empty());
+  EXPECT_EQ(plans.dueRemovals(session).at(0).path, "gone");
+  plans.removalsDone(session);
   store_.end(session, SessionEnd::Left);
   EXPECT_TRUE(interruptedSaves(store_, "f").empty());
 }
@@ -90,7 +97,7 @@ TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
   };
   keepOne("a", goneProcess());
   const SessionId cutOff = store_.begin("e", goneProcess());
-  store_.planSave(cutOff, {{{"one", kBytes, {}}}, {}});
+  store_.plans().planSave(cutOff, {{{"one", kBytes, {}, {}}}, {}});
   keepOne("b", processIdentity());
   keepOne("c", goneProcess());
   keepOne("d", "another-machine boot 1 1");
@@ -98,7 +105,7 @@ TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
   EXPECT_EQ(documents(), "dcb") << "the oldest of those that count is too much";
   pruneKeptWork(store_, std::time(nullptr) + 60, 1000);
   EXPECT_EQ(documents(), "db");
-  EXPECT_TRUE(store_.openPlan(cutOff)) << "a save that was cut off can always be finished";
+  EXPECT_NE(store_.plans().open(cutOff).index(), 0U) << "a save that was cut off can always be finished";
 }
 
 TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
@@ -110,7 +117,7 @@ TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
   EXPECT_TRUE(hasRestorableWork(store_));
   const SessionId killed = store_.begin("killed", goneProcess());
   store_.keep(killed, {object("two")});
-  store_.planSave(killed, {{{"two", kBytes, {}}}, {}});
+  store_.plans().planSave(killed, {{{"two", kBytes, {}, {}}}, {}});
   store_.keep(store_.begin("elsewhere", "another-machine boot 1 1"), {object("three")});
 
   std::string seen;
@@ -122,7 +129,7 @@ TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
   }
   EXPECT_EQ(seen, "open film_video1.xml 4; elsewhere Title of three 3; killed Title of two 2; ");
   EXPECT_FALSE(hasRestorableWork(store_));
-  EXPECT_TRUE(store_.openPlan(killed)) << "a save that was cut off is no work to be dropped";
+  EXPECT_NE(store_.plans().open(killed).index(), 0U) << "a save that was cut off is no work to be dropped";
   EXPECT_EQ(keptObjects(store_, open).size(), 1U);
 }
 
@@ -133,7 +140,7 @@ TEST(RescueWriter, GoesOnWithoutAStoreAndPutsADamagedOneAside) {
   for (const auto& [path, works] : {std::pair(damaged, true), std::pair(blocked, false)}) {
     RescueWriter writer(path);
     DocumentRescue rescue(writer, "f");
-    const std::string outcome = rescue.planSave({{{"one", kBytes, {}}}, {}});
+    const std::string outcome = rescue.plan(SavePlan{{{"one", kBytes, {}, {}}}, {}});
     EXPECT_EQ(outcome.empty(), works) << outcome;
     EXPECT_EQ(writer.failure(), outcome);
     rescue.keep({{"one", "Video", "", kBytes, false, {}}}, {});

@@ -5,8 +5,22 @@
 
 namespace velra {
 
-/// True when a path leads to a regular file directly inside a folder, whatever links stand on the
-/// way to both, and its name begins with `prefix`. A link is never such a file.
-bool isOwnFile(const std::string& path, const std::string& folder, const std::string& prefix);
+/// The files that are a document's own: regular files directly inside its data folder, whose names
+/// begin with that of the document, whatever links stand on the way to the folder. A link is never
+/// one of them.
+class OwnFiles {
+ public:
+  /// Of the document at an absolute path.
+  explicit OwnFiles(const std::string& document);
+
+  /// The data folder, with a separator at its end.
+  const std::string& folder() const { return folder_; }
+
+  bool owns(const std::string& path) const;
+
+ private:
+  std::string prefix_;
+  std::string folder_;
+};
 
 }  // namespace velra

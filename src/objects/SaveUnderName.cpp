@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "objects/SaveUnderName.h"
+
+#include <utility>
+
+#include "app/ApplicationModule.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "objects/AVDocument.h"
+#include "objects/DocumentSave.h"
+#include "objects/MediaObject.h"
+#include "objects/OrderedSave.h"
+#include "objects/PlannedSave.h"
+#include "objects/SavePoint.h"
+#include "platform/UserInterface.h"
+#include "platform/files/Files.h"
+#include "protocol/VideoExpression.h"
+#include "store/DataFolder.h"
+#include "store/IOManager.h"
+#include "store/ReferenceIndex.h"
+
+namespace velra {
+
+SaveUnderName::SaveUnderName(ApplicationModule& app, AVDocument& document)
+    : app_(app), document_(document), objects_(document.collObjects()), io_(*document.io()) {}
+
+bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
+  const std::string& unlisted = document_.strUnlisted();
+  if (!unlisted.empty()) {
+    app_.ui.messageBox(unlisted + ": Save As would leave out the expressions in it.");
+    return false;
+  }
+  const bool hadFolder = bFolderExists(dataFolderOf(strAVDocPathName));
+  SavePoint before(objects_.all());
+  const Outcome outcome = saveAsFrom(before, strAVDocPathName);
+  if (outcome == Outcome::Done) return true;
+  before.restore(io_, outcome == Outcome::NotSynced);
+  if (!hadFolder) removeFolderIfEmpty(dataFolderOf(strAVDocPathName));
+  return false;
+}
+
+SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
+                                                 const std::string& strAVDocPathName) {
+  if (!bNamedAnew(before, strAVDocPathName)) {
+    bRefused(app_, {});
+    return Outcome::NotWritten;
+  }
+  document_.setStrSchemaPath(app_.strXSDPath());
+  document_.setStrGUID(strAVDocPathName);
+  PlannedSave planned(io_, document_, std::move(made_));
+  if (!bSaveAllObjectsAs(before)) {
+    bRefused(app_, {});
+    return Outcome::NotWritten;
+  }
+  if (!document_.bSaveOwnFileAs(strAVDocPathName)) return Outcome::NotWritten;
+  if (!io_.strSaveFailure().empty()) {
+    app_.ui.messageBox(io_.strSaveFailure());
+    return Outcome::NotWritten;
+  }
+  const std::string failure = io_.strFlush();
+  if (!failure.empty()) {
+    bRefused(app_, failure + " (" + strAVDocPathName + ")");
+    return Outcome::NotSynced;
+  }
+  io_.keepFilesOf(objects_);
+  planned.finished();
+  document_.unsavedWork().saved(objects_);
+  return Outcome::Done;
+}
+
+// A folder that cannot be written or a disk that is full ends the command and not the program.
+bool SaveUnderName::bNamedAnew(SavePoint& before, const std::string& strAVDocPathName) {
+  try {
+    return bRename(before, strAVDocPathName);
+  } catch (const RunTimeError& error) {
+    app_.ui.messageBox(error.description());
+    return false;
+  }
+}
+
+bool SaveUnderName::bRename(SavePoint& before, const std::string& strAVDocPathName) {
+  // The folder comes before the first name: what tells that there is none must not become one.
+  if (objects_.Count() > 1) {
+    const std::string message = io_.strMakeDataFolder(strAVDocPathName);
+    if (!message.empty()) {
+      app_.ui.messageBox(message);
+      return false;
+    }
+  }
+  const NewFileNames::Listing listing(io_.names(), objects_, strAVDocPathName);
+  const std::string schemaPath = app_.strXSDPath();
+  ReferenceIndex& references = objects_.references();
+  ReferenceIndex::Batch batch(references);
+  for (const ObjectRef& object : objects_.described()) {
+    if (object.get() == &document_) continue;
+    const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);
+    before.named(newGUID);
+    made_.push_back({newGUID, {}});
+    const std::string oldGUID = object->strGUID();
+    object->setStrGUID(newGUID);
+    object->setStrSchemaPath(schemaPath);
+    for (const ObjectRef& holder : references.holdersOf(oldGUID)) {
+      holder->RenameAllRelativesGUID(oldGUID, newGUID);
+    }
+    batch.renamed(oldGUID, newGUID);
+    auto* video = as<VideoExpression>(object.get());
+    if (video && io_.bFileSystem()) renameKeyFrame(*video, before, strAVDocPathName);
+  }
+  return true;
+}
+
+// The picture of a segment goes with its Video to the new place, when all that goes there is known.
+void SaveUnderName::renameKeyFrame(VideoExpression& video, SavePoint& before,
+                                   const std::string& strAVDocPathName) {
+  const auto picture = video.objKeyframeObject();
+  if (!picture || picture->strGUID().empty()) return;
+  const std::string oldGUID = picture->strGUID();
+  const std::string newGUID = io_.strCreateGUID(objects_, ObjectKind::MediaObject,
+                                                picture->strTypeOfObject(), strAVDocPathName);
+  before.named(newGUID);
+  picture->setStrGUID(newGUID);
+  const std::string leaves = picture->bChanged() ? strAbsolutePath(oldGUID) : std::string();
+  if (!leaves.empty()) io_.names().went(leaves);
+  made_.push_back({newGUID, leaves});
+  relocations_.push_back({&video, oldGUID, newGUID});
+}
+
+bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
+  try {
+    for (const auto& [video, from, to] : relocations_) {
+      video->UpdateLocationKeyFrameObject(from, to);
+      before.relocated(video->objKeyframeObject(), from, to);
+    }
+  } catch (const RunTimeError& error) {
+    app_.ui.messageBox(error.description());
+    return false;
+  }
+  if (!bSaveInDependencyOrder(app_, objects_, document_)) return false;
+  // The document must never be there before what it names.
+  const std::string failure = io_.strFlush();
+  if (!failure.empty()) app_.ui.messageBox(failure + " (" + document_.strGUID() + ")");
+  return failure.empty();
+}
+
+}  // namespace velra

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rescue/CutOffSave.h"
+
+#include <map>
+#include <set>
+#include <utility>
+
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "platform/files/FileMoves.h"
+#include "platform/files/Files.h"
+#include "platform/files/OwnFile.h"
+#include "rescue/KeptWorkList.h"
+#include "rescue/RescueStore.h"
+#include "rescue/RescueTables.h"
+
+namespace velra {
+
+namespace {
+
+// What a save under another name had made when it was cut off. Under a name that an earlier file
+// was to leave, that file may still lie.
+std::vector<const MadeFile*> madeSoFar(const CopyPlan& plan, const OwnFiles& own) {
+  std::vector<const MadeFile*> made;
+  std::map<std::string, bool> left;  // where files were to be moved from
+  for (const MadeFile& file : plan.made) {
+    const auto before = left.find(file.path);
+    const bool done = own.owns(file.path) && (before == left.end() || before->second);
+    if (!file.movedFrom.empty()) left[file.movedFrom] = done;
+    if (done) made.push_back(&file);
+  }
+  return made;
+}
+
+}  // namespace
+
+std::string CutOffSave::finish() {
+  // Behind a folder that is away, as on a medium that is not there, nothing can be told.
+  if (!bFolderExists(folderOf(work_.document))) return folderOf(work_.document) + " is not there";
+  std::string failure = std::visit([this](const auto& plan) { return carryOut(plan); },
+                                   store_.plans().open(work_.session));
+  if (!failure.empty()) return failure;
+  removeFiles();
+  store_.end(work_.session, work_.end);
+  return {};
+}
+
+std::string CutOffSave::carryOut(const SavePlan& plan) {
+  if (plan.files.empty()) return {};
+  std::vector<FoundFile> unwritten;
+  std::string changed;
+  for (const PlannedFile& planned : plan.files) {
+    FoundFile file{&planned, FileState::Untouched, {}};
+    const std::string reason = strStateOf(planned, file.state, file.bytes);
+    if (!reason.empty()) return reason + " (" + planned.path + ")";
+    if (file.state == FileState::Changed) changed = planned.path;
+    if (file.state != FileState::Written) unwritten.push_back(std::move(file));
+  }
+  if (!changed.empty()) {
+    keepAsWork(unwritten);
+    store_.plans().abandon(work_.session);
+    outcome_ = "was left as it is, since " + changed +
+               " has been changed since; what it would have written is kept";
+    return {};
+  }
+  std::string failure = writeFiles(unwritten);
+  if (!failure.empty()) return failure;
+  store_.plans().finishSave(work_.session);
+  outcome_ = "has been finished";
+  return {};
+}
+
+void CutOffSave::keepAsWork(const std::vector<FoundFile>& files) {
+  std::vector<KeptObject> objects;
+  for (const FoundFile& file : files) {
+    const std::string& path = file.planned->path;
+    objects.push_back({path, "", path.substr(path.rfind('/') + 1), file.planned->bytes, false,
+                       file.planned->stamp});
+  }
+  store_.keep(work_.session, objects);
+}
+
+std::string CutOffSave::bringTo(const FoundFile& file) {
+  const auto& [path, bytes, stamp, blocks] = *file.planned;
+  if (!keptStamp(path).exists) {
+    makeFolders(folderOf(path));
+    return writeNewFile(path, bytes);
+  }
+  // Most likely torn, but nobody can be sure, so nothing of it is lost.
+  if (file.state == FileState::Torn) store_.keepReplaced(work_.session, path, file.bytes);
+  return writeFileInPlace(path, bytes);
+}
+
+// Brings all to their new bytes, up to the disk.
+std::string CutOffSave::writeFiles(const std::vector<FoundFile>& files) {
+  std::set<std::string> folders;
+  for (const FoundFile& file : files) {
+    const std::string& path = file.planned->path;
+    const std::string reason = bringTo(file);
+    if (!reason.empty()) return reason + " (" + path + ")";
+    folders.insert(folderOf(path));
+  }
+  for (const std::string& folder : folders) {
+    const std::string reason = syncFolder(folder);
+    if (!reason.empty()) return reason + " (" + folder + ")";
+  }
+  return {};
+}
+
+// The document's own file comes last, and it alone tells whether there is a copy.
+std::string CutOffSave::carryOut(const CopyPlan& plan) {
+  FoundFile document{&plan.document, FileState::Untouched, {}};
+  const std::string& path = plan.document.path;
+  if (!bFolderExists(folderOf(path))) return folderOf(path) + " is not there";
+  if (isOpen(store_, path)) return path + " is open";
+  std::string failure = strStateOf(plan.document, document.state, document.bytes);
+  if (failure.empty() && document.state == FileState::Untouched) failure = undo(plan);
+  if (failure.empty() && document.state == FileState::Torn) failure = writeFiles({document});
+  if (!failure.empty()) return failure + " (" + path + ")";
+  if (document.state == FileState::Untouched) {
+    store_.plans().abandon(work_.session);
+    outcome_ = "under the name of " + path + " has been undone";
+  } else {
+    store_.plans().finishCopy(work_.session);
+  }
+  return {};
+}
+
+// Backward, since a file may have taken the name that an earlier one left.
+std::string CutOffSave::undo(const CopyPlan& plan) {
+  const OwnFiles own(plan.document.path);
+  const std::vector<const MadeFile*> made = madeSoFar(plan, own);
+  for (auto at = made.rbegin(); at != made.rend(); ++at) {
+    const auto& [path, movedFrom] = **at;
+    try {
+      if (!movedFrom.empty() && !bFileExists(movedFrom)) MoveFileTo(path, movedFrom);
+    } catch (const RunTimeError& error) {
+      return error.description();
+    }
+    const std::string reason = bFileExists(path) ? deleteFile(path) : std::string();
+    if (!reason.empty()) return reason;
+  }
+  removeFolderIfEmpty(own.folder());
+  return {};
+}
+
+// A file that has changed since, or been made anew, is not the one that was to go.
+void CutOffSave::removeFiles() {
+  const OwnFiles own(work_.document);
+  for (const PlannedRemoval& removal : store_.plans().dueRemovals(work_.session)) {
+    if (own.owns(removal.path) && keptStamp(removal.path) == removal.stamp) {
+      deleteFile(removal.path);
+    }
+  }
+  store_.plans().removalsDone(work_.session);
+}
+
+}  // namespace velra
