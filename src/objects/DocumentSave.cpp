@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/DocumentSave.h"
 
-#include <utility>
-
 #include "app/ApplicationModule.h"
-#include "base/Paths.h"
-#include "base/RunTimeError.h"
 #include "objects/AVDocument.h"
-#include "objects/MediaObject.h"
-#include "objects/OrderedSave.h"
 #include "objects/PlannedSave.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "protocol/MainWindow.h"
 #include "protocol/VideoExpression.h"
-#include "store/DataFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
 #include "store/RemovedFiles.h"
@@ -55,11 +48,18 @@ bool DocumentSave::bSaveAllObjects() {
 }
 
 bool DocumentSave::bSave() {
+  const bool saved = bWriteAll();
+  const std::string notes = io_.guard().strTakeNotes();
+  if (!notes.empty() && app_.gMainForm) app_.gMainForm->setStrStatusBarText(notes);
+  return saved;
+}
+
+bool DocumentSave::bWriteAll() {
   for (const RegisteredRef& changed : objects_.changedObjects()) {
     const auto object = as<DescribedObject>(changed);
     if (!object) continue;  // a picture has its file before it has its name
     const std::string guid = object->strGUID();
-    if (io_.names().isPromised(guid) && bFileExists(guid)) renumber(*object);
+    if (io_.names().isPromised(guid) && bSomethingAt(guid)) renumber(*object);
   }
   SavePoint before(objects_.changedObjects());
   PlannedSave planned(io_, objects_.changedObjects(), filesToRemove());
@@ -71,13 +71,12 @@ bool DocumentSave::bSave() {
     before.restoreFlags();
     return bRefused(app_, failure + " (" + document_.strGUID() + ")");
   }
+  if (!saved) return false;  // the document on the disk may still name what was removed
   for (const std::string& guid : document_.colObjRemoved()) io_.RemoveGUID(guid);
   io_.keepFilesOf(objects_);
-  if (saved) {
-    planned.finished();
-    document_.unsavedWork().saved(objects_);
-  }
-  return saved;
+  planned.finished();
+  document_.unsavedWork().saved(objects_);
+  return true;
 }
 
 // As they will be when the next save is done.

@@ -27,6 +27,7 @@ class DocumentSave {
  private:
   void renumber(DescribedObject& object);
   bool bSaveAllObjects();
+  bool bWriteAll();
   std::vector<std::string> filesToRemove();
 
   ApplicationModule& app_;

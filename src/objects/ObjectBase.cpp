@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/ApplicationModule.h"
+#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "platform/UserInterface.h"
 #include "protocol/MainWindow.h"
@@ -77,6 +78,7 @@ std::string ObjectBase::loadFields(const std::string& guid) {
     secol_ = std::move(loaded->secol);
     domDoc_ = std::move(loaded->domDoc);
     domSchema_ = std::move(loaded->domSchema);
+    io_->guard().noteContent(strAbsolutePath(guid), loaded->print);
     return {};
   }
   auto fields = std::make_unique<SEColl>(app_, document().shared());

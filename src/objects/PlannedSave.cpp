@@ -15,18 +15,27 @@ namespace velra {
 
 namespace {
 
-PlannedFile plannedFile(const ObjectBase& object) {
-  PlannedFile file{strAbsolutePath(object.strGUID()), object.fileBytes(), {}, {}};
+DocumentRescue* storeOf(const IOManager& io) {
+  return io.bFileSystem() ? io.rescue() : nullptr;
+}
+
+// The file of an object as it will be, beside what it is now.
+PlannedFile plannedFile(const ObjectBase& object, IOManager& io) {
+  PlannedFile file{strAbsolutePath(object.strGUID()), {}, {}, {}};
   file.stamp = fileStamp(file.path);
-  if (file.stamp.exists) file.blocks = blocksOf(readFile(file.path).bytes);
+  const std::string present = file.stamp.exists ? readFile(file.path).bytes : std::string();
+  io.guard().spare(file.path, present, io.rescue());
+  if (!io.rescue()) return file;
+  file.bytes = object.fileBytes();
+  file.blocks = blocksOf(present);
   return file;
 }
 
-void addToPlan(const RegisteredObject& object, SavePlan& plan) {
+void addToPlan(const RegisteredObject& object, IOManager& io, SavePlan& plan) {
   const auto* described = as<const ObjectBase>(&object);
   if (!described || !described->bChanged()) return;
   try {
-    plan.files.push_back(plannedFile(*described));
+    plan.files.push_back(plannedFile(*described, io));
   } catch (const RunTimeError&) {
     return;  // the save itself will tell of a value that no file can hold
   }
@@ -34,33 +43,33 @@ void addToPlan(const RegisteredObject& object, SavePlan& plan) {
 
 }  // namespace
 
-PlannedSave::PlannedSave(const IOManager& io, const RegisteredList& objects,
+PlannedSave::PlannedSave(IOManager& io, const RegisteredList& objects,
                          const std::vector<std::string>& removals)
-    : rescue_(io.rescue()) {
-  if (!rescue_) return;
+    : rescue_(storeOf(io)) {
   SavePlan all;
   const RegisteredObject* document = nullptr;
   for (const RegisteredRef& object : objects) {
     if (object->kind() == ObjectKind::AVDocument) {
       document = object.get();  // is written last
     } else {
-      addToPlan(*object, all);
+      addToPlan(*object, io, all);
     }
   }
-  if (document) addToPlan(*document, all);
+  if (document) addToPlan(*document, io, all);
   for (const std::string& guid : removals) {
     const std::string path = strAbsolutePath(guid);
+    if (!io.guard().mayDelete(path)) continue;
+    io.guard().spare(path, rescue_);
     all.removals.push_back({path, fileStamp(path)});
   }
-  planned_ = rescue_->plan(all).empty();
+  if (rescue_) planned_ = rescue_->plan(all).empty();
 }
 
-PlannedSave::PlannedSave(const IOManager& io, const AVDocument& document,
-                         std::vector<MadeFile> made)
-    : rescue_(io.rescue()), copies_(true) {
+PlannedSave::PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made)
+    : rescue_(storeOf(io)), copies_(true) {
   if (!rescue_) return;
   try {
-    planned_ = rescue_->plan(CopyPlan{plannedFile(document), std::move(made)}).empty();
+    planned_ = rescue_->plan(CopyPlan{plannedFile(document, io), std::move(made)}).empty();
   } catch (const RunTimeError&) {
     return;  // as above
   }

@@ -14,15 +14,16 @@ class DocumentRescue;
 class IOManager;
 
 /// A save of the open document, told to the store before its first file is touched: when it is cut
-/// off, the next opening carries it to its end, or undoes it. Without a store it does nothing.
+/// off, the next opening carries it to its end, or undoes it. What another program has written into
+/// the files since is kept there too.
 class PlannedSave {
  public:
   /// The objects that will be written, the document among them, and the files that go when it is
   /// closed.
-  PlannedSave(const IOManager& io, const RegisteredList& objects,
+  PlannedSave(IOManager& io, const RegisteredList& objects,
               const std::vector<std::string>& removals);
   /// A save under another name, by which the document goes already, and what it makes beside it.
-  PlannedSave(const IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
+  PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
   PlannedSave(const PlannedSave&) = delete;
   PlannedSave& operator=(const PlannedSave&) = delete;
   /// A save that was not finished has failed, and the person was told.

@@ -10,7 +10,6 @@
 #include "objects/DocumentSave.h"
 #include "objects/MediaObject.h"
 #include "objects/OrderedSave.h"
-#include "objects/PlannedSave.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
@@ -31,6 +30,10 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
     return false;
   }
   const bool hadFolder = bFolderExists(dataFolderOf(strAVDocPathName));
+  if (document_.secol().begin() == document_.secol().end()) {
+    app_.ui.messageBox("The document was opened without a schema: a copy would be empty.");
+    return false;
+  }
   SavePoint before(objects_.all());
   const Outcome outcome = saveAsFrom(before, strAVDocPathName);
   if (outcome == Outcome::Done) return true;
@@ -47,7 +50,8 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   }
   document_.setStrSchemaPath(app_.strXSDPath());
   document_.setStrGUID(strAVDocPathName);
-  PlannedSave planned(io_, document_, std::move(made_));
+  io_.guard().setChosen(strAbsolutePath(strAVDocPathName));
+  planned_.emplace(io_, document_, std::move(made_));
   if (!bSaveAllObjectsAs(before)) {
     bRefused(app_, {});
     return Outcome::NotWritten;
@@ -63,7 +67,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
     return Outcome::NotSynced;
   }
   io_.keepFilesOf(objects_);
-  planned.finished();
+  planned_->finished();
   document_.unsavedWork().saved(objects_);
   return Outcome::Done;
 }

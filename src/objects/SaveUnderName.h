@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "objects/PlannedSave.h"
 #include "rescue/RescueRecords.h"
 
 namespace velra {
@@ -47,6 +49,7 @@ class SaveUnderName {
   IOManager& io_;
   std::vector<MadeFile> made_;
   std::vector<Relocation> relocations_;
+  std::optional<PlannedSave> planned_;  // until all is done, or taken back
 };
 
 }  // namespace velra

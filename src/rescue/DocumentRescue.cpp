@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/files/Files.h"
 #include "rescue/ProcessIdentity.h"
 #include "rescue/RescueStore.h"
 #include "rescue/RescueWriter.h"
@@ -95,6 +96,17 @@ void DocumentRescue::keepAgain() {
   post([](RescueStore& store, Session& session) { session.keepWaiting(store); });
 }
 
+void DocumentRescue::keepPicture(const std::string& path) {
+  FileBytes file = readFile(path);
+  if (file.reason.empty()) keep({{path, "MediaObject", "", std::move(file.bytes), false, {}}}, {});
+}
+
+std::string DocumentRescue::keepReplaced(const std::string& path, const std::string& bytes) {
+  return writer_.run(inSession([&](RescueStore& store, Session& session) {
+    store.keepReplaced(session.begun(store), path, bytes);
+  }));
+}
+
 void DocumentRescue::endedByError() {
   post([](RescueStore& store, Session& session) {
     session.keepWaiting(store);
@@ -103,7 +115,9 @@ void DocumentRescue::endedByError() {
 }
 
 void DocumentRescue::removalsDone() {
-  post([](RescueStore& store, Session& session) { store.plans().removalsDone(session.begun(store)); });
+  post([](RescueStore& store, Session& session) {
+    store.plans().removalsDone(session.begun(store));
+  });
 }
 
 }  // namespace velra

@@ -41,6 +41,13 @@ class DocumentRescue {
   /// Tries once more what the store could not take.
   void keepAgain();
 
+  /// Keeps a picture that is about to go, and that kept objects need.
+  void keepPicture(const std::string& path);
+
+  /// Keeps another program's bytes that go; returns when they have reached the disk. Why they have
+  /// not, or "".
+  std::string keepReplaced(const std::string& path, const std::string& bytes);
+
   /// An untrapped error ends the program.
   void endedByError();
 

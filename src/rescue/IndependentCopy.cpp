@@ -12,6 +12,7 @@
 #include "platform/files/OwnFile.h"
 #include "platform/xml/XmlTexts.h"
 #include "rescue/ReferenceElements.h"
+#include "rescue/TornFile.h"
 
 namespace velra {
 
@@ -75,7 +76,7 @@ std::string planIndependentCopy(const std::string& document, SavePlan& plan) {
       reason = rewritten.reason;
     }
     if (reason.empty() && rewritten.bytes != file.bytes) {
-      plan.files.push_back({path, std::move(rewritten.bytes), stamp});
+      plan.files.push_back({path, std::move(rewritten.bytes), stamp, blocksOf(file.bytes)});
     }
   }
   return reason.empty() ? std::string() : reason + " (" + document + ")";  // that came last

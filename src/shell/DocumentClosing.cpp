@@ -4,8 +4,10 @@
 #include <algorithm>
 
 #include "app/ApplicationModule.h"
+#include "base/Paths.h"
 #include "platform/UserInterface.h"
 #include "protocol/OpenDocument.h"
+#include "rescue/DocumentRescue.h"
 #include "shell/MainTrees.h"
 #include "store/IOManager.h"
 #include "store/ObjectRegistry.h"
@@ -50,7 +52,7 @@ void DocumentClosing::MarkUnsavedMediaObjects() {
   for (const RegisteredRef& object : changed) {
     if (!isPicture(object)) continue;
     const auto io = app_.gAVDoc->io();
-    if (workIsKept) io->keepInStore(object->strGUID());
+    if (workIsKept && io->rescue()) io->rescue()->keepPicture(strAbsolutePath(object->strGUID()));
     io->RemoveGUID(object->strGUID());
   }
 }

@@ -26,12 +26,12 @@ void TransferCommands::transferObjects(bool toFileSystem) {
   app_.gAVDoc->io()->bConnectToDM();  // there is nothing to connect to
 }
 
-// A failed save has been reported, and what was saved before is opened all the same.
-void TransferCommands::saveAndReopen(const std::string& path, bool bFileSystem) {
-  {
-    const auto busy = app_.ui.showBusy();
-    openedDocument(app_)->bSaveAs(path);
-  }
+bool TransferCommands::bSaveUnder(const std::string& path) {
+  const auto busy = app_.ui.showBusy();
+  return openedDocument(app_)->bSaveAs(path);
+}
+
+void TransferCommands::reopen(const std::string& path, bool bFileSystem) {
   closing_.CloseDocument(true);
   opening_.OpenDoc(path, bFileSystem);
 }
@@ -42,7 +42,8 @@ void TransferCommands::mnuExportToDB() {
   OpenDocument& document = *app_.gAVDoc;
   const std::string identifier =
       document.io()->strCreateGUID(document.collObjects(), document, document.strGUID());
-  saveAndReopen(identifier, false);
+  bSaveUnder(identifier);
+  reopen(identifier, false);
 }
 
 void TransferCommands::mnuImportToFS() {
@@ -50,9 +51,14 @@ void TransferCommands::mnuImportToFS() {
   const std::string path = saving_.GetFileName("./" + app_.gAVDoc->strTitle());
   if (path.empty()) return;
   std::string folder;
+  const std::string title = app_.gAVDoc->strTitle();
   app_.gAVDoc->setStrTitle(strSplitPath(path, folder));
   transferObjects(true);
-  saveAndReopen(path, true);
+  if (bSaveUnder(path)) {
+    reopen(path, true);
+  } else {
+    app_.gAVDoc->setStrTitle(title);  // it stays open: all of it may be in memory alone
+  }
 }
 
 }  // namespace velra

@@ -23,7 +23,8 @@ class TransferCommands {
 
  private:
   void transferObjects(bool toFileSystem);
-  void saveAndReopen(const std::string& path, bool bFileSystem);
+  bool bSaveUnder(const std::string& path);
+  void reopen(const std::string& path, bool bFileSystem);
 
   ApplicationModule& app_;
   DocumentClosing& closing_;

@@ -49,6 +49,7 @@ void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocumen
   }
   if (!file.message.empty()) return;
   noteRelations(*fields.secol, rules, file);
+  fields.print = parsed.print();
   file.fields = std::move(fields);
 }
 

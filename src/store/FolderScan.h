@@ -26,6 +26,7 @@ struct LoadedFields {
   std::unique_ptr<SEColl> secol;
   InstanceDocument domDoc;
   std::shared_ptr<const SchemaFile> domSchema;
+  std::uint64_t print = 0;  // of the file: `contentPrint`
 };
 
 /// One XML file of a folder, as a search meets it.

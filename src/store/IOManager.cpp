@@ -8,10 +8,12 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "platform/UserInterface.h"
+#include "platform/files/ContentPrint.h"
 #include "platform/files/FileMoves.h"
 #include "platform/files/Files.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlWriter.h"
+#include "protocol/MainWindow.h"
 #include "rescue/DocumentRescue.h"
 #include "rescue/InterruptedSave.h"
 #include "rescue/KeptWorkList.h"
@@ -27,6 +29,8 @@ IOManager::IOManager(ApplicationModule& app)
 IOManager::~IOManager() {
   // What could not be deleted now is tried again when the document is opened next.
   if (strSync().empty() && rescue_) rescue_->removalsDone();
+  const std::string notes = guard_.strTakeNotes();
+  if (!notes.empty() && app_.gMainForm) app_.gMainForm->setStrStatusBarText(notes);
 }
 
 std::string IOManager::strFinishCutOffSaves(const std::string& strAVDocPathName) {
@@ -48,16 +52,8 @@ std::string IOManager::strFinishCutOffSaves(const std::string& strAVDocPathName)
   return told + (told.empty() || sentence.empty() ? "" : " ") + sentence;
 }
 
-void IOManager::keepInStore(const std::string& strGUID) {
-  if (!rescue_) return;
-  const std::string path = strAbsolutePath(strGUID);
-  FileBytes file = readFile(path);
-  if (file.reason.empty()) {
-    rescue_->keep({{path, "MediaObject", "", std::move(file.bytes), false, {}}}, {});
-  }
-}
-
 void IOManager::joinStore(const std::string& strAVDocPathName) {
+  guard_.setDocument(strAbsolutePath(strAVDocPathName));
   if (!app_.rescue || !bFileSystem_) return;
   rescue_ = std::make_unique<DocumentRescue>(*app_.rescue, strAbsolutePath(strAVDocPathName));
 }
@@ -87,16 +83,24 @@ std::string IOManager::strOpen(XmlDocument& objDOMDocument, const std::string& s
   objDOMDocument = XmlDocument();
   if (!bFileSystem_) return {};
   if (!bFileExists(strGUID)) return app_.LoadResString(Message::ObjectNotFound) + " " + strGUID;
-  return objDOMDocument.load(strGUID) ? std::string() : "XML Parser: " + objDOMDocument.reason();
+  if (!objDOMDocument.load(strGUID)) return "XML Parser: " + objDOMDocument.reason();
+  guard_.noteContent(strAbsolutePath(strGUID), objDOMDocument.print());
+  return {};
 }
 
 std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::string& strGUID) {
   saveFailure_.clear();
   if (!bFileSystem_) return {};
+  const std::string& bytes = objDOMDocument.bytes();
+  const std::string path = strAbsolutePath(strGUID);
   // A file that came under a promised name since is another program's.
-  saveFailure_ = names_.isPromised(strGUID) ? writeNewFile(strGUID, objDOMDocument.bytes())
-                                            : writeFileInPlace(strGUID, objDOMDocument.bytes());
+  if (names_.isPromised(strGUID)) {
+    saveFailure_ = writeNewFile(strGUID, bytes);
+  } else if ((saveFailure_ = guard_.strWhyNotWrite(path)).empty()) {
+    saveFailure_ = writeFileInPlace(strGUID, bytes);
+  }
   if (!saveFailure_.empty()) return saveFailure_ += " (" + strGUID + ")";
+  guard_.noteContent(path, contentPrint(bytes));
   names_.written(strGUID);
   unflushedFolder_ = folderOf(strGUID);
   return {};
@@ -126,7 +130,15 @@ void IOManager::CopyObject(const std::string& source, const std::string& destina
 }
 
 std::string IOManager::strSync() {
-  return removed_.deleteAll([this](const std::string& guid) { return strDeleteFile(guid); });
+  return removed_.deleteAll([this](const std::string& guid) { return strDeleteRemoved(guid); });
+}
+
+// Removing an object must not reach what is not the document's.
+std::string IOManager::strDeleteRemoved(const std::string& strGUID) {
+  const std::string path = strAbsolutePath(strGUID);
+  if (!guard_.mayDelete(path)) return {};
+  guard_.spare(path, rescue_.get());
+  return strDeleteFile(strGUID);
 }
 
 std::string IOManager::strDeleteFile(const std::string& strGUID) {

@@ -10,6 +10,7 @@
 #include "schema/ObjectFiles.h"
 #include "store/ExpressionFinder.h"
 #include "store/FolderScans.h"
+#include "store/GuardedFiles.h"
 #include "store/NewFileNames.h"
 #include "store/RemovedFiles.h"
 
@@ -83,10 +84,10 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// Carries saves of the document to their end that were cut off, before it is read. What is to be
   /// told of them, or of another program that has it open; "" for nothing.
   std::string strFinishCutOffSaves(const std::string& strAVDocPathName);
-  /// Has the store know of this opening of the document from now on.
+  /// From now on the files are those of this document, and the store knows of its opening.
   void joinStore(const std::string& strAVDocPathName);
-  /// Keeps the bytes of a file that is about to go, and that kept work needs.
-  void keepInStore(const std::string& strGUID);
+  /// What may be done to files, and what is known of them.
+  GuardedFiles& guard() { return guard_; }
   /// Null when nothing is kept.
   DocumentRescue* rescue() const { return rescue_.get(); }
 
@@ -111,12 +112,14 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
 
  private:
   std::string strDeleteFile(const std::string& strGUID);
+  std::string strDeleteRemoved(const std::string& strGUID);
 
   ApplicationModule& app_;
   bool bFileSystem_ = true;
   bool bReadsOnly_ = false;
   NewFileNames names_;
   RemovedFiles removed_;
+  GuardedFiles guard_;
   FolderScans scans_;
   ExpressionFinder expressions_;
   std::string unflushedFolder_;

@@ -32,8 +32,8 @@ NumberSource::Listing::Listing(NumberSource& numbers, const std::string& folder)
     : numbers_(numbers) {
   numbers_.families_.clear();
   numbers_.listedFolder_ = withSeparator(strAbsolutePath(folder));
-  for (const std::string& name : colListFiles(numbers_.listedFolder_ + "*")) {
-    numbers_.listedNames_.insert(name);
+  for (std::string& name : namesIn(numbers_.listedFolder_)) {
+    numbers_.listedNames_.insert(std::move(name));
   }
 }
 
@@ -59,7 +59,7 @@ bool NumberSource::fileTaken(const std::string& path) const {
   if (!listedFolder_.empty() && path.starts_with(listedFolder_)) {
     return listedNames_.contains(path.substr(listedFolder_.size()));
   }
-  return bFileExists(path);
+  return bSomethingAt(path);
 }
 
 std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix,

@@ -5,11 +5,13 @@
 #include <cstring>
 #include <random>
 
+#include "base/Paths.h"
 #include "faults/Experiment.h"
 #include "faults/Injector.h"
 #include "faults/Model.h"
 #include "faults/Runs.h"
 #include "protocol/ClassRules.h"
+#include "rescue/DocumentRescue.h"
 #include "rescue/KeptWorkList.h"
 #include "rescue/Recovery.h"
 #include "rescue/RescueStore.h"
@@ -182,7 +184,7 @@ void LifeRun::leave() {
   const auto io = document().io();
   for (const RegisteredRef& changed : document().collObjects().changedObjects()) {
     if (changed->kind() != ObjectKind::MediaObject) continue;
-    io->keepInStore(changed->strGUID());
+    if (io->rescue()) io->rescue()->keepPicture(strAbsolutePath(changed->strGUID()));
     io->RemoveGUID(changed->strGUID());
   }
   at_.session.close();

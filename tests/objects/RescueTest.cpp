@@ -26,15 +26,29 @@ void writeDocument(DocumentSession& session) {
   for (const std::string& name : names) session.files.version(name, {});
 }
 
+using Work = void (*)(DocumentSession& session);
+
+// Has a program work on the document until it is killed.
+void workAndDie(DocumentSession& session, const std::string& store, Work work, int milliseconds) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    RescueWriter writer(store);
+    session.app.rescue = &writer;
+    session.open(session.files.documentPath());
+    work(session);
+    ::raise(SIGKILL);
+  }
+  ::usleep(static_cast<useconds_t>(1000 * milliseconds));
+  if (milliseconds > 0) ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+}
+
 // Gives all objects one title and saves, again and again.
-[[noreturn]] void saveUntilKilled(DocumentSession& session, const std::string& store) {
-  RescueWriter writer(store);
-  session.app.rescue = &writer;
-  session.open(session.files.documentPath());
+[[noreturn]] void saveForEver(DocumentSession& session) {
   const auto document = session.document();
   for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1)) {
     for (const ObjectRef& object : document->collObjects().described()) {
-      object->setStrTitle(std::string(letter % 2 == 0 ? 30 : 9000, letter));
+      object->setStrTitle(std::string(letter % 2 == 0 ? 30 : 40'000, letter));
     }
     document->bSave();
   }
@@ -45,12 +59,7 @@ TEST(CutOffSave, TheNextOpeningFindsAllOfItOrNone) {
   writeDocument(session);
   const std::string store = session.folder / "state/rescue.sqlite";
   for (int i = 0; i < 10; ++i) {
-    const pid_t child = ::fork();
-    if (child == 0) saveUntilKilled(session, store);
-    ::usleep(static_cast<useconds_t>(150'000 + 7'001 * i));
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-
+    workAndDie(session, store, saveForEver, 150 + 7 * i);
     RescueWriter writer(store);
     session.app.rescue = &writer;
     ASSERT_EQ(session.open(session.files.documentPath()), "") << i;
@@ -64,11 +73,7 @@ TEST(CutOffSave, TheNextOpeningFindsAllOfItOrNone) {
   EXPECT_EQ(session.takeShown(), std::vector<std::string>{});
 }
 
-// Makes a copy of all, again and again.
-[[noreturn]] void copyUntilKilled(DocumentSession& session, const std::string& store) {
-  RescueWriter writer(store);
-  session.app.rescue = &writer;
-  session.open(session.files.documentPath());
+[[noreturn]] void copyForEver(DocumentSession& session) {
   for (int i = 0;; ++i) {
     session.document()->bSaveAs(session.folder / ("copy" + std::to_string(i) + ".xml"));
   }
@@ -79,12 +84,7 @@ TEST(CutOffSave, ACopyIsThereWholeOrNotAtAll) {
     DocumentSession session;
     writeDocument(session);
     const std::string store = session.folder / "state/rescue.sqlite";
-    const pid_t child = ::fork();
-    if (child == 0) copyUntilKilled(session, store);
-    ::usleep(static_cast<useconds_t>(150'000 + 7'001 * i));
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-
+    workAndDie(session, store, copyForEver, 150 + 7 * i);
     RescueWriter writer(store);
     session.app.rescue = &writer;
     ASSERT_EQ(session.open(session.files.documentPath()), "");
@@ -102,17 +102,12 @@ TEST(CutOffSave, WhatASaveRemovedGoesThoughTheProgramDiesBeforeTheDocumentIsClos
   DocumentSession session;
   writeDocument(session);
   const std::string store = session.folder / "state/rescue.sqlite";
-  const pid_t child = ::fork();
-  if (child == 0) {
-    RescueWriter writer(store);
-    session.app.rescue = &writer;
-    session.open(session.files.documentPath());
-    ObjectRef removed = session.object("version1");
-    session.document()->RemoveObject(removed);
-    session.document()->bSave();
-    ::raise(SIGKILL);
-  }
-  ::waitpid(child, nullptr, 0);
+  const auto removeAndSave = [](DocumentSession& one) {
+    ObjectRef removed = one.object("version1");
+    one.document()->RemoveObject(removed);
+    one.document()->bSave();
+  };
+  workAndDie(session, store, removeAndSave, 0);
   EXPECT_TRUE(bFileExists(session.files.path("version1")));
 
   RescueWriter writer(store);

@@ -201,22 +201,28 @@ TEST(SaveAs, ASaveThatDoesNotReachTheDiskHasFailed) {
   EXPECT_TRUE(session.document()->collObjects().changedObjects().empty());
 }
 
-TEST(SaveAs, FilesThatCameFromElsewhereAreNeitherOverwrittenNorDeleted) {
+TEST(SaveAs, WhatCameFromElsewhereIsNeitherOverwrittenNorDeleted) {
   DocumentSession session;
   openEdited(session);
   ObjectRef removed = session.object("version2");
   session.document()->AddChild("later");
   const std::string theirs = "<Version><VersionTitle>theirs</VersionTitle></Version>";
-  for (const char* name : {"version2", "version3"}) {
-    session.files.writeRaw(std::string("film_") + name + ".xml", theirs);
-  }
+  session.files.writeRaw("film_version2.xml", theirs);
+  session.files.writeRaw("film_version3.xml", theirs);
+  fs::create_directory(session.files.path("version4"));
+  fs::create_symlink(session.folder / "nowhere", session.files.path("version5"));
   session.document()->RemoveObject(removed);
   EXPECT_TRUE(session.document()->bSave());
   EXPECT_TRUE(session.takeShown().empty());
+  fs::create_directories(session.folder / "copy_files/copy_version1.xml");
+  fs::create_symlink(session.folder / "nowhere", session.folder / "copy_files/copy_media1.xml");
+  EXPECT_TRUE(session.document()->bSaveAs(session.folder / "copy.xml"));
+  EXPECT_TRUE(fs::exists(session.folder / "copy_files/copy_version2.xml"));
+  EXPECT_FALSE(fs::exists(session.folder / "nowhere"));
   session.close();
   ASSERT_EQ(session.open(session.files.documentPath()), "");
   EXPECT_EQ(session.document()->colChilds().size(), 2U);
-  EXPECT_EQ(session.object("version4")->strTitle(), "later");
+  EXPECT_EQ(session.object("version6")->strTitle(), "later");
   for (const char* name : {"version2", "version3"}) {
     EXPECT_EQ(session.folder.read(std::string("film_files/film_") + name + ".xml"), theirs);
   }

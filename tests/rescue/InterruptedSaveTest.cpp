@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -172,40 +170,6 @@ TEST_F(InterruptedSave, OnlyTheDocumentsOwnFilesAreRemovedAndOnlyAsTheyWere) {
   EXPECT_FALSE(bFileExists(goes));
   for (const std::string& path : stay) EXPECT_TRUE(bFileExists(path)) << path;
   EXPECT_EQ(store_.plans().open(session).index(), 0U);
-}
-
-// Saves two files of one letter for ever.
-[[noreturn]] void saveUntilKilled(const TemporaryFolder& folder, const std::string& document,
-                                  std::size_t size) {
-  RescueStore store(folder / "rescue.sqlite");
-  const SessionId session = store.begin(document, processIdentity());
-  for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1)) {
-    SavePlan plan;
-    for (const char* name : {"film_files/film_media1.xml", "film.xml"}) {
-      plan.files.push_back({folder / name, bytesOf(letter, size), keptStamp(folder / name),
-                            blocksOf(folder.read(name))});
-    }
-    store.plans().planSave(session, plan);
-    for (const PlannedFile& file : plan.files) writeFileInPlace(file.path, file.bytes);
-    store.plans().finishSave(session);
-  }
-}
-
-TEST_F(InterruptedSave, AProgramKilledAtAnyInstantLeavesAWholeSave) {
-  folder_.write("film_files/film_media1.xml", bytesOf('a', 10));
-  folder_.write("film.xml", bytesOf('a', 10));
-  for (int i = 0; i < 12; ++i) {
-    const std::size_t size = i % 2 == 0 ? 1000 : 300'000;
-    const pid_t child = ::fork();
-    if (child == 0) saveUntilKilled(folder_, document_, size);
-    ::usleep(static_cast<useconds_t>(20'000 + 7'001 * i));
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    finishInterruptedSaves(store_, document_);
-    const std::string bytes = folder_.read("film.xml");
-    EXPECT_EQ(bytes, folder_.read("film_files/film_media1.xml")) << i;
-    EXPECT_EQ(bytes, bytesOf(bytes[3], bytes.size() - 7)) << i;
-  }
 }
 
 }  // namespace

@@ -105,7 +105,8 @@ TEST_F(RescueStoreTest, WhatIsOldOrTooMuchGoesUnlessItsProgramRuns) {
   EXPECT_EQ(documents(), "dcb") << "the oldest of those that count is too much";
   pruneKeptWork(store_, std::time(nullptr) + 60, 1000);
   EXPECT_EQ(documents(), "db");
-  EXPECT_NE(store_.plans().open(cutOff).index(), 0U) << "a save that was cut off can always be finished";
+  EXPECT_NE(store_.plans().open(cutOff).index(), 0U)
+      << "a save that was cut off can always be finished";
 }
 
 TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
@@ -129,7 +130,8 @@ TEST_F(RescueStoreTest, APersonSeesWhatCanBeBroughtBackAndDropsEachForItself) {
   }
   EXPECT_EQ(seen, "open film_video1.xml 4; elsewhere Title of three 3; killed Title of two 2; ");
   EXPECT_FALSE(hasRestorableWork(store_));
-  EXPECT_NE(store_.plans().open(killed).index(), 0U) << "a save that was cut off is no work to be dropped";
+  EXPECT_NE(store_.plans().open(killed).index(), 0U)
+      << "a save that was cut off is no work to be dropped";
   EXPECT_EQ(keptObjects(store_, open).size(), 1U);
 }
 

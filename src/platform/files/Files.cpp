@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <system_error>
@@ -57,6 +58,23 @@ bool isPlainFile(const dirent& entry, const std::string& folder) {
   return ::stat((folder + entry.d_name).c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+FolderListing entriesOf(const std::string& folder,
+                        const std::function<bool(const dirent&)>& wanted) {
+  FolderListing found;
+  const auto close = [](DIR* listing) { ::closedir(listing); };
+  const std::unique_ptr<DIR, decltype(close)> listing(::opendir(folder.c_str()), close);
+  if (!listing) return {{}, errno == ENOENT ? std::string() : systemReason(errno)};
+  const auto next = [&] {
+    errno = 0;  // the end of the folder sets none
+    return ::readdir(listing.get());
+  };
+  while (const dirent* entry = next()) {
+    if (wanted(*entry)) found.names.emplace_back(entry->d_name);
+  }
+  if (errno != 0) found.reason = systemReason(errno);
+  return found;
+}
+
 std::string refusal(const struct stat& status, std::uint64_t limit) {
   if (S_ISDIR(status.st_mode)) return systemReason(EISDIR);
   if (!S_ISREG(status.st_mode)) return "Not a regular file";
@@ -89,6 +107,11 @@ bool bFolderExists(const std::string& path) {
   return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool bSomethingAt(const std::string& path) {
+  struct stat status {};
+  return ::lstat(path.c_str(), &status) == 0;
+}
+
 FileStamp fileStamp(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return {};
@@ -105,22 +128,15 @@ std::vector<std::string> colListFiles(const std::string& pattern) {
 FolderListing listFiles(const std::string& pattern) {
   const std::string folder = folderOf(pattern);
   const std::string_view namePattern = std::string_view(pattern).substr(pattern.rfind('/') + 1);
-  FolderListing found;
-  const auto close = [](DIR* listing) { ::closedir(listing); };
-  const std::unique_ptr<DIR, decltype(close)> listing(::opendir(folder.c_str()), close);
-  if (!listing) return {{}, errno == ENOENT ? std::string() : systemReason(errno)};
-  const auto next = [&] {
-    errno = 0;  // the end of the folder sets none
-    return ::readdir(listing.get());
-  };
-  while (const dirent* entry = next()) {
-    if (fits(entry->d_name, namePattern) && isPlainFile(*entry, folder)) {
-      found.names.emplace_back(entry->d_name);
-    }
-  }
-  if (errno != 0) found.reason = systemReason(errno);
+  FolderListing found = entriesOf(folder, [&](const dirent& entry) {
+    return fits(entry.d_name, namePattern) && isPlainFile(entry, folder);
+  });
   std::sort(found.names.begin(), found.names.end());
   return found;
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+  return entriesOf(folder, [](const dirent&) { return true; }).names;
 }
 
 FileBytes readFile(const std::string& path, std::uint64_t limit) {

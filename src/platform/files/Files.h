@@ -11,6 +11,8 @@ namespace velra {
 /// True for an existing file that is no folder.
 bool bFileExists(const std::string& path);
 bool bFolderExists(const std::string& path);
+/// True when a new file cannot have the path: also for a folder, and a link that leads nowhere.
+bool bSomethingAt(const std::string& path);
 
 /// What tells one state of a file from another, and from other files.
 struct FileStamp {
@@ -28,7 +30,12 @@ FileStamp fileStamp(const std::string& path);
 /// files alone, sorted by their bytes. A folder that cannot be listed gives none.
 std::vector<std::string> colListFiles(const std::string& pattern);
 
-/// The same, with the reason when a folder that is there cannot be listed, or not to its end.
+/// The names of all that lies in a folder, of whatever kind, in no order; none for one that cannot
+/// be listed.
+std::vector<std::string> namesIn(const std::string& folder);
+
+/// The same as colListFiles, with the reason when a folder that is there cannot be listed, or not
+/// to its end.
 struct FolderListing {
   std::vector<std::string> names;
   std::string reason;  // empty on success, and when there is no such folder

@@ -16,15 +16,26 @@ OwnFiles::OwnFiles(const std::string& document) {
   prefix_ += '_';
 }
 
+bool OwnFiles::isInside(const std::string& path) const {
+  const std::string around = folderOf(path);
+  if (around == folder_) return true;
+  struct stat its {};
+  struct stat own {};
+  return ::stat(around.c_str(), &its) == 0 && ::stat(folder_.c_str(), &own) == 0 &&
+         its.st_dev == own.st_dev && its.st_ino == own.st_ino;
+}
+
 bool OwnFiles::owns(const std::string& path) const {
   const auto slash = path.rfind('/');
   if (!std::string_view(path).substr(slash + 1).starts_with(prefix_)) return false;
   struct stat file {};
-  struct stat around {};
-  struct stat own {};
-  return ::lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) &&
-         ::stat(folderOf(path).c_str(), &around) == 0 && ::stat(folder_.c_str(), &own) == 0 &&
-         around.st_dev == own.st_dev && around.st_ino == own.st_ino;
+  return ::lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && isInside(path);
+}
+
+bool OwnFiles::holds(const std::string& path) const {
+  struct stat file {};
+  const bool link = ::lstat(path.c_str(), &file) == 0 && S_ISLNK(file.st_mode);
+  return !link && isInside(path);
 }
 
 }  // namespace velra

@@ -18,7 +18,12 @@ class OwnFiles {
 
   bool owns(const std::string& path) const;
 
+  /// True for a path directly inside the data folder, of whatever name, but for a link.
+  bool holds(const std::string& path) const;
+
  private:
+  bool isInside(const std::string& path) const;
+
   std::string prefix_;
   std::string folder_;
 };

@@ -2,6 +2,7 @@
 #include "platform/xml/XmlDocument.h"
 
 #include "base/Paths.h"
+#include "platform/files/ContentPrint.h"
 #include "platform/files/Files.h"
 #include "platform/xml/XmlBounds.h"
 #include "platform/xml/XmlLibrary.h"
@@ -179,6 +180,7 @@ bool XmlDocument::load(const std::string& path) {
 }
 
 bool XmlDocument::parse(std::string_view bytes, const std::string& path) {
+  print_ = contentPrint(bytes);
   document_.reset();
   document_.reset(xml::parse(bytes, path, reason_).release());
   return document_ != nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -80,6 +81,9 @@ class XmlDocument {
 
   const std::string& reason() const { return reason_; }
 
+  /// Of the bytes that were loaded or parsed last: `contentPrint`.
+  std::uint64_t print() const { return print_; }
+
   /// Empty when nothing was loaded.
   XmlNode documentElement() const;
 
@@ -93,6 +97,7 @@ class XmlDocument {
   };
   std::unique_ptr<_xmlDoc, Free> document_;
   std::string reason_;
+  std::uint64_t print_ = 0;
 };
 
 }  // namespace velra

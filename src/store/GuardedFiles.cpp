@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/GuardedFiles.h"
+
+#include "platform/files/ContentPrint.h"
+#include "platform/files/Files.h"
+#include "rescue/DocumentRescue.h"
+
+namespace velra {
+
+void GuardedFiles::setDocument(const std::string& path) {
+  document_ = path;
+  own_.emplace(path);
+}
+
+void GuardedFiles::noteContent(const std::string& path, std::uint64_t print) {
+  contents_.insert_or_assign(contentPrint(path), print);
+}
+
+void GuardedFiles::spare(const std::string& path, std::string_view bytes, DocumentRescue* rescue) {
+  const auto known = contents_.find(contentPrint(path));
+  if (known == contents_.end() || bytes.empty()) return;
+  const std::uint64_t print = contentPrint(bytes);
+  if (print == known->second) return;
+  const bool kept = rescue && rescue->keepReplaced(path, std::string(bytes)).empty();
+  (kept ? kept_ : lost_).add(path);
+  if (kept) known->second = print;  // once is enough
+}
+
+void GuardedFiles::spare(const std::string& path, DocumentRescue* rescue) {
+  if (contents_.contains(contentPrint(path))) spare(path, readFile(path).bytes, rescue);
+}
+
+std::string GuardedFiles::strWhyNotWrite(const std::string& path) {
+  if (!own_ || path == document_ || path == chosen_ || own_->holds(path)) return {};
+  if (!contents_.contains(contentPrint(path)) || !bFileExists(path)) {
+    return "It does not belong to the document";
+  }
+  outside_.add(path);
+  return {};
+}
+
+bool GuardedFiles::mayDelete(const std::string& path) {
+  if (!own_ || own_->owns(path) || !fileStamp(path).exists) return true;
+  left_.add(path);
+  return false;
+}
+
+std::string GuardedFiles::strTakeNotes() {
+  std::string notes;
+  const auto add = [&notes](const std::string& sentence) {
+    if (!sentence.empty()) notes += (notes.empty() ? "" : " ") + sentence;
+  };
+  add(kept_.strTake("changed by another program; what was there is kept."));
+  add(lost_.strTake("changed by another program; what was there could not be kept."));
+  add(outside_.strTake("written outside of the document's folder."));
+  add(left_.strTake("left alone, since it does not belong to the document."));
+  return notes;
+}
+
+void GuardedFiles::Note::add(const std::string& path) {
+  if (!told_.insert(path).second) return;
+  if (first_.empty()) {
+    first_ = path;
+  } else {
+    ++others_;
+  }
+}
+
+std::string GuardedFiles::Note::strTake(const std::string& sentence) {
+  if (first_.empty()) return {};
+  std::string told = first_;
+  if (others_ > 0) told += " and " + std::to_string(others_) + " more";
+  first_.clear();
+  others_ = 0;
+  if (!once_) told_.clear();
+  return told + ": " + sentence;
+}
+
+}  // namespace velra

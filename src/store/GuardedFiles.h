@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "platform/files/OwnFile.h"
+
+namespace velra {
+
+class DocumentRescue;
+
+/// What an open document may do to files: it writes and deletes its own, and of others it writes
+/// those that it was opened with. What another program has written into a file since it was read is
+/// kept in the store before that file is written over or goes. All paths are absolute.
+class GuardedFiles {
+ public:
+  /// The document whose files they are; before that all may be written and deleted.
+  void setDocument(const std::string& path);
+  /// A file that a person has chosen to be written over.
+  void setChosen(const std::string& path) { chosen_ = path; }
+
+  /// What a file held when it was read, or written last: `contentPrint` of it.
+  void noteContent(const std::string& path, std::uint64_t print);
+
+  /// Keeps the bytes of a file that is to be written over or to go, when they are not what was read
+  /// or written last. Without a store they cannot be kept.
+  void spare(const std::string& path, std::string_view bytes, DocumentRescue* rescue);
+  /// The same for a file that is to go, whose bytes are read if something is known of it.
+  void spare(const std::string& path, DocumentRescue* rescue);
+
+  /// Why a file may not be written, or "".
+  std::string strWhyNotWrite(const std::string& path);
+  /// False for a file that does not belong to the document; one that is not there may be deleted.
+  bool mayDelete(const std::string& path);
+
+  /// Sentences on all that was unusual since the last call, each file once; "" for nothing.
+  std::string strTakeNotes();
+
+ private:
+  /// One kind of event, told in one sentence however many files there are.
+  class Note {
+   public:
+    /// `once`: what has been told of a file is not told again.
+    explicit Note(bool once) : once_(once) {}
+    void add(const std::string& path);
+    /// The first file, how many others, and what is to be said of them.
+    std::string strTake(const std::string& sentence);
+
+   private:
+    const bool once_;
+    std::set<std::string> told_;
+    std::string first_;
+    std::size_t others_ = 0;
+  };
+
+  std::optional<OwnFiles> own_;
+  std::string document_;
+  std::string chosen_;
+  // By a print of the path, since a large document has many.
+  std::unordered_map<std::uint64_t, std::uint64_t> contents_;
+  Note kept_{false};
+  Note lost_{false};
+  Note outside_{true};
+  Note left_{true};
+};
+
+}  // namespace velra
