@@ -43,20 +43,26 @@ void workAndDie(DocumentSession& session, const std::string& store, Work work, i
   ::waitpid(child, nullptr, 0);
 }
 
-// Gives all objects one title and saves, again and again.
+// Gives all objects one title and saves.
+void saveAs(DocumentSession& session, const std::string& title) {
+  for (const ObjectRef& object : session.document()->collObjects().described()) {
+    object->setStrTitle(title);
+  }
+  session.document()->bSave();
+}
+
 [[noreturn]] void saveForEver(DocumentSession& session) {
-  const auto document = session.document();
   for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1)) {
-    for (const ObjectRef& object : document->collObjects().described()) {
-      object->setStrTitle(std::string(letter % 2 == 0 ? 30 : 40'000, letter));
-    }
-    document->bSave();
+    saveAs(session, std::string(letter % 2 == 0 ? 30 : 40'000, letter));
   }
 }
 
 TEST(CutOffSave, TheNextOpeningFindsAllOfItOrNone) {
   DocumentSession session;
   writeDocument(session);
+  session.open(session.files.documentPath());
+  saveAs(session, "a");
+  session.close();
   const std::string store = session.folder / "state/rescue.sqlite";
   for (int i = 0; i < 10; ++i) {
     workAndDie(session, store, saveForEver, 150 + 7 * i);
