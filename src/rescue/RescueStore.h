@@ -40,7 +40,6 @@ class RescueStore {
   Database& database() { return database_; }
 
  private:
-
   Database database_;
 };
 
