@@ -19,6 +19,15 @@ inline std::string fromQString(const QString& text) {
   return text.toStdString();
 }
 
+/// For a place of one line, which would take seconds to measure a text of megabytes.
+inline QString lineText(std::string_view text) {
+  constexpr qsizetype kMostLetters = 2000;
+  constexpr std::size_t kMostBytes = 4 * kMostLetters;
+  const QString start = toQString(text.substr(0, kMostBytes));
+  const bool whole = start.size() <= kMostLetters && text.size() <= kMostBytes;
+  return whole ? start : start.left(kMostLetters) + QChar(0x2026);
+}
+
 /// For a tool tip, which would take some texts for HTML.
 inline QString plainToolTip(std::string_view text) {
   const QString plain = toQString(text);

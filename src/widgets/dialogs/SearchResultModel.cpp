@@ -23,7 +23,7 @@ QVariant SearchResultModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DecorationRole && index.column() == 0) return icons_.icon(row.smallIcon);
   if (role != Qt::DisplayRole) return {};
   if (index.column() == 0) return toQString(row.type);
-  if (index.column() == 1) return toQString(row.title);
+  if (index.column() == 1) return lineText(row.title);
   return QString::number(row.founds);
 }
 

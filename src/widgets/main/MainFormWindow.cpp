@@ -119,7 +119,7 @@ void MainFormWindow::toggleStatusBar() {
 }
 
 void MainFormWindow::showStatusText(const std::string& text) {
-  sbStatusBar_->showText(toQString(text));
+  sbStatusBar_->showText(lineText(text));
 }
 
 void MainFormWindow::showMenuState(const MenuState& state) {

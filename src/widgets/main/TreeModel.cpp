@@ -63,7 +63,7 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
   if (!shown) return {};
   switch (role) {
     case Qt::DisplayRole:
-      return toQString(shown->Text);
+      return lineText(shown->Text);
     case Qt::DecorationRole:
       return iconOf_(shown == tree_.selected() ? shown->SelectedImage : shown->Image);
     case Qt::AccessibleDescriptionRole:  // what else only the icon would say
