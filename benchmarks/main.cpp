@@ -9,6 +9,7 @@
 #include "DocumentBench.h"
 #include "MediaBench.h"
 #include "PieceBench.h"
+#include "RescueBench.h"
 #include "StripBench.h"
 #include "ToolBench.h"
 #include "TreeBench.h"
@@ -29,6 +30,7 @@ constexpr Part kParts[] = {
     {"tool", "The expression tool", measureTool},
     {"strip", "A level of 2,000 segments", measureStrip},
     {"movie", "The movie, 1280 x 720", measureMedia},
+    {"rescue", "Unsaved work of 50,000 objects", measureRescue},
     {"pieces", "The pieces", measurePieces},
 };
 
