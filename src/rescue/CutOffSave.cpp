@@ -137,7 +137,7 @@ std::string CutOffSave::undo(const CopyPlan& plan) {
     } catch (const RunTimeError& error) {
       return error.description();
     }
-    const std::string reason = bFileExists(path) ? deleteFile(path) : std::string();
+    std::string reason = bFileExists(path) ? deleteFile(path) : std::string();
     if (!reason.empty()) return reason;
   }
   removeFolderIfEmpty(own.folder());

@@ -8,6 +8,8 @@
 #include "faults/Runs.h"
 #include "rescue/RescueWriter.h"
 
+// The sanitizer's own name; without one it is null.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
 
 namespace velra::test {

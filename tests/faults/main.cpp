@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <string>
 
 #include "faults/Runs.h"
@@ -18,6 +19,9 @@ int run(const std::string& what, int count) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   return run(argc == 3 ? argv[1] : "", argc == 3 ? std::atoi(argv[2]) : 0) == 0 ? 0 : 1;
+} catch (const std::exception& error) {
+  std::fputs(error.what(), stderr);
+  return 1;
 }

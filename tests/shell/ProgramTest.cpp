@@ -26,7 +26,7 @@ TEST(Start, TheCommandLineIsOnePath) {
   struct Case {
     std::vector<const char*> arguments;
     std::string line;
-    std::string answerInTerminal = "";  // how it begins
+    std::string answerInTerminal{};  // how it begins
   };
   const Case cases[] = {
       {{}, ""},

@@ -15,7 +15,7 @@ namespace velra {
 
 namespace {
 
-constexpr QSize kFirstSize(860, 360);                // logical pixels
+constexpr QSize kRecoverSize(860, 360);              // logical pixels
 constexpr int kWidths[] = {230, 130, 70, 240, 160};  // of the columns, likewise
 
 }  // namespace
@@ -30,7 +30,7 @@ RecoverDialogWindow::RecoverDialogWindow(const ApplicationModule& app, RecoverDi
   makeList();
   makeButtons();
   fillList();
-  resize(kFirstSize);
+  resize(kRecoverSize);
   dialog_.onUnload = [this] { done(Accepted); };
   dialog_.onRows = [this] { fillList(); };
 }
