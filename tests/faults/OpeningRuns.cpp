@@ -65,8 +65,10 @@ int runOpenings(int openings) {
               openings, before.threads, after.threads, before.handles, after.handles, before.bytes,
               after.bytes);
   const bool same = after.threads == before.threads && after.handles == before.handles;
-  // The memory of the heap is used a little otherwise each time; a leak grows with the openings.
-  const std::size_t most = before.bytes + static_cast<std::size_t>(openings) * 100;
+  // The memory of the heap is used a little otherwise each time, and what the library keeps at hand
+  // of freed memory counts as used by its own figures; a leak grows with the openings.
+  const std::size_t atHand = __sanitizer_get_current_allocated_bytes ? 0 : 65536;
+  const std::size_t most = before.bytes + atHand + static_cast<std::size_t>(openings) * 100;
   return same && after.bytes <= most ? 0 : 1;
 }
 
