@@ -113,6 +113,15 @@ TEST(XmlDocument, RefusesBadFilesWithOneLine) {
   }
 }
 
+TEST(XmlDocument, ReadsTextsThatLookLikeAttributes) {
+  const TemporaryFolder folder;
+  const std::string pasted = repeated("class=\"x\" it's = '", 10'000);
+  XmlDocument document;
+  ASSERT_TRUE(document.load(folder.write("page.xml", "<a b='\"'>" + pasted + "</a>")))
+      << document.reason();
+  EXPECT_EQ(document.documentElement().text(), pasted);
+}
+
 TEST(XmlDocument, RefusesWhatIsNoFile) {
   const TemporaryFolder folder;
   XmlDocument document;

@@ -150,6 +150,26 @@ void onDeclaredAttribute(void* context, const xmlChar* element, const xmlChar* n
   xmlSAX2AttributeDecl(context, element, name, type, use, value, words);
 }
 
+// How many values in quotes a tag has that goes on at a place. What follows the tag is text, where
+// people write what they like; and no value holds "<", so that each tag is counted from its start,
+// whatever has opened a quote before.
+std::size_t attributesOf(std::string_view bytes, std::size_t at) {
+  std::size_t count = 0;
+  for (char quote = 0; at < bytes.size() && bytes[at] != '<'; ++at) {
+    const char letter = bytes[at];
+    if (quote) {
+      if (letter != quote) continue;
+      quote = 0;
+      ++count;
+    } else if (letter == '>') {
+      break;
+    } else if (letter == '"' || letter == '\'') {
+      quote = letter;
+    }
+  }
+  return count;
+}
+
 }  // namespace
 
 Patience::Patience(ParseSession& session) : session_(session) {
@@ -177,16 +197,10 @@ std::string refusalOf(std::string_view bytes) {
   if (bytes.size() > kLargestFile) return "The file is too large";
   if (bytes.size() < kMostAttributesOfOne * 4) return {};
   // The parser tells of an element when it has read all of its attributes.
-  std::size_t attributes = 0;
-  for (std::size_t at = bytes.find_first_of("<="); at != std::string_view::npos;
-       at = bytes.find_first_of("<=", at + 1)) {
-    const char next = at + 1 < bytes.size() ? bytes[at + 1] : ' ';
-    if (bytes[at] == '<') {
-      attributes = 0;
-    } else if (next == '"' || next == '\'' || next == ' ' || next == '\0') {
-      ++attributes;
+  for (std::size_t at = bytes.find('<'); at != std::string_view::npos; at = bytes.find('<', at)) {
+    if (attributesOf(bytes, ++at) > kMostAttributesOfOne) {
+      return "An element has too many attributes";
     }
-    if (attributes > kMostAttributesOfOne) return "An element has too many attributes";
   }
   return {};
 }
