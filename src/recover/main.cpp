@@ -8,6 +8,7 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "rescue/InterruptedSave.h"
+#include "rescue/KeptFiles.h"
 #include "rescue/KeptWorkList.h"
 #include "rescue/Recovery.h"
 #include "rescue/RescueStore.h"
@@ -19,6 +20,7 @@ using namespace velra;
 constexpr const char* kUsage = R"(Usage:
   velra-recover --list [DOCUMENT]          what is kept, of one document or of all
   velra-recover --to NEW.xml DOCUMENT      makes a new document of the files and what is kept
+  velra-recover --files FOLDER DOCUMENT    writes what is kept, as it is, into a folder
   velra-recover --drop DOCUMENT            drops what is kept of a document
   velra-recover --help | --version
 
@@ -35,6 +37,8 @@ const char* endOf(const KeptWork& work) {
       return "ended by an error";
     case Fate::StillOpen:
       return "still open";
+    case Fate::Replaced:
+      return "files of another program, replaced by a save";
     default:
       return "killed";
   }
@@ -49,10 +53,18 @@ int fail(const std::string& text) {
   return 1;
 }
 
+// All that is kept: of one document, or of all for "".
+std::vector<KeptWork> restorable(RescueStore& store, const std::string& document) {
+  std::vector<KeptWork> works = restorableWork(store, document);
+  std::erase_if(
+      works, [&](const KeptWork& work) { return !document.empty() && work.document != document; });
+  return works;
+}
+
 int list(RescueStore& store, const std::string& document) {
-  for (const KeptWork& work : keptWork(store, document)) {
+  for (const KeptWork& work : restorable(store, document)) {
     say(work.document + ": " + strWhen(work.changed) + ", " + std::to_string(work.titles.size()) +
-        " objects, " + endOf(work));
+        (work.replaced ? " " : " objects, ") + endOf(work));
     for (const std::string& title : work.titles) {
       if (!title.empty()) say("    " + title);
     }
@@ -65,8 +77,12 @@ int recover(RescueStore& store, const std::string& document, const std::string& 
     return fail("The new document has to end in \".xml\": " + newPath);
   }
   const auto works = keptWork(store, document);
-  if (works.empty()) return fail("Nothing is kept of " + document + ".");
-  const auto kept = keptObjects(store, works.front().session);
+  std::vector<KeptObject> kept;
+  if (works.empty()) {
+    say("Nothing is kept of " + document + "; the new document is made of its files alone.");
+  } else {
+    kept = keptObjects(store, works.front().session);
+  }
   for (const std::string& path : changedSince(kept)) {
     say(path + " has been changed by another program since; the kept state was taken.");
   }
@@ -77,8 +93,20 @@ int recover(RescueStore& store, const std::string& document, const std::string& 
   return 0;
 }
 
+int writeFiles(RescueStore& store, const std::string& document, const std::string& folder) {
+  std::size_t files = 0;
+  for (const KeptWork& work : restorable(store, document)) {
+    const KeptFiles written = writeKeptFiles(keptObjects(store, work), folder);
+    if (!written.failure.empty()) return fail(written.failure);
+    files += written.files;
+  }
+  if (files == 0) return fail("Nothing is kept of " + document + ".");
+  say(std::to_string(files) + " files written: " + folder);
+  return 0;
+}
+
 int drop(RescueStore& store, const std::string& document) {
-  for (const KeptWork& work : keptWork(store, document)) dropKeptWork(store, work);
+  for (const KeptWork& work : restorable(store, document)) dropKeptWork(store, work);
   return 0;
 }
 
@@ -91,8 +119,9 @@ int run(const std::vector<std::string>& words) {
   }
   const bool lists = command == "--list" && words.size() <= 2;
   const bool recovers = command == "--to" && words.size() == 3;
+  const bool writes = command == "--files" && words.size() == 3;
   const bool drops = command == "--drop" && words.size() == 2;
-  if (!lists && !recovers && !drops) {
+  if (!lists && !recovers && !writes && !drops) {
     std::fputs(kUsage, stderr);
     return kUsageError;
   }
@@ -101,6 +130,7 @@ int run(const std::vector<std::string>& words) {
   if (!finished.empty()) say(finished);
   const std::string document = words.size() > 1 ? strAbsolutePath(words.back()) : "";
   if (lists) return list(store, document);
+  if (writes) return writeFiles(store, document, strAbsolutePath(words[1]));
   return recovers ? recover(store, document, strAbsolutePath(words[1])) : drop(store, document);
 }
 

@@ -5,7 +5,9 @@
 #include <set>
 
 #include "base/Paths.h"
+#include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "platform/files/BitmapCheck.h"
 #include "platform/files/Files.h"
 #include "platform/xml/XmlTexts.h"
 #include "rescue/ReferenceElements.h"
@@ -48,6 +50,7 @@ class DocumentCopy {
   void read(const std::string& path);
   void choosePlaces();
   std::string freePlaceFor(const std::string& path) const;
+  bool isLost(const std::string& path) const;
   std::string textAtNewPlace(std::string_view element, const std::string& text,
                              const std::string& file);
   std::string bytesAtNewPlace(const std::string& path, const std::string& bytes);
@@ -56,6 +59,7 @@ class DocumentCopy {
   const Layout from_;
   const Layout to_;
   std::map<std::string, std::string> files_;   // bytes by absolute path
+  std::set<std::string> fresh_;                // of them, those that were kept
   std::map<std::string, std::string> places_;  // absolute path by absolute path
   std::set<std::string> taken_;                // the new places
   std::set<std::string> outside_;              // folders of what does not come along
@@ -85,6 +89,7 @@ void DocumentCopy::layOver(const std::vector<KeptObject>& kept) {
       files_.erase(object.path);
     } else {
       files_[object.path] = object.bytes;
+      fresh_.insert(object.path);
     }
   }
 }
@@ -108,12 +113,28 @@ void DocumentCopy::choosePlaces() {
   }
 }
 
+// A document whose key frame has no picture that can be read does not open.
+bool DocumentCopy::isLost(const std::string& path) const {
+  if (fresh_.contains(path)) return false;
+  try {
+    checkBitmap(path);
+    return false;
+  } catch (const RunTimeError&) {
+    return true;
+  }
+}
+
 // What is relative and does not come along has to be found from another folder, too.
 std::string DocumentCopy::textAtNewPlace(std::string_view element, const std::string& text,
                                          const std::string& file) {
   const bool refers = holdsIdentifier(element);
   if (text.empty() || (!refers && !holdsMoviePath(element))) return text;
   const std::string path = strAbsolutePath(text, from_.folder);
+  if (holdsKeyFrame(element) && isLost(path)) {
+    notes_.push_back(path + " is no picture; the key frame is made anew from the movie (" + file +
+                     ").");
+    return {};
+  }
   const auto place = places_.find(path);
   if (refers && place != places_.end()) return place->second;
   // What a file says of its own place does not count.

@@ -9,6 +9,9 @@ namespace velra {
 /// the file of a picture. A path that stands in any other one is a person's own words.
 bool holdsIdentifier(std::string_view element);
 
+/// True for an element whose text is the file of a key-frame picture.
+bool holdsKeyFrame(std::string_view element);
+
 /// The same for the path of a movie.
 bool holdsMoviePath(std::string_view element);
 

@@ -25,7 +25,6 @@ TEST(Recovery, MakesACompleteDocumentAndOnlyReadsTheOldOne) {
   folder.write("film_files/film_video9.xml", "no XML");
   folder.write("film_files/film_mediaobject1.bmp", "BM");
   folder.write("film_files/notes.xml", "not the document's");
-  const auto before = folder.snapshot();
 
   // A note that is a path stays as it is; what is relative is found from the new folder, too.
   const auto linked = [&](const std::string& from, const std::string& movie) {
@@ -35,6 +34,9 @@ TEST(Recovery, MakesACompleteDocumentAndOnlyReadsTheOldOne) {
   };
   const std::string link = linked(old, "a.avi");
   KeptObject changed{old + "video1.xml", "Video", "", link, false, fileStamp(document)};
+  // A key frame without a picture would keep the copy from opening.
+  folder.write("film_files/film_video7.xml", element("<Keyframe>" + old + "gone.bmp</Keyframe>"));
+  const auto before = folder.snapshot();
   const std::vector<KeptObject> kept = {
       changed,
       {old + "video3.xml", "Video", "", element("new"), false, {}},
@@ -44,7 +46,7 @@ TEST(Recovery, MakesACompleteDocumentAndOnlyReadsTheOldOne) {
   const Recovered result = recoverDocument(document, kept, folder / "new/copy.xml");
 
   EXPECT_EQ(result.failure, "");
-  EXPECT_EQ(result.notes.size(), 1U) << "no XML";
+  EXPECT_EQ(result.notes.size(), 2U) << "no XML, and no picture";
   const std::string place = folder.path() + "/new/copy_files/copy_";
   auto after = folder.snapshot();
   EXPECT_EQ(after["new/copy.xml"],
@@ -52,6 +54,7 @@ TEST(Recovery, MakesACompleteDocumentAndOnlyReadsTheOldOne) {
   EXPECT_EQ(after["new/copy_files/copy_version1.xml"], before.at("film_files/film_version1.xml"));
   EXPECT_EQ(after["new/copy_files/copy_video1.xml"], linked(place, folder.path() + "/a.avi"));
   EXPECT_EQ(after["new/copy_files/copy_mediaobject2.bmp"], "BM2");
+  EXPECT_EQ(after["new/copy_files/copy_video7.xml"], element("<Keyframe/>"));
   EXPECT_EQ(after["new/copy_files/copy_video9.xml"], "no XML");
   EXPECT_EQ(after.count("new/copy_files/copy_video2.xml"), 0U);
   std::erase_if(after, [](const auto& file) { return file.first.starts_with("new/"); });
