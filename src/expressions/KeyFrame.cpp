@@ -147,6 +147,7 @@ void KeyFrame::CreateKeyFrameIcons() {
   checkBitmap(path);
   // Absolute, since it is drawn at a time when another folder may be the current one.
   picKeyFrame_.path = strAbsolutePath(path);
+  video_.io()->guard().noteStamp(picKeyFrame_.path);
   picKeyFrameSmall_ = {picKeyFrame_.path, kSmallWidth, kSmallHeight};
 }
 

@@ -16,18 +16,31 @@ void GuardedFiles::noteContent(const std::string& path, std::uint64_t print) {
   contents_.insert_or_assign(contentPrint(path), print);
 }
 
+void GuardedFiles::noteStamp(const std::string& path) {
+  stamps_.insert_or_assign(contentPrint(path), fileStamp(path));
+}
+
 void GuardedFiles::spare(const std::string& path, std::string_view bytes, DocumentRescue* rescue) {
   const auto known = contents_.find(contentPrint(path));
   if (known == contents_.end() || bytes.empty()) return;
   const std::uint64_t print = contentPrint(bytes);
-  if (print == known->second) return;
-  const bool kept = rescue && rescue->keepReplaced(path, std::string(bytes)).empty();
-  (kept ? kept_ : lost_).add(path);
-  if (kept) known->second = print;  // once is enough
+  if (print != known->second && bKept(path, bytes, rescue)) known->second = print;
 }
 
 void GuardedFiles::spare(const std::string& path, DocumentRescue* rescue) {
-  if (contents_.contains(contentPrint(path))) spare(path, readFile(path).bytes, rescue);
+  const std::uint64_t key = contentPrint(path);
+  if (contents_.contains(key)) return spare(path, readFile(path).bytes, rescue);
+  const auto known = stamps_.find(key);
+  const FileStamp present = fileStamp(path);
+  if (known == stamps_.end() || !present.exists || present == known->second) return;
+  if (bKept(path, readFile(path).bytes, rescue)) known->second = present;
+}
+
+// Once is enough for each state of a file.
+bool GuardedFiles::bKept(const std::string& path, std::string_view bytes, DocumentRescue* rescue) {
+  const bool kept = rescue && rescue->keepReplaced(path, std::string(bytes)).empty();
+  (kept ? kept_ : lost_).add(path);
+  return kept;
 }
 
 std::string GuardedFiles::strWhyNotWrite(const std::string& path) {

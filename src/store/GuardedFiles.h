@@ -8,6 +8,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/files/Files.h"
 #include "platform/files/OwnFile.h"
 
 namespace velra {
@@ -26,6 +27,8 @@ class GuardedFiles {
 
   /// What a file held when it was read, or written last: `contentPrint` of it.
   void noteContent(const std::string& path, std::uint64_t print);
+  /// The same for a picture, by its stamp alone: tens of thousands are not read to the end.
+  void noteStamp(const std::string& path);
 
   /// Keeps the bytes of a file that is to be written over or to go, when they are not what was read
   /// or written last. Without a store they cannot be kept.
@@ -42,6 +45,8 @@ class GuardedFiles {
   std::string strTakeNotes();
 
  private:
+  bool bKept(const std::string& path, std::string_view bytes, DocumentRescue* rescue);
+
   /// One kind of event, told in one sentence however many files there are.
   class Note {
    public:
@@ -63,6 +68,7 @@ class GuardedFiles {
   std::string chosen_;
   // By a print of the path, since a large document has many.
   std::unordered_map<std::uint64_t, std::uint64_t> contents_;
+  std::unordered_map<std::uint64_t, FileStamp> stamps_;
   Note kept_{false};
   Note lost_{false};
   Note outside_{true};

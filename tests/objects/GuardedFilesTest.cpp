@@ -85,6 +85,27 @@ TEST(GuardedFiles, WhatAnotherProgramHasWrittenIsKeptBeforeItGoes) {
   }
 }
 
+TEST(GuardedFiles, APictureIsToldFromAnotherByItsStamp) {
+  DocumentSession session;
+  session.files.smallLadder();
+  const std::string picture = session.folder.write("film_files/film_mediaobject1.bmp", "BM old");
+  const std::string store = session.folder / "state/rescue.sqlite";
+  {
+    RescueWriter writer(store);
+    session.app.rescue = &writer;
+    ASSERT_EQ(session.open(session.files.documentPath()), "");
+    IOManager& io = *session.document()->io();
+    io.guard().noteStamp(picture);
+    io.guard().spare(picture, io.rescue());
+    session.folder.write("film_files/film_mediaobject1.bmp", "BM theirs");
+    io.guard().spare(picture, io.rescue());
+    io.guard().spare(picture, io.rescue());
+    session.close();
+    session.app.rescue = nullptr;
+  }
+  EXPECT_EQ(allReplaced(store), picture + ": BM theirs\n");
+}
+
 TEST(GuardedFiles, OfOtherFilesNoneIsDeletedAndOnlyThoseThatTheDocumentNamesAreWritten) {
   DocumentSession session;
   const auto version = test::ObjectText("Version").text("VersionTitle", "old").xml();
