@@ -76,7 +76,7 @@ PlannedSave::PlannedSave(IOManager& io, const AVDocument& document, std::vector<
 }
 
 PlannedSave::~PlannedSave() {
-  if (rescue_) rescue_->abandonSave();
+  if (rescue_ && std::uncaught_exceptions() == errors_) rescue_->abandonSave();
 }
 
 void PlannedSave::finished() {

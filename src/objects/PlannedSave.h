@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -26,7 +27,8 @@ class PlannedSave {
   PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
   PlannedSave(const PlannedSave&) = delete;
   PlannedSave& operator=(const PlannedSave&) = delete;
-  /// A save that was not finished has failed, and the person was told.
+  /// A save that was not finished has failed, and the person was told. One that an error ends, and
+  /// most likely the program with it, is finished by the next opening.
   ~PlannedSave();
 
   /// All is on the disk.
@@ -37,6 +39,7 @@ class PlannedSave {
   // A store that fails does not keep the files from being written.
   bool planned_ = false;
   bool copies_ = false;
+  int errors_ = std::uncaught_exceptions();
 };
 
 }  // namespace velra

@@ -50,7 +50,9 @@ void RescueStore::end(SessionId session, SessionEnd how) {
       .number(1, session)
       .number(2, static_cast<std::int64_t>(how))
       .run();
-  plans().drop(session);  // a program that lives knows how its saves have ended
+  // A program that lives knows how its saves have ended; an error may have ended one amid its
+  // files.
+  if (how != SessionEnd::Error) plans().drop(session);
   deleteIfEmpty(session);
   transaction.commit();
 }

@@ -82,6 +82,9 @@ TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
   EXPECT_TRUE(open().files.empty());
   EXPECT_EQ(plans.dueRemovals(session).at(0).path, "gone");
   plans.removalsDone(session);
+  plans.planSave(session, plan);
+  store_.end(session, SessionEnd::Error);
+  EXPECT_EQ(open().files.size(), 1U) << "an error may have come amid the files";
   store_.end(session, SessionEnd::Left);
   EXPECT_TRUE(interruptedSaves(store_, "f").empty());
 }
