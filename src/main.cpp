@@ -3,7 +3,6 @@
 
 #include <QLibraryInfo>
 #include <QTranslator>
-#include <chrono>
 #include <cstdio>
 
 #include "app/ApplicationModule.h"
@@ -38,9 +37,6 @@ constexpr int kKeptMemory = 256 * 1024 * 1024;
 // megabytes, and fresh pages for each cost as much as its colours.
 constexpr int kLargestKeptBlock = 32 * 1024 * 1024;
 
-// What is on its way to the store gets so much time when the display goes away.
-constexpr std::chrono::seconds kPatienceAtExit{2};
-
 // The buttons of boxes and file dialogs speak the language of the interface.
 void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
   if (language != InterfaceLanguage::Italian) return;
@@ -63,7 +59,7 @@ int run(GuardedApplication& application, InterfaceLanguage language,
   ApplicationModule app(ui, MessageCatalogue(language), machineSettings, userSettings);
   app.rescue = &rescue;
   application.setLastWish([&] { return keepAtUntrappedError(app); });
-  application.setExitWish([&] { rescue.finish(kPatienceAtExit); });
+  application.setExitWish([&] { keepAtDisplayLoss(app); });
   QtFormPresenter presenter(app);
   QtVideoForms videoForms(app, [&](FormOwner& owner) { return presenter.windowOf(owner); });
   VideoFormServices forExpressions{app, makeMediaGraph, videoForms};
