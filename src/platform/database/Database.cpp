@@ -3,6 +3,8 @@
 
 #include <sqlite3.h>
 
+#include <utility>
+
 namespace velra {
 
 namespace {
@@ -36,21 +38,30 @@ void Database::run(const std::string& statements) {
   if (result != SQLITE_OK) failWith(database_.get(), result);
 }
 
-Statement Database::prepare(std::string_view statement) {
+Statement Database::prepare(const std::string& statement) {
+  if (auto known = idle_.extract(statement)) return Statement(*this, std::move(known.mapped()));
   sqlite3_stmt* prepared = nullptr;
   const int length = static_cast<int>(statement.size());
-  const int result =
-      sqlite3_prepare_v2(database_.get(), statement.data(), length, &prepared, nullptr);
+  const int result = sqlite3_prepare_v3(database_.get(), statement.data(), length,
+                                        SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
   if (result != SQLITE_OK) failWith(database_.get(), result);
-  return Statement(prepared);
+  return Statement(*this, Prepared(prepared));
 }
 
 std::int64_t Database::lastRow() const {
   return sqlite3_last_insert_rowid(database_.get());
 }
 
-void Statement::Finalize::operator()(sqlite3_stmt* statement) const {
+void Database::Finalize::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
+}
+
+// Two of the same text may be in use at once; one of them is enough to keep.
+void Statement::GiveBack::operator()(sqlite3_stmt* statement) const {
+  Database::Prepared prepared(statement);
+  sqlite3_reset(statement);
+  sqlite3_clear_bindings(statement);
+  database->idle_.insert_or_assign(sqlite3_sql(statement), std::move(prepared));
 }
 
 void Statement::check(int result) const {
@@ -104,13 +115,13 @@ bool Statement::isNull(int column) const {
 
 Transaction::Transaction(Database& database) : database_(database) {
   // Taken at once: one that only asked first could be refused in its middle by another writer.
-  database_.run("BEGIN IMMEDIATE");
+  database_.prepare("BEGIN IMMEDIATE").run();
 }
 
 Transaction::~Transaction() {
   if (!open_) return;
   try {
-    database_.run("ROLLBACK");
+    database_.prepare("ROLLBACK").run();
   } catch (const DatabaseError&) {
     // A failure such as a full disk has rolled it back already.
     open_ = false;
@@ -118,7 +129,7 @@ Transaction::~Transaction() {
 }
 
 void Transaction::commit() {
-  database_.run("COMMIT");
+  database_.prepare("COMMIT").run();
   open_ = false;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -37,16 +38,24 @@ class Database {
   /// Runs statements that give no rows, one after the other.
   void run(const std::string& statements);
 
-  Statement prepare(std::string_view statement);
+  /// A statement that is prepared often is parsed once.
+  Statement prepare(const std::string& statement);
 
   /// The number that the last inserted row has got.
   std::int64_t lastRow() const;
 
  private:
+  friend class Statement;
   struct Close {
     void operator()(sqlite3* database) const;
   };
+  struct Finalize {
+    void operator()(sqlite3_stmt* statement) const;
+  };
+  using Prepared = std::unique_ptr<sqlite3_stmt, Finalize>;
+
   std::unique_ptr<sqlite3, Close> database_;
+  std::map<std::string, Prepared> idle_;  // those that nobody uses now
 };
 
 /// One statement with its places "?1", "?2"..., which count from 1; columns count from 0. It must
@@ -69,13 +78,15 @@ class Statement {
 
  private:
   friend class Database;
-  explicit Statement(sqlite3_stmt* statement) : statement_(statement) {}
-  void check(int result) const;
-
-  struct Finalize {
+  struct GiveBack {
+    Database* database;
     void operator()(sqlite3_stmt* statement) const;
   };
-  std::unique_ptr<sqlite3_stmt, Finalize> statement_;
+  explicit Statement(Database& database, Database::Prepared prepared)
+      : statement_(prepared.release(), {&database}) {}
+  void check(int result) const;
+
+  std::unique_ptr<sqlite3_stmt, GiveBack> statement_;
 };
 
 /// A stretch of work that is done whole or not at all. It is undone at the end of its life unless
