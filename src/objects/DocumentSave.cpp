@@ -33,7 +33,7 @@ void DocumentSave::renumber(DescribedObject& object) {
   object.setStrGUID(newGUID);
   for (const ObjectRef& holder : holders) holder->RenameAllRelativesGUID(oldGUID, newGUID);
   const auto* video = as<VideoExpression>(&object);
-  if (!video) return;
+  if (!video || !app_.gMainForm) return;
   app_.gMainForm->RemoveIcon(oldGUID);
   app_.gMainForm->AddSmallKeyFrame(*video);
 }

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/DocumentClosing.h"
 
-#include <algorithm>
-
 #include "app/ApplicationModule.h"
-#include "base/Paths.h"
+#include "objects/UnsavedPictures.h"
 #include "platform/UserInterface.h"
 #include "protocol/OpenDocument.h"
-#include "rescue/DocumentRescue.h"
 #include "shell/MainTrees.h"
-#include "store/IOManager.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -37,24 +33,9 @@ void DocumentClosing::releaseDocument() {
   if (app_.gAVDoc) {
     while (app_.gAVDoc->keepUnsavedWork()) {
     }
-    MarkUnsavedMediaObjects();
+    dropUnsavedPictures(*app_.gAVDoc, true);
   }
   app_.gAVDoc.reset();
-}
-
-// Pictures that no saved object points at go with the document.
-void DocumentClosing::MarkUnsavedMediaObjects() {
-  const auto isPicture = [](const RegisteredRef& object) {
-    return object->kind() == ObjectKind::MediaObject;
-  };
-  const RegisteredList changed = app_.gAVDoc->collObjects().changedObjects();
-  const bool workIsKept = !std::all_of(changed.begin(), changed.end(), isPicture);
-  for (const RegisteredRef& object : changed) {
-    if (!isPicture(object)) continue;
-    const auto io = app_.gAVDoc->io();
-    if (workIsKept && io->rescue()) io->rescue()->keepPicture(strAbsolutePath(object->strGUID()));
-    io->RemoveGUID(object->strGUID());
-  }
 }
 
 }  // namespace velra

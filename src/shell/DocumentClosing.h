@@ -20,7 +20,6 @@ class DocumentClosing {
 
  private:
   bool saveQuestionAnswered();
-  void MarkUnsavedMediaObjects();
 
   ApplicationModule& app_;
   MainTrees& trees_;

@@ -14,17 +14,25 @@ std::shared_ptr<Chunk> spanOf(const Expression& segment) {
   return span;
 }
 
+bool bHoldsPoint(double start, double end, double point) {
+  return start < point && end > point;
+}
+
+bool bLiesBetween(double start, double end, double from, double to) {
+  return start >= from && end <= to;
+}
+
 bool bPointIsFree(const ExpressionList& children, double point) {
   return std::none_of(children.begin(), children.end(), [&](const ExpressionRef& child) {
     const auto span = spanOf(*child);
-    return span->dStart < point && span->dend > point;
+    return bHoldsPoint(span->dStart, span->dend, point);
   });
 }
 
 bool bIntervalHoldsNoSegment(const ExpressionList& children, double from, double to) {
   return std::none_of(children.begin(), children.end(), [&](const ExpressionRef& child) {
     const auto span = spanOf(*child);
-    return span->dStart >= from && span->dend <= to;
+    return bLiesBetween(span->dStart, span->dend, from, to);
   });
 }
 
