@@ -36,7 +36,7 @@ std::string joined(const WordSpan& words, std::size_t from, std::size_t to) {
 
 // The lines of a cue, of like length where they must be two; nothing when it has too many
 // characters.
-std::vector<std::string> linesOf(const WordSpan& words) {
+std::vector<std::string> cueLines(const WordSpan& words) {
   std::string whole = joined(words, 0, words.size());
   if (characters(whole) <= kLineLength || words.size() == 1) return {std::move(whole)};
   std::vector<std::string> best;
@@ -58,7 +58,7 @@ bool belongsToNext(const WordSpan& cue, const ContentWord& word) {
   if (lasts >= kShortestCue && endsSentence(cue.back().text)) return true;
   WordSpan longer = cue;
   longer.push_back(word);
-  return linesOf(longer).empty();
+  return cueLines(longer).empty();
 }
 
 // Cues that are too short stay as long as the next one allows.
@@ -79,7 +79,7 @@ std::vector<Cue> cuesOf(const std::vector<ContentWord>& words) {
   WordSpan open;
   const auto close = [&] {
     if (open.empty()) return;
-    cues.push_back({open.front().start, open.back().end, linesOf(open)});
+    cues.push_back({open.front().start, open.back().end, cueLines(open), open});
     open.clear();
   };
   for (const ContentWord& word : words) {

@@ -13,6 +13,7 @@ struct Cue {
   double start = 0;
   double end = 0;
   std::vector<std::string> lines;
+  std::vector<ContentWord> words;  // those of the lines, if it is made of words
 };
 
 /// Words, in order of their starts, as cues of at most two lines of 42 characters and of 1 to 7

@@ -5,11 +5,10 @@
 #include <variant>
 
 #include "app/ApplicationModule.h"
-#include "base/Paths.h"
 #include "base/RunTimeError.h"
 #include "exchange/ContentWalk.h"
+#include "exchange/DocumentVisit.h"
 #include "exchange/ExchangeFailure.h"
-#include "objects/AVDocument.h"
 #include "platform/files/Files.h"
 #include "rescue/KeptWorkList.h"
 #include "rescue/ProcessIdentity.h"
@@ -20,38 +19,6 @@
 namespace velra {
 
 namespace {
-
-class FolderVisit {
- public:
-  explicit FolderVisit(const std::string& folder) : before_(currentFolder()) {
-    changeCurrentFolder(folder);
-  }
-  ~FolderVisit() { changeCurrentFolder(before_); }
-  FolderVisit(const FolderVisit&) = delete;
-  FolderVisit& operator=(const FolderVisit&) = delete;
-
- private:
-  std::string before_;
-};
-
-class OpenedForReading {
- public:
-  explicit OpenedForReading(ApplicationModule& app) : app_(app) {}
-  ~OpenedForReading() { app_.gAVDoc.reset(); }
-  OpenedForReading(const OpenedForReading&) = delete;
-  OpenedForReading& operator=(const OpenedForReading&) = delete;
-
-  /// A message, or "".
-  std::string open(const std::string& path, const std::shared_ptr<IOManager>& io) {
-    document_ = std::make_shared<AVDocument>(app_);
-    return document_->strOpen(path, nullptr, io);
-  }
-  const AVDocument& document() const { return *document_; }
-
- private:
-  ApplicationModule& app_;
-  std::shared_ptr<AVDocument> document_;
-};
 
 // Half of the files are old then and half new.
 void refuseCutOffSave(const std::string& document) {
@@ -82,28 +49,17 @@ void useVocabulary(ApplicationModule& app) {
   app.objNaroThematicKeywords->bSetFromXMLFile(app, path);
 }
 
-Content read(ApplicationModule& app, const std::string& path) {
-  const FolderVisit visit(folderOf(path));
-  OpenedForReading opened(app);
-  const auto io = std::make_shared<IOManager>(app);
-  io->setBReadsOnly(true);
-  const std::string message = opened.open(path, io);
-  if (!message.empty()) throw ExchangeFailure(path + ": " + message);
-  return contentOf(app, opened.document());
-}
-
 }  // namespace
 
 Content readContent(ApplicationModule& app, const std::string& path) {
-  const std::string document = strAbsolutePath(path);
-  if (!bFileExists(document)) throw ExchangeFailure("There is no document " + document + ".");
-  if (app.strXSDPath().empty()) {
-    throw ExchangeFailure("The settings name no schema, and without one a document has no fields.");
-  }
+  const std::string document = documentToVisit(app, path);
   refuseCutOffSave(document);
   useVocabulary(app);
+  const auto io = std::make_shared<IOManager>(app);
+  io->setBReadsOnly(true);
+  const DocumentVisit visit(app, document, io);
   try {
-    return read(app, document);
+    return contentOf(app, visit.document());
   } catch (const RunTimeError& error) {
     throw ExchangeFailure(document + ": " + error.description());
   }

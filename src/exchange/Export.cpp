@@ -6,37 +6,18 @@
 #include "base/Paths.h"
 #include "base/Text.h"
 #include "exchange/ExchangeFailure.h"
+#include "exchange/OptionWords.h"
 #include "platform/files/FileMoves.h"
 
 namespace velra {
 
 namespace {
 
-constexpr int kMostOptionNumber = 1'000'000;
-
 ObjectKind kindOption(const std::string& value) {
   for (const ObjectKind kind : {ObjectKind::Video, ObjectKind::Audio, ObjectKind::Transcript}) {
     if (equalIgnoringAsciiCase(value, classNameOf(kind))) return kind;
   }
   throw ExchangeFailure("--class takes video, audio or transcript, not \"" + value + "\".");
-}
-
-int numberOption(const std::string& option, const std::string& value) {
-  const auto number = toNumber(value);
-  const bool whole = number && *number >= 1 && *number <= kMostOptionNumber &&
-                     *number == static_cast<int>(*number);
-  if (!whole) throw ExchangeFailure(option + " takes a number from 1, not \"" + value + "\".");
-  return static_cast<int>(*number);
-}
-
-double rateOption(const std::string& value) {
-  constexpr double kMostPictures = 1000;
-  const auto rate = toNumber(value);
-  if (!rate || *rate < 1 || *rate > kMostPictures) {
-    throw ExchangeFailure("--rate takes pictures per second from 1 to 1000, not \"" + value +
-                          "\".");
-  }
-  return *rate;
 }
 
 std::string baseOption(const std::string& value) {
@@ -47,18 +28,13 @@ std::string baseOption(const std::string& value) {
 }
 
 // Options that stand alone; null for all others.
-bool* switchOf(const std::string& option, ExportOptions& options) {
+bool* exportSwitch(const std::string& option, ExportOptions& options) {
   if (option == "--segments") return &options.segments;
+  if (option == "--plain") return &options.plain;
   return option == "--movies" ? &options.movies : nullptr;
 }
 
-bool takes(const ExportFormat& format, const std::string& option) {
-  const auto names = split(format.options, ' ');
-  return option.starts_with("--") &&
-         std::find(names.begin(), names.end(), option.substr(2)) != names.end();
-}
-
-void setOption(const std::string& option, const std::string& value, ExportOptions& options) {
+void setExportOption(const std::string& option, const std::string& value, ExportOptions& options) {
   if (option == "-o") options.output = strAbsolutePath(value);
   if (option == "--class") options.kind = kindOption(value);
   if (option == "--level") options.level = numberOption(option, value);
@@ -81,20 +57,14 @@ void refuseOwnFiles(const Content& content, const std::string& output) {
 
 ExportOptions exportOptions(const ExportFormat& format, const std::vector<std::string>& words) {
   ExportOptions options;
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::string& word = words[i];
-    if (word != "-o" && !takes(format, word)) {
-      throw ExchangeFailure(std::string(format.name) + " takes no \"" + word + "\".");
-    }
-    if (bool* const on = switchOf(word, options)) {
-      *on = true;
-      continue;
-    }
-    if (++i == words.size() || words[i].empty()) {
-      throw ExchangeFailure(word + " needs a value behind it.");
-    }
-    setOption(word, words[i], options);
-  }
+  OptionTaker{
+      std::string(format.name),
+      [&](const std::string& word) { return word == "-o" || isOptionOf(format.options, word); },
+      [&](const std::string& word) { return exportSwitch(word, options); },
+      [&](const std::string& word, const std::string& value) {
+        setExportOption(word, value, options);
+      }}
+      .take(words);
   return options;
 }
 

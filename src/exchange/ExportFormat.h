@@ -19,6 +19,7 @@ struct ExportOptions {
   std::optional<double> rate;      // pictures per second
   bool segments = false;           // segments instead of words
   bool movies = false;             // the movies too
+  bool plain = false;              // cues without the times of their words
   std::string mapping;             // absolute path of a mapping file; "" for the schema's own
   std::string base;                // address under which the files are served; no "/" at its end
 };
