@@ -177,6 +177,23 @@ enum class Message : int {
   NotSaved = 1207,
   AskIndependent = 1208,
   MakingIndependent = 1209,
+  ExportAs = 1210,
+  ImportFile = 1211,
+  Row = 1212,
+  RowWithoutTimes = 1213,
+  RowWithoutTitle = 1214,
+  RowOutside = 1215,
+  RowCut = 1216,
+  RowOfNoOther = 1217,
+  RowTooMany = 1218,
+  RowFieldUnfit = 1219,
+  RowNotMade = 1220,
+  RowWithoutExpression = 1221,
+  RowsOfOtherClass = 1222,
+  SegmentsTaken = 1223,
+  WordsTaken = 1224,
+  RowsRefused = 1225,
+  AllOrNothing = 1226,
 };
 
 }  // namespace velra

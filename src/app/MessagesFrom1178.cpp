@@ -49,6 +49,28 @@ constexpr MessageRow kFrom1178[] = {
      "D'ora in poi questo documento userà soltanto i propri oggetti. Ciò che è stato modificato e "
      "non salvato non viene ripreso. Gli oggetti sono in "},
     {1209, "The copy is being made independent.", "La copia viene resa indipendente."},
+    {1210, "Ex&port As...", "Es&porta come..."},
+    {1211, "Impo&rt...", "Impo&rta..."},
+    {1212, "Row ", "Riga "},
+    {1213, "it has no times that can be read.", "non ha tempi leggibili."},
+    {1214, "it has no title.", "non ha titolo."},
+    {1215, "it begins outside of what it would be part of.",
+     "inizia fuori da ciò di cui farebbe parte."},
+    {1216, "it ends behind what it is part of, and was cut there.",
+     "termina oltre ciò di cui fa parte, ed è stata tagliata."},
+    {1217, "the row that it is part of was not taken.",
+     "la riga di cui fa parte non è stata presa."},
+    {1218, "there would be more than 32767.", "sarebbero più di 32767."},
+    {1219, "a field cannot hold this: ", "un campo non può contenere questo: "},
+    {1220, "it could not be made.", "non è stato possibile crearla."},
+    {1221, "the Version has no expression of its class.",
+     "la Version non ha un'espressione della sua classe."},
+    {1222, "Rows of another class, passed over: ", "Righe di un'altra classe, saltate: "},
+    {1223, "Segments taken: ", "Segmenti presi: "},
+    {1224, "words taken: ", "parole prese: "},
+    {1225, "rows not taken: ", "righe non prese: "},
+    {1226, "All rows were wanted or none: nothing was changed.",
+     "Si volevano tutte le righe o nessuna: nulla è cambiato."},
 };
 
 }  // namespace

@@ -8,13 +8,17 @@
 #include "ConsoleInterface.h"
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
+#include "base/Text.h"
 #include "exchange/BagCheck.h"
 #include "exchange/DocumentReading.h"
 #include "exchange/ExchangeFailure.h"
 #include "exchange/Export.h"
 #include "exchange/FormlessFactory.h"
+#include "exchange/imports/DocumentImport.h"
 #include "platform/settings/MachineSettings.h"
 #include "platform/settings/UserSettings.h"
+#include "rescue/RescueStore.h"
+#include "rescue/RescueWriter.h"
 
 namespace {
 
@@ -22,27 +26,40 @@ using namespace velra;
 
 constexpr const char* kUsage = R"(Usage:
   velra-exchange export FORMAT DOCUMENT [-o FILE] [OPTION ...]
+  velra-exchange import FORMAT FILE DOCUMENT [OPTION ...]
   velra-exchange verify BAG                whether the files of a bag are what they were
   velra-exchange --list                    the formats, and which options each takes
   velra-exchange --help | --version
 
-Options:
+Options of an export:
   -o FILE            writes there, in place of what is there; else to standard output
   --class CLASS      segments of video, audio or transcript
   --level N          segments of that level: 1 for those of the whole movie, 2 for theirs ...
   --of-version N     of the N-th Version; by default of all, or of the first where one it must be
   --segments         segments in place of words
+  --plain            cues without the times of their words
   --rate R           pictures per second
   --movies           the movies too
   --mapping FILE     which field is which element; by default the one beside the schema
   --base ADDRESS     where on the web the document's folder is served
 
+Options of an import:
+  --into NAME        the Video, Audio or Transcript of that title, or in that file; by default the
+                     main one of the first Version, for words the Transcript
+  --of-version N     that of the N-th Version
+  --strict           all rows or none
+  --segments         cues become segments too
+  --replace          words go in place of those that are there
+  --rate R           pictures per second
+  --record           the record side of a cut list
+  --start LABEL      what a cut list has for the movie's first picture, as 01:00:00:00
+
 The schema and the vocabulary are those of velra's settings (VELRA_MACHINE_SETTINGS names another
-file of them). The document is only read. A save that was cut off has to be finished first, by
-opening the document in velra.
+file of them). An export only reads the document. A save that was cut off has to be finished first,
+by opening the document in velra. An import saves the document at its end, when any row was taken.
 
 Exit status: 0 done; 1 not done, and nothing is written; 2 wrong use; 3 done, but something of the
-document could not be read, as told.
+document could not be read, or a row not taken, as told.
 )";
 
 constexpr int kFailed = 1;
@@ -58,37 +75,51 @@ bool write(const std::string& bytes) {
          std::fflush(stdout) == 0;
 }
 
-int list() {
+// The program without windows.
+struct Exchange {
+  ConsoleInterface ui;
+  MachineSettings machineSettings{MachineSettings::defaultPath()};
+  UserSettings userSettings{UserSettings::defaultPath()};
+  ApplicationModule app{ui, MessageCatalogue(InterfaceLanguage::Default), machineSettings,
+                        userSettings};
+  FormlessFactory factory{app};
+};
+
+template <class Format>
+std::string inList(const std::vector<const Format*>& formats) {
   std::string text;
-  for (const ExportFormat* format : exportFormats()) {
+  for (const Format* format : formats) {
     char line[160];
-    std::snprintf(line, sizeof line, "%-10s %s\n", std::string(format->name).c_str(),
+    std::snprintf(line, sizeof line, "  %-10s %s\n", std::string(format->name).c_str(),
                   std::string(format->what).c_str());
     text += line;
-    std::string options(format->options);
-    for (std::size_t at = 0; (at = options.find(' ', at)) != std::string::npos; at += 3) {
-      options.replace(at, 1, " --");
-    }
-    if (!options.empty()) text += "           --" + options + '\n';
+    const std::string options = replaceAll(std::string(format->options), " ", " --");
+    if (!options.empty()) text += "             --" + options + '\n';
   }
+  return text;
+}
+
+int list() {
+  const std::string text =
+      "export:\n" + inList(exportFormats()) + "import:\n" + inList(importFormats());
   return write(text) ? 0 : kFailed;
+}
+
+int noFormat(const std::string& name) {
+  say("There is no format \"" + name + "\"; velra-exchange --list tells which there are.");
+  return kUsageError;
 }
 
 int exportDocument(const ExportFormat& format, const std::string& document,
                    const ExportOptions& options) {
-  ConsoleInterface ui;
-  MachineSettings machineSettings(MachineSettings::defaultPath());
-  UserSettings userSettings(UserSettings::defaultPath());
-  ApplicationModule app(ui, MessageCatalogue(InterfaceLanguage::Default), machineSettings,
-                        userSettings);
-  const FormlessFactory factory(app);
-  const Content content = readContent(app, document);
+  Exchange exchange;
+  const Content content = readContent(exchange.app, document);
   const Exported exported = exportContent(format, content, options);
   if (options.output.empty() && !write(exported.bytes)) {
     throw ExchangeFailure("Standard output takes no more.");
   }
   for (const std::string& note : exported.notes) say(note);
-  return ui.hasTold() ? kIncomplete : 0;
+  return exchange.ui.hasTold() ? kIncomplete : 0;
 }
 
 int verify(const std::string& bag) {
@@ -100,10 +131,7 @@ int verify(const std::string& bag) {
 
 int exportCommand(const std::vector<std::string>& words) {
   const ExportFormat* format = exportFormat(words[1]);
-  if (!format) {
-    say("There is no format \"" + words[1] + "\"; velra-exchange --list tells which there are.");
-    return kUsageError;
-  }
+  if (!format) return noFormat(words[1]);
   ExportOptions options;
   try {
     options = exportOptions(*format, {words.begin() + 3, words.end()});
@@ -114,6 +142,31 @@ int exportCommand(const std::vector<std::string>& words) {
   return exportDocument(*format, words[2], options);
 }
 
+int importFile(const ImportFormat& format, const std::vector<std::string>& words,
+               const ImportOptions& options) {
+  RescueWriter rescue(RescueStore::defaultPath());
+  Exchange exchange;
+  exchange.app.rescue = &rescue;
+  const ImportReport report = importIntoDocument(exchange.app, words[3], format, words[2], options);
+  for (const std::string& line : report.lines) say(line);
+  say(report.closing);
+  if (report.nothing) return kFailed;
+  return report.refused > 0 || exchange.ui.hasTold() ? kIncomplete : 0;
+}
+
+int importCommand(const std::vector<std::string>& words) {
+  const ImportFormat* format = importFormat(words[1]);
+  if (!format) return noFormat(words[1]);
+  ImportOptions options;
+  try {
+    options = importOptions(*format, {words.begin() + 4, words.end()});
+  } catch (const ExchangeFailure& failure) {
+    say(failure.what());
+    return kUsageError;
+  }
+  return importFile(*format, words, options);
+}
+
 int run(const std::vector<std::string>& words) {
   const std::string command = words.empty() ? "" : words[0];
   const bool alone = words.size() == 1;
@@ -121,6 +174,7 @@ int run(const std::vector<std::string>& words) {
   if (command == "--list" && alone) return list();
   if (command == "--version" && alone) return write("velra-exchange " VELRA_VERSION "\n") ? 0 : 1;
   if (command == "export" && words.size() >= 3) return exportCommand(words);
+  if (command == "import" && words.size() >= 4) return importCommand(words);
   if (command == "verify" && words.size() == 2) return verify(words[1]);
   std::fputs(kUsage, stderr);
   return kUsageError;

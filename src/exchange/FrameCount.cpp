@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <vector>
 
+#include "base/Text.h"
 #include "exchange/ContentText.h"
 #include "values/TimeCode.h"
 
@@ -41,6 +43,20 @@ std::int64_t FrameCount::at(double seconds) const {
 
 std::int64_t FrameCount::firstOfHour(int hour) const {
   return hour * 6 * perTenMinutes();
+}
+
+std::optional<std::int64_t> FrameCount::labelled(std::string_view label, bool drops) const {
+  constexpr double kMostOfField = 999;
+  std::vector<std::int64_t> fields;
+  for (const std::string& field : split(replaceAll(std::string(label), ";", ":"), ':')) {
+    const auto value = toNumber(field);
+    if (!value || *value < 0 || *value > kMostOfField) return std::nullopt;
+    fields.push_back(static_cast<std::int64_t>(*value));
+  }
+  if (fields.size() != 4 || fields[3] >= perSecond_) return std::nullopt;
+  const std::int64_t minutes = fields[0] * 60 + fields[1];
+  const std::int64_t number = (minutes * 60 + fields[2]) * perSecond_ + fields[3];
+  return drops ? number - dropped_ * (minutes - minutes / 10) : number;
 }
 
 std::string FrameCount::text(std::int64_t frame) const {

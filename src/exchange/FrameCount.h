@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace velra {
 
@@ -21,6 +23,14 @@ class FrameCount {
   /// "01:00:00:00", with ";" before the frames where numbers are dropped. Labels begin again after
   /// 24 hours.
   std::string text(std::int64_t frame) const;
+
+  /// The number of the picture on which a label of four fields stands, and nothing for what is
+  /// none. With `drops` labels are counted as those that leave out numbers, where the rate has
+  /// such.
+  std::optional<std::int64_t> labelled(std::string_view label, bool drops) const;
+
+  /// When a picture begins, in seconds.
+  double seconds(std::int64_t frame) const { return static_cast<double>(frame) / rate_; }
 
   /// The picture that one hour's label stands on.
   std::int64_t firstOfHour(int hour) const;
