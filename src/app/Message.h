@@ -194,6 +194,9 @@ enum class Message : int {
   WordsTaken = 1224,
   RowsRefused = 1225,
   AllOrNothing = 1226,
+  GoToTimeCode = 1227,
+  TimeCodePrompt = 1228,
+  NoTimeCode = 1229,
 };
 
 }  // namespace velra

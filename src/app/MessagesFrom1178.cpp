@@ -71,6 +71,10 @@ constexpr MessageRow kFrom1178[] = {
     {1225, "rows not taken: ", "righe non prese: "},
     {1226, "All rows were wanted or none: nothing was changed.",
      "Si volevano tutte le righe o nessuna: nulla è cambiato."},
+    {1227, "Go to Time Code", "Vai al codice di tempo"},
+    {1228, "Hours:minutes:seconds:frames (those in front can be left out)",
+     "Ore:minuti:secondi:fotogrammi (i primi si possono omettere)"},
+    {1229, "No time code: ", "Non è un codice di tempo: "},
 };
 
 }  // namespace

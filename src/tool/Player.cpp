@@ -117,46 +117,44 @@ void Player::SeekTo(double seconds) {
   movie.Pause();
   parts_.transcript.UpdateTranscriptText(movie.CurrentPosition(), true);
   parts_.face.showTimeCode(TimeToText(movie.CurrentPosition()));
-  bPlaying_ = false;
+  bPlaying_ = runs_ = false;
 }
 
 void Player::cmdPlay() {
   if (!objMediaControl_) return;
   objMediaControl_->Run();
-  bPlaying_ = true;
+  bPlaying_ = runs_ = true;
   parts_.face.runTimer1(true);
 }
 
 void Player::cmdPause() {
   if (!objMediaControl_) return;
   objMediaControl_->Pause();
-  bPlaying_ = false;
+  bPlaying_ = runs_ = false;
 }
 
 void Player::cmdStop() {
   if (!objMediaControl_) return;
   objMediaControl_->Stop();
+  runs_ = false;
   parts_.face.runTimer1(false);
 }
 
-void Player::cmdForward() {
-  if (!objMediaControl_) return;
-  const double position = CurrentPosition();
-  const double end = ckChunk().dend;
-  if (position == end) return;
-  // Positions are no whole numbers of frames from the bound, so that the last step is shorter. Only
-  // the very bound stops: a position already behind the end steps on.
-  const double next = position + objMediaControl_->AvgTimePerFrame();
-  SeekTo(withinMovie(position < end ? std::min(next, end) : next));
+void Player::PlayOrPause() {
+  runs_ ? cmdPause() : cmdPlay();
 }
 
-void Player::cmdRewind() {
+void Player::step(int frames) {
   if (!objMediaControl_) return;
   const double position = CurrentPosition();
-  const double start = ckChunk().dStart;
-  if (position == start) return;
-  const double next = position - objMediaControl_->AvgTimePerFrame();
-  SeekTo(withinMovie(position > start ? std::max(next, start) : next));
+  const bool forward = frames > 0;
+  const double bound = forward ? ckChunk().dend : ckChunk().dStart;
+  if (position == bound) return;
+  // Positions are no whole numbers of frames from the bound, so that the last step is shorter. Only
+  // the very bound stops: a position already behind it steps on.
+  const double next = position + frames * objMediaControl_->AvgTimePerFrame();
+  const bool passes = forward ? position < bound && next > bound : position > bound && next < bound;
+  SeekTo(withinMovie(passes ? bound : next));
 }
 
 void Player::Timer1() {

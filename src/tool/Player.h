@@ -42,10 +42,13 @@ class Player {
   void cmdPlay();
   void cmdPause();
   void cmdStop();
-  /// One frame on or back. A step that would leave the object's span ends on its bound, from which
-  /// no step leads out; what lies outside already steps on, but never out of the movie.
-  void cmdForward();
-  void cmdRewind();
+  void PlayOrPause();
+  void cmdForward() { step(1); }
+  void cmdRewind() { step(-1); }
+  /// So many frames on, or back for a negative number. A step that would leave the object's span
+  /// ends on its bound, from which no step leads out; what lies outside already steps on, but never
+  /// out of the movie.
+  void step(int frames);
   void Timer1();
 
   /// The time code at the movie's frame rate, and back. The way back takes exactly four numbers:
@@ -78,7 +81,8 @@ class Player {
   std::unique_ptr<MediaGraph> objMediaControl_;
   std::shared_ptr<Chunk> ckChunk_;
   double dFrameRate_ = 0;
-  bool bPlaying_ = false;
+  bool bPlaying_ = false;  // Stop leaves it as it was
+  bool runs_ = false;
 };
 
 }  // namespace velra

@@ -102,7 +102,7 @@ void CuttingDay::cutTheNight(QWidget& tool) {
   const QColor ground = timeCodeGround(tool);
   press(tool, "cmdSel");
   EXPECT_TRUE(QTest::qWaitFor([&] { return timeCodeGround(tool) != ground; }));
-  QTest::keyClick(&control(tool, "cmdSel"), Qt::Key_Escape);
+  strike(Qt::Key_Escape);
   EXPECT_EQ(timeCodeGround(tool), ground);
 
   cutByPoints(tool, "The lamp", [&] {
@@ -263,10 +263,10 @@ void walkTo(QTreeView& tree, const char* text) {
 /// Walks along the timeline to a range.
 void selectByKeys(QWidget& tool, const QString& title) {
   tabTo("advsld");
-  for (int step = 0; step < 10; ++step) strike(Qt::Key_Left, Qt::ControlModifier);
+  for (int step = 0; step < 10; ++step) strike(Qt::Key_Left, Qt::AltModifier);
   for (int step = 0; selectedParts(tool, "advsld") != QStringList(title); ++step) {
     if (step == 20) qFatal("no range %s", qPrintable(title));
-    strike(Qt::Key_Right, Qt::ControlModifier);
+    strike(Qt::Key_Right, Qt::AltModifier);
   }
 }
 

@@ -45,7 +45,7 @@ class TreeViewTest : public ::testing::Test {
     QObject::connect(&view, &NodeTreeView::nodeClicked, &view,
                      [this](TreeNode& clicked) { heard += " click " + clicked.Text + ";"; });
     QObject::connect(&view, &NodeTreeView::entered, &view, [this] { heard += "entered;"; });
-    QObject::connect(&view, &NodeTreeView::returnPressed, &view, [this] { heard += "return;"; });
+    QObject::connect(&view, &NodeTreeView::formAsked, &view, [this] { heard += "return;"; });
     QObject::connect(&view, &NodeTreeView::deleteReleased, &view, [this] { heard += "delete;"; });
     tree.replace(sample());
     view.resize(300, 300);

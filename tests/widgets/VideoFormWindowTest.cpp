@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/tool/VideoFormWindow.h"
-
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -16,49 +14,14 @@
 #include <QWheelEvent>
 
 #include "shell/LoadedVideoForm.h"
-#include "support/ToolSession.h"
-#include "widgets/ModalAnswer.h"
+#include "widgets/ToolWindowTest.h"
 #include "widgets/tool/AdvancedSliderWidget.h"
 #include "widgets/tool/FramelistWidget.h"
-#include "widgets/tool/PaintedPartsAccess.h"
 
 namespace velra::test {
 namespace {
 
-class VideoFormWindowTest : public ::testing::Test, public VideoFormFaces {
- protected:
-  VideoFormWindowTest() { installPaintedPartsAccess(); }
-
-  /// Shows the main expression; the person acts in its window and closes it.
-  void inForm(const std::function<void(QWidget&)>& act) {
-    bool ran = false;
-    whenModal([&](QWidget& window) {
-      ran = true;
-      act(window);
-      if (window.isVisible()) static_cast<QDialog&>(window).reject();
-    });
-    session.show();
-    EXPECT_TRUE(ran);
-  }
-  template <class Widget = QWidget>
-  static Widget& find(QWidget& window, const char* name) {
-    auto* found = window.findChild<Widget*>(QLatin1String(name));
-    if (!found) throw std::runtime_error(std::string("no control ") + name);
-    return *found;
-  }
-  static void press(QWidget& window, const char* name) {
-    QTest::mouseClick(&find<QPushButton>(window, name), Qt::LeftButton);
-  }
-  static QPoint middle(const PaintedParts& parts, int part) {
-    return parts.partRect(part).center();
-  }
-
-  std::unique_ptr<VideoFormFace> makeVideoForm(FormOwner&) override {
-    return std::make_unique<VideoFormWindow>(session.app, nullptr);
-  }
-
-  ToolSession session{*this};
-};
+using VideoFormWindowTest = ToolWindowTest;
 
 TEST_F(VideoFormWindowTest, EveryControlStandsUnderItsNameAndInView) {
   inForm([](QWidget& window) {
@@ -84,6 +47,7 @@ TEST_F(VideoFormWindowTest, EveryControlStandsUnderItsNameAndInView) {
 TEST_F(VideoFormWindowTest, TheArrowsOfTheTimelineMoveByAPicture) {
   inForm([&](QWidget& window) {
     auto& advsld = find<AdvancedSliderWidget>(window, "advsld");
+    advsld.setFocus();
     const struct {
       Qt::Key key;
       double then;
@@ -153,7 +117,7 @@ TEST_F(VideoFormWindowTest, TwoThousandPicturesAreCutSelectedAndScrolled) {
     QTest::keyClick(&strip, Qt::Key_Home, Qt::ShiftModifier);
     EXPECT_TRUE(shown(0) && strip.partSelected(1000));
     find(window, "advsld").setFocus();
-    QTest::keyClick(&find(window, "advsld"), Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&find(window, "advsld"), Qt::Key_Right, Qt::AltModifier);
     EXPECT_TRUE(shown(1)) << "in view, it does not scroll";
     auto& view = find<QScrollArea>(window, "StripView");
     auto& bar = *view.horizontalScrollBar();

@@ -90,7 +90,7 @@ void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {
     rules_.nodeClicked(id, node);
   });
   connect(&view, &NodeTreeView::entered, this, [this, id] { rules_.treeEntered(id); });
-  connect(&view, &NodeTreeView::returnPressed, this, [this, id] {
+  connect(&view, &NodeTreeView::formAsked, this, [this, id] {
     rules_.treeEntered(id);
     rules_.mnuEditMetadata();
   });

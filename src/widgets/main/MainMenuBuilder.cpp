@@ -36,6 +36,7 @@ QAction* addMenu(MainFormWindow& window, QMenu& menu, const MenuEntry& entry) {
 QAction* addCommand(MainFormWindow& window, QMenu& menu, const MenuEntry& entry) {
   QAction* action = menu.addAction(window.text(entry.caption));
   action->setShortcut(QKeySequence(QLatin1String(entry.shortcut)));
+  action->setAutoRepeat(false);  // a key that is held down has said it once
   action->setCheckable(entry.kind != Kind::Command);
   action->setChecked(entry.kind == Kind::Ticked);
   QObject::connect(action, &QAction::triggered, &window,

@@ -3,6 +3,7 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QShortcut>
 
 #include "shell/PaneLayout.h"
 #include "widgets/Twips.h"
@@ -48,6 +49,17 @@ MainPanes::MainPanes(TreeModel& mainTree, TreeModel& expressionTree, QWidget* pa
   setTabOrder(mainTree_, imgSplitter_);
   setTabOrder(imgSplitter_, expressionTree_);
   connectSplitter();
+  connectKeys();
+}
+
+void MainPanes::connectKeys() {
+  for (const char* keys : {"Ctrl+Tab", "Ctrl+Shift+Tab"}) {
+    auto* shortcut = new QShortcut(QKeySequence(QLatin1String(keys)), this);
+    // As by Tab, so that a node is selected there.
+    connect(shortcut, &QShortcut::activated, this, [this] {
+      (mainTree_->hasFocus() ? expressionTree_ : mainTree_)->setFocus(Qt::TabFocusReason);
+    });
+  }
 }
 
 void MainPanes::connectSplitter() {

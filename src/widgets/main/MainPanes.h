@@ -13,6 +13,7 @@ class SplitterHandle;
 class TreeModel;
 
 /// The two trees of the main window under their headings, with the splitter between them.
+/// Ctrl+Tab takes the keyboard from one to the other.
 class MainPanes : public QWidget {
   Q_OBJECT
 
@@ -33,6 +34,7 @@ class MainPanes : public QWidget {
 
  private:
   void connectSplitter();
+  void connectKeys();
   void moveSplitter(int leftTwips);
   void dragBar(int leftTwips);
 

@@ -32,6 +32,11 @@ void giveInactiveColour(QPalette& palette) {
                    palette.color(QPalette::Inactive, QPalette::Text));
 }
 
+bool opensForm(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
+         (event.key() == Qt::Key_F2 && event.modifiers() == Qt::NoModifier);
+}
+
 }  // namespace
 
 NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent), model_(model) {
@@ -53,6 +58,11 @@ NodeTreeView::NodeTreeView(TreeModel& model, QWidget* parent) : QTreeView(parent
 }
 
 bool NodeTreeView::event(QEvent* event) {
+  // On a tree the key is for its own node; as the menu's it is for the tree that was clicked last.
+  if (event->type() == QEvent::ShortcutOverride && opensForm(static_cast<QKeyEvent&>(*event))) {
+    event->accept();
+    return true;
+  }
   const bool done = QTreeView::event(event);
   if (event->type() == QEvent::Paint) paintFrame();
   return done;
@@ -107,10 +117,9 @@ void NodeTreeView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void NodeTreeView::keyPressEvent(QKeyEvent* event) {
-  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isReturn) {
+  if (opensForm(*event)) {
     // Not the one that is still held down from a box that it has closed.
-    if (!event->isAutoRepeat()) Q_EMIT returnPressed();
+    if (!event->isAutoRepeat()) Q_EMIT formAsked();
     return;
   }
   const QModelIndex before = currentIndex();

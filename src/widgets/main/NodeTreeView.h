@@ -28,8 +28,8 @@ class NodeTreeView : public QTreeView {
   void nodeClicked(velra::TreeNode& node);
   /// The Tab key came to a tree that has a selected node.
   void entered();
-  /// Return on the tree.
-  void returnPressed();
+  /// Return or F2 on the tree.
+  void formAsked();
   void deleteReleased();
 
  protected:

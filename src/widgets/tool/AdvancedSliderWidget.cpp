@@ -144,11 +144,9 @@ void AdvancedSliderWidget::openPart(int part) {
 
 bool AdvancedSliderWidget::moveThumbByKey(int key) {
   switch (key) {
-    case Qt::Key_Left:
     case Qt::Key_Down:
       advsld_.UserSteps(false);
       return true;
-    case Qt::Key_Right:
     case Qt::Key_Up:
       advsld_.UserSteps(true);
       return true;
@@ -172,13 +170,13 @@ bool AdvancedSliderWidget::moveThumbByKey(int key) {
 bool AdvancedSliderWidget::selectByKey(const QKeyEvent& event) {
   if (event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) return false;
   const std::int16_t range = advsld_.iNeighbour(event.key() == Qt::Key_Right);
-  if (range > 0) selectPart(range - 1, shiftArgument(event.modifiers() & ~Qt::ControlModifier));
+  if (range > 0) selectPart(range - 1, shiftArgument(event.modifiers() & ~Qt::AltModifier));
   return true;
 }
 
 bool AdvancedSliderWidget::takeKey(const QKeyEvent& event) {
-  const bool control = event.modifiers().testFlag(Qt::ControlModifier);
-  return control ? selectByKey(event) : moveThumbByKey(event.key());
+  const bool alt = event.modifiers().testFlag(Qt::AltModifier);
+  return alt ? selectByKey(event) : moveThumbByKey(event.key());
 }
 
 }  // namespace velra

@@ -11,9 +11,10 @@ namespace velra {
 
 class AdvancedSlider;
 
-/// Paints the timeline and hands mouse and keys to its rules. The arrows move by one picture, Page
-/// Up and Page Down by a page, Home and End to the ends; with Ctrl, Left and Right select a range,
-/// with Shift a stretch of them; Return goes into the selected range.
+/// Paints the timeline and hands mouse and keys to its rules. Up and Down move by one picture (Left
+/// and Right are keys of the whole tool), Page Up and Page Down by a page, Home and End to the
+/// ends; with Alt, Left and Right select a range, with Shift a stretch of them; Return goes into
+/// the selected range.
 class AdvancedSliderWidget : public PaintedPartsWidget {
   Q_OBJECT
 

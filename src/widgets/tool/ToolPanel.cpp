@@ -89,6 +89,8 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
   // The captions are signs; what is spoken is what they do.
   button->setAccessibleName(QLatin1String(toolTip));
   button->setAutoDefault(false);
+  // A click leaves the focus where it is, so that the space bar plays on and does not press again.
+  button->setFocusPolicy(Qt::TabFocus);
   connect(button, &QPushButton::clicked, this, [this, command] { command(tool_); });
   return button;
 }

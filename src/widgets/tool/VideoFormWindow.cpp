@@ -11,9 +11,9 @@
 
 #include "shell/LoadedVideoForm.h"
 #include "widgets/QtText.h"
-#include "widgets/ShiftArgument.h"
 #include "widgets/Twips.h"
 #include "widgets/forms/GeneratedFormFace.h"
+#include "widgets/keys/ToolKeys.h"
 #include "widgets/tool/RangeDialogWindow.h"
 #include "widgets/tool/ToolPanel.h"
 #include "widgets/tool/VideoPictureWidget.h"
@@ -58,8 +58,7 @@ void VideoFormWindow::build(LoadedVideoForm& form) {
           [this] { form_->CancelButt_Click(); });
   connect(generated_, &GeneratedFormFace::tabClicked, this, [this](int tab) { showTab(tab); });
   generated_->hideAllBoxes();
-  // Of the whole program, since controls come while the window shows, such as rows of a set.
-  QCoreApplication::instance()->installEventFilter(this);
+  keys_ = std::make_unique<ToolKeys>(*this, *panel_, form.tool(), app_);
   chooseSize();
   panel_->focusFirst();
 }
@@ -76,6 +75,7 @@ void VideoFormWindow::makePanelView() {
 void VideoFormWindow::unbuild() {
   Timer1_.stop();
   BlinkerTimer_.stop();
+  keys_.reset();
   panel_ = nullptr;
   delete std::exchange(panelView_, nullptr);
   delete std::exchange(generated_, nullptr);
@@ -171,23 +171,6 @@ void VideoFormWindow::showRangeDialog(RangeDialog& dialog) {
 
 void VideoFormWindow::runPendingEvents() {
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-bool VideoFormWindow::eventFilter(QObject* watched, QEvent* event) {
-  // A key that its control does not take is offered to the controls around it too: it counts once,
-  // where the focus is.
-  if (form_ && event->type() == QEvent::KeyRelease) {
-    const QWidget* focused = focusWidget();
-    if (watched == (focused ? focused : this)) Form_KeyUp(static_cast<QKeyEvent&>(*event));
-  }
-  return QDialog::eventFilter(watched, event);
-}
-
-void VideoFormWindow::Form_KeyUp(const QKeyEvent& event) {
-  if (event.isAutoRepeat()) return;
-  const int shift = shiftArgument(event.modifiers());
-  if (event.key() == Qt::Key_Delete) form_->tool().Form_KeyUp(ExpressionTool::kDeleteKey, shift);
-  if (event.key() == Qt::Key_Escape) form_->tool().Form_KeyUp(ExpressionTool::kEscKey, shift);
 }
 
 void VideoFormWindow::keyPressEvent(QKeyEvent* event) {

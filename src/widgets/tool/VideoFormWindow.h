@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QTimer>
+#include <memory>
 
 #include "shell/VideoFormFace.h"
 
@@ -12,6 +13,7 @@ namespace velra {
 
 class ApplicationModule;
 class GeneratedFormFace;
+class ToolKeys;
 class ToolPanel;
 
 /// The window of an expression's form: the tool on the first tab, the boxes of the fields on the
@@ -43,7 +45,6 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
 
   /// The close box does what Cancel does; Esc is a key of the tool.
   void reject() override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -56,13 +57,13 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
   void placeParts();
   QSize panelSize() const;
   void showTab(int tab);
-  void Form_KeyUp(const QKeyEvent& event);
 
   const ApplicationModule& app_;
   LoadedVideoForm* form_ = nullptr;
   GeneratedFormFace* generated_ = nullptr;
   ToolPanel* panel_ = nullptr;
   QScrollArea* panelView_ = nullptr;  // scrolls the panel if the screen is too small for it
+  std::unique_ptr<ToolKeys> keys_;
   QTimer Timer1_;
   QTimer BlinkerTimer_;
 };

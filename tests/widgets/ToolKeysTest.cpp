@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/keys/ToolKeys.h"
+
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QTabBar>
+
+#include "widgets/ToolWindowTest.h"
+
+namespace velra::test {
+namespace {
+
+using ToolKeys = ToolWindowTest;
+
+// Two segments, from 10 to 20 and from 30 to 40 seconds.
+TEST_F(ToolKeys, PlayStepAndCutWhereverTheFocusIs) {
+  constexpr auto kPlain = Qt::NoModifier;
+  constexpr auto kShift = Qt::ShiftModifier;
+  constexpr auto kCtrl = Qt::ControlModifier;
+  const struct {
+    const char* focus;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* then;  // position, whether the movie runs, and what was shown
+  } strokes[] = {
+      {"advsld", Qt::Key_Right, kPlain, "0.04"},
+      {"cmdNew", Qt::Key_Right, kShift, "0.44"},
+      {"cmdPlay", Qt::Key_Left, kPlain, "0.4"},
+      {"advsld", Qt::Key_Up, kPlain, "0.44"},
+      {"rtbTrans", Qt::Key_Left, kPlain, "0.44"},  // its own
+      {"txtTime", Qt::Key_Right, kCtrl, "0.44"},
+      {"advsld", Qt::Key_Left, kShift, "0.04"},
+      {"advsld", Qt::Key_Left, kShift, "0"},
+      {"Framelist1", Qt::Key_Right, kPlain, "10"},  // selects the first picture
+      {"Framelist1", Qt::Key_Right, kCtrl, "20"},
+      {"advsld", Qt::Key_Right, kCtrl, "30"},
+      {"cmdPlay", Qt::Key_Left, kCtrl, "20"},
+      {"cmdPlay", Qt::Key_Space, kPlain, "20 runs"},
+      {"rtbTrans", Qt::Key_Space, kPlain, "20"},
+      {"TabStrip1", Qt::Key_Space, kPlain, "20 runs"},
+      {"cmdStop", Qt::Key_Space, kPlain, "20"},  // pressed
+      {"advsld", Qt::Key_Space, kPlain, "20 runs"},
+      {"advsld", Qt::Key_Left, kPlain, "19.96"},
+      {"advsld", Qt::Key_O, kPlain, "19.96 beep"},
+      {"advsld", Qt::Key_I, kPlain, "19.96 plain: 1118"},
+      {"advsld", Qt::Key_Right, kPlain, "20"},
+      {"txtTime", Qt::Key_I, kPlain, "20"},
+      {"advsld", Qt::Key_Right, kPlain, "20.04"},
+      {"advsld", Qt::Key_I, kPlain, "20.04"},  // the point moves
+      {"advsld", Qt::Key_Right, kCtrl, "30"},
+      {"rtbTrans", Qt::Key_O, kPlain, "30 input: 1103 | 1104"},
+      {"cmdNew", Qt::Key_K, kPlain, "30 yes-no: 1176"},
+      {"cmdNew", Qt::Key_K, kCtrl, "30"},
+      {"advsld", Qt::Key_C, kCtrl, "30"},
+      {"advsld", Qt::Key_G, kCtrl, "50.48 input: 1228 | 1227"},
+      {"txtTime", Qt::Key_G, kCtrl, "100 input: 1228 | 1227, plain: 1229x:1, input: 1228 | 1227"},
+      {"advsld", Qt::Key_G, kCtrl, "100 input: 1228 | 1227"},
+  };
+  session.ui.inputs = {"New", "50:12", "x:1", "9:0:0:0", ""};
+  inForm([&](QWidget& window) {
+    for (const auto& stroke : strokes) {
+      QWidget& focus = find(window, stroke.focus);
+      focus.setFocus();
+      QTest::keyClick(&focus, stroke.key, stroke.modifiers);
+      QString then = QString::number(session.movie.position, 'g', 6);
+      if (session.movie.running) then += QStringLiteral(" runs");
+      QStringList shown;
+      for (const std::string& text : session.ui.takeShown()) shown << QString::fromStdString(text);
+      if (!shown.isEmpty()) then += QLatin1Char(' ') + shown.join(QStringLiteral(", "));
+      for (const int id : {1118, 1103, 1104, 1176, 1227, 1228, 1229}) {
+        then.replace(QString::fromStdString(session.app.messages.text(id)), QString::number(id));
+      }
+      EXPECT_EQ(then, QLatin1String(stroke.then)) << stroke.focus << " " << stroke.key;
+    }
+  });
+  EXPECT_EQ(session.main->child(3)->ckGetChunk()->dStart, 20.04);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("00:00:30:00"));
+}
+
+TEST_F(ToolKeys, BelongToABoxThatIsTypedIntoAndToATextThatIsCopied) {
+  session.giveFields(*session.main, 2);
+  session.main->fields->Add(tyType::String, {}, "Note", std::string("a"), "", false, false, false,
+                            true);
+  inForm([&](QWidget& window) {
+    auto& words = find<QPlainTextEdit>(window, "rtbTrans");
+    words.setPlainText(QStringLiteral("spoken"));
+    words.selectAll();
+    words.setFocus();
+    QTest::keyClick(&words, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("spoken"));
+    find<QTabBar>(window, "TabStrip1").setCurrentIndex(1);
+    auto& box = *find(window, "Frame1_1").findChild<QPlainTextEdit*>();
+    box.setFocus();
+    QTest::keyClicks(&box, QStringLiteral("kio "));
+    QTest::keyClick(&box, Qt::Key_Left, Qt::ShiftModifier);
+    QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("OKButt")), Qt::Key_I);
+    EXPECT_TRUE(box.toPlainText().contains(QStringLiteral("kio ")));
+  });
+  EXPECT_EQ(session.movie.position, 0);
+  EXPECT_EQ(session.ui.takeShown(), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace velra::test
