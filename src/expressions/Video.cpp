@@ -77,7 +77,9 @@ void Video::OpenAudio() {
     if (audio) {
       objAudio_ = audio;
     } else {
-      app().ui.messageBox("Audio: " + app().LoadResString(Message::ClassNameMismatch));
+      const std::string mismatch = "Audio: " + app().LoadResString(Message::ClassNameMismatch);
+      app().ui.messageBox(mismatch);
+      io()->noteLeftOut(guid, mismatch);
     }
     return;
   }

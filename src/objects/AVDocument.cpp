@@ -78,8 +78,9 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   if (message.empty()) {
     io->joinStore(guid);
     copied_ = copiedFolderOf(collObjects_, *this);
-    const std::string copy = strCopyTold();
-    told += (told.empty() || copy.empty() ? "" : " ") + copy;
+    for (const std::string& more : {strCopyTold(), io->strLeftOut()}) {
+      told += (told.empty() || more.empty() ? "" : " ") + more;
+    }
     if (!told.empty() && app().gMainForm) app().gMainForm->setStrStatusBarText(told);
   }
   return message;

@@ -45,8 +45,10 @@ void LadderObject::OpenChilds() {
 ObjectRef LadderObject::childOf(const std::string& guid) {
   if (const RegisteredRef loaded = document().loadedObject(guid)) {
     if (loaded->kind() == childKind()) return as<DescribedObject>(loaded);
-    app().ui.messageBox(classNameOf(childKind()) + ": " +
-                        app().LoadResString(Message::ClassNameMismatch));
+    const std::string mismatch =
+        classNameOf(childKind()) + ": " + app().LoadResString(Message::ClassNameMismatch);
+    app().ui.messageBox(mismatch);
+    io()->noteLeftOut(guid, mismatch);
     return nullptr;
   }
   ObjectRef child = app().objectFactory->createObject(childKind());

@@ -106,7 +106,10 @@ std::string ObjectBase::strLoadXML(const std::string& guid, const std::shared_pt
 std::string ObjectBase::strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                                 const std::shared_ptr<IOManager>& io) {
   std::string message = strLoadXML(guid, form, io);
-  if (!message.empty()) return message;
+  if (!message.empty()) {
+    io->noteLeftOut(guid, message);
+    return message;
+  }
   if (app_.gMainForm) {
     app_.gMainForm->setStrStatusBarText(app_.LoadResString(Message::OpeningObject) + " " +
                                         std::to_string(document().collObjects().Count()) + " (" +

@@ -106,6 +106,11 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   return {};
 }
 
+void IOManager::noteLeftOut(const std::string& guid, const std::string& message) {
+  const bool named = message.find(guid) != std::string::npos;
+  if (leftOut_.empty() && !named) leftOut_ = guid + ": " + message;
+}
+
 std::string IOManager::strFlush() {
   if (unflushedFolder_.empty()) return {};
   return syncFolder(std::exchange(unflushedFolder_, {}));

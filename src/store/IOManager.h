@@ -65,6 +65,11 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// Why the last strSave failed; "" when it did not.
   const std::string& strSaveFailure() const { return saveFailure_; }
 
+  /// Told of an object that is left out at the opening. The box for it may not name the file.
+  void noteLeftOut(const std::string& guid, const std::string& message);
+  /// What was told first of an unnamed file, with its name; "" for nothing.
+  const std::string& strLeftOut() const { return leftOut_; }
+
   /// Brings what was saved since the last call to the disk. The failure's description, or "".
   std::string strFlush();
 
@@ -122,6 +127,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   GuardedFiles guard_;
   FolderScans scans_;
   ExpressionFinder expressions_;
+  std::string leftOut_;
   std::string unflushedFolder_;
   std::string saveFailure_;
   std::unique_ptr<DocumentRescue> rescue_;
