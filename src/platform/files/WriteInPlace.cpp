@@ -81,43 +81,45 @@ int replaceContent(const FileHandle& file, std::string_view bytes) {
   return error;
 }
 
-/// Makes a file that appears when it is whole, so that no program that dies leaves a part of it.
-int writeWhole(const std::string& path, std::string_view bytes) {
-  FileHandle file(::open(folderOf(path).c_str(), O_RDWR | O_CLOEXEC | O_TMPFILE, 0666));
-  const bool unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
-  if (!file) return unknown ? writeNew(path, bytes) : errno;
-  int error = writeAt(file, bytes, 0);
-  if (error) return error;
-  const std::string unnamed = "/proc/self/fd/" + std::to_string(file.number());
-  if (::linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) != 0) {
-    return errno == ENOENT ? writeNew(path, bytes) : errno;  // a machine without /proc
-  }
-  error = file.close();
-  if (error) ::unlink(path.c_str());
-  return error;
-}
-
 constexpr int kOpening = O_RDWR | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 
-}  // namespace
-
-int writeInPlace(const std::string& path, std::string_view bytes) {
-  ignoreSizeSignal();
-  FileHandle file(::open(path.c_str(), kOpening));
-  if (!file) return errno == ENOENT ? writeWhole(path, bytes) : errno;
-  const int error = replaceContent(file, bytes);
-  const int closeError = file.close();
-  return error ? error : closeError;
-}
-
-int writeNew(const std::string& path, std::string_view bytes) {
-  ignoreSizeSignal();
+/// For where files without a name cannot be made.
+int createAndWrite(const std::string& path, std::string_view bytes) {
   FileHandle file(::open(path.c_str(), kOpening | O_CREAT | O_EXCL, 0666));
   if (!file) return errno;
   // A new file holds nothing to protect: what goes wrong removes it again.
   int error = writeAt(file, bytes, 0);
   const int closeError = file.close();
   if (!error) error = closeError;
+  if (error) ::unlink(path.c_str());
+  return error;
+}
+
+}  // namespace
+
+int writeInPlace(const std::string& path, std::string_view bytes) {
+  ignoreSizeSignal();
+  FileHandle file(::open(path.c_str(), kOpening));
+  if (!file) return errno == ENOENT ? writeNew(path, bytes) : errno;
+  const int error = replaceContent(file, bytes);
+  const int closeError = file.close();
+  return error ? error : closeError;
+}
+
+// The file appears when it is whole, so that neither a program that dies nor a disk that fails
+// leaves a part of it.
+int writeNew(const std::string& path, std::string_view bytes) {
+  ignoreSizeSignal();
+  FileHandle file(::open(folderOf(path).c_str(), O_RDWR | O_CLOEXEC | O_TMPFILE, 0666));
+  const bool unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
+  if (!file) return unknown ? createAndWrite(path, bytes) : errno;
+  int error = writeAt(file, bytes, 0);
+  if (error) return error;
+  const std::string unnamed = "/proc/self/fd/" + std::to_string(file.number());
+  if (::linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) != 0) {
+    return errno == ENOENT ? createAndWrite(path, bytes) : errno;  // a machine without /proc
+  }
+  error = file.close();
   if (error) ::unlink(path.c_str());
   return error;
 }
