@@ -14,7 +14,7 @@ struct OtherPlayer {
 };
 
 /// Has mpv go to the times of a movie, and then step back; it decodes in software and paints
-/// nothing. Nothing when it is not installed.
+/// nothing. Nothing when it is not installed, or does not reach the pictures that were sought.
 std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
                                       const std::string& folder);
 
