@@ -12,6 +12,8 @@ namespace velra {
 
 SessionId DocumentRescue::Session::begun(RescueStore& store) {
   if (id == 0) id = store.begin(document, processIdentity());
+  if (owed) (store.plans().*owed)(id);
+  owed = nullptr;
   return id;
 }
 
@@ -64,22 +66,24 @@ std::string DocumentRescue::plan(const CopyPlan& copy) {
   }));
 }
 
-void DocumentRescue::finishSave() {
-  post([](RescueStore& store, Session& session) {
-    session.waiting.clear();
-    store.plans().finishSave(session.begun(store));
+void DocumentRescue::endSave(void (SavePlans::*end)(SessionId)) {
+  post([end](RescueStore& store, Session& session) {
+    if (end != &SavePlans::abandon) session.waiting.clear();
+    session.owed = end;
+    session.begun(store);
   });
+}
+
+void DocumentRescue::finishSave() {
+  endSave(&SavePlans::finishSave);
 }
 
 void DocumentRescue::finishCopy() {
-  post([](RescueStore& store, Session& session) {
-    session.waiting.clear();
-    store.plans().finishCopy(session.begun(store));
-  });
+  endSave(&SavePlans::finishCopy);
 }
 
 void DocumentRescue::abandonSave() {
-  post([](RescueStore& store, Session& session) { store.plans().abandon(session.begun(store)); });
+  endSave(&SavePlans::abandon);
 }
 
 void DocumentRescue::keep(std::vector<KeptObject> objects, std::vector<std::string> paths) {

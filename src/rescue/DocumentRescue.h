@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "rescue/RescueRecords.h"
+#include "rescue/SavePlans.h"
 
 namespace velra {
 
@@ -61,6 +62,9 @@ class DocumentRescue {
     SessionId id = 0;  // 0 until the store has taken it
     // By path, what has not reached the store; nothing where nothing is to be kept.
     std::map<std::string, std::optional<KeptObject>> waiting;
+    // How the last save ended, as long as the store could not be told. The next opening would take
+    // it for one that was cut off, or not know what it has removed.
+    void (SavePlans::*owed)(SessionId) = nullptr;
 
     SessionId begun(RescueStore& store);
     void keepWaiting(RescueStore& store);
@@ -69,6 +73,7 @@ class DocumentRescue {
 
   std::function<void(RescueStore&)> inSession(Task task) const;
   void post(Task task);
+  void endSave(void (SavePlans::*end)(SessionId));
 
   RescueWriter& writer_;
   std::shared_ptr<Session> session_;
