@@ -8,6 +8,7 @@
 
 #include "platform/files/ContentPrint.h"
 #include "platform/files/Files.h"
+#include "platform/xml/XmlTexts.h"
 #include "rescue/RescueTables.h"
 
 namespace velra {
@@ -55,6 +56,13 @@ bool isTorn(std::string_view bytes, const PlannedFile& file) {
   return true;
 }
 
+// A kill may come within a block, and then some bytes of it are neither; but nobody else leaves a
+// file that cannot be parsed.
+bool isWholeXml(const std::string& bytes, const std::string& path) {
+  const auto same = [](std::string_view, const std::string& text) { return text; };
+  return withTextsReplaced(bytes, path, same).reason.empty();
+}
+
 }  // namespace
 
 std::string blocksOf(std::string_view bytes) {
@@ -84,7 +92,8 @@ std::string strStateOf(const PlannedFile& file, FileState& state, std::string& b
   } else if (present == file.stamp) {
     state = FileState::Untouched;
   } else {
-    state = isTorn(bytes, file) ? FileState::Torn : FileState::Changed;
+    const bool torn = isTorn(bytes, file) || !isWholeXml(bytes, file.path);
+    state = torn ? FileState::Torn : FileState::Changed;
   }
   return {};
 }

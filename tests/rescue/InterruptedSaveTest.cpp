@@ -75,11 +75,12 @@ TEST_F(InterruptedSave, EachFileIsBroughtToItsNewBytesUnlessSomebodyElseHasChang
       {"reserved", "", bytes.substr(0, 512) + std::string(1495, '\0'), true, false},
       {"some blocks", old, padded.substr(0, 1024) + old.substr(1024), true, false},
       {"the last block", old, old.substr(0, 2560) + padded.substr(2560), true, false},
+      {"a part of a block", old, padded.substr(0, 300) + "</b" + old.substr(303), true, false},
       {"longer than before", bytes, longer.substr(0, 512) + bytes.substr(512), true, false},
       {"not cut off yet", old, padded, true, false},
       {"cut off too early", old, old.substr(0, bytes.size()), true, false},
       {"edited", old, "<a>theirs</a>", false, true},
-      {"edited a little", old, bytesOf('a', 2999) + "x", false, true},
+      {"edited a little", old, "<a>x" + old.substr(4), false, true},
       {"deleted", old, "", false, true},
       {"come from elsewhere", "", "<a>theirs</a>", false, true},
   };
