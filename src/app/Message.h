@@ -197,6 +197,13 @@ enum class Message : int {
   GoToTimeCode = 1227,
   TimeCodePrompt = 1228,
   NoTimeCode = 1229,
+  FirstPointTaken = 1230,
+  FirstPointGivenUp = 1231,
+  SegmentMade = 1232,
+  SegmentChanged = 1233,
+  SegmentsMerged = 1234,
+  SegmentsRemoved = 1235,
+  FieldStays = 1236,
 };
 
 }  // namespace velra

@@ -16,7 +16,7 @@ InterfaceLanguage interfaceLanguage(const std::string& locale);
 /// The locale that the environment asks for, in the order LC_ALL, LC_MESSAGES, LANG.
 std::string environmentLocale();
 
-/// The numbered texts of the interface, ids 1000 to 1229.
+/// The numbered texts of the interface, ids 1000 to 1236.
 class MessageCatalogue {
  public:
   explicit MessageCatalogue(InterfaceLanguage language) : language_(language) {}

@@ -75,6 +75,13 @@ constexpr MessageRow kFrom1178[] = {
     {1228, "Hours:minutes:seconds:frames (those in front can be left out)",
      "Ore:minuti:secondi:fotogrammi (i primi si possono omettere)"},
     {1229, "No time code: ", "Non è un codice di tempo: "},
+    {1230, "First point taken: ", "Primo punto preso: "},
+    {1231, "First point given up.", "Primo punto abbandonato."},
+    {1232, "Segment made: ", "Segmento creato: "},
+    {1233, "Segment changed: ", "Segmento modificato: "},
+    {1234, "Segments merged: ", "Segmenti uniti: "},
+    {1235, "Segments removed: ", "Segmenti rimossi: "},
+    {1236, "This field stays as it is: ", "Questo campo resta com'è: "},
 };
 
 }  // namespace

@@ -51,7 +51,10 @@ void ExpressionTool::connectParts() {
   transcript.onAppend = [this](const std::string& text) { face_.appendTranscript(text); };
   advsld.events.Click = [this](std::int16_t index) { segments.timelineClicked(index); };
   advsld.events.DblClick = [this](std::int16_t index) { openChild(index); };
-  advsld.events.Scroll = [this] { segments.timelineScrolled(); };
+  advsld.events.Scroll = [this] {
+    segments.timelineScrolled();
+    player.announcePosition();
+  };
   advsld.events.Step = [this](bool forward) { forward ? player.cmdForward() : player.cmdRewind(); };
   Framelist1.events.Click = [this](std::int16_t position, std::int16_t) {
     segments.stripClicked(position);

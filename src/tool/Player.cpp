@@ -155,6 +155,7 @@ void Player::step(int frames) {
   const double next = position + frames * objMediaControl_->AvgTimePerFrame();
   const bool passes = forward ? position < bound && next > bound : position > bound && next < bound;
   SeekTo(withinMovie(passes ? bound : next));
+  announcePosition();
 }
 
 void Player::Timer1() {
@@ -162,6 +163,10 @@ void Player::Timer1() {
   parts_.advsld.setDPosition(position);
   parts_.transcript.UpdateTranscriptText(position, false);
   parts_.face.showTimeCode(TimeToText(CurrentPosition()));
+}
+
+void Player::announcePosition() {
+  if (objMediaControl_) parts_.face.announceTime(TimeToText(CurrentPosition()));
 }
 
 std::string Player::TimeToText(double seconds) const {

@@ -50,6 +50,8 @@ class Player {
   /// out of the movie.
   void step(int frames);
   void Timer1();
+  /// Tells people who hear the window where the movie stands.
+  void announcePosition();
 
   /// The time code at the movie's frame rate, and back. The way back takes exactly four numbers:
   /// kSubscriptOutOfRange for fewer or more, kTypeMismatch for other texts, kDivisionByZero while

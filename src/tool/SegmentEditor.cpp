@@ -32,6 +32,10 @@ void SegmentEditor::tell(Message message) {
   parts_.app.ui.messageBox(parts_.app.LoadResString(message));
 }
 
+void SegmentEditor::announce(Message what, const std::string& which) {
+  parts_.face.announce(parts_.app.LoadResString(what) + which);
+}
+
 void SegmentEditor::resetTree() {
   if (parts_.app.gMainForm) {
     parts_.app.gMainForm->ResetTree(TreeId::tvwExpression, obj_->verVersion());
@@ -70,6 +74,13 @@ void SegmentEditor::SelectSegmentPoint() {
 void SegmentEditor::beginSelection(double position) {
   if (!bPointIsFree(lists_.children(), position)) return tell(Message::StartInsideSegment);
   selection_.begin(position);
+  announce(Message::FirstPointTaken, parts_.player.TimeToText(position));
+}
+
+void SegmentEditor::CancelSelection() {
+  if (!selection_.waits()) return;
+  selection_.end();
+  announce(Message::FirstPointGivenUp);
 }
 
 void SegmentEditor::endSelection(double position) {
@@ -80,20 +91,30 @@ void SegmentEditor::endSelection(double position) {
   if (!bIntervalHoldsNoSegment(lists_.children(), start, position)) {
     return tell(Message::IntervalHoldsSegments);
   }
-  CreateSegment(std::min(start, position), std::max(start, position));
+  if (!CreateSegment(std::min(start, position), std::max(start, position))) {
+    announce(Message::FirstPointGivenUp);
+  }
 }
 
-void SegmentEditor::CreateSegment(double start, double end) {
+// False when the person gives no title.
+bool SegmentEditor::CreateSegment(double start, double end) {
   const std::string title =
       parts_.app.ui.inputBox(parts_.app.LoadResString(Message::SegmentTitlePrompt),
                              parts_.app.LoadResString(Message::SegmentTitle));
-  if (!title.empty()) addSegment(title, start, end);
+  if (!title.empty()) addSegment(title, start, end, Message::SegmentMade);
+  return !title.empty();
 }
 
-void SegmentEditor::addSegment(const std::string& title, double start, double end) {
-  lists_.add(title, start, end);
+void SegmentEditor::addSegment(const std::string& title, double start, double end, Message done) {
+  const bool made = lists_.add(title, start, end);
   lists_.showSelection();
   resetTree();
+  if (made) announce(done, lists_.caption(title, start, end));
+}
+
+void SegmentEditor::changeBounds(const ExpressionRef& segment, double start, double end) {
+  lists_.setBounds(segment, start, end);
+  announce(Message::SegmentChanged, lists_.caption(segment->strTitle(), start, end));
 }
 
 // Gives the bounds that were typed; false when the person cancels, or has been told why not.
@@ -121,16 +142,18 @@ void SegmentEditor::ModifySelectedSegment() {
   const ExpressionRef segment = lists_.clickedSegment();
   Chunk bounds = *spanOf(*segment);
   if (askBounds(bounds.dStart, bounds.dend)) {
-    lists_.setBounds(segment, bounds.dStart, bounds.dend);
+    changeBounds(segment, bounds.dStart, bounds.dend);
   }
 }
 
 void SegmentEditor::ConfirmRemoveSegments() {
   if (!lists_.hasSelection()) return;
   if (!parts_.app.ui.askYesNo(parts_.app.LoadResString(Message::AskRemoveSegments))) return;
+  const std::size_t before = lists_.children().size();
   lists_.removeSelected();
   lists_.showSelection();
   resetTree();
+  announce(Message::SegmentsRemoved, std::to_string(before - lists_.children().size()));
 }
 
 void SegmentEditor::MergeSelectedSegments() {
@@ -142,7 +165,7 @@ void SegmentEditor::MergeSelectedSegments() {
   if (end < start) return tell(Message::NotValidInterval);
   const std::string title = lists_.clickedSegment()->strTitle();
   lists_.removeSelected();
-  addSegment(title, start, end);
+  addSegment(title, start, end, Message::SegmentsMerged);
 }
 
 void SegmentEditor::ExtendPreviousSegment() {
@@ -150,7 +173,7 @@ void SegmentEditor::ExtendPreviousSegment() {
   const double position = parts_.player.CurrentPosition();
   const ExpressionRef segment = segmentEndingBy(lists_.children(), position);
   if (!segment || spanOf(*segment)->dend == position) return;
-  lists_.setBounds(segment, spanOf(*segment)->dStart, position);
+  changeBounds(segment, spanOf(*segment)->dStart, position);
 }
 
 void SegmentEditor::ExtendNextSegment() {
@@ -158,24 +181,29 @@ void SegmentEditor::ExtendNextSegment() {
   const double position = parts_.player.CurrentPosition();
   const ExpressionRef segment = segmentStartingFrom(lists_.children(), position);
   if (!segment || spanOf(*segment)->dStart == position) return;
-  lists_.setBounds(segment, position, spanOf(*segment)->dend);
+  changeBounds(segment, position, spanOf(*segment)->dend);
 }
 
 void SegmentEditor::MoveToNextBound() {
   if (!parts_.player.hasMovie()) return;
   const auto bound = boundAfter(lists_.children(), parts_.player.CurrentPosition());
-  if (bound) seekTo(*bound);
+  if (bound) goTo(*bound);
 }
 
 void SegmentEditor::MoveToPreviousBound() {
   if (!parts_.player.hasMovie()) return;
   const auto bound = boundBefore(lists_.children(), parts_.player.CurrentPosition());
-  if (bound) seekTo(*bound);
+  if (bound) goTo(*bound);
 }
 
 // A span may reach further than its movie.
 void SegmentEditor::seekTo(double seconds) {
   parts_.player.SeekTo(parts_.player.withinMovie(seconds));
+}
+
+void SegmentEditor::goTo(double seconds) {
+  seekTo(seconds);
+  parts_.player.announcePosition();
 }
 
 void SegmentEditor::seekToChild(std::int16_t position) {

@@ -51,7 +51,7 @@ class SegmentEditor {
   void ChangeKeyFrame();
 
   /// Ends a half-made selection, as Esc does.
-  void CancelSelection() { selection_.end(); }
+  void CancelSelection();
   void BlinkerTimer() { selection_.tick(); }
   bool bSelecting() const { return selection_.waits(); }
 
@@ -66,12 +66,15 @@ class SegmentEditor {
  private:
   void setTimelineSpan();
   void tell(Message message);
+  void announce(Message what, const std::string& which = {});
   void beginSelection(double position);
   void endSelection(double position);
-  void CreateSegment(double start, double end);
-  void addSegment(const std::string& title, double start, double end);
+  bool CreateSegment(double start, double end);
+  void addSegment(const std::string& title, double start, double end, Message done);
+  void changeBounds(const ExpressionRef& segment, double start, double end);
   bool askBounds(double& start, double& end);
   void seekTo(double seconds);
+  void goTo(double seconds);
   void seekToChild(std::int16_t position);
   void resetTree();
 

@@ -47,7 +47,7 @@ void SegmentLists::fill() {
   }
 }
 
-void SegmentLists::add(const std::string& title, double start, double end) {
+bool SegmentLists::add(const std::string& title, double start, double end) {
   const std::string text = caption(title, start, end);
   const std::int16_t position = parts_.advsld.iAddRange(start, end, text);
   const std::size_t before = children().size();
@@ -59,6 +59,7 @@ void SegmentLists::add(const std::string& title, double start, double end) {
   } else if (made && isVideo()) {
     addPicture(position, text);
   }
+  return made;
 }
 
 void SegmentLists::addPicture(std::int16_t position, const std::string& text) {

@@ -36,9 +36,12 @@ class SegmentLists {
   /// kSubscriptOutOfRange for a position that no child has.
   ExpressionRef child(std::int16_t position) const;
 
+  /// What tool tips say of a segment.
+  std::string caption(const std::string& title, double start, double end) const;
+
   /// Makes a segment at the end of all lists. One that cannot be made has told why, and leaves no
-  /// range behind. The selection keeps its numbers, which may now stand for more.
-  void add(const std::string& title, double start, double end);
+  /// range behind: false. The selection keeps its numbers, which may now stand for more.
+  bool add(const std::string& title, double start, double end);
   /// The caption stays as it was made.
   void setBounds(const ExpressionRef& segment, double start, double end);
   /// Removes the selected segments from all lists. The selection keeps its numbers, so that those
@@ -61,7 +64,6 @@ class SegmentLists {
 
  private:
   bool isVideo() const;
-  std::string caption(const std::string& title, double start, double end) const;
   void addPicture(std::int16_t position, const std::string& text);
   void removePictures(const std::vector<std::int16_t>& indexes);
 

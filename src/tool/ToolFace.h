@@ -34,6 +34,11 @@ class ToolFace {
   /// Shows the dialog over the window until it closes.
   virtual void showRangeDialog(RangeDialog& dialog) = 0;
 
+  /// Says a sentence to people who hear the window, wherever its focus is; nothing shows. Of times,
+  /// which may come many in a second, the last one within a while is enough.
+  virtual void announce(const std::string& sentence) = 0;
+  virtual void announceTime(const std::string& timeCode) = 0;
+
   /// Lets the window do what waits, before the movie is released.
   virtual void runPendingEvents() = 0;
 };

@@ -4,6 +4,7 @@
 // alone.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabBar>
@@ -12,6 +13,7 @@
 
 #include "scenario/Desktop.h"
 #include "scenario/Hands.h"
+#include "widgets/Announcer.h"
 
 namespace velra::test {
 namespace {
@@ -59,6 +61,14 @@ class CuttingDay : public ::testing::Test {
     press(tool, "cmdNew");
   }
 
+  /// Notes what the window says unasked to people who hear it.
+  void listen(QWidget& tool) {
+    auto& announcer = control<Announcer>(tool, "announcer");
+    const auto* access = QAccessible::queryAccessibleInterface(&announcer);
+    EXPECT_EQ(access->role(), QAccessible::Notification);
+    QObject::connect(&announcer, &Announcer::said, [this](auto& sentence) { heard << sentence; });
+  }
+
   void playAndStep(QWidget& tool);
   void clearTheNight(QWidget& tool);
   void cutTheNight(QWidget& tool);
@@ -69,6 +79,7 @@ class CuttingDay : public ::testing::Test {
   Files saveAndComeBack();
 
   std::unique_ptr<Desktop> desktop = std::make_unique<Desktop>();
+  QStringList heard;
 };
 
 void CuttingDay::playAndStep(QWidget& tool) {
@@ -299,13 +310,14 @@ void cutByDialogByKeys(const QString& title, int seconds) {
   strikeButton("cmdNew");
 }
 
-// The keys alone, from the trees to the end.
+// The keys alone, from the trees to the end, and what is heard of it.
 TEST_F(CuttingDay, ByTheKeyboardAlone) {
   desktop->start(desktop->sample());
   walkTo(desktop->view("tvwMainTree"), kVersion);
   QTreeView& tree = desktop->view("tvwExpression");
   walkTo(tree, kVideo);
   inTurn({[&](QWidget& tool) {
+            listen(tool);
             strike(Qt::Key_Space);  // Play has the focus
             EXPECT_TRUE(
                 QTest::qWaitFor([&] { return timeCode(tool) > QStringLiteral("00:00:00:10"); }));
@@ -317,11 +329,13 @@ TEST_F(CuttingDay, ByTheKeyboardAlone) {
             strike(Qt::Key_Escape);
             cutByPointsByKeys("The lamp");
             strikeButton("cmdForward");
+            EXPECT_TRUE(QTest::qWaitFor([&] { return heard.contains(timeCode(tool)); }));
             cutByDialogByKeys("The steamer", 5);
             selectByKeys(tool, "The gale");
             strike(Qt::Key_Return);
           },
           [&](QWidget& tool) {
+            listen(tool);
             EXPECT_EQ(tool.windowTitle(), QStringLiteral("The gale"));
             cutByDialogByKeys("Wave", 2);
             strikeButton("cmdNext");
@@ -349,6 +363,14 @@ TEST_F(CuttingDay, ByTheKeyboardAlone) {
                                                "One hundred and twelve steps", "The log",
                                                "The gale", "Wave", "The lamp", "The steamer"}));
   EXPECT_EQ(numbersOf(after, "video"), "1 2 3 4 5 6 8 9 10");
+  EXPECT_EQ(heard.filter(QStringLiteral(" ")),
+            QStringList({"Segments removed: 1", "First point taken: 00:00:50:00",
+                         "First point given up.", "First point taken: 00:00:50:00",
+                         "Segment made: 'The lamp': From 00:00:50:00 To 00:00:50:16",
+                         "Segment made: 'The steamer': From 00:00:50:17 To 00:00:55:17",
+                         "Segment made: 'Wave': From 00:00:36:00 To 00:00:38:00",
+                         "Segment made: 'Foam': From 00:00:38:00 To 00:00:39:00",
+                         "Segments merged: 'Wave': From 00:00:36:00 To 00:00:39:00"}));
 }
 
 }  // namespace

@@ -44,6 +44,8 @@ class ScriptedFace : public VideoFormFace {
   void showTranscript(const std::string&) override {}
   void appendTranscript(const std::string&) override {}
   void showRangeDialog(RangeDialog&) override {}
+  void announce(const std::string&) override {}
+  void announceTime(const std::string&) override {}
   void runPendingEvents() override {}
 
  private:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool/ToolActor.h"
 
+#include <algorithm>
+#include <iterator>
 #include <sstream>
 #include <utility>
 
@@ -62,6 +64,7 @@ std::vector<std::string> ToolActor::takeShown() {
   for (const std::string& call : std::exchange(mainWindow_.calls, {})) {
     shown.push_back("main window: " + call);
   }
+  std::ranges::move(std::exchange(face_.said, {}), std::back_inserter(shown));
   if (!tool_) return shown;
   for (const auto& [what, text] : state()) {
     if (std::exchange(told_[what], text) != text) shown.push_back(what + ": " + text);

@@ -25,6 +25,7 @@ class RecordingFace : public ToolFace {
   bool timer = false;
   bool blinker = false;
   bool showsMovie = false;
+  std::vector<std::string> said;
   std::vector<std::string> typed;  // in the dialog, which is closed by its close box when empty
 
   void movieOpens(MediaGraph&) override { showsMovie = true; }
@@ -36,6 +37,8 @@ class RecordingFace : public ToolFace {
   void showTranscript(const std::string&) override {}
   void appendTranscript(const std::string&) override {}
   void showRangeDialog(RangeDialog& dialog) override;
+  void announce(const std::string& sentence) override { said.push_back("said: " + sentence); }
+  void announceTime(const std::string& text) override { announce(text); }
   void runPendingEvents() override {}
 };
 

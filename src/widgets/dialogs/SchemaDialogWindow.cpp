@@ -9,6 +9,7 @@
 
 #include "app/ApplicationModule.h"
 #include "forms/AVDocSchemaDialog.h"
+#include "widgets/Announcer.h"
 #include "widgets/QtText.h"
 #include "widgets/dialogs/DialogButtons.h"
 
@@ -23,7 +24,11 @@ constexpr int kRowSpace = 6;  // pixels
 
 SchemaDialogWindow::SchemaDialogWindow(const ApplicationModule& app, AVDocSchemaDialog& dialog,
                                        QWidget* owner)
-    : QDialog(owner), dialog_(dialog), ListView1_(new QTreeWidget(this)) {
+    : QDialog(owner),
+      dialog_(dialog),
+      ListView1_(new QTreeWidget(this)),
+      announcer_(*new Announcer(this)),
+      fieldStays_(toQString(app.LoadResString(Message::FieldStays))) {
   setObjectName(QStringLiteral("AVDocSchemaDialog"));
   setWindowTitle(titleFromCaption(app.LoadResString(Message::EditFlags)));
   setModal(true);
@@ -95,6 +100,7 @@ void SchemaDialogWindow::tickMoved(QTreeWidgetItem& row) {
   if (dialog_.setTicked(position, ticked)) return;
   const QSignalBlocker quiet(ListView1_);
   row.setCheckState(0, ticked ? Qt::Unchecked : Qt::Checked);
+  announcer_.say(fieldStays_ + row.text(1));
 }
 
 bool SchemaDialogWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -10,6 +10,7 @@ namespace velra {
 
 class ApplicationModule;
 class AVDocSchemaDialog;
+class Announcer;
 
 /// The window of the dialog of assigned fields.
 class SchemaDialogWindow : public QDialog {
@@ -35,6 +36,8 @@ class SchemaDialogWindow : public QDialog {
 
   AVDocSchemaDialog& dialog_;
   QTreeWidget* ListView1_;
+  Announcer& announcer_;
+  const QString fieldStays_;  // what is said of a tick that springs back
 };
 
 }  // namespace velra

@@ -30,7 +30,7 @@ constexpr double kShareOfScreen = 0.94;  // the strip is wanted wide
 }  // namespace
 
 VideoFormWindow::VideoFormWindow(const ApplicationModule& app, QWidget* owner)
-    : QDialog(owner), app_(app) {
+    : QDialog(owner), app_(app), announcer_(*new Announcer(this)) {
   setObjectName(QStringLiteral("VideoForm"));
   setModal(true);
   setWindowFlag(Qt::WindowMaximizeButtonHint);

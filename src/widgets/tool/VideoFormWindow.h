@@ -6,6 +6,8 @@
 #include <memory>
 
 #include "shell/VideoFormFace.h"
+#include "widgets/Announcer.h"
+#include "widgets/QtText.h"
 
 class QScrollArea;
 
@@ -41,6 +43,8 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
   void showTranscript(const std::string& text) override;
   void appendTranscript(const std::string& text) override;
   void showRangeDialog(RangeDialog& dialog) override;
+  void announce(const std::string& sentence) override { announcer_.say(toQString(sentence)); }
+  void announceTime(const std::string& text) override { announcer_.sayOften(toQString(text)); }
   void runPendingEvents() override;
 
   /// The close box does what Cancel does; Esc is a key of the tool.
@@ -59,6 +63,7 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
   void showTab(int tab);
 
   const ApplicationModule& app_;
+  Announcer& announcer_;
   LoadedVideoForm* form_ = nullptr;
   GeneratedFormFace* generated_ = nullptr;
   ToolPanel* panel_ = nullptr;
