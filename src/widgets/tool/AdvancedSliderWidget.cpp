@@ -24,9 +24,7 @@ constexpr int kAnnounceInterval = 400;
 }  // namespace
 
 AdvancedSliderWidget::AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* parent)
-    : PaintedPartsWidget(QStringLiteral("Timeline"), parent),
-      advsld_(advsld),
-      slider_(advsld, *this) {
+    : PaintedPartsWidget(tr("Timeline"), parent), advsld_(advsld), slider_(advsld, *this) {
   setMaximumWidth(maximumRulesWidth());
   setEnabled(advsld_.Enabled());
   Timer1_.setInterval(kBlinkInterval);
@@ -55,9 +53,11 @@ QSize AdvancedSliderWidget::sizeHint() const {
 
 void AdvancedSliderWidget::thumbMoved() {
   update(slider_.rect());
+  // With the focus its number would be spoken, beside the time code that the tool announces.
+  if (hasFocus()) return;
   if (sinceAnnounced_.isValid() && sinceAnnounced_.elapsed() < kAnnounceInterval) return;
   sinceAnnounced_.restart();
-  announceValue(*this, advsld_.dPosition());
+  announceValue(*this, seconds());
 }
 
 double AdvancedSliderWidget::seconds() const {

@@ -3,6 +3,8 @@
 
 #include <QElapsedTimer>
 #include <QTimer>
+#include <functional>
+#include <utility>
 
 #include "widgets/tool/PaintedPartsWidget.h"
 #include "widgets/tool/TimelineSlider.h"
@@ -37,6 +39,9 @@ class AdvancedSliderWidget : public PaintedPartsWidget {
   double firstSecond() const;
   double lastSecond() const;
   double stepSeconds() const;
+  QString timeText() const { return timeText_ ? timeText_(seconds()) : QString(); }
+  /// How a position is written and spoken.
+  void setTimeText(std::function<QString(double)> timeText) { timeText_ = std::move(timeText); }
   void moveTo(double seconds);
 
   // The ranges.
@@ -65,6 +70,7 @@ class AdvancedSliderWidget : public PaintedPartsWidget {
   QTimer Timer1_;
   TimelineSlider slider_;
   QElapsedTimer sinceAnnounced_;
+  std::function<QString(double)> timeText_;
 };
 
 }  // namespace velra

@@ -34,7 +34,7 @@ void paintSquare(QPainter& painter, const QRect& cell, const QColor& colour) {
 }  // namespace
 
 FramelistWidget::FramelistWidget(Framelist& strip, QWidget* parent)
-    : PaintedPartsWidget(QStringLiteral("Key frames"), parent), strip_(strip) {
+    : PaintedPartsWidget(tr("Key frames"), parent), strip_(strip) {
   setObjectName(QStringLiteral("Framelist1"));
   reading_.setSingleShot(true);
   connect(&reading_, &QTimer::timeout, this, [this] { readPictures(); });

@@ -119,12 +119,16 @@ class PartsAccess : public QAccessibleWidget {
   mutable std::vector<QAccessible::Id> ids_;  // of the parts, by their numbers
 };
 
-/// The timeline is a slider in seconds, besides.
+/// The timeline is a slider, besides: in seconds to programs, and by its time code to people.
 class TimelineAccess : public PartsAccess, public QAccessibleValueInterface {
  public:
   explicit TimelineAccess(AdvancedSliderWidget& timeline)
       : PartsAccess(&timeline, timeline, QAccessible::Slider), timeline_(timeline) {}
 
+  QString text(QAccessible::Text kind) const override {
+    const bool asksTime = kind == QAccessible::Value || kind == QAccessible::Description;
+    return asksTime ? timeline_.timeText() : PartsAccess::text(kind);
+  }
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
     return PartsAccess::interface_cast(type);

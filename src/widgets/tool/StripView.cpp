@@ -25,7 +25,7 @@ StripView::StripView(Framelist& strip, QWidget* parent)
   setWidget(strip_);
   QScrollBar& bar = *horizontalScrollBar();
   bar.setObjectName(QStringLiteral("HScroll1"));
-  bar.setAccessibleName(QStringLiteral("Scroll key frames"));
+  bar.setAccessibleName(tr("Scroll key frames"));
   bar.setSingleStep(pixelsFromTwips(strip.ImageX() / 4.0));
   connect(strip_, &FramelistWidget::partReached, this, [this](int part) { reveal(part); });
   connect(strip_, &PaintedPartsWidget::currentPartChanged, this,

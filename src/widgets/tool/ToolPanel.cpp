@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -75,6 +76,8 @@ ToolPanel::ToolPanel(const ApplicationModule& app, ExpressionTool& tool, QWidget
   setAutoFillBackground(true);
   controls_.picVideoWindow->setObjectName(QStringLiteral("picVideoWindow"));
   controls_.advsld->setObjectName(QStringLiteral("advsld"));
+  controls_.advsld->setTimeText(
+      [&tool](double seconds) { return toQString(tool.player.TimeToText(seconds)); });
   makePlayer(app);
   makeTranscript();
   makeSegmentControls();
@@ -86,8 +89,9 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
   auto* button = new QPushButton(caption, parent);
   button->setObjectName(QLatin1String(name));
   button->setToolTip(QLatin1String(toolTip));
-  // The captions are signs; what is spoken is what they do.
-  button->setAccessibleName(QLatin1String(toolTip));
+  // Of a caption that is a sign, what is spoken is what it does.
+  const bool isSign = !caption.contains(QRegularExpression(QStringLiteral("\\p{L}{3}")));
+  if (isSign) button->setAccessibleName(QLatin1String(toolTip));
   button->setAutoDefault(false);
   // A click leaves the focus where it is, so that the space bar plays on and does not press again.
   button->setFocusPolicy(Qt::TabFocus);

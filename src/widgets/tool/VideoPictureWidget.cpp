@@ -16,7 +16,7 @@ QImage imageOf(const PictureFrame& frame) {
 
 VideoPictureWidget::VideoPictureWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setAccessibleName(QStringLiteral("Movie picture"));
+  setAccessibleName(tr("Movie picture"));
 }
 
 void VideoPictureWidget::showMovie(MediaGraph* movie) {
@@ -57,7 +57,7 @@ void VideoPictureWidget::paintEvent(QPaintEvent*) {
   if (failed_ || !frame || frame->width <= 0 || frame->height <= 0) {
     painter.fillRect(rect(), Qt::black);
     painter.setPen(Qt::white);
-    const QString failure = QStringLiteral("The movie cannot be read any more.");
+    const QString failure = tr("The movie cannot be read any more.");
     if (failed_) painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, failure);
     return;
   }
