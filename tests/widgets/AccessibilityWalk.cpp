@@ -33,7 +33,7 @@ class Walk {
       }
     }
     for (const QAction* action : window.findChildren<QAction*>()) {
-      if (!action->isSeparator() && action->objectName().isEmpty()) {
+      if (!action->text().isEmpty() && action->objectName().isEmpty()) {
         faults_.push_back("no object name: action " + action->text().toStdString());
       }
     }
@@ -51,7 +51,10 @@ class Walk {
     if (interface.state().focused && interface.role() == QAccessible::Client && !standsForOther) {
       faults_.push_back("the focus is on nothing: " + where);
     }
-    if (!interface.state().focusable) return;
+    if (!interface.state().focusable || standsForOther) return;
+    if (interface.role() == QAccessible::Client || interface.role() == QAccessible::NoRole) {
+      faults_.push_back("no role: " + where);
+    }
     const bool isList = interface.role() == QAccessible::ComboBox;
     if (isList ? interface.relations(QAccessible::Label).isEmpty() : name.isEmpty()) {
       faults_.push_back("no name: " + where);

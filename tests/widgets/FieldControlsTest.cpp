@@ -62,6 +62,12 @@ TEST_F(FieldControlsTest, ReadOnlyLooksDifferentByKind) {
   for (const char* name : {"Text1_1", "Check1_1", "Command1", "Command2"}) {
     EXPECT_FALSE(find(name, &set).isEnabled()) << name;
   }
+  text.setFocus();
+  for (const char* value : {"ticked", "2001-01-01", "red", "x"}) {  // what the Tab key comes to
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window_->focusWidget()->accessibleDescription().toStdString(),
+              std::string(value) + ", read only");
+  }
 }
 
 TEST_F(FieldControlsTest, WhatIsEnteredReachesTheFields) {

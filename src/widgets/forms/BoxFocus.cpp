@@ -10,7 +10,9 @@ namespace velra {
 
 void BoxFocus::takeCoveredFromTabKey() {
   for (std::size_t i = 0; i + kBoxesOfATab < frames_.size(); ++i) {
-    for (QWidget* widget : frames_[i]->findChildren<QWidget*>()) {
+    QList<QWidget*> widgets = frames_[i]->findChildren<QWidget*>();
+    widgets.append(frames_[i]);
+    for (QWidget* widget : widgets) {
       if (widget->focusProxy()) continue;  // has none of its own
       covered_.emplace_back(widget, widget->focusPolicy());
       widget->setFocusPolicy(Qt::NoFocus);
@@ -48,7 +50,7 @@ bool BoxFocus::holds(const QWidget& control) const {
 
 const QGroupBox* BoxFocus::frameAround(const QWidget* control) const {
   const auto at = std::find_if(frames_.begin(), frames_.end(), [&](const QGroupBox* frame) {
-    return control && frame->isAncestorOf(control);
+    return control && (frame == control || frame->isAncestorOf(control));
   });
   return at == frames_.end() ? nullptr : *at;
 }

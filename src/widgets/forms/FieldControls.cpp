@@ -3,9 +3,7 @@
 
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QGroupBox>
 #include <QLineEdit>
-#include <QStyleOptionGroupBox>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -15,6 +13,7 @@
 #include "forms/FormLayout.h"
 #include "widgets/QtText.h"
 #include "widgets/Twips.h"
+#include "widgets/forms/FieldFrame.h"
 #include "widgets/forms/ListBox.h"
 #include "widgets/forms/PlainTextBox.h"
 #include "widgets/forms/SetOfRowsWidget.h"
@@ -116,18 +115,6 @@ QWidget* makeControl(FieldBox& box, CrossLanguageFields* crossLanguage,
   return nullptr;
 }
 
-/// A box with a title whose inner place is known before it shows.
-class FieldFrame : public QGroupBox {
- public:
-  using QGroupBox::QGroupBox;
-
-  QRect inside() const {
-    QStyleOptionGroupBox option;
-    initStyleOption(&option);
-    return style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this);
-  }
-};
-
 /// As wide and high as the layout has it, if the frame's title leaves that much.
 void placeControl(QWidget& control, ControlFamily family, int extraHeight,
                   const FieldFrame& frame) {
@@ -166,6 +153,7 @@ QGroupBox* makeFieldFrame(FieldBox& box, CrossLanguageFields* crossLanguage,
   control->setObjectName(toQString(box.controlName()));
   control->setAccessibleName(toQString(box.strName));
   placeControl(*control, box.family, extraHeight, *frame);
+  if (box.bReadOnly && box.family != ControlFamily::Text1) frame->standFor(box);
   for (QWidget* widget : {static_cast<QWidget*>(frame), control}) {
     widget->setToolTip(plainToolTip(box.strComment));
   }

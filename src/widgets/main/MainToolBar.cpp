@@ -21,6 +21,7 @@ MainToolBar::MainToolBar(MainFormWindow& window) : QToolBar(&window) {
     action->setToolTip(toolTip);
     action->setObjectName(QStringLiteral("tbToolBar_") +
                           QString(QLatin1String(button.key)).remove(QLatin1Char(' ')));
+    widgetForAction(action)->setObjectName(action->objectName());
     if (!button.literal) continue;
     connect(action, &QAction::triggered, this, [this, &window, &button, action] {
       window.ui().messageBox(button.literal);
