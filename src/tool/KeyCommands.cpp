@@ -56,7 +56,8 @@ void KeyCommands::askTimeCode() {
     if (text.empty()) return;
     if (const auto time = typedTime(text, tool_.player.dFrameRate())) {
       tool_.advsld.setDPosition(*time);
-      return tool_.segments.timelineScrolled();
+      tool_.segments.timelineScrolled();
+      return tool_.player.announcePosition();
     }
     app_.ui.messageBox(app_.LoadResString(Message::NoTimeCode) + text);
   }
