@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <malloc.h>
 
-#include <QLibraryInfo>
-#include <QTranslator>
 #include <cstdio>
 
 #include "app/ApplicationModule.h"
@@ -21,6 +19,7 @@
 #include "widgets/GuardedApplication.h"
 #include "widgets/QtUserInterface.h"
 #include "widgets/SignalQuit.h"
+#include "widgets/Texts.h"
 #include "widgets/forms/QtFormPresenter.h"
 #include "widgets/main/MainFormWindow.h"
 #include "widgets/tool/QtVideoForms.h"
@@ -37,20 +36,9 @@ constexpr int kKeptMemory = 256 * 1024 * 1024;
 // megabytes, and fresh pages for each cost as much as its colours.
 constexpr int kLargestKeptBlock = 32 * 1024 * 1024;
 
-// The buttons of boxes and file dialogs speak the language of the interface.
-void translateToolkit(QTranslator& translator, InterfaceLanguage language) {
-  if (language != InterfaceLanguage::Italian) return;
-  if (translator.load(QStringLiteral("qtbase_it"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(&translator);
-  }
-}
-
 int run(GuardedApplication& application, InterfaceLanguage language,
         const std::string& commandLine) {
-  QTranslator translator;
-  translateToolkit(translator, language);
-
+  Texts::speak(language);
   QtUserInterface ui;
   MachineSettings machineSettings(MachineSettings::defaultPath());
   UserSettings userSettings(UserSettings::defaultPath());

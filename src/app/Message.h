@@ -204,6 +204,21 @@ enum class Message : int {
   SegmentsMerged = 1234,
   SegmentsRemoved = 1235,
   FieldStays = 1236,
+  MovieNotFound = 1237,
+  SegmentWithoutLength = 1238,
+  KeyFrameWithoutPicture = 1239,
+  NoDocumentOpen = 1240,
+  CopyWithoutSchema = 1241,
+  CopyWithoutThese = 1242,
+  AskReplace = 1243,
+  NumberNotShown = 1244,
+  WorkCannotBeKept = 1245,
+  ChangedAndKept = 1246,
+  ChangedAndLost = 1247,
+  WrittenOutside = 1248,
+  LeftAlone = 1249,
+  AndOthers = 1250,
+  More = 1251,
 };
 
 }  // namespace velra

@@ -41,6 +41,13 @@ std::string MessageCatalogue::text(int id) const {
   return italian ? message->italian : message->text;
 }
 
+std::string MessageCatalogue::inLanguage(const std::string& sentence) const {
+  for (const MessageRow& row : messagesFrom1178()) {
+    if (row.text == sentence) return text(row.id);
+  }
+  return sentence;
+}
+
 bool MessageCatalogue::holds(int id) const {
   return findMessage(id) != nullptr;
 }

@@ -16,7 +16,7 @@ InterfaceLanguage interfaceLanguage(const std::string& locale);
 /// The locale that the environment asks for, in the order LC_ALL, LC_MESSAGES, LANG.
 std::string environmentLocale();
 
-/// The numbered texts of the interface, ids 1000 to 1236.
+/// The numbered texts of the interface, ids 1000 to 1264.
 class MessageCatalogue {
  public:
   explicit MessageCatalogue(InterfaceLanguage language) : language_(language) {}
@@ -25,6 +25,10 @@ class MessageCatalogue {
   /// that the catalogue does not hold.
   std::string text(int id) const;
   std::string text(Message message) const { return text(static_cast<int>(message)); }
+
+  /// A sentence of a folder that knows no languages, in the language; the sentence itself where no
+  /// row of the last ones has it.
+  std::string inLanguage(const std::string& sentence) const;
 
   bool holds(int id) const;
   InterfaceLanguage language() const { return language_; }

@@ -92,7 +92,8 @@ void KeyFrame::placeBitmap(const std::string& temporary, Chunk& chunk) {
   // A full disk costs the picture, not the segment and the work beside it.
   chunk.strFile.clear();
   deleteFile(temporary);
-  app_.ui.messageBox("The key frame has no picture: " + reason, BoxKind::Exclamation);
+  app_.ui.messageBox(app_.LoadResString(Message::KeyFrameWithoutPicture) + reason,
+                     BoxKind::Exclamation);
 }
 
 std::string KeyFrame::moveIntoFolder(const std::string& temporary, Chunk& chunk) {

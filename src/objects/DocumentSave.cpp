@@ -49,7 +49,7 @@ bool DocumentSave::bSaveAllObjects() {
 
 bool DocumentSave::bSave() {
   const bool saved = bWriteAll();
-  const std::string notes = io_.guard().strTakeNotes();
+  const std::string notes = io_.guard().strTakeNotes(app_.messages);
   if (!notes.empty() && app_.gMainForm) app_.gMainForm->setStrStatusBarText(notes);
   return saved;
 }

@@ -26,12 +26,12 @@ SaveUnderName::SaveUnderName(ApplicationModule& app, AVDocument& document)
 bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
   const std::string& unlisted = document_.strUnlisted();
   if (!unlisted.empty()) {
-    app_.ui.messageBox(unlisted + ": Save As would leave out the expressions in it.");
+    app_.ui.messageBox(unlisted + app_.LoadResString(Message::CopyWithoutThese));
     return false;
   }
   const bool hadFolder = bFolderExists(dataFolderOf(strAVDocPathName));
   if (document_.secol().begin() == document_.secol().end()) {
-    app_.ui.messageBox("The document was opened without a schema: a copy would be empty.");
+    app_.ui.messageBox(app_.LoadResString(Message::CopyWithoutSchema));
     return false;
   }
   SavePoint before(objects_.all());

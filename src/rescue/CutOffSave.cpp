@@ -36,7 +36,7 @@ std::vector<const MadeFile*> madeSoFar(const CopyPlan& plan, const OwnFiles& own
 
 std::string CutOffSave::finish() {
   // Behind a folder that is away, as on a medium that is not there, nothing can be told.
-  if (!bFolderExists(folderOf(work_.document))) return folderOf(work_.document) + " is not there";
+  if (!bFolderExists(folderOf(work_.document))) return folderOf(work_.document) + texts_.isNotThere;
   std::string failure = std::visit([this](const auto& plan) { return carryOut(plan); },
                                    store_.plans().open(work_.session));
   if (!failure.empty()) return failure;
@@ -59,14 +59,13 @@ std::string CutOffSave::carryOut(const SavePlan& plan) {
   if (!changed.empty()) {
     keepAsWork(unwritten);
     store_.plans().abandon(work_.session);
-    outcome_ = "was left as it is, since " + changed +
-               " has been changed since; what it would have written is kept";
+    outcome_ = texts_.leftSince + changed + texts_.changedSince;
     return {};
   }
   std::string failure = writeFiles(unwritten);
   if (!failure.empty()) return failure;
   store_.plans().finishSave(work_.session);
-  outcome_ = "has been finished";
+  outcome_ = texts_.finished;
   return {};
 }
 
@@ -111,15 +110,15 @@ std::string CutOffSave::writeFiles(const std::vector<FoundFile>& files) {
 std::string CutOffSave::carryOut(const CopyPlan& plan) {
   FoundFile document{&plan.document, FileState::Untouched, {}};
   const std::string& path = plan.document.path;
-  if (!bFolderExists(folderOf(path))) return folderOf(path) + " is not there";
-  if (isOpen(store_, path)) return path + " is open";
+  if (!bFolderExists(folderOf(path))) return folderOf(path) + texts_.isNotThere;
+  if (isOpen(store_, path)) return path + texts_.isOpen;
   std::string failure = strStateOf(plan.document, document.state, document.bytes);
   if (failure.empty() && document.state == FileState::Untouched) failure = undo(plan);
   if (failure.empty() && document.state == FileState::Torn) failure = writeFiles({document});
   if (!failure.empty()) return failure + " (" + path + ")";
   if (document.state == FileState::Untouched) {
     store_.plans().abandon(work_.session);
-    outcome_ = "under the name of " + path + " has been undone";
+    outcome_ = texts_.underTheName + path + texts_.undone;
   } else {
     store_.plans().finishCopy(work_.session);
   }

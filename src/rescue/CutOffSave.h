@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "rescue/RescueRecords.h"
+#include "rescue/RescueTexts.h"
 #include "rescue/TornFile.h"
 
 namespace velra {
@@ -15,7 +16,8 @@ class RescueStore;
 /// One save that its program has not finished. Every member raises DatabaseError.
 class CutOffSave {
  public:
-  CutOffSave(RescueStore& store, const KeptWork& work) : store_(store), work_(work) {}
+  CutOffSave(RescueStore& store, const KeptWork& work, const RescueTexts& texts)
+      : store_(store), work_(work), texts_(texts) {}
 
   /// Why it cannot be finished now, or "".
   std::string finish();
@@ -41,6 +43,7 @@ class CutOffSave {
 
   RescueStore& store_;
   const KeptWork& work_;
+  const RescueTexts& texts_;
   std::string outcome_;
 };
 

@@ -7,20 +7,21 @@
 
 namespace velra {
 
-std::string finishInterruptedSaves(RescueStore& store, const std::string& document) {
+std::string finishInterruptedSaves(RescueStore& store, const std::string& document,
+                                   const RescueTexts& texts) {
   std::string told;
   for (const KeptWork& work : interruptedSaves(store, "")) {
     const bool own = work.document == document;
     if (isRunning(work) || (!own && isOpen(store, work.document))) continue;
-    CutOffSave save(store, work);
+    CutOffSave save(store, work, texts);
     const std::string failure = save.finish();
     const std::string subject =
-        "A save" + (own ? std::string() : " of " + work.document) + " that was cut off ";
+        texts.aSave + (own ? std::string() : texts.of + work.document) + texts.cutOff;
     std::string sentence;
     if (failure.empty()) {
       if (!save.outcome().empty()) sentence = subject + save.outcome() + ".";
     } else if (own || document.empty()) {
-      sentence = subject + "could not be finished: " + failure;
+      sentence = subject + texts.notFinished + failure;
     }
     if (!sentence.empty()) told += (told.empty() ? "" : " ") + sentence;
   }

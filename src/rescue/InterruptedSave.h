@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "rescue/RescueTexts.h"
+
 namespace velra {
 
 class RescueStore;
@@ -14,6 +16,7 @@ class RescueStore;
 /// are looked after, but for those that a running program has open. To be called before a document
 /// is read, with its absolute path, or with "" for none. What was done, or what could not be done
 /// and is tried again next time, in sentences; "" for nothing. Raises DatabaseError.
-std::string finishInterruptedSaves(RescueStore& store, const std::string& document);
+std::string finishInterruptedSaves(RescueStore& store, const std::string& document,
+                                   const RescueTexts& texts = rescueTexts(false));
 
 }  // namespace velra

@@ -38,12 +38,12 @@ constexpr MainExpressionTexts kMainExpressions[] = {
     {ObjectKind::Transcript, Message::MainTranscriptPrompt, Message::MainTranscriptName}};
 
 // Nothing when the person cancels, who is told so.
-std::optional<double> durationOf(UserInterface& ui, const std::string& movie) {
+std::optional<double> durationOf(ApplicationModule& app, const std::string& movie) {
   double duration = 0;
-  const bool awaited =
-      ui.openMovie([&](const std::stop_token& stop) { duration = dMovieDuration(movie, stop); });
+  const bool awaited = app.ui.openMovie(
+      [&](const std::stop_token& stop) { duration = dMovieDuration(movie, stop); });
   if (awaited) return duration;
-  ui.messageBox(kOpeningCancelled, BoxKind::Exclamation);
+  app.ui.messageBox(app.messages.inLanguage(kOpeningCancelled), BoxKind::Exclamation);
   return std::nullopt;
 }
 
@@ -109,7 +109,7 @@ std::string EditCommands::askMovie() {
 }
 
 bool EditCommands::movieFits(const DescribedObject& media, const std::string& movie) {
-  const auto duration = durationOf(app_.ui, movie);
+  const auto duration = durationOf(app_, movie);
   if (!duration) return false;
   if (*duration == 0) {
     app_.ui.messageBox(app_.LoadResString(Message::FormatNotValid));
@@ -162,7 +162,7 @@ void EditCommands::AddMainExpr(ObjectKind kind) {
     name = app_.ui.inputBox(app_.LoadResString(texts.prompt), app_.LoadResString(texts.title));
   }
   if (name.empty()) return;
-  const auto duration = durationOf(app_.ui, path);
+  const auto duration = durationOf(app_, path);
   if (!duration) return;
   version->AddMainExpression(name, kind, 0, *duration);
   version->setDDuration(*duration);

@@ -19,7 +19,7 @@ bool documentIsOpen(const ApplicationModule& app) {
 
 bool needsDocument(ApplicationModule& app) {
   if (documentIsOpen(app)) return true;
-  app.ui.messageBox("No document is open.", BoxKind::Exclamation);
+  app.ui.messageBox(app.LoadResString(Message::NoDocumentOpen), BoxKind::Exclamation);
   return false;
 }
 

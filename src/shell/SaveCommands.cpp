@@ -39,7 +39,7 @@ std::string SaveCommands::GetFileName(const std::string& proposed) {
   if (path.empty() || toLower(strExtension(path)) == "xml") return path;
   path += ".xml";
   const bool free =
-      !bFileExists(path) || app_.ui.askYesNo(path + " already exists. Do you want to replace it?");
+      !bFileExists(path) || app_.ui.askYesNo(path + app_.LoadResString(Message::AskReplace));
   return free ? path : GetFileName(path);
 }
 

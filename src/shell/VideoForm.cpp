@@ -81,8 +81,8 @@ bool VideoForm::loads(LoadedVideoForm& form) {
   } catch (const RunTimeError& error) {
     if (error.number() != kOverflow) throw;
     services_.app.ui.messageBox(fileOfTooLongTime(*obj_.lock()) +
-                                    " holds a number that cannot be " +
-                                    "shown: " + error.description(),
+                                    services_.app.LoadResString(Message::NumberNotShown) +
+                                    error.description(),
                                 BoxKind::Exclamation);
     return false;
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/GuardedFiles.h"
 
+#include "app/MessageCatalogue.h"
 #include "platform/files/ContentPrint.h"
 #include "platform/files/Files.h"
 #include "rescue/DocumentRescue.h"
@@ -58,15 +59,16 @@ bool GuardedFiles::mayDelete(const std::string& path) {
   return false;
 }
 
-std::string GuardedFiles::strTakeNotes() {
+std::string GuardedFiles::strTakeNotes(const MessageCatalogue& messages) {
   std::string notes;
-  const auto add = [&notes](const std::string& sentence) {
+  const auto add = [&](Note& note, Message message) {
+    const std::string sentence = note.strTake(messages, message);
     if (!sentence.empty()) notes += (notes.empty() ? "" : " ") + sentence;
   };
-  add(kept_.strTake("changed by another program; what was there is kept."));
-  add(lost_.strTake("changed by another program; what was there could not be kept."));
-  add(outside_.strTake("written outside of the document's folder."));
-  add(left_.strTake("left alone, since it does not belong to the document."));
+  add(kept_, Message::ChangedAndKept);
+  add(lost_, Message::ChangedAndLost);
+  add(outside_, Message::WrittenOutside);
+  add(left_, Message::LeftAlone);
   return notes;
 }
 
@@ -79,14 +81,17 @@ void GuardedFiles::Note::add(const std::string& path) {
   }
 }
 
-std::string GuardedFiles::Note::strTake(const std::string& sentence) {
+std::string GuardedFiles::Note::strTake(const MessageCatalogue& messages, Message sentence) {
   if (first_.empty()) return {};
   std::string told = first_;
-  if (others_ > 0) told += " and " + std::to_string(others_) + " more";
+  if (others_ > 0) {
+    told +=
+        messages.text(Message::AndOthers) + std::to_string(others_) + messages.text(Message::More);
+  }
   first_.clear();
   others_ = 0;
   if (!once_) told_.clear();
-  return told + ": " + sentence;
+  return told + ": " + messages.text(sentence);
 }
 
 }  // namespace velra

@@ -14,6 +14,8 @@
 namespace velra {
 
 class DocumentRescue;
+class MessageCatalogue;
+enum class Message : int;
 
 /// What an open document may do to files: it writes and deletes its own, and of others it writes
 /// those that it was opened with. What another program has written into a file since it was read is
@@ -42,7 +44,7 @@ class GuardedFiles {
   bool mayDelete(const std::string& path);
 
   /// Sentences on all that was unusual since the last call, each file once; "" for nothing.
-  std::string strTakeNotes();
+  std::string strTakeNotes(const MessageCatalogue& messages);
 
  private:
   bool bKept(const std::string& path, std::string_view bytes, DocumentRescue* rescue);
@@ -54,7 +56,7 @@ class GuardedFiles {
     explicit Note(bool once) : once_(once) {}
     void add(const std::string& path);
     /// The first file, how many others, and what is to be said of them.
-    std::string strTake(const std::string& sentence);
+    std::string strTake(const MessageCatalogue& messages, Message sentence);
 
    private:
     const bool once_;

@@ -29,7 +29,7 @@ IOManager::IOManager(ApplicationModule& app)
 IOManager::~IOManager() {
   // What could not be deleted now is tried again when the document is opened next.
   if (strSync().empty() && rescue_) rescue_->removalsDone();
-  const std::string notes = guard_.strTakeNotes();
+  const std::string notes = guard_.strTakeNotes(app_.messages);
   if (!notes.empty() && app_.gMainForm) app_.gMainForm->setStrStatusBarText(notes);
 }
 
@@ -38,11 +38,12 @@ std::string IOManager::strFinishCutOffSaves(const std::string& strAVDocPathName)
   std::string told;
   OthersAtWork others;
   const std::string document = strAbsolutePath(strAVDocPathName);
+  const bool italian = app_.messages.language() == InterfaceLanguage::Italian;
   const std::string failure = app_.rescue->run([&](RescueStore& store) {
-    told = finishInterruptedSaves(store, document);
+    told = finishInterruptedSaves(store, document, rescueTexts(italian));
     others = othersAtWork(store, document);
   });
-  if (!failure.empty()) return "Unsaved work cannot be kept for the event of a crash: " + failure;
+  if (!failure.empty()) return app_.LoadResString(Message::WorkCannotBeKept) + failure;
   std::string sentence;
   if (others.open) {
     sentence = app_.LoadResString(Message::DocumentOpenElsewhere);
@@ -99,7 +100,9 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   } else if ((saveFailure_ = guard_.strWhyNotWrite(path)).empty()) {
     saveFailure_ = writeFileInPlace(strGUID, bytes);
   }
-  if (!saveFailure_.empty()) return saveFailure_ += " (" + strGUID + ")";
+  if (!saveFailure_.empty()) {
+    return saveFailure_ = app_.messages.inLanguage(saveFailure_) + " (" + strGUID + ")";
+  }
   guard_.noteContent(path, contentPrint(bytes));
   names_.written(strGUID);
   unflushedFolder_ = folderOf(strGUID);

@@ -47,7 +47,7 @@ bool Player::LoadMovie(const std::string& path) {
     ckChunk_ = obj_->ckGetChunk();
     return true;
   }
-  if (!bFileExists(path)) return refuse("The movie file was not found.", path);
+  if (!bFileExists(path)) return refuse(parts_.app.LoadResString(Message::MovieNotFound), path);
   auto graph = parts_.makeGraph();
   std::string reason;
   const bool awaited = parts_.app.ui.openMovie(
@@ -62,7 +62,8 @@ bool Player::LoadMovie(const std::string& path) {
 }
 
 bool Player::refuse(const std::string& reason, const std::string& path) {
-  parts_.app.ui.messageBox(reason + "\n" + path, BoxKind::Exclamation);
+  parts_.app.ui.messageBox(parts_.app.messages.inLanguage(reason) + "\n" + path,
+                           BoxKind::Exclamation);
   return false;
 }
 

@@ -49,7 +49,7 @@ void SegmentEditor::setTimelineSpan() {
   advsld.setDMax(span.dend);
   if (span.dend != span.dStart) return;
   // A timeline of no length has no places: one in which nothing can be reached stands for it.
-  parts_.app.ui.messageBox("This segment has no length: nothing can be cut on its timeline.");
+  tell(Message::SegmentWithoutLength);
   advsld.setDMax(span.dStart + 1);
   advsld.setEnabled(false);
 }

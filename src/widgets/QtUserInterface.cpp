@@ -14,6 +14,7 @@
 
 #include "widgets/BusyCursor.h"
 #include "widgets/QtText.h"
+#include "widgets/Texts.h"
 #include "widgets/dialogs/FileFilters.h"
 #include "widgets/dialogs/MessageBoxes.h"
 #include "widgets/dialogs/WaitingBox.h"
@@ -149,8 +150,8 @@ void QtUserInterface::workAside(const std::string& sentence, const std::function
 
 bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)>& work) {
   std::stop_source stop;
-  waitFor("The movie is being read.", std::async(std::launch::async, work, stop.get_token()),
-          &stop);
+  waitFor(fromQString(Texts::tr("The movie is being read.")),
+          std::async(std::launch::async, work, stop.get_token()), &stop);
   return !stop.stop_requested();
 }
 

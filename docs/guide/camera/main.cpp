@@ -2,17 +2,16 @@
 
 // The pictures of the guide, taken from the real windows over a copy of the sample:
 // velra_camera FOLDER LANGUAGE.
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTemporaryFile>
-#include <QTranslator>
 
 #include "scenario/Desktop.h"
 #include "scenario/Hands.h"
 #include "widgets/GuardedApplication.h"
+#include "widgets/Texts.h"
 
 namespace velra::test {
 namespace {
@@ -158,13 +157,8 @@ int main(int argc, char** argv) {
   velra::GuardedApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("velra"));
   QApplication::setQuitOnLastWindowClosed(false);
-  QTranslator translator;
   const auto language = velra::interfaceLanguage(argv[2]);
-  if (language == velra::InterfaceLanguage::Italian &&
-      translator.load(QStringLiteral("qtbase_it"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(&translator);
-  }
+  velra::Texts::speak(language);
   velra::test::Camera(QString::fromLocal8Bit(argv[1]), language).takeAll();
   return 0;
 }

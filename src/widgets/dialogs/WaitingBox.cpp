@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "widgets/Texts.h"
+
 namespace velra {
 
 namespace {
@@ -33,7 +35,7 @@ WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source* st
   bar->setAccessibleName(text);
   bar->setRange(0, 0);  // how much is left is not known
   column->addWidget(label);
-  cancel_ = new QPushButton(QStringLiteral("Cancel"), this);
+  cancel_ = new QPushButton(Texts::tr("Cancel"), this);
   cancel_->setObjectName(QStringLiteral("cmdCancel"));
   cancel_->setAutoDefault(false);  // the key that opened the movie may still be down
   connect(cancel_, &QPushButton::clicked, this, &WaitingBox::reject);

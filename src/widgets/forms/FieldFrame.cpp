@@ -7,6 +7,7 @@
 #include "forms/FieldBox.h"
 #include "widgets/FocusFrame.h"
 #include "widgets/QtText.h"
+#include "widgets/Texts.h"
 
 namespace velra {
 
@@ -23,7 +24,7 @@ void FieldFrame::standFor(const FieldBox& box) {
 
 QString FieldFrame::spokenValue() const {
   if (box_->family == ControlFamily::Check1) {
-    return box_->value == Value(std::int16_t{1}) ? tr("ticked") : tr("not ticked");
+    return box_->value == Value(std::int16_t{1}) ? Texts::tr("ticked") : Texts::tr("not ticked");
   }
   if (!box_->rows) return toQString(toText(box_->value));
   QStringList rows;
@@ -34,7 +35,7 @@ QString FieldFrame::spokenValue() const {
 }
 
 void FieldFrame::focusInEvent(QFocusEvent* event) {
-  if (box_) setAccessibleDescription(tr("%1, read only").arg(spokenValue()));
+  if (box_) setAccessibleDescription(Texts::tr("%1, read only").arg(spokenValue()));
   QGroupBox::focusInEvent(event);
 }
 

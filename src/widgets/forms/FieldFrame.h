@@ -9,8 +9,6 @@ struct FieldBox;
 
 /// The box with a title around the control of a field.
 class FieldFrame : public QGroupBox {
-  Q_OBJECT
-
  public:
   using QGroupBox::QGroupBox;
 

@@ -6,6 +6,7 @@
 #include <QShortcut>
 
 #include "shell/PaneLayout.h"
+#include "widgets/Texts.h"
 #include "widgets/Twips.h"
 #include "widgets/main/NodeTreeView.h"
 #include "widgets/main/SplitterHandle.h"
@@ -39,7 +40,7 @@ MainPanes::MainPanes(TreeModel& mainTree, TreeModel& expressionTree, QWidget* pa
   mainTree_->setToolTip(QStringLiteral("AVDocument's Structure"));
   expressionTree_->setObjectName(QStringLiteral("tvwExpression"));
   imgSplitter_->setObjectName(QStringLiteral("imgSplitter"));
-  imgSplitter_->setAccessibleName(QStringLiteral("Splitter"));
+  imgSplitter_->setAccessibleName(Texts::tr("Splitter"));
   picSplitter_->setObjectName(QStringLiteral("picSplitter"));
   picSplitter_->setAutoFillBackground(true);
   picSplitter_->setBackgroundRole(QPalette::Mid);

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QLocale>
 
+#include "widgets/Texts.h"
+
 namespace velra {
 
 namespace {
@@ -16,9 +18,9 @@ constexpr int kClockMilliseconds = 1000;
 
 MainStatusBar::MainStatusBar(QWidget* parent)
     : QStatusBar(parent),
-      text_(addPanel("sbStatusBar_1", "Status", 1)),
-      date_(addPanel("sbStatusBar_2", "Date", 0)),
-      time_(addPanel("sbStatusBar_3", "Time", 0)) {
+      text_(addPanel("sbStatusBar_1", Texts::tr("Status"), 1)),
+      date_(addPanel("sbStatusBar_2", Texts::tr("Date"), 0)),
+      time_(addPanel("sbStatusBar_3", Texts::tr("Time"), 0)) {
   setObjectName(QStringLiteral("sbStatusBar"));
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // never widens the window
   later_.setSingleShot(true);
@@ -28,10 +30,10 @@ MainStatusBar::MainStatusBar(QWidget* parent)
   updateClock();
 }
 
-QLabel* MainStatusBar::addPanel(const char* name, const char* accessibleName, int stretch) {
+QLabel* MainStatusBar::addPanel(const char* name, const QString& meaning, int stretch) {
   auto* label = new QLabel(this);
   label->setObjectName(QLatin1String(name));
-  label->setAccessibleDescription(QLatin1String(accessibleName));
+  label->setAccessibleDescription(meaning);
   label->setTextFormat(Qt::PlainText);
   label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
   label->setMargin(2);

@@ -21,7 +21,7 @@ class MainStatusBar : public QStatusBar {
   void showText(const QString& text);
 
  private:
-  QLabel* addPanel(const char* name, const char* accessibleName, int stretch);
+  QLabel* addPanel(const char* name, const QString& meaning, int stretch);
   void drawText();
   void updateClock();
 

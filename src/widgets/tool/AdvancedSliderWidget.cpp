@@ -8,6 +8,7 @@
 #include "tool/AdvancedSlider.h"
 #include "widgets/QtText.h"
 #include "widgets/ShiftArgument.h"
+#include "widgets/Texts.h"
 #include "widgets/Twips.h"
 #include "widgets/tool/PaintedPartsEvents.h"
 #include "widgets/tool/TimelinePainter.h"
@@ -24,7 +25,7 @@ constexpr int kAnnounceInterval = 400;
 }  // namespace
 
 AdvancedSliderWidget::AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* parent)
-    : PaintedPartsWidget(tr("Timeline"), parent), advsld_(advsld), slider_(advsld, *this) {
+    : PaintedPartsWidget(Texts::tr("Timeline"), parent), advsld_(advsld), slider_(advsld, *this) {
   setMaximumWidth(maximumRulesWidth());
   setEnabled(advsld_.Enabled());
   Timer1_.setInterval(kBlinkInterval);

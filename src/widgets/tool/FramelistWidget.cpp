@@ -9,6 +9,7 @@
 #include "widgets/QtText.h"
 #include "widgets/RuleColours.h"
 #include "widgets/ShiftArgument.h"
+#include "widgets/Texts.h"
 #include "widgets/Twips.h"
 
 namespace velra {
@@ -34,7 +35,7 @@ void paintSquare(QPainter& painter, const QRect& cell, const QColor& colour) {
 }  // namespace
 
 FramelistWidget::FramelistWidget(Framelist& strip, QWidget* parent)
-    : PaintedPartsWidget(tr("Key frames"), parent), strip_(strip) {
+    : PaintedPartsWidget(Texts::tr("Key frames"), parent), strip_(strip) {
   setObjectName(QStringLiteral("Framelist1"));
   reading_.setSingleShot(true);
   connect(&reading_, &QTimer::timeout, this, [this] { readPictures(); });

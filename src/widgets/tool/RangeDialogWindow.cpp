@@ -12,6 +12,7 @@
 
 #include "widgets/QtText.h"
 #include "widgets/ShiftArgument.h"
+#include "widgets/Texts.h"
 
 namespace velra {
 
@@ -19,7 +20,9 @@ namespace {
 
 constexpr const char* kBoxNames[] = {"hh1", "mm1", "ss1", "ff1", "hh2", "mm2", "ss2", "ff2"};
 constexpr const char* kBoxLabels[] = {"hh", "mm", "ss", "ff"};
-constexpr const char* kBoxMeanings[] = {"hours", "minutes", "seconds", "frames"};
+constexpr const char* kBoxMeanings[] = {
+    QT_TRANSLATE_NOOP("Texts", "hours"), QT_TRANSLATE_NOOP("Texts", "minutes"),
+    QT_TRANSLATE_NOOP("Texts", "seconds"), QT_TRANSLATE_NOOP("Texts", "frames")};
 constexpr std::size_t kBoxesOfAFrame = 4;
 constexpr int kLongestTyping = 3;  // the third character is refused by the rules
 
@@ -60,7 +63,7 @@ QGroupBox* RangeDialogWindow::makeFrame(const char* name, const QString& caption
     auto* label = new QLabel(QLatin1String(kBoxLabels[i]), frame);
     label->setAlignment(Qt::AlignHCenter);
     QLineEdit* box = makeBox(static_cast<RangeDialog::Field>(firstField + i));
-    box->setAccessibleName(caption + QStringLiteral(", ") + QLatin1String(kBoxMeanings[i]));
+    box->setAccessibleName(caption + QStringLiteral(", ") + Texts::tr(kBoxMeanings[i]));
     column->addWidget(label);
     column->addWidget(box);
     row->addLayout(column);

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "tool/Framelist.h"
+#include "widgets/Texts.h"
 #include "widgets/Twips.h"
 #include "widgets/tool/FramelistWidget.h"
 
@@ -25,7 +26,7 @@ StripView::StripView(Framelist& strip, QWidget* parent)
   setWidget(strip_);
   QScrollBar& bar = *horizontalScrollBar();
   bar.setObjectName(QStringLiteral("HScroll1"));
-  bar.setAccessibleName(tr("Scroll key frames"));
+  bar.setAccessibleName(Texts::tr("Scroll key frames"));
   bar.setSingleStep(pixelsFromTwips(strip.ImageX() / 4.0));
   connect(strip_, &FramelistWidget::partReached, this, [this](int part) { reveal(part); });
   connect(strip_, &PaintedPartsWidget::currentPartChanged, this,

@@ -11,8 +11,6 @@ class FramelistWidget;
 /// The form's window onto the strip of pictures, which is as long as its pictures are many. It is
 /// scrolled by its bar and by the wheel, and follows what is selected elsewhere or by keys.
 class StripView : public QScrollArea {
-  Q_OBJECT
-
  public:
   /// The rules must outlive the view.
   StripView(Framelist& strip, QWidget* parent);

@@ -14,8 +14,10 @@
 #include "app/ApplicationModule.h"
 #include "tool/ExpressionTool.h"
 #include "widgets/QtText.h"
+#include "widgets/Texts.h"
 #include "widgets/tool/AdvancedSliderWidget.h"
 #include "widgets/tool/StripView.h"
+#include "widgets/tool/ToolButtons.h"
 #include "widgets/tool/VideoPictureWidget.h"
 
 namespace velra {
@@ -23,47 +25,6 @@ namespace velra {
 namespace {
 
 constexpr int kLongParagraph = 2000;  // characters: more than two minutes of speech
-
-struct ButtonLooks {
-  const char* name;
-  const char* caption;
-  const char* toolTip;
-  void (*command)(ExpressionTool&);
-};
-
-constexpr ButtonLooks kPlayerButtons[] = {
-    {"cmdPlay", ">", "Play movie", [](ExpressionTool& tool) { tool.player.cmdPlay(); }},
-    {"cmdPause", "ll", "Pause movie", [](ExpressionTool& tool) { tool.player.cmdPause(); }},
-    {"cmdStop", "Stop", "Stop movie", [](ExpressionTool& tool) { tool.player.cmdStop(); }},
-    {"cmdRewind", "-1", "step one frame backward",
-     [](ExpressionTool& tool) { tool.player.cmdRewind(); }},
-    {"cmdForward", "+1", "step one frame forward",
-     [](ExpressionTool& tool) { tool.player.cmdForward(); }},
-};
-
-// The tool tips of the two last but one name the bound that moves, and not the side of the button.
-constexpr ButtonLooks kSegmentButtons[] = {
-    {"cmdSel", "|", "Select Start/End point of new segment",
-     [](ExpressionTool& tool) { tool.segments.SelectSegmentPoint(); }},
-    {"cmdNew", "|-|", "Create new segment",
-     [](ExpressionTool& tool) { tool.segments.NewSegmentByDialog(); }},
-    {"cmdModif", "<->", "Modify selected segment",
-     [](ExpressionTool& tool) { tool.segments.ModifySelectedSegment(); }},
-    {"cmdCanc", "X", "Remove selected segment",
-     [](ExpressionTool& tool) { tool.segments.ConfirmRemoveSegments(); }},
-    {"cmdMerge", "- + -", "Merge the selected Expresions",
-     [](ExpressionTool& tool) { tool.segments.MergeSelectedSegments(); }},
-    {"cmdPrev", "<--", "Move previous segment bound",
-     [](ExpressionTool& tool) { tool.segments.MoveToPreviousBound(); }},
-    {"cmdNext", "-->", "Move to next segment bound",
-     [](ExpressionTool& tool) { tool.segments.MoveToNextBound(); }},
-    {"cmdExpandLeft", "|>", "Extend rigth bound",
-     [](ExpressionTool& tool) { tool.segments.ExtendPreviousSegment(); }},
-    {"cmdExpandRight", "<|", "Extend left bound",
-     [](ExpressionTool& tool) { tool.segments.ExtendNextSegment(); }},
-    {"cmdKeyFrame", "K", "Set a new keyframe",
-     [](ExpressionTool& tool) { tool.segments.ChangeKeyFrame(); }},
-};
 
 }  // namespace
 
@@ -91,7 +52,7 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
   button->setToolTip(QLatin1String(toolTip));
   // Of a caption that is a sign, what is spoken is what it does.
   const bool isSign = !caption.contains(QRegularExpression(QStringLiteral("\\p{L}{3}")));
-  if (isSign) button->setAccessibleName(QLatin1String(toolTip));
+  if (isSign) button->setAccessibleName(Texts::tr(toolTip));
   button->setAutoDefault(false);
   // A click leaves the focus where it is, so that the space bar plays on and does not press again.
   button->setFocusPolicy(Qt::TabFocus);
@@ -106,7 +67,7 @@ void ToolPanel::makePlayer(const ApplicationModule& app) {
   controls_.txtTime = new QLineEdit(QStringLiteral("00:00:00:00"), this);
   controls_.txtTime->setObjectName(QStringLiteral("txtTime"));
   controls_.txtTime->setToolTip(QStringLiteral("TimeCode"));
-  controls_.txtTime->setAccessibleName(QStringLiteral("TimeCode"));
+  controls_.txtTime->setAccessibleName(Texts::tr("TimeCode"));
   controls_.txtTime->setReadOnly(true);
   controls_.txtTime->setAlignment(Qt::AlignCenter);
   controls_.txtTime->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -119,7 +80,7 @@ void ToolPanel::makePlayer(const ApplicationModule& app) {
 void ToolPanel::makeTranscript() {
   controls_.rtbTrans = new QPlainTextEdit(this);
   controls_.rtbTrans->setObjectName(QStringLiteral("rtbTrans"));
-  controls_.rtbTrans->setAccessibleName(QStringLiteral("Transcript"));
+  controls_.rtbTrans->setAccessibleName(Texts::tr("Transcript"));
   controls_.rtbTrans->setReadOnly(true);
   controls_.rtbTrans->setTextInteractionFlags(Qt::TextSelectableByMouse |
                                               Qt::TextSelectableByKeyboard);

@@ -3,6 +3,8 @@
 
 #include <QPainter>
 
+#include "widgets/Texts.h"
+
 namespace velra {
 
 namespace {
@@ -16,7 +18,7 @@ QImage imageOf(const PictureFrame& frame) {
 
 VideoPictureWidget::VideoPictureWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setAccessibleName(tr("Movie picture"));
+  setAccessibleName(Texts::tr("Movie picture"));
 }
 
 void VideoPictureWidget::showMovie(MediaGraph* movie) {
@@ -57,7 +59,7 @@ void VideoPictureWidget::paintEvent(QPaintEvent*) {
   if (failed_ || !frame || frame->width <= 0 || frame->height <= 0) {
     painter.fillRect(rect(), Qt::black);
     painter.setPen(Qt::white);
-    const QString failure = tr("The movie cannot be read any more.");
+    const QString failure = Texts::tr("The movie cannot be read any more.");
     if (failed_) painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, failure);
     return;
   }
