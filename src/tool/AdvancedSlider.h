@@ -55,6 +55,10 @@ class AdvancedSlider {
   /// Index of the new range; 0 when it ends before it begins. A range that begins before the span
   /// shrinks to its end, one that ends behind it is cut.
   std::int16_t iAddRange(double dBegin, double dend, const std::string& caption);
+  /// What stands in a range where it fits; a bad index is ignored.
+  void setRangeTitle(std::int16_t index, const std::string& title) {
+    if (index >= 1 && index <= Count()) marks_.setTitle(index, title);
+  }
   /// Leaves the selection's numbers as they are and redraws nothing: the owner does.
   void RemoveSelectedRanges();
   /// Takes back the range added last, whose segment could not be made.

@@ -63,6 +63,10 @@ void RangeMarks::setBounds(std::int16_t index, const Range& range) {
   *ranges_.Item(static_cast<std::size_t>(index)) = range;
 }
 
+void RangeMarks::setTitle(std::int16_t index, const std::string& title) {
+  marks_.at(static_cast<std::size_t>(index) - 1).title = title;
+}
+
 void RangeMarks::colourAll(std::int32_t colour) {
   for (Mark& mark : marks_) mark.colour = colour;
 }

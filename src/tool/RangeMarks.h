@@ -40,8 +40,9 @@ class RangeMarks {
   static constexpr int kPlainBorder = 4;
   static constexpr int kSelectedBorder = 6;
 
-  /// How one range is drawn: a bracket over its span, and the caption as tool tip.
+  /// How one range is drawn: a bracket over its span, its title in it, and the caption as tool tip.
   struct Mark {
+    std::string title;
     std::string caption;
     double left = 0;
     double width = 0;
@@ -59,6 +60,7 @@ class RangeMarks {
   /// `indexes` rise.
   void remove(const std::vector<std::int16_t>& indexes);
   void setBounds(std::int16_t index, const Range& range);
+  void setTitle(std::int16_t index, const std::string& title);
 
   void placeAll(const TimelineScale& scale);
   void colourAll(std::int32_t colour);

@@ -40,7 +40,8 @@ void SegmentLists::fill() {
   for (const ExpressionRef& segment : children()) {
     const auto times = spanOf(*segment);
     const std::string text = caption(segment->strTitle(), times->dStart, times->dend);
-    parts_.advsld.iAddRange(times->dStart, times->dend, text);
+    const std::int16_t range = parts_.advsld.iAddRange(times->dStart, times->dend, text);
+    parts_.advsld.setRangeTitle(range, segment->strTitle());
     if (const auto* video = as<VideoExpression>(segment.get())) {
       parts_.Framelist1.iAddImage(video->picKeyFrame(), places.iChainPosition(segment), text);
     }
@@ -50,6 +51,7 @@ void SegmentLists::fill() {
 bool SegmentLists::add(const std::string& title, double start, double end) {
   const std::string text = caption(title, start, end);
   const std::int16_t position = parts_.advsld.iAddRange(start, end, text);
+  parts_.advsld.setRangeTitle(position, title);
   const std::size_t before = children().size();
   obj_->AddSubExpression(title, start, end);
   const bool made = children().size() > before;

@@ -54,7 +54,13 @@ void QtUserInterface::setMainWindow(QWidget* window) {
 
 QWidget* QtUserInterface::owner() const {
   QWidget* modal = QApplication::activeModalWidget();
-  return modal ? modal : mainWindow_.data();
+  if (!modal) return mainWindow_.data();
+  // It may have a window of its own before it, in which the person is.
+  QWidget* const active = QApplication::activeWindow();
+  for (const QWidget* window = active; window; window = window->parentWidget()) {
+    if (window == modal) return active;
+  }
+  return modal;
 }
 
 void QtUserInterface::messageBox(const std::string& text, BoxKind kind) {

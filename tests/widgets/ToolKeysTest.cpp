@@ -6,6 +6,7 @@
 #include <QTabBar>
 
 #include "widgets/ToolWindowTest.h"
+#include "widgets/tool/AdvancedSliderWidget.h"
 
 namespace velra::test {
 namespace {
@@ -98,6 +99,81 @@ TEST_F(ToolKeys, BelongToABoxThatIsTypedIntoAndToATextThatIsCopied) {
   });
   EXPECT_EQ(session.movie.position, 0);
   EXPECT_EQ(session.ui.takeShown(), std::vector<std::string>{});
+}
+
+// Half red and half blue, and three times as wide as it is high.
+std::shared_ptr<const PictureFrame> flag() {
+  auto frame = std::make_shared<PictureFrame>(PictureFrame{60, 20, {}});
+  for (int at = 0; at < 60 * 20; ++at) {
+    const bool red = at % 60 < 30;
+    for (const int part : {red ? 0 : 255, 0, red ? 255 : 0, 255}) {
+      frame->pixels.push_back(static_cast<std::uint8_t>(part));
+    }
+  }
+  return frame;
+}
+
+TEST_F(ToolKeys, ThePictureIsShownLargeWithTheSameKeys) {
+  session.movie.picture = flag();
+  inForm([&](QWidget& window) {
+    auto& small = find(window, "picVideoWindow");
+    const QImage before = small.grab().toImage();
+    auto& large = find(window, "LargePicture");
+    EXPECT_FALSE(large.isVisible());
+    QTest::keyClick(window.focusWidget(), Qt::Key_F11);
+    ASSERT_TRUE(large.isVisible());
+    large.resize(300, 300);
+    const QImage shown = large.grab().toImage();
+    const struct {
+      QPoint place;
+      Qt::GlobalColor colour;
+    } pixels[] = {{{20, 150}, Qt::red}, {{280, 150}, Qt::blue}, {{150, 80}, Qt::black}};
+    for (const auto& row : pixels) EXPECT_EQ(shown.pixelColor(row.place), QColor(row.colour));
+    QTest::keyClick(&large, Qt::Key_F11);
+    EXPECT_TRUE(large.isFullScreen());
+    QTest::keyClick(&large, Qt::Key_F11);
+    EXPECT_FALSE(large.isFullScreen());
+    QTest::keyClick(&large, Qt::Key_I);
+    QTest::keyClick(&large, Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(session.movie.position, 10);
+    QTest::keyClick(&large, Qt::Key_Escape);
+    EXPECT_FALSE(large.isVisible());
+    QTest::mouseDClick(&small, Qt::LeftButton);
+    EXPECT_TRUE(large.isVisible());
+    EXPECT_EQ(small.grab().toImage(), before);
+    session.ui.inputs = {"cut"};  // the point that I took still waits
+    QTest::keyClick(&large, Qt::Key_O);
+  });
+  EXPECT_EQ(session.main->children.size(), 3U);
+}
+
+// Of A and B alone; the third has no room, and the fourth begins within B.
+TEST_F(ToolKeys, TitlesStandInTheRangesThatHaveRoom) {
+  session.main->AddSubExpression("CCCCCCCC", 50, 50.5);
+  session.main->AddSubExpression("BBBB", 30.5, 40);
+  for (const char* title : {"", "A title that is much longer than its range has room for"}) {
+    session.main->child(1)->title = session.main->child(2)->title = title;
+    inForm([&](QWidget& window) {
+      auto& advsld = find<AdvancedSliderWidget>(window, "advsld");
+      const QImage image = advsld.grab().toImage();
+      const auto dark = [&](int part) {
+        int count = 0;
+        const QRect body = advsld.partRect(part).adjusted(3, 3, -3, -8);
+        for (int x = body.left(); x <= body.right(); ++x) {
+          for (int y = body.top(); y <= body.bottom(); ++y) {
+            count += image.pixelColor(x, y).lightness() < 90;
+          }
+        }
+        return count > 0;
+      };
+      EXPECT_EQ(dark(0), *title != '\0');
+      EXPECT_TRUE(dark(3));
+      EXPECT_FALSE(dark(2));
+      const QRect room = advsld.partRect(0);
+      EXPECT_EQ(image.pixelColor(room.right() + 3, room.center().y()),
+                image.pixelColor(room.right() + 30, room.center().y()));
+    });
+  }
 }
 
 }  // namespace

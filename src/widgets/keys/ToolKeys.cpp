@@ -13,6 +13,7 @@
 #include "tool/ExpressionTool.h"
 #include "widgets/QtText.h"
 #include "widgets/ShiftArgument.h"
+#include "widgets/picture/LargePicture.h"
 #include "widgets/tool/FramelistWidget.h"
 
 namespace velra {
@@ -101,9 +102,8 @@ bool isWantedBy(const QWidget& focused, const ToolKey& key) {
 
 }  // namespace
 
-ToolKeys::ToolKeys(QWidget& window, const QWidget& panel, ExpressionTool& tool,
-                   const ApplicationModule& app)
-    : window_(window), panel_(panel), commands_(tool, app) {
+ToolKeys::ToolKeys(const Windows& windows, ExpressionTool& tool, const ApplicationModule& app)
+    : windows_(windows), commands_(tool, app) {
   // Of the whole program, since controls come while the window shows, such as rows of a set.
   QCoreApplication::instance()->installEventFilter(this);
 }
@@ -113,12 +113,20 @@ ToolKeys::ToolKeys(QWidget& window, const QWidget& panel, ExpressionTool& tool,
 bool ToolKeys::eventFilter(QObject* watched, QEvent* event) {
   const bool isPress = event->type() == QEvent::KeyPress;
   if (!isPress && event->type() != QEvent::KeyRelease) return false;
-  const QWidget* focused = window_.focusWidget() ? window_.focusWidget() : &window_;
-  if (watched != focused) return false;
+  const QWidget* inForm = windows_.form.focusWidget();
+  const QWidget* focused = inForm ? inForm : &windows_.form;
+  const bool large = watched == &windows_.picture;
+  if (watched != focused && !large) return false;
   const auto& key = static_cast<QKeyEvent&>(*event);
-  if (isPress) return panel_.isVisible() && press(key, *focused);
-  release(key);
-  return false;
+  if (!isPress) release(key, !large);
+  if (large) return isPress && press(key, windows_.picture);
+  return isPress && windows_.panel.isVisible() && (opensPicture(key) || press(key, *focused));
+}
+
+bool ToolKeys::opensPicture(const QKeyEvent& event) {
+  const bool opens = event.key() == Qt::Key_F11 && event.modifiers() == Qt::NoModifier;
+  if (opens) windows_.picture.present();
+  return opens;
 }
 
 bool ToolKeys::press(const QKeyEvent& event, const QWidget& focused) {
@@ -128,12 +136,12 @@ bool ToolKeys::press(const QKeyEvent& event, const QWidget& focused) {
   return true;
 }
 
-void ToolKeys::release(const QKeyEvent& event) {
+void ToolKeys::release(const QKeyEvent& event, bool inForm) {
   if (event.isAutoRepeat()) return;
   const int shift = shiftArgument(event.modifiers());
   ExpressionTool& tool = commands_.tool();
   if (event.key() == Qt::Key_Delete) tool.Form_KeyUp(ExpressionTool::kDeleteKey, shift);
-  if (event.key() == Qt::Key_Escape) tool.Form_KeyUp(ExpressionTool::kEscKey, shift);
+  if (event.key() == Qt::Key_Escape && inForm) tool.Form_KeyUp(ExpressionTool::kEscKey, shift);
 }
 
 }  // namespace velra

@@ -5,10 +5,10 @@
 #include <QAccessibleWidget>
 #include <vector>
 
+#include "widgets/picture/VideoPictureWidget.h"
 #include "widgets/tool/AdvancedSliderWidget.h"
 #include "widgets/tool/FramelistWidget.h"
 #include "widgets/tool/PaintedParts.h"
-#include "widgets/tool/VideoPictureWidget.h"
 
 namespace velra {
 

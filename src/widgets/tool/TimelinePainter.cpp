@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "widgets/QtText.h"
 #include "widgets/RuleColours.h"
 #include "widgets/Twips.h"
 
@@ -19,6 +20,15 @@ const QColor kGround(248, 248, 246);
 const QColor kGroundDisabled(214, 214, 212);
 const QColor kGroundEdge(120, 120, 120);
 const QColor kOutline(30, 30, 30);
+constexpr int kBesideTitle = 5;   // pixels at both sides
+constexpr int kTitleHeight = 17;  // pixels: what a range has above its line
+
+// The desktop's, or as large as fits.
+QFont titleFont(QFont font) {
+  int size = QFontInfo(font).pixelSize();
+  while (size > 1 && QFontMetrics(font).height() > kTitleHeight) font.setPixelSize(--size);
+  return font;
+}
 
 }  // namespace
 
@@ -34,6 +44,7 @@ void TimelinePainter::paint(const AdvancedSlider& advsld) {
   painter_.save();
   painter_.setClipRect(0, 0, widget_.width(), kMarkRowHeight);
   for (const AdvancedSlider::Mark& mark : advsld.marks()) paintMark(mark);
+  paintTitles(advsld.marks());
   if (advsld.blinkLine().visible) paintBlinkLine(advsld.blinkLine());
   painter_.restore();
 }
@@ -54,8 +65,9 @@ void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
     QColor inside = colour;
     inside.setAlpha(mark.borderWidth == AdvancedSlider::kSelectedBorder ? 70 : 25);
     painter_.fillRect(body, inside);
-    // The line of the span, as thick as its border, and an end at each side of it.
-    painter_.fillRect(body.left(), body.center().y() - mark.borderWidth / 2, body.width(),
+    // The line of the span, as thick as its border, and an end at each side of it; the title has
+    // the room above.
+    painter_.fillRect(body.left(), body.bottom() + 1 - mark.borderWidth, body.width(),
                       mark.borderWidth, colour);
     painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
     painter_.fillRect(body.right() + 1 - end, body.top(), end, body.height(), colour);
@@ -64,6 +76,30 @@ void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
   painter_.setPen(kOutline);
   painter_.setBrush(Qt::NoBrush);
   painter_.drawRect(body.adjusted(0, 0, -1, -1));
+}
+
+// Ranges may overlap, and titles that do cannot be read: each ends where the next range begins.
+void TimelinePainter::paintTitles(const std::vector<AdvancedSlider::Mark>& marks) {
+  const QFont font = titleFont(widget_.font());
+  const QFontMetrics metrics(font);
+  const int least = metrics.horizontalAdvance(QStringLiteral("MMM"));
+  std::vector<const AdvancedSlider::Mark*> inOrder;
+  for (const AdvancedSlider::Mark& mark : marks) inOrder.push_back(&mark);
+  std::stable_sort(inOrder.begin(), inOrder.end(),
+                   [](const auto* a, const auto* b) { return a->left < b->left; });
+  painter_.setFont(font);
+  painter_.setPen(kOutline);
+  for (std::size_t i = 0; i < inOrder.size(); ++i) {
+    QRect room = markRect(*inOrder[i]);
+    if (i + 1 < inOrder.size()) {
+      room.setRight(std::min(room.right(), markRect(*inOrder[i + 1]).left()));
+    }
+    room.adjust(kBesideTitle, 0, -kBesideTitle, -AdvancedSlider::kSelectedBorder);
+    if (room.width() < least) continue;
+    const QString title =
+        metrics.elidedText(lineText(inOrder[i]->title).simplified(), Qt::ElideRight, room.width());
+    painter_.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
+  }
 }
 
 void TimelinePainter::paintBlinkLine(const BlinkLine& line) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QRect>
+#include <vector>
 
 #include "tool/AdvancedSlider.h"
 
@@ -10,8 +11,9 @@ class QWidget;
 
 namespace velra {
 
-/// Paints the marks of a timeline: a bracket over the span of each range, on a light ground that
-/// stays the same in a dark palette, since the brackets' colours are fixed.
+/// Paints the marks of a timeline: a bracket over the span of each range, with its title where that
+/// fits, on a light ground that stays the same in a dark palette, since the brackets' colours are
+/// fixed.
 class TimelinePainter {
  public:
   static constexpr int kMarkRowHeight = 30;  // pixels, a range's body of 375 twips in it
@@ -26,6 +28,7 @@ class TimelinePainter {
  private:
   void paintGround(const AdvancedSlider& advsld);
   void paintMark(const AdvancedSlider::Mark& mark);
+  void paintTitles(const std::vector<AdvancedSlider::Mark>& marks);
   void paintBlinkLine(const BlinkLine& line);
 
   QPainter& painter_;

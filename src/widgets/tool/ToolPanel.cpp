@@ -15,10 +15,11 @@
 #include "tool/ExpressionTool.h"
 #include "widgets/QtText.h"
 #include "widgets/Texts.h"
+#include "widgets/picture/MoviePictures.h"
+#include "widgets/picture/VideoPictureWidget.h"
 #include "widgets/tool/AdvancedSliderWidget.h"
 #include "widgets/tool/StripView.h"
 #include "widgets/tool/ToolButtons.h"
-#include "widgets/tool/VideoPictureWidget.h"
 
 namespace velra {
 
@@ -29,8 +30,8 @@ constexpr int kLongParagraph = 2000;  // characters: more than two minutes of sp
 }  // namespace
 
 ToolPanel::ToolPanel(const ApplicationModule& app, ExpressionTool& tool, QWidget* parent)
-    : QWidget(parent), tool_(tool) {
-  controls_.picVideoWindow = new VideoPictureWidget(this);
+    : QWidget(parent), tool_(tool), pictures_(new MoviePictures(this)) {
+  controls_.picVideoWindow = new VideoPictureWidget(*pictures_, this);
   controls_.advsld = new AdvancedSliderWidget(tool.advsld, this);
   controls_.stripView = new StripView(tool.Framelist1, this);
   setObjectName(QStringLiteral("ToolPanel"));

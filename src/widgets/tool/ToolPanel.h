@@ -9,6 +9,7 @@ namespace velra {
 
 class ApplicationModule;
 class ExpressionTool;
+class MoviePictures;
 
 /// The first tab of an expression's form: player, transcript, segment controls, timeline and strip.
 /// It stands on the form's viewport. It forwards and shows; the tool decides.
@@ -24,6 +25,7 @@ class ToolPanel : public QWidget {
   void swapTimeCodeColours(bool swapped);
   void showTranscript(const QString& text);
   void appendTranscript(const QString& text);
+  MoviePictures& pictures() { return *pictures_; }
   VideoPictureWidget& picture() { return *controls_.picVideoWindow; }
 
   /// The control that has the focus when the form opens.
@@ -44,6 +46,7 @@ class ToolPanel : public QWidget {
                           Command command, QWidget* parent);
 
   ExpressionTool& tool_;
+  MoviePictures* pictures_;
   ToolControls controls_;
 };
 

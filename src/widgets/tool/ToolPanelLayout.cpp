@@ -8,9 +8,9 @@
 
 #include "forms/FormLayout.h"
 #include "widgets/Twips.h"
+#include "widgets/picture/VideoPictureWidget.h"
 #include "widgets/tool/AdvancedSliderWidget.h"
 #include "widgets/tool/StripView.h"
-#include "widgets/tool/VideoPictureWidget.h"
 
 namespace velra {
 

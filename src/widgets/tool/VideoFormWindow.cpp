@@ -14,9 +14,11 @@
 #include "widgets/Twips.h"
 #include "widgets/forms/GeneratedFormFace.h"
 #include "widgets/keys/ToolKeys.h"
+#include "widgets/picture/LargePicture.h"
+#include "widgets/picture/MoviePictures.h"
+#include "widgets/picture/VideoPictureWidget.h"
 #include "widgets/tool/RangeDialogWindow.h"
 #include "widgets/tool/ToolPanel.h"
-#include "widgets/tool/VideoPictureWidget.h"
 
 namespace velra {
 
@@ -58,7 +60,7 @@ void VideoFormWindow::build(LoadedVideoForm& form) {
           [this] { form_->CancelButt_Click(); });
   connect(generated_, &GeneratedFormFace::tabClicked, this, [this](int tab) { showTab(tab); });
   generated_->hideAllBoxes();
-  keys_ = std::make_unique<ToolKeys>(*this, *panel_, form.tool(), app_);
+  makeLargePicture();
   chooseSize();
   panel_->focusFirst();
 }
@@ -72,10 +74,20 @@ void VideoFormWindow::makePanelView() {
   panelView_->setWidget(panel_);
 }
 
+void VideoFormWindow::makeLargePicture() {
+  largePicture_ = std::make_unique<LargePicture>(panel_->pictures(), this);
+  largePicture_->setWindowTitle(windowTitle());
+  keys_ = std::make_unique<ToolKeys>(ToolKeys::Windows{*this, *panel_, *largePicture_},
+                                     form_->tool(), app_);
+  connect(&panel_->picture(), &VideoPictureWidget::doubleClicked, largePicture_.get(),
+          &LargePicture::present);
+}
+
 void VideoFormWindow::unbuild() {
   Timer1_.stop();
   BlinkerTimer_.stop();
   keys_.reset();
+  largePicture_.reset();
   panel_ = nullptr;
   delete std::exchange(panelView_, nullptr);
   delete std::exchange(generated_, nullptr);
@@ -134,11 +146,11 @@ void VideoFormWindow::reject() {
 }
 
 void VideoFormWindow::movieOpens(MediaGraph& movie) {
-  panel_->picture().showMovie(&movie);
+  panel_->pictures().showMovie(&movie);
 }
 
 void VideoFormWindow::movieCloses() {
-  panel_->picture().showMovie(nullptr);
+  panel_->pictures().showMovie(nullptr);
 }
 
 void VideoFormWindow::showTimeCode(const std::string& text) {

@@ -15,6 +15,7 @@ namespace velra {
 
 class ApplicationModule;
 class GeneratedFormFace;
+class LargePicture;
 class ToolKeys;
 class ToolPanel;
 
@@ -57,6 +58,7 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
  private:
   void makeTimers();
   void makePanelView();
+  void makeLargePicture();
   void chooseSize();
   void placeParts();
   QSize panelSize() const;
@@ -68,6 +70,7 @@ class VideoFormWindow : public QDialog, public VideoFormFace {
   GeneratedFormFace* generated_ = nullptr;
   ToolPanel* panel_ = nullptr;
   QScrollArea* panelView_ = nullptr;  // scrolls the panel if the screen is too small for it
+  std::unique_ptr<LargePicture> largePicture_;
   std::unique_ptr<ToolKeys> keys_;
   QTimer Timer1_;
   QTimer BlinkerTimer_;

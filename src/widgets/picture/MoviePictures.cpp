@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/tool/VideoPictureWidget.h"
+#include "widgets/picture/MoviePictures.h"
 
 #include <QPainter>
+#include <QRect>
 
 #include "widgets/Texts.h"
 
@@ -16,31 +17,37 @@ QImage imageOf(const PictureFrame& frame) {
 
 }  // namespace
 
-VideoPictureWidget::VideoPictureWidget(QWidget* parent) : QWidget(parent) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
-  setAccessibleName(Texts::tr("Movie picture"));
-}
-
-void VideoPictureWidget::showMovie(MediaGraph* movie) {
+void MoviePictures::showMovie(MediaGraph* movie) {
   if (movie_) movie_->setNotify({});
   movie_ = movie;
   failed_ = false;
   if (movie_) movie_->setNotify([this](MediaGraph::Notice notice) { noticed(notice); });
   tellSize();
-  update();
+  Q_EMIT changed();
 }
 
-void VideoPictureWidget::tellSize() {
-  const QSize pixels = size() * devicePixelRatio();
-  if (movie_) movie_->setShownSize(pixels.width(), pixels.height());
+QSize MoviePictures::size() const {
+  return movie_ ? QSize(movie_->videoWidth(), movie_->videoHeight()) : QSize();
 }
 
-void VideoPictureWidget::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
+void MoviePictures::showIn(const QWidget* view, const QSize& pixels) {
+  if (pixels.isEmpty()) {
+    views_.erase(view);
+  } else {
+    views_[view] = pixels;
+  }
   tellSize();
 }
 
-void VideoPictureWidget::noticed(MediaGraph::Notice notice) {
+void MoviePictures::tellSize() {
+  QSize largest(0, 0);
+  for (const auto& [view, size] : views_) {
+    if (size.width() > largest.width()) largest = size;
+  }
+  if (movie_) movie_->setShownSize(largest.width(), largest.height());
+}
+
+void MoviePictures::noticed(MediaGraph::Notice notice) {
   failed_ = notice == MediaGraph::Notice::Failed;
   // One repaint takes all pictures that have come until it runs.
   if (updatePending_.exchange(true)) return;
@@ -48,23 +55,22 @@ void VideoPictureWidget::noticed(MediaGraph::Notice notice) {
       this,
       [this] {
         updatePending_ = false;
-        update();
+        Q_EMIT changed();
       },
       Qt::QueuedConnection);
 }
 
-void VideoPictureWidget::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
+void MoviePictures::paint(QPainter& painter, const QRect& place) const {
   const auto frame = movie_ ? movie_->picture() : nullptr;
   if (failed_ || !frame || frame->width <= 0 || frame->height <= 0) {
-    painter.fillRect(rect(), Qt::black);
+    painter.fillRect(place, Qt::black);
     painter.setPen(Qt::white);
     const QString failure = Texts::tr("The movie cannot be read any more.");
-    if (failed_) painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, failure);
+    if (failed_) painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, failure);
     return;
   }
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(rect(), imageOf(*frame));
+  painter.drawImage(place, imageOf(*frame));
 }
 
 }  // namespace velra
