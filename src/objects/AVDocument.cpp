@@ -14,7 +14,8 @@
 #include "objects/Storage.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
-#include "protocol/MainWindow.h"
+#include "platform/files/Files.h"
+#include "protocol/LongWork.h"
 #include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
 #include "store/DataFolder.h"
@@ -69,6 +70,8 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   app().gAVDoc = sharedOf(*this);
   const FolderScans::Opening opening(io->scans());
   std::string told = io->strFinishCutOffSaves(guid);
+  // Each file is read, and an object is made of it.
+  const LongWork work(app().gMainForm, 2 * colListFiles(dataFolderOf(guid) + "*.xml").size());
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {

@@ -81,6 +81,7 @@ std::string ObjectBase::loadFields(const std::string& guid) {
     io_->guard().noteContent(strAbsolutePath(guid), loaded->print);
     return {};
   }
+  if (app_.gMainForm) app_.gMainForm->workSteps();
   auto fields = std::make_unique<SEColl>(app_, document().shared());
   std::string message = fields->strLoad(domDoc_, guid, domSchema_, *io_, rules_.className);
   if (message.empty()) secol_ = std::move(fields);
@@ -97,6 +98,7 @@ std::string ObjectBase::strLoadXML(const std::string& guid, const std::shared_pt
     bindForm(form);
     registerSelf();
     afterLoad();
+    if (app_.gMainForm) app_.gMainForm->workSteps();
   } catch (const RunTimeError& error) {
     throw error.inFile(guid);
   }

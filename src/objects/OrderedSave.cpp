@@ -76,6 +76,7 @@ bool saveOne(ApplicationModule& app, RegisteredObject& object, int counter) {
   if (app.gMainForm) {
     app.gMainForm->setStrStatusBarText(app.LoadResString(Message::SavingObject) + " " +
                                        std::to_string(counter) + " (" + object.strTitle() + ")");
+    app.gMainForm->workSteps();
   }
   return object.bSave();
 }

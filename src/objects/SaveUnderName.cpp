@@ -13,6 +13,7 @@
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
+#include "protocol/LongWork.h"
 #include "protocol/VideoExpression.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
@@ -34,6 +35,8 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
     app_.ui.messageBox(app_.LoadResString(Message::CopyWithoutSchema));
     return false;
   }
+  // Each object is renamed, and then all but the document are saved in turn.
+  const LongWork work(app_.gMainForm, 2 * objects_.described().size() - 1);
   SavePoint before(objects_.all());
   const Outcome outcome = saveAsFrom(before, strAVDocPathName);
   if (outcome == Outcome::Done) return true;
@@ -96,6 +99,7 @@ bool SaveUnderName::bRename(SavePoint& before, const std::string& strAVDocPathNa
   ReferenceIndex& references = objects_.references();
   ReferenceIndex::Batch batch(references);
   for (const ObjectRef& object : objects_.described()) {
+    if (app_.gMainForm) app_.gMainForm->workSteps();
     if (object.get() == &document_) continue;
     const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);
     before.named(newGUID);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "protocol/ObjectForm.h"
@@ -28,6 +29,12 @@ class MainWindow : public FormOwner {
   /// Makes the tree icon of one video from its small picture.
   virtual void AddSmallKeyFrame(const VideoExpression& video) = 0;
   virtual void UpdateSmallKeyFrames() = 0;
+
+  // Long work, as LongWork tells it. A window may show nothing of it.
+  virtual void workBegins(std::size_t /*parts*/) {}
+  /// One part more is done; one beyond their number counts nothing.
+  virtual void workSteps() {}
+  virtual void workEnds() {}
 };
 
 }  // namespace velra

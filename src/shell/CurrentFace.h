@@ -24,6 +24,9 @@ class CurrentFace : public MainWindowFace {
   void iconsChanged() override {
     if (face_) face_->iconsChanged();
   }
+  void showProgress(std::size_t done, std::size_t total) override {
+    if (face_) face_->showProgress(done, total);
+  }
 
  private:
   MainWindowFace* face_ = nullptr;

@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/EditCommands.h"
 
-#include <algorithm>
-#include <optional>
-
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "objects/LadderObject.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
-#include "platform/movie/MovieProbe.h"
 #include "protocol/OpenDocument.h"
 #include "shell/MainTrees.h"
+#include "shell/MovieFit.h"
 #include "shell/TreeClicks.h"
 #include "store/IOManager.h"
-#include "store/ObjectRegistry.h"
 
 namespace velra {
 
@@ -23,9 +19,6 @@ namespace {
 
 constexpr const char* kMovieFilter =
     "Video Files (*.avi;*.mpeg;*.mpg;*.asf)|*.avi;*.mpeg;*.mpg;*.asf|";
-
-// A movie may be shorter than its Version by this many seconds, and longer by any.
-constexpr double kShorterBy = 1.0;
 
 struct MainExpressionTexts {
   ObjectKind kind;
@@ -36,28 +29,6 @@ constexpr MainExpressionTexts kMainExpressions[] = {
     {ObjectKind::Video, Message::MainVideoPrompt, Message::MainVideoName},
     {ObjectKind::Audio, Message::MainAudioPrompt, Message::MainAudioName},
     {ObjectKind::Transcript, Message::MainTranscriptPrompt, Message::MainTranscriptName}};
-
-// Nothing when the person cancels, who is told so.
-std::optional<double> durationOf(ApplicationModule& app, const std::string& movie) {
-  double duration = 0;
-  const bool awaited = app.ui.openMovie(
-      [&](const std::stop_token& stop) { duration = dMovieDuration(movie, stop); });
-  if (awaited) return duration;
-  app.ui.messageBox(app.messages.inLanguage(kOpeningCancelled), BoxKind::Exclamation);
-  return std::nullopt;
-}
-
-std::shared_ptr<Version> versionHolding(ObjectRegistry& objects, const DescribedObject& media) {
-  for (const auto& [number, object] : objects.sequence()) {
-    auto version = as<Version>(object);
-    if (!version) continue;
-    const ObjectList& children = version->colChilds();
-    const bool holds = std::any_of(children.begin(), children.end(),
-                                   [&](const ObjectRef& child) { return child.get() == &media; });
-    if (holds) return version;
-  }
-  return nullptr;
-}
 
 }  // namespace
 
@@ -108,33 +79,22 @@ std::string EditCommands::askMovie() {
   return bFileExists(*chosen) ? *chosen : std::string();
 }
 
-bool EditCommands::movieFits(const DescribedObject& media, const std::string& movie) {
-  const auto duration = durationOf(app_, movie);
-  if (!duration) return false;
-  if (*duration == 0) {
-    app_.ui.messageBox(app_.LoadResString(Message::FormatNotValid));
-    return false;
-  }
-  const auto version = versionHolding(app_.gAVDoc->collObjects(), media);
-  if (!version) return true;
-  if (version->dDuration() == 0) {
-    version->setDDuration(*duration);
-  } else if (version->dDuration() - *duration > kShorterBy) {
-    app_.ui.messageBox(app_.LoadResString(Message::DurationDiffers));
-    return false;
-  }
-  return true;
-}
-
 void EditCommands::mnuAddChild() {
   const TreeNode* node = mainTree_.selected();
   if (!mainTree_.root() || !node) return;
   const ObjectRef object = node->Tag;
-  const std::string answer = askNewChild(*object);
+  append(object, askNewChild(*object));
+}
+
+void EditCommands::appendStorage(const ObjectRef& media, const std::string& movie) {
+  if (app_.gAVDoc->io()->bFileSystem() && bFileExists(movie)) append(media, movie);
+}
+
+void EditCommands::append(const ObjectRef& object, const std::string& answer) {
   if (answer.empty()) return;
   const auto version = versionHolding(app_.gAVDoc->collObjects(), *object);
   const bool hadDuration = !version || version->dDuration() != 0;
-  if (object->kind() == ObjectKind::Media && !movieFits(*object, answer)) return;
+  if (object->kind() == ObjectKind::Media && !movieFits(app_, *object, answer)) return;
   const auto parent = as<LadderObject>(object);
   if (!parent) return;
   const std::size_t before = parent->colChilds().size();

@@ -22,6 +22,8 @@ class EditCommands {
   void mnuEditAttributes();
   void mnuAddChild();
   void AddMainExpr(ObjectKind kind);
+  /// Appends a movie to a Media as its next Storage, by the rules of the command.
+  void appendStorage(const ObjectRef& media, const std::string& movie);
   /// The release of the Delete key on a tree.
   void DeleteNode(TreeId tree);
 
@@ -30,7 +32,7 @@ class EditCommands {
   ObjectRef selectedObject() const;
   std::string askNewChild(const DescribedObject& parent);
   std::string askMovie();
-  bool movieFits(const DescribedObject& media, const std::string& movie);
+  void append(const ObjectRef& object, const std::string& answer);
   void showTreesWithout(TreeId tree, bool wasVersion);
 
   ApplicationModule& app_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "shell/MenuState.h"
@@ -19,6 +20,8 @@ class MainWindowFace {
   virtual void popUpEditMenu() = 0;
   /// The tree icons changed: the trees paint themselves anew.
   virtual void iconsChanged() = 0;
+  /// So many parts of long work are done; a total of 0 ends it. No event of the window runs.
+  virtual void showProgress(std::size_t done, std::size_t total) = 0;
 };
 
 }  // namespace velra

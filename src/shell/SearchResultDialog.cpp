@@ -4,6 +4,7 @@
 #include "app/ApplicationModule.h"
 #include "base/RunTimeError.h"
 #include "platform/UserInterface.h"
+#include "protocol/LongWork.h"
 #include "protocol/OpenDocument.h"
 #include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
@@ -40,7 +41,10 @@ void SearchResultDialog::fillRows() {
   if (!app_.gAVDoc) raise(kNoObject);
   const auto busy = app_.ui.showBusy();
   rows_.clear();
-  for (const ObjectRef& object : app_.gAVDoc->collObjects().described()) {
+  const ObjectList objects = app_.gAVDoc->collObjects().described();
+  const LongWork work(app_.gMainForm, objects.size());
+  for (const ObjectRef& object : objects) {
+    if (app_.gMainForm) app_.gMainForm->workSteps();
     const std::int16_t founds = object->secol().iSearchText(strSearch_, bCase_);
     if (founds <= 0) continue;
     rows_.push_back(

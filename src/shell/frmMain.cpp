@@ -37,6 +37,24 @@ void frmMain::setStrStatusBarText(const std::string& text) {
   face_.showStatusText(text);
 }
 
+void frmMain::workBegins(std::size_t parts) {
+  workParts_ = parts;
+  workDone_ = 0;
+  face_.showProgress(0, parts);
+}
+
+void frmMain::workSteps() {
+  if (workDone_ < workParts_) face_.showProgress(++workDone_, workParts_);
+}
+
+void frmMain::dropFile(const std::string& path, const ObjectRef& onto) {
+  if (onto && onto->kind() == ObjectKind::Media && app_.gAVDoc) {
+    editing_.appendStorage(onto, path);
+  } else {
+    opening_.OpenFile(path);
+  }
+}
+
 void frmMain::UpdateSmallKeyFrames() {
   trees_.ResetListImageExpression();
   trees_.AddAllSmallKeyFrames();

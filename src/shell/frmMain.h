@@ -52,12 +52,18 @@ class frmMain : public MainWindow {
   void RemoveIcon(const std::string& key) override { trees_.RemoveIcon(key); }
   void AddSmallKeyFrame(const VideoExpression& video) override { trees_.AddSmallKeyFrame(video); }
   void UpdateSmallKeyFrames() override;
+  void workBegins(std::size_t parts) override;
+  void workSteps() override;
+  void workEnds() override { workBegins(0); }
 
   // The mouse and the keyboard on the trees.
   void treeMouseDown(TreeId tree, MouseButton button) { clicks_.treeMouseDown(tree, button); }
   void nodeClicked(TreeId tree, TreeNode& node) { clicks_.nodeClicked(tree, node); }
   void treeEntered(TreeId tree) { clicks_.treeEntered(tree); }
   void DeleteNode(TreeId tree) { editing_.DeleteNode(tree); }
+
+  /// A file was dropped: on a Media it becomes a Storage, elsewhere (null) it is opened.
+  void dropFile(const std::string& path, const ObjectRef& onto);
 
   // The File menu.
   void mnuFile_Click() { menus_.mnuFile_Click(); }
@@ -92,6 +98,8 @@ class frmMain : public MainWindow {
  private:
   ApplicationModule& app_;
   std::string statusText_;
+  std::size_t workParts_ = 0;
+  std::size_t workDone_ = 0;
   CurrentFace face_;
   MainTrees trees_;
   MainMenus menus_;

@@ -8,6 +8,7 @@
 #include "base/Paths.h"
 #include "platform/xml/XmlDocument.h"
 #include "protocol/ClassRules.h"
+#include "protocol/MainWindow.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SchemaFile.h"
 
@@ -94,6 +95,7 @@ void FolderScan::read(ApplicationModule& app, OpenDocument& document, ScannedFil
   const std::string path = folder_ + file.name;
   const FileStamp stamp = fileStamp(path);
   if (file.stamp == stamp && stamp.exists) return;
+  if (app.gMainForm) app.gMainForm->workSteps();
   ScannedFile fresh;
   fresh.name = std::move(file.name);
   fresh.stamp = stamp;

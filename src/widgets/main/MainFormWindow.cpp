@@ -15,6 +15,7 @@
 #include "widgets/Twips.h"
 #include "widgets/WindowPlace.h"
 #include "widgets/dialogs/AboutDialog.h"
+#include "widgets/drops/FileDrops.h"
 #include "widgets/main/Icons.h"
 #include "widgets/main/MainMenuBuilder.h"
 #include "widgets/main/MainPanes.h"
@@ -52,6 +53,12 @@ MainFormWindow::MainFormWindow(ApplicationModule& app, frmMain& rules)
   setStatusBar(sbStatusBar_);
   connectTree(panes_->mainTree(), TreeId::tvwMainTree);
   connectTree(panes_->expressionTree(), TreeId::tvwExpression);
+  new FileDrops(*this, [this](const QString& path, const QPoint& place) {
+    const TreeNode* node = panes_->mainTree().nodeAt(place);
+    return [this, path = pathFromQString(path), onto = node ? node->Tag : nullptr] {
+      rules_.dropFile(path, onto);
+    };
+  });
   setMinimumWidth(pixelsFromTwips(kLeastWindowWidth));
   restorePlace(*this, app_.userSettings);
   panes_->setHeadings(text(Message::BibliographicData), text(Message::MultimediaData));
@@ -134,6 +141,10 @@ void MainFormWindow::iconsChanged() {
   icons_.forget();
   panes_->mainTree().viewport()->update();
   panes_->expressionTree().viewport()->update();
+}
+
+void MainFormWindow::showProgress(std::size_t done, std::size_t total) {
+  sbStatusBar_->showProgress(done, total);
 }
 
 void MainFormWindow::closeWindow() {

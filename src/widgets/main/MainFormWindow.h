@@ -50,6 +50,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   void showMenuState(const MenuState& state) override;
   void popUpEditMenu() override;
   void iconsChanged() override;
+  void showProgress(std::size_t done, std::size_t total) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

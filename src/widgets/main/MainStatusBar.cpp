@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include "widgets/Texts.h"
+#include "widgets/progress/WorkBar.h"
 
 namespace velra {
 
@@ -19,10 +20,12 @@ constexpr int kClockMilliseconds = 1000;
 MainStatusBar::MainStatusBar(QWidget* parent)
     : QStatusBar(parent),
       text_(addPanel("sbStatusBar_1", Texts::tr("Status"), 1)),
+      bar_(new WorkBar(this)),
       date_(addPanel("sbStatusBar_2", Texts::tr("Date"), 0)),
       time_(addPanel("sbStatusBar_3", Texts::tr("Time"), 0)) {
   setObjectName(QStringLiteral("sbStatusBar"));
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // never widens the window
+  insertPermanentWidget(1, bar_);
   later_.setSingleShot(true);
   connect(&later_, &QTimer::timeout, this, &MainStatusBar::drawText);
   connect(&clock_, &QTimer::timeout, this, &MainStatusBar::updateClock);
@@ -39,6 +42,10 @@ QLabel* MainStatusBar::addPanel(const char* name, const QString& meaning, int st
   label->setMargin(2);
   addPermanentWidget(label, stretch);
   return label;
+}
+
+void MainStatusBar::showProgress(std::size_t done, std::size_t total) {
+  bar_->follow(done, total);
 }
 
 void MainStatusBar::showText(const QString& text) {

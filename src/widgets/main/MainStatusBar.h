@@ -9,6 +9,8 @@ class QLabel;
 
 namespace velra {
 
+class WorkBar;
+
 /// The three panels: text, date, time. The text is seen at once even while work keeps the window
 /// from its events; of texts that follow one another faster than anybody reads, only some are
 /// drawn, and the last one always.
@@ -19,6 +21,8 @@ class MainStatusBar : public QStatusBar {
   explicit MainStatusBar(QWidget* parent);
 
   void showText(const QString& text);
+  /// Beside the text while work lasts: so many parts are done; a total of 0 ends it.
+  void showProgress(std::size_t done, std::size_t total);
 
  private:
   QLabel* addPanel(const char* name, const QString& meaning, int stretch);
@@ -26,6 +30,7 @@ class MainStatusBar : public QStatusBar {
   void updateClock();
 
   QLabel* text_;
+  WorkBar* bar_;
   QLabel* date_;
   QLabel* time_;
   QString pending_;

@@ -89,6 +89,12 @@ void NodeTreeView::click(const QModelIndex& index, MouseButton button) {
   if (TreeNode* node = model_.node(index)) Q_EMIT nodeClicked(*node);
 }
 
+TreeNode* NodeTreeView::nodeAt(const QPoint& globalPosition) const {
+  const QPoint position = viewport()->mapFromGlobal(globalPosition);
+  const bool inside = viewport()->rect().contains(position);
+  return inside ? model_.node(indexAt(position)) : nullptr;
+}
+
 // The arrow that opens and closes a node belongs to the tree itself.
 bool NodeTreeView::isOnNode(const QPoint& position) const {
   const QModelIndex index = indexAt(position);

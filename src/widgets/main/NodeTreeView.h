@@ -18,6 +18,9 @@ class NodeTreeView : public QTreeView {
   /// The model is not owned.
   NodeTreeView(TreeModel& model, QWidget* parent);
 
+  /// The node at a place of the screen; null for none.
+  TreeNode* nodeAt(const QPoint& globalPosition) const;
+
   /// Where a menu for the last click or the Menu key opens, in global coordinates.
   QPoint menuPosition() const { return menuPosition_; }
 

@@ -5,6 +5,7 @@
 #include <QAccessibleWidget>
 #include <vector>
 
+#include "widgets/picture/LargePicture.h"
 #include "widgets/picture/VideoPictureWidget.h"
 #include "widgets/tool/AdvancedSliderWidget.h"
 #include "widgets/tool/FramelistWidget.h"
@@ -150,7 +151,8 @@ QAccessibleInterface* accessFor(const QString&, QObject* object) {
   if (auto* strip = qobject_cast<FramelistWidget*>(object)) {
     return new PartsAccess(strip, *strip, QAccessible::List);
   }
-  if (auto* movie = qobject_cast<VideoPictureWidget*>(object)) {
+  if (qobject_cast<VideoPictureWidget*>(object) || qobject_cast<LargePicture*>(object)) {
+    auto* movie = static_cast<QWidget*>(object);
     return new QAccessibleWidget(movie, QAccessible::Graphic, movie->accessibleName());
   }
   return nullptr;

@@ -139,5 +139,9 @@
         <source>The movie cannot be read any more.</source>
         <translation>Il filmato non si può più leggere.</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/progress/WorkBar.h"
+
+#include <QLayout>
+
+#include "widgets/Texts.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kUnnoticedWork = 500;  // milliseconds
+constexpr int kRepaintMilliseconds = 200;
+constexpr int kBarWidth = 100;  // pixels
+constexpr int kFull = 1000;
+
+}  // namespace
+
+WorkBar::WorkBar(QWidget* parent) : QProgressBar(parent) {
+  setObjectName(QStringLiteral("prgWork"));
+  setAccessibleName(Texts::tr("Progress"));
+  setRange(0, kFull);
+  setFixedWidth(kBarWidth);
+  hide();
+  hiding_.setSingleShot(true);
+  connect(&hiding_, &QTimer::timeout, this, [this] {
+    sinceBegun_.invalidate();
+    hide();
+  });
+}
+
+void WorkBar::follow(std::size_t done, std::size_t total) {
+  if (total == 0) return hiding_.start(0);
+  hiding_.stop();
+  if (!sinceBegun_.isValid()) {
+    sinceBegun_.start();
+    sinceDrawn_.start();
+  }
+  if (sinceBegun_.elapsed() < kUnnoticedWork || sinceDrawn_.elapsed() < kRepaintMilliseconds) {
+    return;
+  }
+  setValue(static_cast<int>(kFull * done / total));
+  if (isHidden()) {
+    show();
+    parentWidget()->layout()->activate();  // its place, which comes by an event otherwise
+  }
+  window()->repaint();
+  sinceDrawn_.start();
+}
+
+}  // namespace velra

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QTimer>
+
+namespace velra {
+
+/// How far work has come that lasts longer than half a second. Works that follow one another
+/// without a pause are one wait. Meanwhile no event of the window runs, so that no command can; the
+/// bar has the whole window painted a few times in a second.
+class WorkBar : public QProgressBar {
+  Q_OBJECT
+
+ public:
+  explicit WorkBar(QWidget* parent);
+
+  /// So many parts of the work are done; a total of 0 ends it.
+  void follow(std::size_t done, std::size_t total);
+
+ private:
+  QTimer hiding_;
+  QElapsedTimer sinceBegun_;
+  QElapsedTimer sinceDrawn_;
+};
+
+}  // namespace velra
