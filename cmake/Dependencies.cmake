@@ -5,6 +5,7 @@ find_package(LibXml2 REQUIRED)
 find_package(ICU REQUIRED COMPONENTS uc i18n)
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg LinguistTools)
 find_package(SQLite3 REQUIRED)
+find_package(PostgreSQL REQUIRED)
 find_package(nlohmann_json REQUIRED)
 find_package(Threads REQUIRED)
 

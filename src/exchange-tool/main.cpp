@@ -9,7 +9,10 @@
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "catalogue/Catalogue.h"
+#include "catalogue/CatalogueLoading.h"
 #include "exchange/BagCheck.h"
+#include "exchange/ContentText.h"
 #include "exchange/DocumentReading.h"
 #include "exchange/ExchangeFailure.h"
 #include "exchange/Export.h"
@@ -27,6 +30,8 @@ using namespace velra;
 constexpr const char* kUsage = R"(Usage:
   velra-exchange export FORMAT DOCUMENT [-o FILE] [OPTION ...]
   velra-exchange import FORMAT FILE DOCUMENT [OPTION ...]
+  velra-exchange catalogue DATABASE DOCUMENT ...
+  velra-exchange find DATABASE WORD ...
   velra-exchange verify BAG                whether the files of a bag are what they were
   velra-exchange --list                    the formats, and which options each takes
   velra-exchange --help | --version
@@ -53,6 +58,10 @@ Options of an import:
   --rate R           pictures per second
   --record           the record side of a cut list
   --start LABEL      what a cut list has for the movie's first picture, as 01:00:00:00
+
+A catalogue is a SQLite file or an address as postgresql://user@host/database. It takes the documents
+that have changed since last time, and forgets those whose files are gone. A line of what is found:
+document, class, title, time, field and text, tabs between them; a word may end in "*".
 
 The schema and the vocabulary are those of velra's settings (VELRA_MACHINE_SETTINGS names another
 file of them). An export only reads the document. A save that was cut off has to be finished first,
@@ -167,6 +176,36 @@ int importCommand(const std::vector<std::string>& words) {
   return importFile(*format, words, options);
 }
 
+int catalogue(const std::vector<std::string>& words) {
+  const auto database = openCatalogue(words[1]);
+  Exchange exchange;
+  const CatalogueLoad load =
+      loadIntoCatalogue(exchange.app, *database, {words.begin() + 2, words.end()}, say);
+  say(std::to_string(load.loaded) + " documents loaded, " + std::to_string(load.unchanged) +
+      " unchanged, " + std::to_string(load.gone) + " gone, " + std::to_string(load.failed) +
+      " failed.");
+  if (load.failed == words.size() - 2) return kFailed;
+  return load.failed > 0 || exchange.ui.hasTold() ? kIncomplete : 0;
+}
+
+std::string lineOf(const CatalogueHit& hit) {
+  const std::string time = hit.start ? timeCodeOf(*hit.start, hit.rate) : std::string();
+  std::string line = hit.document + '\t' + hit.className + '\t' + oneLine(hit.title) + '\t' + time;
+  return line + '\t' + hit.field + ": " + oneLine(hit.text) + '\n';
+}
+
+int find(const std::vector<std::string>& words) {
+  constexpr int kMostHits = 1000;
+  std::string sought;
+  for (std::size_t i = 2; i < words.size(); ++i) sought += words[i] + ' ';
+  const auto hits = openForSearch(words[1])->find(sought, kMostHits);
+  std::string lines;
+  for (const CatalogueHit& hit : hits) lines += lineOf(hit);
+  if (!write(lines)) return kFailed;
+  say(std::to_string(hits.size()) + " found.");
+  return 0;
+}
+
 int run(const std::vector<std::string>& words) {
   const std::string command = words.empty() ? "" : words[0];
   const bool alone = words.size() == 1;
@@ -175,6 +214,8 @@ int run(const std::vector<std::string>& words) {
   if (command == "--version" && alone) return write("velra-exchange " VELRA_VERSION "\n") ? 0 : 1;
   if (command == "export" && words.size() >= 3) return exportCommand(words);
   if (command == "import" && words.size() >= 4) return importCommand(words);
+  if (command == "catalogue" && words.size() >= 3) return catalogue(words);
+  if (command == "find" && words.size() >= 3) return find(words);
   if (command == "verify" && words.size() == 2) return verify(words[1]);
   std::fputs(kUsage, stderr);
   return kUsageError;

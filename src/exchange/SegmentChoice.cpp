@@ -2,6 +2,7 @@
 #include "exchange/SegmentChoice.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "exchange/ContentText.h"
 #include "exchange/ExchangeFailure.h"
@@ -68,6 +69,10 @@ std::vector<ContentWord> spokenWords(const Content& content, const ExportOptions
     const ContentField* list = below->field("TranscriptWordList");
     if (below->kind == ObjectKind::Transcript && list) words = list->words;
   }
+  return spoken(std::move(words));
+}
+
+std::vector<ContentWord> spoken(std::vector<ContentWord> words) {
   for (ContentWord& word : words) word.text = oneLine(word.text);
   std::erase_if(words, [](const ContentWord& word) { return word.text.empty(); });
   std::stable_sort(words.begin(), words.end(),

@@ -21,8 +21,10 @@ ContentList allSegments(const Content& content, const ExportOptions& options);
 /// their starts; those without a time are left out.
 ContentList segmentsOfLevel(const Content& content, const ExportOptions& options);
 
-/// The words of the Version's main Transcript that say anything, by their starts, blanks and line
-/// ends in them joined.
+/// The words that say anything, by their starts, blanks and line ends in them joined.
+std::vector<ContentWord> spoken(std::vector<ContentWord> words);
+
+/// Those of the Version's main Transcript.
 std::vector<ContentWord> spokenWords(const Content& content, const ExportOptions& options);
 
 }  // namespace velra

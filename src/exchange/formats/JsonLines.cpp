@@ -7,39 +7,13 @@
 #include "base/Text.h"
 #include "exchange/ContentText.h"
 #include "exchange/ExportFormats.h"
+#include "exchange/FieldTypeNames.h"
 
 namespace velra {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-const char* typeName(tyType type) {
-  switch (type) {
-    case tyType::Integer:
-      return "integer";
-    case tyType::Date:
-      return "date";
-    case tyType::Bool:
-      return "boolean";
-    case tyType::SetOfStrings:
-      return "strings";
-    case tyType::Real:
-      return "real";
-    case tyType::CloseList:
-      return "list";
-    case tyType::ChunkTime:
-      return "span";
-    case tyType::WordList:
-      return "words";
-    case tyType::SetOfGUIDs:
-      return "references";
-    case tyType::Unknow:
-      return "unknown";
-    default:
-      return "string";
-  }
-}
 
 double jsonSeconds(double seconds) {
   return static_cast<double>(milliseconds(seconds)) / 1000;
@@ -93,7 +67,7 @@ Json jsonValue(const ContentField& field) {
 }
 
 Json jsonField(const ContentField& field) {
-  Json entry{{"type", typeName(field.type)}, {"value", jsonValue(field)}};
+  Json entry{{"type", fieldTypeName(field.type)}, {"value", jsonValue(field)}};
   for (const Translations& names : field.translations) {
     Json languages;  // null for what is no name of the vocabulary
     for (std::size_t i = 0; i < names.size() && !names[0].empty(); ++i) {

@@ -85,6 +85,16 @@ Statement& Statement::number(int place, std::int64_t number) {
   return *this;
 }
 
+Statement& Statement::real(int place, double number) {
+  check(sqlite3_bind_double(statement_.get(), place, number));
+  return *this;
+}
+
+Statement& Statement::null(int place) {
+  check(sqlite3_bind_null(statement_.get(), place));
+  return *this;
+}
+
 bool Statement::next() {
   const int result = sqlite3_step(statement_.get());
   if (result == SQLITE_ROW) return true;
@@ -107,6 +117,10 @@ std::string Statement::text(int column) const {
 
 std::int64_t Statement::number(int column) const {
   return sqlite3_column_int64(statement_.get(), column);
+}
+
+double Statement::real(int column) const {
+  return sqlite3_column_double(statement_.get(), column);
 }
 
 bool Statement::isNull(int column) const {

@@ -66,6 +66,9 @@ class Statement {
   Statement& text(int place, std::string_view text);
   Statement& bytes(int place, std::string_view bytes);
   Statement& number(int place, std::int64_t number);
+  Statement& real(int place, double number);
+  /// No value.
+  Statement& null(int place);
 
   /// Goes to the next row; false after the last one, and the statement is ready for other values.
   bool next();
@@ -74,6 +77,7 @@ class Statement {
 
   std::string text(int column) const;
   std::int64_t number(int column) const;
+  double real(int column) const;
   bool isNull(int column) const;
 
  private:

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+
+#include "PostgresServer.h"
+#include "catalogue/Catalogue.h"
+#include "catalogue/CatalogueLoading.h"
+#include "catalogue/PostgresConnection.h"
+#include "exchange/ExchangeFailure.h"
+#include "platform/database/Database.h"
+#include "support/ExchangeSession.h"
+
+namespace velra::test {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// "loaded unchanged gone failed", and what was told.
+std::string load(ExchangeSession& session, Catalogue& catalogue, const Texts& documents) {
+  std::string told;
+  const auto tell = [&told](const std::string& sentence) { told += "; " + sentence; };
+  const CatalogueLoad came = loadIntoCatalogue(session.application.app, catalogue, documents, tell);
+  std::string text;
+  for (const std::size_t count : {came.loaded, came.unchanged, came.gone, came.failed}) {
+    text += (text.empty() ? "" : " ") + std::to_string(count);
+  }
+  return text + told;
+}
+
+Texts found(Catalogue& catalogue, const std::string& words) {
+  Texts lines;
+  for (const CatalogueHit& hit : catalogue.find(words, 100)) {
+    const std::string time = hit.start ? std::to_string(std::lround(*hit.start * 1000)) : "";
+    lines.push_back(hit.className + " " + hit.title + " @" + time + " " + hit.field + ": " +
+                    hit.text);
+  }
+  std::sort(lines.begin(), lines.end());
+  return lines;
+}
+
+// A row of a table as one text that both databases make alike.
+std::string rowsOf(const CatalogueTable& table) {
+  std::string row = "SELECT ";
+  const std::string columns = table.columns;
+  for (std::size_t at = columns.find(", "); at != std::string::npos;) {
+    const std::size_t end = columns.find(", ", at + 2);
+    const std::string name = columns.substr(at + 2, end - at - 2);
+    const bool real = name.ends_with("seconds") || name == "rate";
+
+    row += "coalesce(" +
+           (real ? "cast(cast(round(" + name + " * 1000) AS INTEGER) AS TEXT)"
+                 : "cast(" + name + " AS TEXT)") +
+           ", '-') || '|' || ";
+    at = end;
+  }
+  return row + "'' FROM " + table.name;
+}
+
+Texts sqliteRows(const std::string& path, const std::string& query) {
+  Texts rows;
+  Database database(path);
+  Statement statement = database.prepare(query);
+  while (statement.next()) rows.push_back(statement.text(0));
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+Texts serverRows(const std::string& address, const std::string& query) {
+  Texts rows;
+  for (const auto& row : PostgresConnection(address).run(query))
+    rows.push_back(row[0].value_or(""));
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+void checkADay(ExchangeSession& session, const std::string& database) {
+  const auto catalogue = openCatalogue(database);
+  EXPECT_EQ(load(session, *catalogue, {session.document}), "1 0 0 0");
+  const std::string film = "AVDocument Fish & \"Chips\" <1936>; a = b # c @ ";
+  const struct {
+    const char* words;
+    std::string line;
+  } cases[] = {
+      {"brood", film + "ThematicKeywords: Brood"},
+      {"dagelijks LEVEN", film + "Themes: Maatschappij en dagelijks leven"},
+      {"דגים", film + "AlternativeTitles: דגים וצ׳יפס"},
+      {"unabh*", "Transcript Whole Transcript @8496 Words: "
+                 "Unabhängigkeitserklärungsverhandlungsführerinnen"},
+      {"quay women", "Transcript Whole Transcript @1719 Words: "
+                     "On the quay the women wait with baskets; nobody speaks."},
+      {"rolls", "Video Second, \"the market\" @2520 Keywords: Bread; rolls"},
+      {"הדגים", "Video שוק הדגים @0 Title: שוק הדגים"},
+  };
+  for (const auto& [words, line] : cases) EXPECT_EQ(found(*catalogue, words), Texts{line}) << words;
+
+  const std::string other = session.folder / "b/film.xml";
+  std::filesystem::copy(session.folder / "a", session.folder / "b",
+                        std::filesystem::copy_options::recursive);
+  const Texts both = {session.document, other};
+  EXPECT_EQ(load(session, *catalogue, both), "1 1 0 0");
+  const std::size_t hits = found(*catalogue, "the").size();
+  EXPECT_GT(hits, 0U);
+  EXPECT_EQ(load(session, *openCatalogue(database), both), "0 2 0 0");
+
+  const std::string missing = session.folder / "c.xml";
+  session.folder.write("d.xml", "no XML");
+  EXPECT_EQ(load(session, *catalogue, {missing}).substr(0, 8), "0 0 0 1;");
+  std::filesystem::last_write_time(other, std::filesystem::file_time_type::clock::now());
+  EXPECT_EQ(load(session, *catalogue, both), "1 1 0 0");
+  EXPECT_EQ(found(*catalogue, "the").size(), hits) << "what was changed is not there twice";
+  std::filesystem::remove_all(session.folder / "b");
+  EXPECT_EQ(load(session, *catalogue, both), "0 1 1 0");
+  EXPECT_EQ(found(*catalogue, "the").size() * 2, hits);
+
+  for (const char* odd : {"", "  ", "\"", "' OR", "a:b(", "\\", "*", "<&>", "AND NOT"}) {
+    EXPECT_NO_THROW(catalogue->find(odd, 10)) << odd;
+  }
+}
+
+TEST(Catalogue, LoadsWhatHasChangedAndForgetsWhatIsGone) {
+  ExchangeSession session;
+  checkADay(session, session.folder / "c.db");
+}
+
+TEST(Catalogue, AServerHoldsAndFindsTheSame) {
+  const PostgresServer server;
+  if (!server.installed()) GTEST_SKIP() << "PostgreSQL is not installed";
+  const std::string address = server.address();
+  ASSERT_NE(address, "") << "the server could not be started";
+  ExchangeSession session;
+  checkADay(session, address);
+
+  const std::string file = session.folder / "c.db";
+  const auto local = openCatalogue(file);
+  ASSERT_EQ(load(session, *local, {session.document}), "1 0 0 0");
+  for (const CatalogueTable& table : kCatalogueTableList) {
+    const Texts rows = sqliteRows(file, rowsOf(table));
+    EXPECT_FALSE(rows.empty()) << table.name;
+    EXPECT_EQ(rows, serverRows(address, rowsOf(table))) << table.name;
+  }
+  const auto remote = openCatalogue(address);
+  for (const char* words : {"the", "lantern", "li*", "lig* the"}) {
+    EXPECT_EQ(found(*local, words), found(*remote, words)) << words;
+  }
+}
+
+TEST(Catalogue, RefusesWhatIsNone) {
+  const TemporaryFolder folder;
+  const std::string foreign = folder / "foreign.db";
+  Database(foreign).run("CREATE TABLE theirs(a)");
+  const std::string text = folder.write("text.db", std::string(5000, 'x'));
+  for (const std::string& database : {foreign, text, folder / "no/where.db",
+                                      std::string("postgresql://velra@/x?host=/no/where")}) {
+    EXPECT_THROW(openCatalogue(database), ExchangeFailure) << database;
+  }
+  EXPECT_THROW(openForSearch(folder / "none.db"), ExchangeFailure);
+  EXPECT_FALSE(std::filesystem::exists(folder / "none.db"));
+}
+
+}  // namespace
+}  // namespace velra::test
