@@ -132,6 +132,8 @@ TEST_F(ToolKeys, ThePictureIsShownLargeWithTheSameKeys) {
     QTest::keyClick(&large, Qt::Key_I);
     QTest::keyClick(&large, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(session.movie.position, 10);
+    QTest::keyRelease(&large, Qt::Key_Escape);  // of a press that has closed a box
+    EXPECT_TRUE(large.isVisible());
     QTest::keyClick(&large, Qt::Key_Escape);
     EXPECT_FALSE(large.isVisible());
     QTest::mouseDClick(&small, Qt::LeftButton);

@@ -74,14 +74,19 @@ void LargePicture::hideEvent(QHideEvent* event) {
 }
 
 void LargePicture::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    escPressed_ = true;
+    return;
+  }
   if (event->key() != Qt::Key_F11) return QWidget::keyPressEvent(event);
   if (!event->isAutoRepeat()) setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
-// Only the release: after the press it would go to the tool, where it has another meaning.
+// Only the release: after the press it would go to the tool, where it has another meaning. And only
+// of a press here: the one that has closed a box ends in this window too.
 void LargePicture::keyReleaseEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return QWidget::keyReleaseEvent(event);
-  if (!event->isAutoRepeat()) close();
+  if (!event->isAutoRepeat() && std::exchange(escPressed_, false)) close();
 }
 
 }  // namespace velra

@@ -32,6 +32,7 @@ class LargePicture : public QWidget {
   QRect place() const;
 
   MoviePictures& pictures_;
+  bool escPressed_ = false;
   bool hasSize_ = false;  // from the first showing on, as the person likes it
 };
 
