@@ -43,8 +43,8 @@ MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fr
 
 // The menu does not wait long for a store that is busy: then it stays as it was.
 bool anyUnsavedWork(const ApplicationModule& app, bool otherwise) {
-  constexpr std::chrono::milliseconds kPatience{100};
-  if (!app.rescue || !app.rescue->finish(kPatience)) return otherwise;
+  constexpr std::chrono::milliseconds kMenuPatience{100};
+  if (!app.rescue || !app.rescue->finish(kMenuPatience)) return otherwise;
   bool any = false;
   app.rescue->run([&](RescueStore& store) { any = hasRestorableWork(store); });
   return any;
