@@ -10,7 +10,7 @@ find_package(nlohmann_json REQUIRED)
 find_package(Threads REQUIRED)
 
 pkg_check_modules(LIBAV REQUIRED IMPORTED_TARGET libavformat libavcodec libavutil libswscale
-                  libswresample)
+                  libswresample libavfilter)
 pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2)
 
 if(VELRA_TESTS)

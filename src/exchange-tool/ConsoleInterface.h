@@ -33,12 +33,26 @@ class ConsoleInterface : public UserInterface {
                                             const std::string&) override {
     return std::nullopt;
   }
+  std::optional<ChosenFile> openTypedFile(const std::string&, const std::string&) override {
+    return std::nullopt;
+  }
+  std::optional<ChosenFile> saveTypedFile(const std::string&, const std::string&,
+                                          const std::string&) override {
+    return std::nullopt;
+  }
   std::optional<std::string> folderDialog(const std::string&, const std::string&) override {
     return std::nullopt;
   }
   void beep() override {}
   std::unique_ptr<BusySign> showBusy() override { return std::make_unique<BusySign>(); }
+  std::unique_ptr<ProgressSign> showProgress(const std::string&) override {
+    return std::make_unique<ProgressSign>();
+  }
   void workAside(const std::string&, const std::function<void()>& work) override { work(); }
+  bool workAtLength(const std::string&, const LongWork& work) override {
+    work({}, [](double) {});
+    return true;
+  }
   bool openMovie(const std::function<void(const std::stop_token&)>& work) override {
     work({});
     return true;

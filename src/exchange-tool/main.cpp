@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ConsoleInterface.h"
+#include "Usage.h"
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "base/Text.h"
@@ -26,50 +27,6 @@
 namespace {
 
 using namespace velra;
-
-constexpr const char* kUsage = R"(Usage:
-  velra-exchange export FORMAT DOCUMENT [-o FILE] [OPTION ...]
-  velra-exchange import FORMAT FILE DOCUMENT [OPTION ...]
-  velra-exchange catalogue DATABASE DOCUMENT ...
-  velra-exchange find DATABASE WORD ...
-  velra-exchange verify BAG                whether the files of a bag are what they were
-  velra-exchange --list                    the formats, and which options each takes
-  velra-exchange --help | --version
-
-Options of an export:
-  -o FILE            writes there, in place of what is there; else to standard output
-  --class CLASS      segments of video, audio or transcript
-  --level N          segments of that level: 1 for those of the whole movie, 2 for theirs ...
-  --of-version N     of the N-th Version; by default of all, or of the first where one it must be
-  --segments         segments in place of words
-  --plain            cues without the times of their words
-  --rate R           pictures per second
-  --movies           the movies too
-  --mapping FILE     which field is which element; by default the one beside the schema
-  --base ADDRESS     where on the web the document's folder is served
-
-Options of an import:
-  --into NAME        the Video, Audio or Transcript of that title, or in that file; by default the
-                     main one of the first Version, for words the Transcript
-  --of-version N     that of the N-th Version
-  --strict           all rows or none
-  --segments         cues become segments too
-  --replace          words go in place of those that are there
-  --rate R           pictures per second
-  --record           the record side of a cut list
-  --start LABEL      what a cut list has for the movie's first picture, as 01:00:00:00
-
-A catalogue is a SQLite file or an address as postgresql://user@host/database. It takes the documents
-that have changed since last time, and forgets those whose files are gone. A line of what is found:
-document, class, title, time, field and text, tabs between them; a word may end in "*".
-
-The schema and the vocabulary are those of velra's settings (VELRA_MACHINE_SETTINGS names another
-file of them). An export only reads the document. A save that was cut off has to be finished first,
-by opening the document in velra. An import saves the document at its end, when any row was taken.
-
-Exit status: 0 done; 1 not done, and nothing is written; 2 wrong use; 3 done, but something of the
-document could not be read, or a row not taken, as told.
-)";
 
 constexpr int kFailed = 1;
 constexpr int kUsageError = 2;
@@ -114,6 +71,11 @@ int list() {
   return write(text) ? 0 : kFailed;
 }
 
+int wrongUse() {
+  std::fputs(kUsage, stderr);
+  return kUsageError;
+}
+
 int noFormat(const std::string& name) {
   say("There is no format \"" + name + "\"; velra-exchange --list tells which there are.");
   return kUsageError;
@@ -151,12 +113,12 @@ int exportCommand(const std::vector<std::string>& words) {
   return exportDocument(*format, words[2], options);
 }
 
-int importFile(const ImportFormat& format, const std::vector<std::string>& words,
+int importFile(const ImportFormat& format, const std::string& file, const std::string& document,
                const ImportOptions& options) {
   RescueWriter rescue(RescueStore::defaultPath());
   Exchange exchange;
   exchange.app.rescue = &rescue;
-  const ImportReport report = importIntoDocument(exchange.app, words[3], format, words[2], options);
+  const ImportReport report = importIntoDocument(exchange.app, document, format, file, options);
   for (const std::string& line : report.lines) say(line);
   say(report.closing);
   if (report.nothing) return kFailed;
@@ -166,14 +128,17 @@ int importFile(const ImportFormat& format, const std::vector<std::string>& words
 int importCommand(const std::vector<std::string>& words) {
   const ImportFormat* format = importFormat(words[1]);
   if (!format) return noFormat(words[1]);
+  const std::size_t document = format->read ? 3 : 2;  // shots are in no file
+  if (words.size() <= document) return wrongUse();
   ImportOptions options;
   try {
-    options = importOptions(*format, {words.begin() + 4, words.end()});
+    const auto first = words.begin() + static_cast<std::ptrdiff_t>(document) + 1;
+    options = importOptions(*format, {first, words.end()});
   } catch (const ExchangeFailure& failure) {
     say(failure.what());
     return kUsageError;
   }
-  return importFile(*format, words, options);
+  return importFile(*format, words[2], words[document], options);
 }
 
 int catalogue(const std::vector<std::string>& words) {
@@ -213,12 +178,11 @@ int run(const std::vector<std::string>& words) {
   if (command == "--list" && alone) return list();
   if (command == "--version" && alone) return write("velra-exchange " VELRA_VERSION "\n") ? 0 : 1;
   if (command == "export" && words.size() >= 3) return exportCommand(words);
-  if (command == "import" && words.size() >= 4) return importCommand(words);
+  if (command == "import" && words.size() >= 3) return importCommand(words);
   if (command == "catalogue" && words.size() >= 3) return catalogue(words);
   if (command == "find" && words.size() >= 3) return find(words);
   if (command == "verify" && words.size() == 2) return verify(words[1]);
-  std::fputs(kUsage, stderr);
-  return kUsageError;
+  return wrongUse();
 }
 
 }  // namespace

@@ -34,6 +34,7 @@ struct Exported {
 /// ExportFormats.h and .cpp.
 struct ExportFormat {
   std::string_view name;
+  std::string_view title;      // by which people know it, in any language
   std::string_view extension;  // of its files, without the point
   std::string_view what;       // one line
   /// The options that it takes, without their dashes, a blank between them.

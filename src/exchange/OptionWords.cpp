@@ -43,6 +43,13 @@ int numberOption(const std::string& option, const std::string& value) {
   return static_cast<int>(*number);
 }
 
+double valueOption(const std::string& option, const std::string& value, double most) {
+  const auto number = toNumber(value);
+  if (number && *number >= 0 && *number <= most) return *number;
+  throw ExchangeFailure(option + " takes a number from 0 to " + numberText(most) + ", not \"" +
+                        value + "\".");
+}
+
 double rateOption(const std::string& value) {
   constexpr double kMostPictures = 1000;
   const auto rate = toNumber(value);

@@ -28,6 +28,9 @@ bool isOptionOf(std::string_view names, const std::string& option);
 /// A whole number from 1 on.
 int numberOption(const std::string& option, const std::string& value);
 
+/// A number from 0 up to `most`.
+double valueOption(const std::string& option, const std::string& value, double most);
+
 /// Pictures per second.
 double rateOption(const std::string& value);
 

@@ -63,13 +63,31 @@ class ScriptedUserInterface : public UserInterface {
     shown.push_back("folder: " + title + " | " + proposed);
     return chosen(filesToSave);
   }
+  // The filter stands behind the path, as in "film.csv as 2".
+  std::optional<ChosenFile> openTypedFile(const std::string& title, const std::string&) override {
+    shown.push_back("open: " + title);
+    return typed(chosen(filesToOpen));
+  }
+  std::optional<ChosenFile> saveTypedFile(const std::string& title, const std::string&,
+                                          const std::string& proposed) override {
+    shown.push_back("save: " + title + " | " + proposed);
+    return typed(chosen(filesToSave));
+  }
   void beep() override { shown.emplace_back("beep"); }
   std::unique_ptr<BusySign> showBusy() override {
     ++busySigns;
     return std::make_unique<BusySign>();
   }
 
+  std::unique_ptr<ProgressSign> showProgress(const std::string&) override {
+    return std::make_unique<ProgressSign>();
+  }
+
   void workAside(const std::string&, const std::function<void()>& work) override { work(); }
+  bool workAtLength(const std::string&, const LongWork& work) override {
+    work({}, [](double) {});
+    return waits;
+  }
   bool openMovie(const std::function<void(const std::stop_token&)>& work) override {
     work({});
     return waits;
@@ -94,6 +112,12 @@ class ScriptedUserInterface : public UserInterface {
   static std::optional<std::string> chosen(std::deque<std::string>& files) {
     std::string file = next(files, std::string());
     return file.empty() ? std::nullopt : std::optional(file);
+  }
+  static std::optional<ChosenFile> typed(const std::optional<std::string>& file) {
+    if (!file) return std::nullopt;
+    const std::size_t mark = file->find(" as ");
+    if (mark == std::string::npos) return ChosenFile{*file, 0};
+    return ChosenFile{file->substr(0, mark), std::stoul(file->substr(mark + 4))};
   }
 };
 

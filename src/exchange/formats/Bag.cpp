@@ -174,7 +174,8 @@ Exported writeBag(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kBagFormat{"bag",    "bag",    "the files of the document as a bag, BagIt 1.0",
-                              "movies", writeBag, true};
+const ExportFormat kBagFormat{
+    "bag",    "BagIt",  "bag", "the files of the document as a bag, BagIt 1.0",
+    "movies", writeBag, true};
 
 }  // namespace velra

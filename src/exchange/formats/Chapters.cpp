@@ -34,8 +34,11 @@ Exported writeChapters(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kChaptersFormat{"chapters", "ffmeta",
+const ExportFormat kChaptersFormat{"chapters",
+                                   "FFmpeg",
+                                   "ffmeta",
                                    "segments of one level as chapters, FFmpeg's metadata",
-                                   "class level of-version", writeChapters};
+                                   "class level of-version",
+                                   writeChapters};
 
 }  // namespace velra

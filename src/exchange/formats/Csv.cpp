@@ -110,13 +110,20 @@ Exported writeTable(const Content& content, const ExportOptions& options, char s
 
 }  // namespace
 
-const ExportFormat kCsvFormat{"csv", "csv", "a table of the segments, RFC 4180",
+const ExportFormat kCsvFormat{"csv",
+                              "CSV",
+                              "csv",
+                              "a table of the segments, RFC 4180",
                               "class level of-version",
                               [](const Content& content, const ExportOptions& options) {
                                 return writeTable(content, options, ',');
                               }};
 
-const ExportFormat kTsvFormat{"tsv", "tsv", "the same with tabs", "class level of-version",
+const ExportFormat kTsvFormat{"tsv",
+                              "TSV",
+                              "tsv",
+                              "the same with tabs",
+                              "class level of-version",
                               [](const Content& content, const ExportOptions& options) {
                                 return writeTable(content, options, '\t');
                               }};

@@ -78,7 +78,8 @@ Exported writeDublinCore(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kDublinCoreFormat{"dc", "xml", "a record for harvesters, Dublin Core (OAI)",
+const ExportFormat kDublinCoreFormat{"dc",      "Dublin Core",
+                                     "xml",     "a record for harvesters, Dublin Core (OAI)",
                                      "mapping", writeDublinCore};
 
 }  // namespace velra

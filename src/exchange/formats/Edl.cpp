@@ -110,7 +110,11 @@ Exported writeEdl(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kEdlFormat{"edl", "edl", "segments of one level as a cut list, CMX 3600",
-                              "class level of-version rate", writeEdl};
+const ExportFormat kEdlFormat{"edl",
+                              "EDL CMX 3600",
+                              "edl",
+                              "segments of one level as a cut list, CMX 3600",
+                              "class level of-version rate",
+                              writeEdl};
 
 }  // namespace velra

@@ -117,7 +117,8 @@ Exported writeHtml(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kHtmlFormat{"html", "html", "a contact sheet to print, in one file",
-                               "class level of-version", writeHtml};
+const ExportFormat kHtmlFormat{
+    "html",   "HTML", "html", "a contact sheet to print, in one file", "class level of-version",
+    writeHtml};
 
 }  // namespace velra

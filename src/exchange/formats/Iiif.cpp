@@ -171,8 +171,8 @@ Exported writeManifest(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kManifestFormat{"iiif", "json",
-                                   "a manifest for viewers on the web, IIIF Presentation 3", "base",
-                                   writeManifest};
+const ExportFormat kManifestFormat{"iiif", "IIIF Presentation 3",
+                                   "json", "a manifest for viewers on the web, IIIF Presentation 3",
+                                   "base", writeManifest};
 
 }  // namespace velra

@@ -117,7 +117,8 @@ Exported writeJsonLines(const Content& content, const ExportOptions&) {
 
 }  // namespace
 
-const ExportFormat kJsonLinesFormat{
-    "jsonl", "jsonl", "every object as one line of JSON, for databases", "", writeJsonLines};
+const ExportFormat kJsonLinesFormat{"jsonl", "JSON Lines",
+                                    "jsonl", "every object as one line of JSON, for databases",
+                                    "",      writeJsonLines};
 
 }  // namespace velra

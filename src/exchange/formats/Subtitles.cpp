@@ -95,13 +95,19 @@ constexpr std::string_view kCueOptions = "segments class level of-version";
 
 }  // namespace
 
-const ExportFormat kWebVttFormat{"vtt", "vtt", "the transcript, or --segments, as WebVTT",
+const ExportFormat kWebVttFormat{"vtt",
+                                 "WebVTT",
+                                 "vtt",
+                                 "the transcript, or --segments, as WebVTT",
                                  "segments plain class level of-version",
                                  [](const Content& content, const ExportOptions& options) {
                                    return writeCues(content, options, true);
                                  }};
 
-const ExportFormat kSubRipFormat{"srt", "srt", "the transcript, or --segments, as SubRip",
+const ExportFormat kSubRipFormat{"srt",
+                                 "SubRip",
+                                 "srt",
+                                 "the transcript, or --segments, as SubRip",
                                  kCueOptions,
                                  [](const Content& content, const ExportOptions& options) {
                                    return writeCues(content, options, false);

@@ -8,6 +8,8 @@
 #include "base/RunTimeError.h"
 #include "exchange/DocumentVisit.h"
 #include "exchange/ExchangeFailure.h"
+#include "exchange/imports/ImportFormats.h"
+#include "exchange/imports/ShotImport.h"
 #include "objects/AVDocument.h"
 #include "rescue/KeptWorkList.h"
 #include "rescue/RescueWriter.h"
@@ -26,6 +28,14 @@ void refuseOpenElsewhere(const ApplicationModule& app, const std::string& docume
     throw ExchangeFailure(document + ": " + app.LoadResString(Message::DocumentOpenElsewhere));
 }
 
+ImportReport importShots(ApplicationModule& app, AVDocument& document,
+                         const ImportOptions& options) {
+  const ShotTask task = shotTask(document, options);
+  const FoundShots found = findShots(task.movie, task.search, {}, {});
+  if (!found.reason.empty()) throw ExchangeFailure(task.movie + ": " + found.reason);
+  return takeProposal(app, document, kShotsImport, proposalOf(found.shots), options);
+}
+
 }  // namespace
 
 ImportReport importIntoDocument(ApplicationModule& app, const std::string& document,
@@ -36,7 +46,8 @@ ImportReport importIntoDocument(ApplicationModule& app, const std::string& docum
   refuseOpenElsewhere(app, absolute);
   try {
     const DocumentVisit visit(app, absolute, std::make_shared<IOManager>(app));
-    ImportReport report = importInto(app, visit.document(), format, file, options);
+    ImportReport report = format.read ? importInto(app, visit.document(), format, file, options)
+                                      : importShots(app, visit.document(), options);
     if (report.changed() && !visit.document().bSave()) {
       throw ExchangeFailure(absolute + " could not be saved, and is what it was.");
     }

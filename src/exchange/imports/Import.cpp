@@ -31,15 +31,18 @@ class ImportRun {
         target_(document, format, options),
         plan_(app) {}
 
-  ImportReport run(const std::string& text) {
+  Proposal read(const std::string& text) const {
     const bool usesRate = format_.options.find("rate") != std::string_view::npos;
-    const Proposal proposal = format_.read(text, options_, usesRate ? target_.rate() : 0);
+    return format_.read(text, options_, usesRate ? target_.rate() : 0);
+  }
+
+  ImportReport take(const Proposal& proposal, const std::function<void(double)>& progress) {
     notes_ = proposal.refused;
     planWords(proposal);
     if (!format_.words || options_.segments) planSegments(proposal);
     ImportReport report;
     report.nothing = options_.strict && notes_.size() + plan_.refused().size() > 0;
-    if (!report.nothing) make(report);
+    if (!report.nothing) make(report, progress);
     tell(report);
     return report;
   }
@@ -55,8 +58,8 @@ class ImportRun {
     if (!transcript_) return;
     const auto present = transcript_->WordList();
     if (present && !present->empty() && !options_.replace) {
-      throw ExchangeFailure("\"" + into->strTitle() +
-                            "\" has words already; --replace puts others in their place.");
+      throw WordsInTheWay("\"" + into->strTitle() +
+                          "\" has words already; --replace puts others in their place.");
     }
     for (const ProposedCue& cue : proposal.cues) {
       if (words_.size() + cue.words.size() > kMostWords) {
@@ -92,14 +95,14 @@ class ImportRun {
   }
 
   // Segments of a Transcript take their words from it.
-  void make(ImportReport& report) {
+  void make(ImportReport& report, const std::function<void(double)>& progress) {
     if (transcript_ && !words_.empty()) {
       auto list = std::make_shared<WordColl>();
       for (const ContentWord& word : words_) list->Add("", "", word.start, word.end, word.text);
       transcript_->setWordList(list);
       report.words = words_.size();
     }
-    plan_.make();
+    plan_.make(progress);
     report.segments = plan_.count();
   }
 
@@ -135,6 +138,7 @@ class ImportRun {
   std::size_t passedOver_ = 0;
 };
 
+constexpr double kLongestShot = 86'400;
 constexpr std::string_view kOptionsOfAll = "into of-version strict";
 
 bool* importSwitch(const std::string& option, ImportOptions& options) {
@@ -149,6 +153,8 @@ void setImportOption(const std::string& option, const std::string& value, Import
   if (option == "--of-version") options.version = numberOption(option, value);
   if (option == "--rate") options.rate = rateOption(value);
   if (option == "--start") options.startLabel = value;
+  if (option == "--threshold") options.threshold = valueOption(option, value, 100);
+  if (option == "--shortest") options.shortest = valueOption(option, value, kLongestShot);
 }
 
 }  // namespace
@@ -167,11 +173,21 @@ ImportOptions importOptions(const ImportFormat& format, const std::vector<std::s
   return options;
 }
 
+ImportReport takeProposal(ApplicationModule& app, AVDocument& document, const ImportFormat& format,
+                          const Proposal& proposal, const ImportOptions& options,
+                          const std::function<void(double)>& progress) {
+  return ImportRun(app, document, format, options).take(proposal, progress);
+}
+
 ImportReport importInto(ApplicationModule& app, AVDocument& document, const ImportFormat& format,
-                        const std::string& path, const ImportOptions& options) {
+                        const std::string& path, const ImportOptions& options,
+                        const std::function<void(double)>& progress) {
   const std::string text = importedText(path);
   try {
-    return ImportRun(app, document, format, options).run(text);
+    ImportRun run(app, document, format, options);
+    return run.take(run.read(text), progress);
+  } catch (const WordsInTheWay& failure) {
+    throw WordsInTheWay(path + ": " + failure.what());
   } catch (const ExchangeFailure& failure) {
     throw ExchangeFailure(path + ": " + failure.what());
   }

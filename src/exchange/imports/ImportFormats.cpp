@@ -10,7 +10,7 @@ namespace velra {
 
 const std::vector<const ImportFormat*>& importFormats() {
   static const std::vector<const ImportFormat*> kFormats{
-      &kTableImport, &kWebVttImport, &kSubRipImport, &kChaptersImport, &kEdlImport};
+      &kTableImport, &kWebVttImport, &kSubRipImport, &kChaptersImport, &kEdlImport, &kShotsImport};
   return kFormats;
 }
 
@@ -26,7 +26,7 @@ const ImportFormat* importFormatOf(const std::string& path) {
   const auto& formats = importFormats();
   const auto at = std::find_if(formats.begin(), formats.end(), [&](const ImportFormat* format) {
     const auto own = split(format->extensions, ' ');
-    return std::find(own.begin(), own.end(), extension) != own.end();
+    return format->read && std::find(own.begin(), own.end(), extension) != own.end();
   });
   return at == formats.end() ? nullptr : *at;
 }

@@ -11,5 +11,6 @@ extern const ImportFormat kWebVttImport;
 extern const ImportFormat kSubRipImport;
 extern const ImportFormat kChaptersImport;
 extern const ImportFormat kEdlImport;
+extern const ImportFormat kShotsImport;  // made by ShotImport.cpp
 
 }  // namespace velra

@@ -106,7 +106,7 @@ void SegmentPlan::propose(const ProposedSegment& row, const ExpressionRef& into)
 }
 
 // A chain that grows in the order of time has each segment behind the one before it.
-void SegmentPlan::make() {
+void SegmentPlan::make(const std::function<void(double)>& progress) {
   std::vector<Place*> planned;
   for (Place& place : places_) {
     if (place.parent) planned.push_back(&place);
@@ -115,7 +115,9 @@ void SegmentPlan::make() {
     return std::tie(a->row.level, a->row.start, a->row.end) <
            std::tie(b->row.level, b->row.start, b->row.end);
   });
+  double done = 0;
   for (Place* place : planned) {
+    if (progress) progress(done++ / static_cast<double>(planned.size()));
     if (makeOne(*place)) continue;
     refused_.push_back({place->row.row, Message::RowNotMade, {}});
     --planned_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -27,7 +28,8 @@ class SegmentPlan {
   void propose(const ProposedSegment& row, const ExpressionRef& into);
 
   /// Makes those that may be. Why one could not has been shown, and told among the refused.
-  void make();
+  /// `progress`, if any, is told the share that is made.
+  void make(const std::function<void(double)>& progress);
 
   std::size_t count() const { return planned_; }
   const std::vector<RowNote>& refused() const { return refused_; }

@@ -121,6 +121,7 @@ Proposal readChapters(const std::string& text, const ImportOptions&, double) {
 }  // namespace
 
 const ImportFormat kChaptersImport{
-    "chapters", "ffmeta ffmetadata", "chapters of FFmpeg's metadata", "", false, readChapters};
+    "chapters", "FFmpeg", "ffmeta ffmetadata", "chapters of FFmpeg's metadata",
+    "",         false,    readChapters};
 
 }  // namespace velra

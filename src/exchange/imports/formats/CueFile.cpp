@@ -103,6 +103,7 @@ constexpr std::string_view kCueImportOptions = "segments replace";
 
 const ImportFormat kWebVttImport{
     "vtt",
+    "WebVTT",
     "vtt",
     "cues of WebVTT as words",
     kCueImportOptions,
@@ -111,6 +112,7 @@ const ImportFormat kWebVttImport{
 
 const ImportFormat kSubRipImport{
     "srt",
+    "SubRip",
     "srt",
     "cues of SubRip as words",
     kCueImportOptions,

@@ -119,6 +119,7 @@ Proposal readCutList(const std::string& text, const ImportOptions& options, doub
 }  // namespace
 
 const ImportFormat kEdlImport{
-    "edl", "edl", "events of a cut list, CMX 3600", "rate record start", false, readCutList};
+    "edl", "EDL CMX 3600", "edl", "events of a cut list, CMX 3600", "rate record start",
+    false, readCutList};
 
 }  // namespace velra

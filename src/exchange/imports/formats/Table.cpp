@@ -129,7 +129,9 @@ Proposal readTable(const std::string& text, const ImportOptions&, double rate) {
 }  // namespace
 
 const ImportFormat kTableImport{
-    "csv",  "csv tsv", "a table with the columns start, end and title, and fields by their names",
-    "rate", false,     readTable};
+    "csv",     "CSV",
+    "csv tsv", "a table with the columns start, end and title, and fields by their names",
+    "rate",    false,
+    readTable};
 
 }  // namespace velra
