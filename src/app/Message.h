@@ -219,6 +219,17 @@ enum class Message : int {
   LeftAlone = 1249,
   AndOthers = 1250,
   More = 1251,
+  AskReplaceWords = 1265,
+  Exporting = 1266,
+  Importing = 1267,
+  AllFormats = 1268,
+  SaveFirst = 1269,
+  FindShots = 1270,
+  SearchingShots = 1271,
+  ShotThreshold = 1272,
+  ShortestShot = 1273,
+  SearchAgain = 1274,
+  MakeSegments = 1275,
 };
 
 }  // namespace velra

@@ -126,6 +126,20 @@ constexpr MessageRow kFrom1178[] = {
      "Non contiene immagini che si possano decodificare."},
     {1264, "Its pictures are larger than 8192 x 4320 pixels.",
      "Le sue immagini superano 8192 x 4320 pixel."},
+    {1265, "The Transcript has words already. Shall the new ones go in their place?",
+     "La trascrizione ha già delle parole. Le nuove devono prenderne il posto?"},
+    {1266, "The document is being exported.", "Il documento viene esportato."},
+    {1267, "The file is being imported.", "Il file viene importato."},
+    {1268, "All formats", "Tutti i formati"},
+    {1269, "A bag holds the files of the document as they are on the disk: save it first.",
+     "Un pacco BagIt contiene i file del documento come sono su disco: salvarlo prima."},
+    {1270, "Find S&hots...", "Trova in&quadrature..."},
+    {1271, "The movie is being searched for cuts.", "Si cercano gli stacchi nel filmato."},
+    {1272, "&Threshold:", "So&glia:"},
+    {1273, "S&hortest shot, seconds:", "Inquadratura più &breve, secondi:"},
+    {1274, "Search &Again", "Cerca di &nuovo"},
+    {1275, "&Make Segments", "Crea &segmenti"},
+    {1276, "The movie has no pictures there.", "Il filmato non ha immagini in quel tratto."},
 };
 
 }  // namespace

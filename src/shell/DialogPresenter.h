@@ -8,6 +8,7 @@ class FormOwner;
 class RecoverDialog;
 class SearchDialog;
 class SearchResultDialog;
+class ShotsDialog;
 
 /// Shows the dialogs of the main window's commands; the windows stand behind it, or a script in
 /// tests. Each one stands over the owner, which takes nothing meanwhile, until it has been
@@ -20,6 +21,7 @@ class DialogPresenter {
   virtual void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) = 0;
   virtual void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) = 0;
   virtual void showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) = 0;
+  virtual void showShotsDialog(FormOwner& owner, ShotsDialog& dialog) = 0;
 };
 
 }  // namespace velra

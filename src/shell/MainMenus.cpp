@@ -67,6 +67,9 @@ void MainMenus::mnuFile_Click() {
   const std::shared_ptr<IOManager> io = documentIsOpen(app_) ? app_.gAVDoc->io() : nullptr;
   menus.mnuExportToDB = io && io->bFileSystem();
   menus.mnuImportToFS = io && !io->bFileSystem();
+  menus.mnuFileExportAs = io != nullptr;
+  menus.mnuFileImport = io != nullptr;
+  menus.mnuFileFindShots = io != nullptr;
   menus.mnuFileIndependent = io && !openedDocument(app_)->copiedFolder().other.empty();
   menus.mnuFileRecover = anyUnsavedWork(app_, menus.mnuFileRecover);
   apply(menus);

@@ -14,6 +14,9 @@ struct MenuState {
   bool mnuAddMainTranscript = true;
   bool mnuImportToFS = true;
   bool mnuExportToDB = true;
+  bool mnuFileExportAs = false;
+  bool mnuFileImport = false;
+  bool mnuFileFindShots = false;
   bool mnuFileRecover = false;
   bool mnuFileIndependent = false;
   /// The ticked entry of the language menu: 0 mnuEnglish, 1 mnuItalian, 2 mnuDutch, 3 mnuGerman,

@@ -15,6 +15,7 @@ frmMain::frmMain(ApplicationModule& app)
       saving_(app, *this, trees_, clicks_, closing_, opening_),
       recovering_(app, *this, closing_, opening_),
       transfer_(app, closing_, opening_, saving_),
+      exchange_(app, *this, trees_),
       editing_(app, *this, trees_, clicks_),
       dialogs_(app, *this, trees_.icons()),
       tvwMainTree(trees_.tree(TreeId::tvwMainTree)),

@@ -9,6 +9,7 @@
 #include "shell/DialogCommands.h"
 #include "shell/DocumentClosing.h"
 #include "shell/EditCommands.h"
+#include "shell/ExchangeCommands.h"
 #include "shell/MainMenus.h"
 #include "shell/MainTrees.h"
 #include "shell/OpenCommands.h"
@@ -36,6 +37,7 @@ class frmMain : public MainWindow {
   void setDialogPresenter(DialogPresenter* presenter) {
     dialogs_.setPresenter(presenter);
     recovering_.setPresenter(presenter);
+    exchange_.setPresenter(presenter);
   }
 
   Tree& tree(TreeId id) { return trees_.tree(id); }
@@ -76,6 +78,9 @@ class frmMain : public MainWindow {
   void mnuFileFind() { dialogs_.mnuFileFind(); }
   void mnuExportToDB() { transfer_.mnuExportToDB(); }
   void mnuImportToFS() { transfer_.mnuImportToFS(); }
+  void mnuFileExportAs() { exchange_.mnuFileExportAs(); }
+  void mnuFileImport() { exchange_.mnuFileImport(); }
+  void mnuFileFindShots() { exchange_.mnuFileFindShots(); }
   void mnuFileRecover() { recovering_.mnuFileRecover(); }
   void mnuFileIndependent() { recovering_.mnuFileIndependent(); }
   void ShowAVDocTitle() { clicks_.ShowAVDocTitle(); }
@@ -109,6 +114,7 @@ class frmMain : public MainWindow {
   SaveCommands saving_;
   RecoverCommands recovering_;
   TransferCommands transfer_;
+  ExchangeCommands exchange_;
   EditCommands editing_;
   DialogCommands dialogs_;
 

@@ -17,6 +17,7 @@
 #include "widgets/Texts.h"
 #include "widgets/dialogs/FileFilters.h"
 #include "widgets/dialogs/MessageBoxes.h"
+#include "widgets/dialogs/ProgressBox.h"
 #include "widgets/dialogs/WaitingBox.h"
 
 namespace velra {
@@ -134,6 +135,34 @@ std::optional<std::string> QtUserInterface::saveFileDialog(const std::string& ti
   return chosenFile(dialog);
 }
 
+std::optional<ChosenFile> QtUserInterface::typedFile(QFileDialog& dialog) {
+  const auto path = chosenFile(dialog);
+  if (!path) return std::nullopt;
+  const qsizetype filter = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
+  return ChosenFile{*path, static_cast<std::size_t>(std::max<qsizetype>(filter, 0))};
+}
+
+std::optional<ChosenFile> QtUserInterface::openTypedFile(const std::string& title,
+                                                         const std::string& filter) {
+  QFileDialog dialog(owner(), toQString(title), folder_, fileDialogFilter(filter));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return typedFile(dialog);
+}
+
+// A name without an ending gets that of the filter before the dialog asks about it.
+std::optional<ChosenFile> QtUserInterface::saveTypedFile(const std::string& title,
+                                                         const std::string& filter,
+                                                         const std::string& proposed) {
+  const QFileInfo wanted(pathToQString(proposed));
+  QFileDialog dialog(owner(), toQString(title), wanted.absolutePath(), fileDialogFilter(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  const auto takeSuffix = [&](const QString& chosen) { dialog.setDefaultSuffix(suffixOf(chosen)); };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
+  takeSuffix(dialog.selectedNameFilter());
+  dialog.selectFile(wanted.fileName());
+  return typedFile(dialog);
+}
+
 std::optional<std::string> QtUserInterface::folderDialog(const std::string& title,
                                                          const std::string& proposed) {
   QFileDialog dialog(owner(), toQString(title), pathToQString(proposed));
@@ -150,8 +179,21 @@ std::unique_ptr<BusySign> QtUserInterface::showBusy() {
   return std::make_unique<BusyCursor>();
 }
 
+std::unique_ptr<ProgressSign> QtUserInterface::showProgress(const std::string& sentence) {
+  return std::make_unique<ProgressBox>(toQString(sentence), owner());
+}
+
 void QtUserInterface::workAside(const std::string& sentence, const std::function<void()>& work) {
   waitFor(sentence, std::async(std::launch::async, work), nullptr);
+}
+
+bool QtUserInterface::workAtLength(const std::string& sentence, const LongWork& work) {
+  std::stop_source stop;
+  std::atomic<double> share{0};
+  const auto tell = [&](double done) { share = done; };
+  waitFor(sentence, std::async(std::launch::async, [&] { work(stop.get_token(), tell); }), &stop,
+          &share);
+  return !stop.stop_requested();
 }
 
 bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)>& work) {
@@ -162,10 +204,10 @@ bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)
 }
 
 void QtUserInterface::waitFor(const std::string& sentence, std::future<void> done,
-                              std::stop_source* stop) {
+                              std::stop_source* stop, const std::atomic<double>* share) {
   const BusyCursor cursor;
   if (done.wait_for(kUnnoticedWait) == std::future_status::timeout) {
-    WaitingBox(toQString(sentence), owner(), stop).showUntil(done);
+    WaitingBox(toQString(sentence), owner(), stop).showUntil(done, share);
   }
   done.get();
 }

@@ -3,6 +3,7 @@
 
 #include <QPointer>
 #include <QString>
+#include <atomic>
 #include <future>
 #include <stop_token>
 
@@ -31,18 +32,26 @@ class QtUserInterface : public UserInterface {
                                             const std::string& filter) override;
   std::optional<std::string> saveFileDialog(const std::string& title, const std::string& filter,
                                             const std::string& proposed) override;
+  std::optional<ChosenFile> openTypedFile(const std::string& title,
+                                          const std::string& filter) override;
+  std::optional<ChosenFile> saveTypedFile(const std::string& title, const std::string& filter,
+                                          const std::string& proposed) override;
   std::optional<std::string> folderDialog(const std::string& title,
                                           const std::string& proposed) override;
   void beep() override;
   std::unique_ptr<BusySign> showBusy() override;
+  std::unique_ptr<ProgressSign> showProgress(const std::string& sentence) override;
   void workAside(const std::string& sentence, const std::function<void()>& work) override;
+  bool workAtLength(const std::string& sentence, const LongWork& work) override;
   bool openMovie(const std::function<void(const std::stop_token&)>& work) override;
 
  private:
   QWidget* owner() const;
-  /// Null: it cannot be cancelled.
-  void waitFor(const std::string& sentence, std::future<void> done, std::stop_source* stop);
+  /// Null: it cannot be cancelled, and nobody knows how much is done.
+  void waitFor(const std::string& sentence, std::future<void> done, std::stop_source* stop,
+               const std::atomic<double>* share = nullptr);
   std::optional<std::string> chosenFile(QFileDialog& dialog);
+  std::optional<ChosenFile> typedFile(QFileDialog& dialog);
 
   QPointer<QWidget> mainWindow_;
   QString folder_;  // of the file chosen last in this run

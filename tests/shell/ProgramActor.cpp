@@ -80,6 +80,9 @@ void ProgramActor::learnFileMenu() {
   verbs_["save-as"] = [&](auto&) { main.mnuFileSaveAs(); };
   verbs_["export"] = [&](auto&) { main.mnuExportToDB(); };
   verbs_["import"] = [&](auto&) { main.mnuImportToFS(); };
+  verbs_["export-as"] = [&](auto&) { main.mnuFileExportAs(); };
+  verbs_["import-file"] = [&](auto&) { main.mnuFileImport(); };
+  verbs_["shots"] = [&](auto& rows) { object_ = rows, main.mnuFileFindShots(); };
   verbs_["independent"] = [&](auto&) { main.mnuFileIndependent(); };
   verbs_["leave"] = [&](auto&) { main.releaseDocument(); };
   verbs_["start"] = [&](const std::string& line) {
@@ -116,6 +119,13 @@ void ProgramActor::learnDialogs() {
   verbs_["connection"] = [&](auto& changes) { object_ = changes, main.mnuConnection(); };
   verbs_["recover"] = [&](auto& button) { object_ = button, main.mnuFileRecover(); };
   program_.presenter.onRecover = [this](RecoverDialog& dialog) { act(dialog, object_); };
+  program_.presenter.onShots = [this](ShotsDialog& dialog) {
+    dialog.SearchButton_Click(5, 1);
+    for (const ShotsDialog::Row& row : dialog.rows()) say(row.text);
+    if (object_ == "cancel") return dialog.CancelButton_Click();
+    dialog.setTicked(std::stoul(object_) - 1, false);
+    dialog.OKButton_Click();
+  };
   program_.presenter.onSearch = [this](SearchDialog& dialog) {
     say("Find: " + dialog.strText() + (dialog.bMatchCase() ? " (case)" : "") +
         (dialog.bSingleWord() ? " (word)" : ""));

@@ -13,6 +13,7 @@
 #include "shell/RecoverDialog.h"
 #include "shell/SearchDialog.h"
 #include "shell/SearchResultDialog.h"
+#include "shell/ShotsDialog.h"
 
 namespace velra::test {
 
@@ -28,6 +29,7 @@ class ScriptedPresenter : public FormPresenter, public DialogPresenter {
   std::function<void(SearchResultDialog&)> onResults;
   std::function<void(ConnectionDialog&)> onConnection;
   std::function<void(RecoverDialog&)> onRecover;
+  std::function<void(ShotsDialog&)> onShots;
 
   void showForm(FormOwner& owner, LoadedForm& form) override {
     captions.push_back(form.caption());
@@ -49,6 +51,10 @@ class ScriptedPresenter : public FormPresenter, public DialogPresenter {
   void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) override {
     lastOwner = &owner;
     if (onConnection) onConnection(dialog);
+  }
+  void showShotsDialog(FormOwner& owner, ShotsDialog& dialog) override {
+    lastOwner = &owner;
+    if (onShots) onShots(dialog);
   }
   void showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) override {
     lastOwner = &owner;

@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeView>
@@ -16,6 +18,7 @@
 #include "shell/RecoverDialog.h"
 #include "shell/SearchDialog.h"
 #include "shell/SearchResultDialog.h"
+#include "shell/ShotsDialog.h"
 #include "support/FormObject.h"
 #include "widgets/AccessibilityWalk.h"
 #include "widgets/ModalAnswer.h"
@@ -155,6 +158,24 @@ TEST_F(CommandDialogs, UnsavedWorkHasAButtonForEachThingToDo) {
   EXPECT_EQ(application_.ui.takeShown().back(),
             "save: Recover Unsaved Work | /films/film-recovered.xml");
   app_.rescue = nullptr;
+}
+
+TEST_F(CommandDialogs, ShotsStandWithTheirPicturesAndCanBeUnticked) {
+  ShotsDialog dialog(app_, {VELRA_SOURCE_DIR "/tests/data/movies/shots-25.mpg", {}}, 25);
+  whenModal([&](QWidget& window) {
+    QListWidget& list = child<QListWidget>(window, "lstShots");
+    EXPECT_EQ(test::accessibilityFaults(window), std::vector<std::string>{});
+    EXPECT_EQ(list.count(), 7);
+    child<QDoubleSpinBox>(window, "numShortest").setValue(3);
+    press(window, "cmdSearch");
+    EXPECT_EQ(list.count(), 4);
+    EXPECT_FALSE(list.item(3)->icon().isNull());
+    list.item(1)->setCheckState(Qt::Unchecked);
+    press(window, "cmdMakeSegments");
+  });
+  const std::vector<FoundShot> shots = dialog.Show(presenter_, owner_);
+  ASSERT_EQ(shots.size(), 3U);
+  EXPECT_NEAR(shots[1].start, 9, 0.001);
 }
 
 TEST(SearchResults, RowsOpenTheirFormsByMouseAndKeyboard) {

@@ -119,6 +119,22 @@ TEST(QtUserInterface, FileDialogsProposeAndRemember) {
   EXPECT_EQ(ui.openFileDialog("Open", "XML Files (*.xml)|*.xml"), std::nullopt);
 }
 
+TEST(QtUserInterface, FiltersThatAreFormatsGiveTheEnding) {
+  const test::TemporaryFolder folder;
+  QtUserInterface ui;
+  whenModal([&](QWidget& window) {
+    auto& dialog = dynamic_cast<QFileDialog&>(window);
+    dialog.selectNameFilter(dialog.nameFilters()[1]);
+    Q_EMIT dialog.filterSelected(dialog.nameFilters()[1]);
+    dialog.findChild<QLineEdit*>()->setText(QStringLiteral("new"));
+    static_cast<QDialog&>(dialog).accept();
+  });
+  const auto chosen = ui.saveTypedFile("Export As", "A (*.a)|*.a|B (*.b)|*.b|", folder / "x");
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ(chosen->path, folder / "new.b");
+  EXPECT_EQ(chosen->filter, 1U);
+}
+
 TEST(QtUserInterface, WaitsForAMovieWithWindowsThatAnswerUntilAPersonCancels) {
   QtUserInterface ui;
   std::promise<void> seen;

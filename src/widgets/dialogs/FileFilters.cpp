@@ -34,4 +34,9 @@ QString fileDialogFilter(const std::string& pairs) {
   return filters.join(QStringLiteral(";;"));
 }
 
+QString suffixOf(const QString& filter) {
+  static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
+  return ending.match(filter).captured(1);
+}
+
 }  // namespace velra

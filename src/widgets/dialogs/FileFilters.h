@@ -11,4 +11,7 @@ namespace velra {
 /// ";;"; "*.*" means every file, with a point in its name or without.
 QString fileDialogFilter(const std::string& pairs);
 
+/// The first ending of a filter in the toolkit's form; "" for one that takes all files.
+QString suffixOf(const QString& filter);
+
 }  // namespace velra

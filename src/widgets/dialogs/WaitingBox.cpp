@@ -30,18 +30,24 @@ WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source* st
   column->setSizeConstraint(QLayout::SetFixedSize);
   auto* label = new QLabel(text, this);
   label->setObjectName(QStringLiteral("lblWaiting"));
-  auto* bar = new QProgressBar(this);
-  bar->setObjectName(QStringLiteral("barWaiting"));
-  bar->setAccessibleName(text);
-  bar->setRange(0, 0);  // how much is left is not known
+  bar_ = new QProgressBar(this);
+  bar_->setObjectName(QStringLiteral("barWaiting"));
+  bar_->setAccessibleName(text);
+  bar_->setRange(0, 0);  // how much is left is not known
   column->addWidget(label);
   cancel_ = new QPushButton(Texts::tr("Cancel"), this);
   cancel_->setObjectName(QStringLiteral("cmdCancel"));
   cancel_->setAutoDefault(false);  // the key that opened the movie may still be down
   connect(cancel_, &QPushButton::clicked, this, &WaitingBox::reject);
   cancel_->setVisible(stop_ != nullptr);
-  column->addWidget(bar);
+  column->addWidget(bar_);
   column->addWidget(cancel_, 0, Qt::AlignRight);
+}
+
+void WaitingBox::setShare(double share) {
+  constexpr int kSteps = 1000;
+  bar_->setRange(0, kSteps);
+  bar_->setValue(static_cast<int>(share * kSteps));
 }
 
 void WaitingBox::reject() {
@@ -49,9 +55,10 @@ void WaitingBox::reject() {
   cancel_->setEnabled(false);  // seen to be pressed: the work may take a moment to notice
 }
 
-void WaitingBox::showUntil(const std::future<void>& done) {
+void WaitingBox::showUntil(const std::future<void>& done, const std::atomic<double>* share) {
   QTimer look;
   connect(&look, &QTimer::timeout, this, [&] {
+    if (share) setShare(*share);
     if (isDone(done)) accept();
   });
   look.start(kLookInterval);

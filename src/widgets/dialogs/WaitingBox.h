@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QDialog>
+#include <atomic>
 #include <future>
 #include <stop_token>
 
+class QProgressBar;
 class QPushButton;
 
 namespace velra {
@@ -18,13 +20,17 @@ class WaitingBox : public QDialog {
   /// `stop` outlives the box; null for work that cannot be stopped.
   WaitingBox(const QString& text, QWidget* owner, std::stop_source* stop);
 
-  /// Shows the box until the work is done.
-  void showUntil(const std::future<void>& done);
+  /// How much of the work is done, from 0 to 1. Without it nobody knows.
+  void setShare(double share);
+
+  /// Shows the box until the work is done, and with it the share that another thread tells, if any.
+  void showUntil(const std::future<void>& done, const std::atomic<double>* share);
 
   void reject() override;
 
  private:
   std::stop_source* stop_;
+  QProgressBar* bar_;
   QPushButton* cancel_;
 };
 

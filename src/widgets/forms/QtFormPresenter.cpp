@@ -10,6 +10,7 @@
 #include "widgets/dialogs/SchemaDialogWindow.h"
 #include "widgets/dialogs/SearchDialogWindow.h"
 #include "widgets/dialogs/SearchResultWindow.h"
+#include "widgets/dialogs/ShotsDialogWindow.h"
 #include "widgets/forms/MetadataFormWindow.h"
 
 namespace velra {
@@ -40,6 +41,11 @@ void QtFormPresenter::showSearchResults(FormOwner& owner, SearchResultDialog& di
 
 void QtFormPresenter::showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) {
   ConnectionDialogWindow window(app_, dialog, windowOf(owner));
+  showModally(window);
+}
+
+void QtFormPresenter::showShotsDialog(FormOwner& owner, ShotsDialog& dialog) {
+  ShotsDialogWindow window(app_, dialog, windowOf(owner));
   showModally(window);
 }
 

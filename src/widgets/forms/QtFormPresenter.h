@@ -31,6 +31,7 @@ class QtFormPresenter : public FormPresenter, public DialogPresenter {
   void showSearchDialog(FormOwner& owner, SearchDialog& dialog) override;
   void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) override;
   void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) override;
+  void showShotsDialog(FormOwner& owner, ShotsDialog& dialog) override;
   void showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) override;
 
   /// The window behind an owner: itself if it is one, else the active one.

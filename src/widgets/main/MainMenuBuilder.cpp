@@ -70,6 +70,9 @@ constexpr struct {
                {"mnuAddMainTranscript", &MenuState::mnuAddMainTranscript},
                {"mnuImportToFS", &MenuState::mnuImportToFS},
                {"mnuExportToDB", &MenuState::mnuExportToDB},
+               {"mnuFileExportAs", &MenuState::mnuFileExportAs},
+               {"mnuFileImport", &MenuState::mnuFileImport},
+               {"mnuFileFindShots", &MenuState::mnuFileFindShots},
                {"mnuFileRecover", &MenuState::mnuFileRecover},
                {"mnuFileIndependent", &MenuState::mnuFileIndependent}};
 
