@@ -17,6 +17,7 @@
 #include "platform/files/Digest.h"
 #include "platform/files/Files.h"
 #include "platform/xml/XmlTexts.h"
+#include "rescue/ReferenceElements.h"
 
 namespace velra {
 
@@ -88,7 +89,9 @@ class BagWriter {
     const FileBytes file = readFile(path);
     bool moved = false;
     const RewrittenXml rewritten = withTextsReplaced(
-        file.bytes, path, [&](std::string_view, const std::string& text) -> std::string {
+        file.bytes, path, [&](std::string_view name, const std::string& text) -> std::string {
+          // A path in any other field is a person's own words.
+          if (!holdsIdentifier(name) && !holdsMoviePath(name)) return text;
           std::string place = inBag(text);
           moved = moved || place != text;
           return place;
