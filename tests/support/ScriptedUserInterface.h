@@ -64,14 +64,13 @@ class ScriptedUserInterface : public UserInterface {
     return chosen(filesToSave);
   }
   // The filter stands behind the path, as in "film.csv as 2".
-  std::optional<ChosenFile> openTypedFile(const std::string& title, const std::string&) override {
-    shown.push_back("open: " + title);
-    return typed(chosen(filesToOpen));
+  std::optional<ChosenFile> openTypedFile(const std::string& title,
+                                          const std::string& filter) override {
+    return typed(openFileDialog(title, filter));
   }
-  std::optional<ChosenFile> saveTypedFile(const std::string& title, const std::string&,
+  std::optional<ChosenFile> saveTypedFile(const std::string& title, const std::string& filter,
                                           const std::string& proposed) override {
-    shown.push_back("save: " + title + " | " + proposed);
-    return typed(chosen(filesToSave));
+    return typed(saveFileDialog(title, filter, proposed));
   }
   void beep() override { shown.emplace_back("beep"); }
   std::unique_ptr<BusySign> showBusy() override {
@@ -116,8 +115,8 @@ class ScriptedUserInterface : public UserInterface {
   static std::optional<ChosenFile> typed(const std::optional<std::string>& file) {
     if (!file) return std::nullopt;
     const std::size_t mark = file->find(" as ");
-    if (mark == std::string::npos) return ChosenFile{*file, 0};
-    return ChosenFile{file->substr(0, mark), std::stoul(file->substr(mark + 4))};
+    const bool marked = mark != std::string::npos;
+    return ChosenFile{file->substr(0, mark), marked ? std::stoul(file->substr(mark + 4)) : 0};
   }
 };
 

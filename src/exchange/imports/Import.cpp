@@ -25,11 +25,7 @@ class ImportRun {
  public:
   ImportRun(ApplicationModule& app, AVDocument& document, const ImportFormat& format,
             const ImportOptions& options)
-      : app_(app),
-        options_(options),
-        format_(format),
-        target_(document, format, options),
-        plan_(app) {}
+      : app_(app), options_(options), format_(format), target_(document, format, options) {}
 
   Proposal read(const std::string& text) const {
     const bool usesRate = format_.options.find("rate") != std::string_view::npos;

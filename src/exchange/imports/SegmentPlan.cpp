@@ -50,7 +50,7 @@ SegmentPlan::Place* SegmentPlan::parentFor(const ProposedSegment& row, const Exp
   return above < line.size() ? line[above] : nullptr;
 }
 
-Message SegmentPlan::faultOf(const Place& parent, const ProposedSegment& row) const {
+Message SegmentPlan::faultOf(const Place& parent, const ProposedSegment& row) {
   if (trimmed(row.title).empty()) return Message::RowWithoutTitle;
   if (parent.children.size() >= kMostSegments) return Message::RowTooMany;
   // What touches the end from behind was cut to nothing.

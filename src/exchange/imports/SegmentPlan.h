@@ -12,8 +12,6 @@
 
 namespace velra {
 
-class ApplicationModule;
-
 /// Proposed segments beside those that are there: which of them may be made, by the rules by which
 /// a person cuts, and then the making of all of these. Nothing is changed before `make`.
 ///
@@ -21,8 +19,6 @@ class ApplicationModule;
 /// behind it is cut there. Its bounds lie in no other segment, and none lies between them.
 class SegmentPlan {
  public:
-  explicit SegmentPlan(ApplicationModule& app) : app_(app) {}
-
   /// Proposes a segment for an expression, or for a part of it by its level. Levels count on from
   /// the rows that were proposed before.
   void propose(const ProposedSegment& row, const ExpressionRef& into);
@@ -53,13 +49,12 @@ class SegmentPlan {
 
   Place& placeOf(const ExpressionRef& expression);
   Place* parentFor(const ProposedSegment& row, const ExpressionRef& into);
-  Message faultOf(const Place& parent, const ProposedSegment& row) const;
+  static Message faultOf(const Place& parent, const ProposedSegment& row);
   bool checkFields(const ProposedSegment& row, const ExpressionRef& into);
   void cut(const Place& parent, ProposedSegment& row);
   bool makeOne(Place& place);
   static void fillIn(Expression& segment, const ProposedSegment& row);
 
-  ApplicationModule& app_;
   std::deque<Place> places_;
   std::map<const Expression*, std::vector<Place*>> last_;  // by level; null for one refused
   std::vector<RowNote> refused_;
