@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "platform/movie/MediaGraph.h"
 
 namespace velra {
@@ -16,8 +18,8 @@ std::string foundIn(const std::string& movie, const ShotSearch& search) {
   std::string text = found.reason;
   for (const FoundShot& shot : found.shots) {
     EXPECT_EQ(shot.picture->width, 128);
-    text += std::to_string(static_cast<int>(shot.start * 1000 + 0.5)) + "-" +
-            std::to_string(static_cast<int>(shot.end * 1000 + 0.5)) + " ";
+    text += std::to_string(std::lround(shot.start * 1000)) + "-" +
+            std::to_string(std::lround(shot.end * 1000)) + " ";
   }
   return text;
 }
