@@ -17,7 +17,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kBlinkInterval = 500;
+constexpr int kLineBlinkInterval = 500;
 constexpr double kRulesWidthTwips = 33000;
 constexpr double kNarrowTwips = 60;  // a mark too narrow to hit answers this far on both sides
 constexpr int kAnnounceInterval = 400;
@@ -28,7 +28,7 @@ AdvancedSliderWidget::AdvancedSliderWidget(AdvancedSlider& advsld, QWidget* pare
     : PaintedPartsWidget(Texts::tr("Timeline"), parent), advsld_(advsld), slider_(advsld, *this) {
   setMaximumWidth(maximumRulesWidth());
   setEnabled(advsld_.Enabled());
-  Timer1_.setInterval(kBlinkInterval);
+  Timer1_.setInterval(kLineBlinkInterval);
   connect(&Timer1_, &QTimer::timeout, this, [this] { advsld_.BlinkTick(); });
   advsld_.events.Repaint = [this] {
     setEnabled(advsld_.Enabled());
