@@ -65,7 +65,7 @@ constexpr ToolKey kKeys[] = {
     {Qt::Key_G, Qt::ControlModifier, false, callCommand<&KeyCommands::askTimeCode>},
 };
 
-const ToolKey* keyOf(const QKeyEvent& event) {
+const ToolKey* toolKeyOf(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
   for (const ToolKey& key : kKeys) {
     if (event.key() == key.key && modifiers == key.modifiers) return &key;
@@ -130,7 +130,7 @@ bool ToolKeys::opensPicture(const QKeyEvent& event) {
 }
 
 bool ToolKeys::press(const QKeyEvent& event, const QWidget& focused) {
-  const ToolKey* key = keyOf(event);
+  const ToolKey* key = toolKeyOf(event);
   if (!key || isWantedBy(focused, *key)) return false;
   if (key->repeats || !event.isAutoRepeat()) key->act(commands_);
   return true;

@@ -13,7 +13,7 @@ namespace velra {
 
 namespace {
 
-constexpr double kShareOfScreen = 0.7;
+constexpr double kFirstShareOfScreen = 0.7;
 constexpr QSize kLeastSize(160, 120);
 
 }  // namespace
@@ -31,7 +31,7 @@ LargePicture::LargePicture(MoviePictures& pictures, QWidget* owner)
 // The movie's proportions are known when it is opened.
 void LargePicture::chooseSize() {
   const QRect room = screen()->availableGeometry();
-  const QSize wanted = room.size() * kShareOfScreen;
+  const QSize wanted = room.size() * kFirstShareOfScreen;
   const QSize own = pictures_.size();
   resize(own.isEmpty() ? wanted : own.scaled(wanted, Qt::KeepAspectRatio));
   move(room.center() - rect().center());

@@ -25,7 +25,7 @@ namespace velra {
 namespace {
 
 constexpr int kPositionInterval = 200;
-constexpr int kBlinkInterval = 500;
+constexpr int kTimeCodeBlinkInterval = 500;
 constexpr int kRoomBelow = 120;          // pixels more than the tool needs, for the fields
 constexpr double kShareOfScreen = 0.94;  // the strip is wanted wide
 
@@ -43,7 +43,7 @@ VideoFormWindow::~VideoFormWindow() = default;
 
 void VideoFormWindow::makeTimers() {
   Timer1_.setInterval(kPositionInterval);
-  BlinkerTimer_.setInterval(kBlinkInterval);
+  BlinkerTimer_.setInterval(kTimeCodeBlinkInterval);
   connect(&Timer1_, &QTimer::timeout, this, [this] { form_->tool().player.Timer1(); });
   connect(&BlinkerTimer_, &QTimer::timeout, this,
           [this] { form_->tool().segments.BlinkerTimer(); });
