@@ -53,7 +53,9 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
   button->setToolTip(QLatin1String(toolTip));
   // Of a caption that is a sign, what is spoken is what it does.
   const bool isSign = !caption.contains(QRegularExpression(QStringLiteral("\\p{L}{3}")));
-  if (isSign) button->setAccessibleName(Texts::tr(toolTip));
+  const QString spoken = Texts::tr(toolTip);
+  if (isSign) button->setAccessibleName(spoken);
+  button->setAccessibleDescription(spoken);
   button->setAutoDefault(false);
   // A click leaves the focus where it is, so that the space bar plays on and does not press again.
   button->setFocusPolicy(Qt::TabFocus);
@@ -63,7 +65,8 @@ QPushButton* ToolPanel::makeButton(const char* name, const QString& caption, con
 
 void ToolPanel::makePlayer(const ApplicationModule& app) {
   controls_.BackButt = makeButton(
-      "BackButt", toQString(app.LoadResString(Message::BackTip)), "To the parent (sub)expression",
+      "BackButt", toQString(app.LoadResString(Message::BackTip)),
+      QT_TRANSLATE_NOOP("Texts", "To the parent (sub)expression"),
       [](ExpressionTool& tool) { tool.BackButt(); }, this);
   controls_.txtTime = new QLineEdit(QStringLiteral("00:00:00:00"), this);
   controls_.txtTime->setObjectName(QStringLiteral("txtTime"));

@@ -143,5 +143,13 @@
         <source>Progress</source>
         <translation>Avanzamento</translation>
     </message>
+    <message>
+        <source>Stop movie</source>
+        <translation>Ferma il filmato</translation>
+    </message>
+    <message>
+        <source>To the parent (sub)expression</source>
+        <translation>Alla (sotto)espressione superiore</translation>
+    </message>
 </context>
 </TS>
