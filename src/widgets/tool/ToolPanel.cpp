@@ -74,7 +74,9 @@ void ToolPanel::makePlayer(const ApplicationModule& app) {
   controls_.txtTime->setAccessibleName(Texts::tr("TimeCode"));
   controls_.txtTime->setReadOnly(true);
   controls_.txtTime->setAlignment(Qt::AlignCenter);
-  controls_.txtTime->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  QFont digits = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  if (font().pointSizeF() > 0) digits.setPointSizeF(font().pointSizeF());  // as large as the rest
+  controls_.txtTime->setFont(digits);
   for (const ButtonLooks& looks : kPlayerButtons) {
     controls_.playerButtons << makeButton(looks.name, QLatin1String(looks.caption), looks.toolTip,
                                           looks.command, this);
