@@ -151,14 +151,15 @@ std::string FaultRun::found() {
 }
 
 // When a failure was told, each file is as it was or as it was to be. Where no call works any more,
-// a shorter content keeps line ends behind its root.
+// a shorter content keeps line ends behind its root, and what was to replace a file lies beside it.
 void FaultRun::checkFiles() {
   const auto holds = [](const Files& files, const auto& file) {
     const auto at = files.find(file.first);
     return at != files.end() && trimmedEnd(at->second) == trimmedEnd(file.second);
   };
   for (const auto& file : at_.session.folder.snapshot()) {
-    if (file.first.starts_with("state/") || holds(at_.filesAtFirst(), file)) continue;
+    if (file.first.starts_with("state/") || file.first.ends_with(".new")) continue;
+    if (holds(at_.filesAtFirst(), file)) continue;
     if (!holds(filesAfter_, file)) report_->complain(file.first + " is neither old nor new");
   }
 }
