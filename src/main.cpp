@@ -58,7 +58,11 @@ int run(GuardedApplication& application, InterfaceLanguage language,
   presenter.setMainWindow(&window);
   rules.setDialogPresenter(&presenter);
 
-  Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
+  try {
+    Main(app, rules, commandLine, {[&] { window.show(); }, [&] { window.showSplash(); }});
+  } catch (const LeftInWork&) {
+    // The window closes with the first events.
+  }
   const int status = QCoreApplication::exec();
   application.setLastWish({});
   application.setExitWish({});

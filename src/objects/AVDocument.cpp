@@ -71,7 +71,8 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   const FolderScans::Opening opening(io->scans());
   std::string told = io->strFinishCutOffSaves(guid);
   // Each file is read, and an object is made of it.
-  const LongWork work(app().gMainForm, 2 * colListFiles(dataFolderOf(guid) + "*.xml").size());
+  const std::size_t files = colListFiles(dataFolderOf(guid) + "*.xml").size();
+  const LongWork work(app().gMainForm, 2 * files, Leaving::AtOnce);
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {

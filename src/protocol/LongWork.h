@@ -12,8 +12,9 @@ namespace velra {
 class LongWork {
  public:
   /// The window, which outlives it, may be null.
-  LongWork(MainWindow* window, std::size_t parts) : window_(window) {
-    if (window_) window_->workBegins(parts);
+  LongWork(MainWindow* window, std::size_t parts, Leaving leaving = Leaving::NotBefore)
+      : window_(window) {
+    if (window_) window_->workBegins(parts, leaving);
   }
   ~LongWork() {
     if (window_) window_->workEnds();

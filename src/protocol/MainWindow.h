@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <exception>
 #include <string>
 
 #include "protocol/ObjectForm.h"
@@ -13,6 +14,13 @@ class VideoExpression;
 
 /// The two trees of the main window.
 enum class TreeId { tvwMainTree, tvwExpression };
+
+/// Whether long work may be left in its midst, when the person closes the program.
+enum class Leaving { NotBefore, AtOnce };
+
+/// The person closes the program in the midst of work that may be left. It is no error: whoever
+/// runs events lets it end there.
+class LeftInWork : public std::exception {};
 
 /// The main window as objects and forms see it.
 class MainWindow : public FormOwner {
@@ -31,8 +39,8 @@ class MainWindow : public FormOwner {
   virtual void UpdateSmallKeyFrames() = 0;
 
   // Long work, as LongWork tells it. A window may show nothing of it.
-  virtual void workBegins(std::size_t /*parts*/) {}
-  /// One part more is done; one beyond their number counts nothing.
+  virtual void workBegins(std::size_t /*parts*/, Leaving /*leaving*/) {}
+  /// One part more is done; one beyond their number counts nothing. Raises LeftInWork.
   virtual void workSteps() {}
   virtual void workEnds() {}
 };

@@ -27,6 +27,7 @@ class CurrentFace : public MainWindowFace {
   void showProgress(std::size_t done, std::size_t total) override {
     if (face_) face_->showProgress(done, total);
   }
+  bool isLeaveAsked() override { return face_ && face_->isLeaveAsked(); }
 
  private:
   MainWindowFace* face_ = nullptr;

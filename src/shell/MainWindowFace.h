@@ -22,6 +22,9 @@ class MainWindowFace {
   virtual void iconsChanged() = 0;
   /// So many parts of long work are done; a total of 0 ends it. No event of the window runs.
   virtual void showProgress(std::size_t done, std::size_t total) = 0;
+  /// True when the person wants to leave the program since that began. Events of the window may
+  /// run, but none that begins a command.
+  virtual bool isLeaveAsked() = 0;
 };
 
 }  // namespace velra

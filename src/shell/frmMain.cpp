@@ -38,14 +38,16 @@ void frmMain::setStrStatusBarText(const std::string& text) {
   face_.showStatusText(text);
 }
 
-void frmMain::workBegins(std::size_t parts) {
+void frmMain::workBegins(std::size_t parts, Leaving leaving) {
   workParts_ = parts;
+  leaving_ = leaving;
   workDone_ = 0;
   face_.showProgress(0, parts);
 }
 
 void frmMain::workSteps() {
   if (workDone_ < workParts_) face_.showProgress(++workDone_, workParts_);
+  if (leaving_ == Leaving::AtOnce && face_.isLeaveAsked()) throw LeftInWork();
 }
 
 void frmMain::dropFile(const std::string& path, const ObjectRef& onto) {

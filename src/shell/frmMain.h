@@ -54,9 +54,9 @@ class frmMain : public MainWindow {
   void RemoveIcon(const std::string& key) override { trees_.RemoveIcon(key); }
   void AddSmallKeyFrame(const VideoExpression& video) override { trees_.AddSmallKeyFrame(video); }
   void UpdateSmallKeyFrames() override;
-  void workBegins(std::size_t parts) override;
+  void workBegins(std::size_t parts, Leaving leaving) override;
   void workSteps() override;
-  void workEnds() override { workBegins(0); }
+  void workEnds() override { workBegins(0, Leaving::NotBefore); }
 
   // The mouse and the keyboard on the trees.
   void treeMouseDown(TreeId tree, MouseButton button) { clicks_.treeMouseDown(tree, button); }
@@ -105,6 +105,7 @@ class frmMain : public MainWindow {
   std::string statusText_;
   std::size_t workParts_ = 0;
   std::size_t workDone_ = 0;
+  Leaving leaving_ = Leaving::NotBefore;
   CurrentFace face_;
   MainTrees trees_;
   MainMenus menus_;

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "protocol/MainWindow.h"
 #include "widgets/QtText.h"
 #include "widgets/dialogs/MessageBoxes.h"
 
@@ -47,6 +48,8 @@ void GuardedApplication::guarded(const std::function<void()>& action) {
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
+  } catch (const LeftInWork&) {
+    return true;
   } catch (const std::exception& failure) {
     endAtOnce(failure);
   }

@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QTimer>
+#include <filesystem>
 
 #include "scenario/Desktop.h"
 
@@ -47,6 +50,23 @@ TEST(Busy, AnOpeningPaintsItsProgressAndLetsCommandsWait) {
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
   QTest::qWait(0);
   EXPECT_EQ(commands, 1);
+}
+
+TEST(Busy, AnOpeningCanBeLeftAndTakesNoKeysMeanwhile) {
+  Desktop desktop;
+  desktop.start("");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&desktop.window));
+  const std::string data = desktop.folder / "sample/lighthouse_files/lighthouse_";
+  for (int i = 0; i < 8000; ++i) {
+    std::filesystem::copy_file(data + "version1.xml", data + "other" + std::to_string(i) + ".xml");
+  }
+  QCoreApplication::postEvent(&desktop.window,
+                              new QKeyEvent(QEvent::KeyPress, Qt::Key_O, Qt::ControlModifier));
+  QTimer::singleShot(0, &desktop.window, &QWidget::close);
+  EXPECT_THROW(desktop.rules.OpenFile(desktop.sample()), LeftInWork);
+  EXPECT_TRUE(desktop.window.isVisible());
+  QTest::qWait(1);
+  EXPECT_FALSE(desktop.window.isVisible());
 }
 
 }  // namespace

@@ -145,6 +145,11 @@ void MainFormWindow::iconsChanged() {
 
 void MainFormWindow::showProgress(std::size_t done, std::size_t total) {
   sbStatusBar_->showProgress(done, total);
+  if (done == 0) leave_.begin();
+}
+
+bool MainFormWindow::isLeaveAsked() {
+  return leave_.isAsked();
 }
 
 void MainFormWindow::closeWindow() {

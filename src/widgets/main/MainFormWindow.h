@@ -10,6 +10,7 @@
 #include "widgets/Guide.h"
 #include "widgets/main/TreeIconPainter.h"
 #include "widgets/main/TreeModel.h"
+#include "widgets/progress/LeaveWatch.h"
 
 namespace velra {
 
@@ -51,6 +52,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   void popUpEditMenu() override;
   void iconsChanged() override;
   void showProgress(std::size_t done, std::size_t total) override;
+  bool isLeaveAsked() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -71,6 +73,7 @@ class MainFormWindow : public QMainWindow, public MainWindowFace {
   QPointer<SplashWindow> splash_;
   QTimer timer1_{this};
   QTimer keeper_{this};
+  LeaveWatch leave_{*this};
   QPoint menuPosition_;
 };
 
