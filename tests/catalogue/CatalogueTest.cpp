@@ -87,10 +87,12 @@ void checkADay(ExchangeSession& session, const std::string& database) {
       {"brood", film + "ThematicKeywords: Brood"},
       {"dagelijks LEVEN", film + "Themes: Maatschappij en dagelijks leven"},
       {"דגים", film + "AlternativeTitles: דגים וצ׳יפס"},
-      {"unabh*", "Transcript Whole Transcript @8496 Words: "
-                 "Unabhängigkeitserklärungsverhandlungsführerinnen"},
-      {"quay women", "Transcript Whole Transcript @1719 Words: "
-                     "On the quay the women wait with baskets; nobody speaks."},
+      {"unabh*",
+       "Transcript Whole Transcript @8496 Words: "
+       "Unabhängigkeitserklärungsverhandlungsführerinnen"},
+      {"quay women",
+       "Transcript Whole Transcript @1719 Words: "
+       "On the quay the women wait with baskets; nobody speaks."},
       {"rolls", "Video Second, \"the market\" @2520 Keywords: Bread; rolls"},
       {"הדגים", "Video שוק הדגים @0 Title: שוק הדגים"},
   };
