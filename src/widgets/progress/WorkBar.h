@@ -8,8 +8,8 @@
 namespace velra {
 
 /// How far work has come that lasts longer than half a second. Works that follow one another
-/// without a pause are one wait. Meanwhile no event of the window runs, so that no command can; the
-/// bar has the whole window painted a few times in a second.
+/// without a pause are one wait. It runs no event of the window, so that no command begins, but has
+/// the whole window painted a few times in a second.
 class WorkBar : public QProgressBar {
   Q_OBJECT
 
