@@ -14,13 +14,13 @@ namespace velra {
 namespace {
 
 // "simple" knows no language, as the texts are of five.
-constexpr const char* kTextIndex =
+constexpr const char* kServerIndex =
     "ALTER TABLE passage ADD COLUMN words tsvector"
     " GENERATED ALWAYS AS (to_tsvector('simple', text)) STORED;"
     "CREATE INDEX passage_words ON passage USING gin(words);"
     "CREATE TABLE catalogue_form(form INTEGER NOT NULL);";
 
-constexpr const char* kFind = R"(
+constexpr const char* kServerFind = R"(
   SELECT document.path, object.class, object.title, passage.start_seconds, segment.rate,
          passage.name, passage.text
   FROM to_tsquery('simple', $1) AS sought
@@ -94,7 +94,7 @@ void PostgresCatalogue::makeTables() {
     throw ExchangeFailure("The PostgreSQL server: the catalogue is of another version of velra.");
   }
   connection_.runAll(catalogueDefinition("BIGSERIAL PRIMARY KEY", ""));
-  connection_.runAll(kTextIndex);
+  connection_.runAll(kServerIndex);
   connection_.run("INSERT INTO catalogue_form VALUES($1::integer)",
                   {std::to_string(kCatalogueForm)});
   transaction.commit();
@@ -128,7 +128,7 @@ std::vector<CatalogueHit> PostgresCatalogue::find(const std::string& words, int 
   std::vector<CatalogueHit> hits;
   const std::string query = queryFor(words);
   if (query.empty()) return hits;
-  for (const auto& row : connection_.run(kFind, {query, std::to_string(most)})) {
+  for (const auto& row : connection_.run(kServerFind, {query, std::to_string(most)})) {
     CatalogueHit hit{*row[0], *row[1], *row[2], {}, realOf(row[4]), *row[5], *row[6]};
     if (row[3]) hit.start = realOf(row[3]);
     hits.push_back(std::move(hit));

@@ -25,7 +25,7 @@ std::string ms(double seconds) {
   return std::to_string(milliseconds(seconds));
 }
 
-std::string spoken(const std::vector<ContentWord>& words) {
+std::string spokenLine(const std::vector<ContentWord>& words) {
   std::string all;
   for (const ContentWord& word : words) all += ' ' + ms(word.start) + word.text + ms(word.end);
   return all;
@@ -42,7 +42,7 @@ std::string saidBy(const Content& content, bool allWords) {
     const std::string description = object.text("Description");
     if (!description.empty()) all += ' ' + description;
     const ContentField* words = object.field("TranscriptWordList");
-    if (words && allWords) all += spoken(words->words);
+    if (words && allWords) all += spokenLine(words->words);
     all += "\n";
   }
   return all;
@@ -98,7 +98,9 @@ class ImportActor : public Actor {
       const auto seconds = timeInText(time, toNumber(rate).value_or(0));
       say(seconds ? secondsText(*seconds) : "none");
     };
-    verbs_["cue"] = [this](const std::string& text) { say(spoken(wordsOfCue(text, 1, 2, true))); };
+    verbs_["cue"] = [this](const std::string& text) {
+      say(spokenLine(wordsOfCue(text, 1, 2, true)));
+    };
     replaced_[session_.application.folder.path()] = "~";
     replaced_[session_.folder.path()] = "~";
   }

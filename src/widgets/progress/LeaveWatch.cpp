@@ -10,7 +10,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kUnnoticedWork = 500;  // milliseconds
+constexpr int kQuietWork = 500;  // milliseconds
 constexpr int kRunMilliseconds = 200;
 
 bool beginsCommands(QEvent::Type type) {
@@ -41,7 +41,7 @@ void LeaveWatch::begin() {
 }
 
 bool LeaveWatch::isAsked() {
-  if (asked_ || sinceBegun_.elapsed() < kUnnoticedWork || sinceRun_.elapsed() < kRunMilliseconds) {
+  if (asked_ || sinceBegun_.elapsed() < kQuietWork || sinceRun_.elapsed() < kRunMilliseconds) {
     return asked_;
   }
   qApp->installEventFilter(this);
