@@ -63,7 +63,8 @@ int run(GuardedApplication& application, InterfaceLanguage language,
   } catch (const LeftInWork&) {
     // The window closes with the first events.
   }
-  const int status = QCoreApplication::exec();
+  // A box amid an opening from the command line may have taken the signal's event.
+  const int status = quitBySignal.isAsked() ? 0 : QCoreApplication::exec();
   application.setLastWish({});
   application.setExitWish({});
   rules.releaseDocument();  // while the windows that it may report to are still there

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <csignal>
 
 namespace velra {
@@ -47,7 +48,9 @@ SignalQuit::SignalQuit()
     notifier_->setEnabled(false);
     signalfd_siginfo first{};
     if (::read(signals_.number(), &first, sizeof first) > 0) letSignalsEnd();
-    QCoreApplication::quit();
+    asked_ = true;
+    // Not quit(), which does nothing until the program's own loop runs.
+    QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::Quit));
   });
 }
 

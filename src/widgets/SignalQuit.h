@@ -21,9 +21,13 @@ class SignalQuit {
   SignalQuit& operator=(const SignalQuit&) = delete;
   ~SignalQuit();
 
+  /// True when a signal has come.
+  bool isAsked() const { return asked_; }
+
  private:
   FileHandle signals_;
   std::optional<QSocketNotifier> notifier_;
+  bool asked_ = false;
 };
 
 }  // namespace velra

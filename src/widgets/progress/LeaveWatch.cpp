@@ -52,8 +52,10 @@ bool LeaveWatch::isAsked() {
   return asked_;
 }
 
+// A signal that ends the program comes as an event, too.
 bool LeaveWatch::eventFilter(QObject* receiver, QEvent* event) {
-  if (event->type() == QEvent::Close && receiver == &window_) {
+  const bool closes = event->type() == QEvent::Close && receiver == &window_;
+  if (closes || event->type() == QEvent::Quit) {
     asked_ = true;
     event->ignore();
     return true;
