@@ -25,7 +25,8 @@ constexpr const char* kWorkTables = R"(
 )";
 
 // `blocks` tells what a planned file writes over. A planned removal is of a save that has not been
-// finished. A file that is made has been moved, or comes from nowhere.
+// finished. A file that is made has been moved, or comes from nowhere; all of a save stand in one
+// row, each path with a zero byte behind it.
 constexpr const char* kPlanTables = R"(
   DROP TABLE IF EXISTS planned;
   DROP TABLE IF EXISTS removal;

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "base/Text.h"
 #include "platform/database/Database.h"
 #include "rescue/RescueTables.h"
 
@@ -44,10 +45,19 @@ void SavePlans::planCopy(SessionId session, const CopyPlan& plan) {
   Transaction transaction(database_);
   drop(session);
   insert(session, {plan.document});
-  Statement row = database_.prepare("INSERT INTO made VALUES(?1, ?2, ?3, ?4)");
-  std::int64_t position = 0;
+  // One row for all: as many rows as files would cost a tenth of the whole save.
+  std::string paths;
+  std::string movedFrom;
   for (const MadeFile& file : plan.made) {
-    row.number(1, session).number(2, ++position).text(3, file.path).text(4, file.movedFrom).run();
+    paths += file.path + '\0';
+    movedFrom += file.movedFrom + '\0';
+  }
+  if (!plan.made.empty()) {
+    database_.prepare("INSERT INTO made VALUES(?1, 1, ?2, ?3)")
+        .number(1, session)
+        .bytes(2, paths)
+        .bytes(3, movedFrom)
+        .run();
   }
   transaction.commit();
 }
@@ -116,7 +126,13 @@ std::vector<MadeFile> SavePlans::made(SessionId session) {
   Statement rows =
       database_.prepare("SELECT path, moved_from FROM made WHERE session = ?1 ORDER BY position");
   rows.number(1, session);
-  while (rows.next()) found.push_back({rows.text(0), rows.text(1)});
+  while (rows.next()) {
+    const std::vector<std::string> paths = split(rows.text(0), '\0');
+    const std::vector<std::string> movedFrom = split(rows.text(1), '\0');
+    for (std::size_t i = 0; i < paths.size() && i < movedFrom.size(); ++i) {
+      if (!paths[i].empty()) found.push_back({paths[i], movedFrom[i]});
+    }
+  }
   return found;
 }
 
