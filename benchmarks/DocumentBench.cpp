@@ -13,6 +13,7 @@
 #include "PlainParse.h"
 #include "RunFolder.h"
 #include "base/Text.h"
+#include "rescue/RescueWriter.h"
 #include "schema/SEColl.h"
 #include "store/ObjectRegistry.h"
 
@@ -132,11 +133,14 @@ void plainCopy(const fs::path& from, const fs::path& to) {
   ::sync();
 }
 
-// Both with what the system has to do to bring all to the disk, in turns; the better of three.
+// Both with what the system has to do to bring all to the disk, in turns; the better of three. What
+// is told to the store of unsaved work is part of it, as in the program.
 void measureSaveAs(BenchSession& session, const std::string& path, RunFolder& run,
                    Figures& figures) {
   Times saves;
   Times copies;
+  RescueWriter store(run.make("state") + "/rescue.sqlite");
+  session.app.rescue = &store;
   for (int i = 0; i < 3; ++i) {
     session.close();
     session.open(path);
@@ -147,6 +151,8 @@ void measureSaveAs(BenchSession& session, const std::string& path, RunFolder& ru
     copies.take([&] { plainCopy(fs::path(path).parent_path(), copied); });
   }
   for (const std::string& box : session.ui.takeShown()) std::puts(box.c_str());
+  session.close();
+  session.app.rescue = nullptr;
   figures.saveAs = saves.at(0);
   figures.copy = copies.at(0);
 }
