@@ -129,6 +129,7 @@ TEST(Catalogue, LoadsWhatHasChangedAndForgetsWhatIsGone) {
 
 TEST(Catalogue, AServerHoldsAndFindsTheSame) {
   const PostgresServer server;
+  // ./test installs it; a build of the package alone need not have a server.
   if (!server.installed()) GTEST_SKIP() << "PostgreSQL is not installed";
   const std::string address = server.address();
   ASSERT_NE(address, "") << "the server could not be started";
