@@ -2,6 +2,7 @@
 #include "tool/Framelist.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "base/Arithmetic.h"
 #include "tool/PropertyBag.h"
@@ -138,7 +139,8 @@ double Framelist::panelWidth() const {
 void Framelist::sizeScrollBar() {
   HScroll1_.largeChange = iCellX_;
   HScroll1_.smallChange = toInt16(ImageX_ / 4.0);
-  HScroll1_.max = toInt16(panelWidth() - width_);
+  // On a wide screen a short strip falls short of the control by more than 16 bits hold.
+  HScroll1_.max = toInt16(std::max(panelWidth() - width_, double{INT16_MIN}));
   HScroll1_.visible = width_ < panelWidth();
   Scroll(HScroll1_.value);
 }

@@ -95,6 +95,7 @@ TEST_F(FramelistTest, TheScrollBarReachesAsFarAsSixteenBits) {
   strip.Resize(strip.panelWidth());
   EXPECT_EQ(strip.panelLeft(), 0);
   EXPECT_FALSE(strip.scrollBar().visible);
+  strip.Resize(57600);  // on a screen of 3840 pixels
   strip.Resize(9000);
   for (std::int16_t place = 10; place <= 37; ++place) add(place);  // 40,800 less 9,000
   EXPECT_THROW(add(38), RunTimeError);
