@@ -191,6 +191,12 @@ TEST_F(MovieGraphTest, PlaysInTheSizeThatIsShownAndStandsInItsOwn) {
   graph.Pause();
   ASSERT_TRUE(movie.waitUntil([&] { return graph.picture()->width == 160; }));
   EXPECT_EQ(std::lround(graph.CurrentPosition() * 25), movie.number());
+  const test::TemporaryFolder folder;
+  PlayedMovie wide;
+  ASSERT_EQ(wide.open(test::makeWideMovie(folder)), "");
+  EXPECT_EQ(wide.graph().videoWidth(), 199);
+  EXPECT_EQ(wide.graph().videoHeight(), 112);
+  EXPECT_EQ(wide.graph().picture()->width, 160);
 }
 
 TEST_F(MovieGraphTest, LeavesNothingBehind) {

@@ -234,6 +234,15 @@ std::string makeFallingMovie(const TemporaryFolder& folder) {
   return folder.write("falling.flv", bytes);
 }
 
+std::string makeWideMovie(const TemporaryFolder& folder) {
+  std::string bytes = bytesOf("mpeg2-23976.mpg");
+  const std::string header("\0\0\1\xb3", 4);
+  for (std::size_t at = 0; (at = bytes.find(header, at)) != std::string::npos; ++at) {
+    bytes[at + 7] = static_cast<char>((byteAt(bytes, at + 7) & 0xf) | 0x30);
+  }
+  return folder.write("wide.mpg", bytes);
+}
+
 std::string makeHugeMovie(const TemporaryFolder& folder) {
   std::string bytes = bytesOf("mjpeg-23976.avi");
   const std::string side("\x3e\x80", 2);  // 16,000

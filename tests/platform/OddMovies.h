@@ -32,6 +32,9 @@ std::vector<std::string> makeBlindMovies(const TemporaryFolder& folder);
 /// A movie whose stamps occur twice: they begin anew in the middle.
 std::string makeFallingMovie(const TemporaryFolder& folder);
 
+/// A movie of 160 x 112 pixels that is meant to be seen as 16 : 9.
+std::string makeWideMovie(const TemporaryFolder& folder);
+
 /// A movie of 16,000 x 16,000 pixels.
 std::string makeHugeMovie(const TemporaryFolder& folder);
 

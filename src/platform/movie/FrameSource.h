@@ -52,6 +52,9 @@ class FrameSource {
   /// The coded size of the first picture, without correction of the aspect.
   PixelSize size() const { return reader_.size(); }
 
+  /// The size in square pixels.
+  PixelSize shownSize() const { return reader_.shownSize(); }
+
   /// What the stamps of the container exceed times by.
   const StampLine& stampLine() const { return line_; }
 

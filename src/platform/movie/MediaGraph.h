@@ -41,6 +41,8 @@ class MediaGraph {
 
   /// Seconds; 0 when unknown (a file without pictures).
   virtual double AvgTimePerFrame() const = 0;
+
+  /// The size in square pixels, as which the pictures are meant to be seen; 0 without pictures.
   virtual int videoWidth() const = 0;
   virtual int videoHeight() const = 0;
 

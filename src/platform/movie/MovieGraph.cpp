@@ -35,8 +35,8 @@ std::string MovieGraph::RenderFile(const std::string& path, const std::stop_toke
 
 void MovieGraph::renderPictures(const std::string& path, std::unique_ptr<FrameSource> source) {
   frameTime_ = source->frameTime();
-  width_ = source->size().width;
-  height_ = source->size().height;
+  width_ = source->shownSize().width;
+  height_ = source->shownSize().height;
   PlayClock clock(std::make_unique<SoundOut>(path, source->stampLine()));
   duration_ = source->duration();
   const std::lock_guard lock(notifyMutex_);

@@ -18,10 +18,23 @@ namespace {
 constexpr double kShortestFrame = 1.0 / 121;
 constexpr double kLongestFrame = 1.1;
 
+// Pixels that are longer than this are a damaged header's.
+constexpr double kLongestPixel = 8;
+
 constexpr char kNoPicture[] = "It holds no picture that can be decoded.";
 
 std::int64_t ticksOf(const AVFrame& frame, const MovieInput& input) {
   return input.hasBareStamps() ? frame.pts : frame.best_effort_timestamp;
+}
+
+// `shape` is the width of a pixel by its height; 0 when it is not told.
+PixelSize inSquarePixels(PixelSize size, double shape) {
+  if (shape > 1 && shape <= kLongestPixel) {
+    size.width = static_cast<int>(std::lround(size.width * shape));
+  } else if (shape < 1 && shape >= 1 / kLongestPixel) {
+    size.height = static_cast<int>(std::lround(size.height / shape));
+  }
+  return size;
 }
 
 bool isKey(const AVFrame& frame) {
@@ -57,6 +70,8 @@ bool PictureReader::takeFirst() {
   firstStamp_ = stampOf(*first);
   ownStamps_ = hasOwnStamp(*first);
   size_ = {first->width, first->height};
+  shownSize_ = inSquarePixels(
+      size_, av_q2d(av_guess_sample_aspect_ratio(nullptr, input_->stream(), first.get())));
   clock_.restart(0, firstStamp_);
   current_ = std::make_unique<Current>(Current{std::move(first), 0});
   return true;

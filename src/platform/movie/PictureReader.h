@@ -36,6 +36,10 @@ class PictureReader {
   const MovieInput& input() const { return *input_; }
   PixelSize size() const { return size_; }
 
+  /// The size in square pixels, as the file tells their shape: no side is smaller than the coded
+  /// one.
+  PixelSize shownSize() const { return shownSize_; }
+
   /// Seconds a picture as the file tells it; 0 when that cannot be true.
   double statedFrameTime() const;
 
@@ -109,6 +113,7 @@ class PictureReader {
   double firstStamp_ = PictureClock::kUnknown;
   bool ownStamps_ = false;  // the file gives stamps to pictures, if not to all
   PixelSize size_;
+  PixelSize shownSize_;
   int starts_ = 0;
 };
 

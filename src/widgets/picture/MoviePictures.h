@@ -24,7 +24,7 @@ class MoviePictures : public QObject {
   /// From now on the pictures of this movie, which must stay until the next call; null for none.
   void showMovie(MediaGraph* movie);
 
-  /// The movie's own size; empty without a movie or its pictures.
+  /// The size as which the movie is meant to be seen; empty without a movie or its pictures.
   QSize size() const;
 
   /// A view shows them in so many pixels; an empty size takes it out. Pictures of play, which pass
