@@ -79,4 +79,16 @@ std::size_t characters(std::string_view text) {
   }));
 }
 
+std::string uriPath(const std::string& path) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string uri;
+  for (const char character : path) {
+    const unsigned byte = static_cast<unsigned char>(character);
+    const bool plain = (byte | 32U) - 'a' < 26U || byte - '0' < 10U ||
+                       std::string_view("-._~/").find(character) != std::string_view::npos;
+    uri += plain ? std::string(1, character) : std::string{'%', kHex[byte >> 4U], kHex[byte & 15U]};
+  }
+  return uri;
+}
+
 }  // namespace velra

@@ -26,4 +26,7 @@ std::string oneLine(std::string_view text);
 /// How many characters a text in UTF-8 has.
 std::size_t characters(std::string_view text);
 
+/// A path as it stands in an address of the web.
+std::string uriPath(const std::string& path);
+
 }  // namespace velra

@@ -7,9 +7,9 @@ namespace velra {
 
 const std::vector<const ExportFormat*>& exportFormats() {
   static const std::vector<const ExportFormat*> kFormats{
-      &kCsvFormat,    &kTsvFormat,      &kJsonLinesFormat,  &kWebVttFormat,
-      &kSubRipFormat, &kChaptersFormat, &kEdlFormat,        &kHtmlFormat,
-      &kBagFormat,    &kManifestFormat, &kDublinCoreFormat, &kPbCoreFormat,
+      &kCsvFormat,        &kTsvFormat,    &kJsonLinesFormat, &kWebVttFormat, &kSubRipFormat,
+      &kChaptersFormat,   &kEdlFormat,    &kHtmlFormat,      &kBagFormat,    &kManifestFormat,
+      &kDublinCoreFormat, &kPbCoreFormat, &kEbuCoreFormat,
   };
   return kFormats;
 }

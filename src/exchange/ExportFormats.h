@@ -18,5 +18,6 @@ extern const ExportFormat kBagFormat;
 extern const ExportFormat kManifestFormat;
 extern const ExportFormat kDublinCoreFormat;
 extern const ExportFormat kPbCoreFormat;
+extern const ExportFormat kEbuCoreFormat;
 
 }  // namespace velra

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exchange/ManifestParts.h"
 
-#include <string_view>
 #include <utility>
 
 namespace velra {
@@ -22,18 +21,6 @@ ManifestJson inItsLanguages(const ContentField& field) {
 }
 
 }  // namespace
-
-std::string uriPath(const std::string& path) {
-  static constexpr char kHex[] = "0123456789ABCDEF";
-  std::string uri;
-  for (const char character : path) {
-    const unsigned byte = static_cast<unsigned char>(character);
-    const bool plain = (byte | 32U) - 'a' < 26U || byte - '0' < 10U ||
-                       std::string_view("-._~/").find(character) != std::string_view::npos;
-    uri += plain ? std::string(1, character) : std::string{'%', kHex[byte >> 4U], kHex[byte & 15U]};
-  }
-  return uri;
-}
 
 // Braces around one value mean a copy of it to some compilers, and a list to others.
 ManifestJson inList(ManifestJson one) {

@@ -12,9 +12,6 @@ namespace velra {
 
 using ManifestJson = nlohmann::ordered_json;
 
-/// A path as it stands in an address of the web.
-std::string uriPath(const std::string& path);
-
 /// A list of one.
 ManifestJson inList(ManifestJson one);
 

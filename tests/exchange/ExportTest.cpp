@@ -6,6 +6,7 @@
 
 #include "base/Text.h"
 #include "exchange/BagCheck.h"
+#include "exchange/ContentText.h"
 #include "exchange/Cues.h"
 #include "exchange/ExchangeFailure.h"
 #include "exchange/FrameCount.h"
@@ -39,6 +40,7 @@ const ExpectedFile kExpectedFiles[] = {
     {"html", {}, "film.html"},
     {"dc", {}, "film.dc.xml"},
     {"pbcore", {}, "film.pbcore.xml"},
+    {"ebucore", {}, "film.ebucore.xml"},
     {"iiif", {"--base", "https://archive.example/film/"}, "film.json"},
 };
 
@@ -59,6 +61,7 @@ TEST(Export, WritesWhatIsExpectedAndNothingIntoTheDocument) {
   for (const ExpectedFile& expected : kExpectedFiles) {
     const Exported made = exported(expected.format, content, expected.words);
     std::string text = replaceAll(made.bytes, session.folder.path(), "@");
+    text = replaceAll(text, uriPath(session.folder.path()), "@");
     for (const std::string& note : made.notes) text += "\n| " + note;
     const std::string path = VELRA_SOURCE_DIR "/tests/exchange/expected/" + expected.file;
     if (std::getenv("VELRA_SCENES")) std::ofstream(path, std::ios::binary) << text;

@@ -5,10 +5,10 @@
 
 #include "base/Text.h"
 #include "exchange/ContentText.h"
+#include "exchange/Copies.h"
 #include "exchange/ExportFormats.h"
 #include "exchange/Mapping.h"
 #include "exchange/PbCoreElements.h"
-#include "platform/movie/MovieFacts.h"
 #include "platform/xml/XmlStream.h"
 
 namespace velra {
@@ -53,7 +53,8 @@ class PbCoreWriter {
     }
     elements.putUpTo("rights");
     for (const ContentObject* version : content_.below(object)) {
-      if (version->kind == ObjectKind::Version) writeInstantiations(*version);
+      if (version->kind != ObjectKind::Version) continue;
+      for (const Copy& copy : copiesOf(content_, *version)) writeInstantiation(copy);
     }
     elements.putUpTo("annotation");
     writeParts(object);
@@ -74,42 +75,32 @@ class PbCoreWriter {
     xml_.close();
   }
 
-  void writeInstantiations(const ContentObject& version) {
-    for (const ContentObject* media : content_.below(version)) {
-      if (media->kind != ObjectKind::Media) continue;
-      const auto storages = content_.below(*media);
-      if (storages.empty()) writeInstantiation(version, *media, *media);
-      for (const ContentObject* storage : storages) writeInstantiation(version, *media, *storage);
-    }
-  }
-
-  void writeInstantiation(const ContentObject& version, const ContentObject& media,
-                          const ContentObject& copy) {
+  void writeInstantiation(const Copy& copy) {
     ++instantiations_;
-    MappedValues values{{"identifier", "velra", copy.identifier, ""}};
-    std::vector<const ContentObject*> ladder{&version, &media, &copy};
-    if (&media == &copy) ladder.pop_back();
-    for (const ContentObject* object : ladder) {
+    const ContentObject& itself = copy.itself();
+    const MovieFacts& facts = copy.facts;
+    MappedValues values{{"identifier", "velra", itself.identifier, ""}};
+    for (const ContentObject* object : copy.ladder) {
       const MappedValues more = mapping_.valuesOf(*object);
       values.insert(values.end(), more.begin(), more.end());
     }
-    const MovieFacts facts = copy.movie.empty() ? MovieFacts() : movieFacts(copy.movie);
     PbCoreElements elements(kPbCoreInstantiation, values, xml_);
     xml_.open("pbcoreInstantiation");
     elements.putUpTo("physical");
     element("instantiationDigital", facts.mimeType);
-    xml_.element("instantiationLocation", copy.movie.empty() ? "-" : copy.movie);
+    xml_.element("instantiationLocation", itself.movie.empty() ? "-" : itself.movie);
     element("instantiationMediaType", facts.pictureCoding.empty() ? "" : "Moving Image");
     elements.putUpTo("generations");
     number("instantiationFileSize", static_cast<double>(facts.bytes), "bytes");
-    if (const ContentField* duration = version.field("Duration"); duration && duration->span) {
+    if (const ContentField* duration = copy.ladder.front()->field("Duration");
+        duration && duration->span) {
       xml_.element("instantiationDuration", clockText(duration->span->end));
     }
     number("instantiationDataRate", static_cast<double>(facts.bitRate), "bits/second");
     elements.putUpTo("colors");
     writeTracks(facts);
     elements.putUpTo("annotation");
-    for (const ContentObject* object : ladder) extend(*object, "instantiationExtension");
+    for (const ContentObject* object : copy.ladder) extend(*object, "instantiationExtension");
     xml_.close();
   }
 
