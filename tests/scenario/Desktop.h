@@ -73,13 +73,13 @@ class Desktop {
     if (found.isEmpty()) qFatal("no node %s", qPrintable(text));
     trees.scrollTo(found.front());
     QTest::mouseClick(trees.viewport(), Qt::LeftButton, Qt::NoModifier,
-                      trees.visualRect(found.front()).center());
+                      seenOf(trees, found.front()).center());
   }
   /// Opens the context menu of a node as the right button does, and chooses an entry.
   void chooseFromMenu(const char* tree, const QString& text, const char* action) {
     click(tree, text);
     QTreeView& trees = view(tree);
-    const QPoint place = trees.visualRect(trees.currentIndex()).center();
+    const QPoint place = seenOf(trees, trees.currentIndex()).center();
     QWidget& viewport = *trees.viewport();
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, viewport.mapToGlobal(place));
     QCoreApplication::sendEvent(&viewport, &event);
@@ -108,6 +108,9 @@ class Desktop {
   const SampleFolder& folder = *folder_;
 
  private:
+  static QRect seenOf(const QTreeView& trees, const QModelIndex& node) {
+    return trees.visualRect(node) & trees.viewport()->rect();
+  }
   static std::string data() { return VELRA_SOURCE_DIR "/data"; }
 
   QtUserInterface ui_;

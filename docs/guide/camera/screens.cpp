@@ -4,6 +4,8 @@
 // sample: velra_screens FOLDER WIDTH HEIGHT light|dark|contrast POINTS. What does not fit is told.
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -11,8 +13,11 @@
 #include <QTemporaryFile>
 #include <QTextStream>
 
+#include "rescue/RescueStore.h"
+#include "rescue/RescueWriter.h"
 #include "scenario/Desktop.h"
 #include "scenario/Hands.h"
+#include "support/TemporaryFolder.h"
 #include "widgets/GuardedApplication.h"
 
 namespace velra::test {
@@ -26,31 +31,83 @@ class Screens {
   explicit Screens(QString folder) : folder_(std::move(folder)) {}
 
   void takeAll() {
+    rescue_.run([this](RescueStore& store) {
+      const SessionId session = store.begin(desktop_.sample(), "a-machine boot 1 1");
+      store.keep(session, {{desktop_.sample(), "AVDocument", kFromRightToLeft, "<a/>", false, {}}});
+      store.end(session, SessionEnd::Error);
+    });
+    desktop_.app.rescue = &rescue_;
     desktop_.start(desktop_.sample());
     desktop_.window.resize(desktop_.window.screen()->availableSize().boundedTo({900, 620}));
-    const QStringList ladder = desktop_.texts("tvwMainTree");
-    desktop_.click("tvwMainTree", ladder[1]);
-    const QString video = desktop_.texts("tvwExpression")[1];
+    ladder_ = desktop_.texts("tvwMainTree");
+    desktop_.click("tvwMainTree", ladder_[1]);
     take(desktop_.window, QStringLiteral("main"));
-    const char* const names[] = {"document", "version", "media", "storage"};
-    for (int step = 0; step < 4; ++step) {
-      open("tvwMainTree", ladder[step], "mnuEditMetadata",
-           [&](QWidget& form) { takeTabs(form, QLatin1String(names[step])); });
-    }
-    open("tvwMainTree", ladder[1], "mnuEditAttributes",
-         [&](QWidget& dialog) { take(dialog, QStringLiteral("flags")); });
-    open("tvwExpression", video, "mnuEditMetadata", [&](QWidget& tool) {
-      clickPart(tool, "advsld", QStringLiteral("The light at night"));
-      whenModal([&](QWidget& dialog) {
-        take(dialog, QStringLiteral("range"));
-        press(dialog, "CancelButton");
-      });
-      press(tool, "cmdNew");
-      takeTabs(tool, QStringLiteral("tool"));
-    });
+    takeMenus();
+    takeForms();
+    takeTools();
+    takeDialogs();
   }
 
  private:
+  void takeMenus() {
+    for (const char* name : {"mnuFile", "mnuEdit"}) {
+      auto& menu = control<QMenu>(desktop_.window, name);
+      menu.popup(desktop_.window.mapToGlobal(QPoint(0, 0)));
+      take(menu, QLatin1String(name));
+      menu.close();
+    }
+  }
+
+  void takeForms() {
+    const char* const names[] = {"document", "version", "media", "storage"};
+    for (int step = 0; step < 4; ++step) {
+      open("tvwMainTree", ladder_[step], "mnuEditMetadata",
+           [&](QWidget& form) { takeTabs(form, QLatin1String(names[step])); });
+    }
+    open("tvwMainTree", ladder_[1], "mnuEditAttributes",
+         [&](QWidget& dialog) { take(dialog, QStringLiteral("flags")); });
+  }
+
+  void takeTools() {
+    open("tvwExpression", QStringLiteral("Picture of Skarholm Light"), "mnuEditMetadata",
+         [&](QWidget& tool) {
+           clickPart(tool, "advsld", QStringLiteral("The light at night"));
+           whenModal([&](QWidget& dialog) {
+             take(dialog, QStringLiteral("range"));
+             press(dialog, "CancelButton");
+           });
+           press(tool, "cmdNew");
+           strike(Qt::Key_F11);
+           auto& picture = control(tool, "LargePicture");
+           take(picture, QStringLiteral("picture"));
+           picture.close();
+           takeTabs(tool, QStringLiteral("tool"));
+         });
+    open("tvwExpression", QStringLiteral("Commentary of Skarholm Light"), "mnuEditMetadata",
+         [&](QWidget& tool) { takeTabs(tool, QStringLiteral("transcript")); });
+  }
+
+  void takeDialogs() {
+    for (const char* entry :
+         {"mnuConnection", "mnuHelpAbout", "mnuFileFindShots", "mnuFileRecover"}) {
+      whenModal([&](QWidget& dialog) {
+        take(dialog, dialog.objectName());
+        static_cast<QDialog&>(dialog).reject();
+      });
+      desktop_.trigger(entry);
+    }
+    inTurn({[this](QWidget& dialog) {
+              take(dialog, QStringLiteral("find"));
+              control<QLineEdit>(dialog, "Text1").setText(QStringLiteral("lamp"));
+              press(dialog, "OKButt");
+            },
+            [this](QWidget& result) {
+              take(result, QStringLiteral("found"));
+              press(result, "CancelButton");
+            }});
+    desktop_.trigger("mnuFileFind");
+  }
+
   void open(const char* tree, const QString& node, const char* entry,
             const std::function<void(QWidget&)>& act) {
     whenModal([act](QWidget& window) {
@@ -77,9 +134,8 @@ class Screens {
     const QSize room = window.screen()->availableSize();
     if (window.width() > room.width() || window.height() > room.height()) tell(name, "the window");
     for (const QPushButton* button : window.findChildren<QPushButton*>()) {
-      const int text = button->fontMetrics().horizontalAdvance(button->text());
-      const bool fits =
-          text <= button->width() && button->fontMetrics().height() <= button->height();
+      const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+      const bool fits = text.boundedTo(button->size()) == text;
       if (button->isVisible() && !fits) tell(name, button->objectName());
     }
     for (const QLabel* label : window.findChildren<QLabel*>()) {
@@ -94,7 +150,10 @@ class Screens {
   }
 
   QString folder_;
+  TemporaryFolder kept_;
+  RescueWriter rescue_{kept_ / "rescue.sqlite"};
   Desktop desktop_;
+  QStringList ladder_;
 };
 
 QPalette paletteOf(const QString& name) {
@@ -130,7 +189,7 @@ int main(int argc, char** argv) {
   qputenv("SDL_AUDIODRIVER", "dummy");
   velra::GuardedApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setStyle(QStringLiteral("Fusion"));
+  QApplication::setApplicationName(QStringLiteral("velra"));
   QApplication::setPalette(velra::test::paletteOf(QString::fromLocal8Bit(argv[4])));
   QFont font = QApplication::font();
   font.setPointSize(QByteArray(argv[5]).toInt());
