@@ -7,12 +7,14 @@
 #include <utility>
 
 #include "protocol/MainWindow.h"
+#include "widgets/LightFrames.h"
 #include "widgets/QtText.h"
 #include "widgets/dialogs/MessageBoxes.h"
 
 namespace velra {
 
 GuardedApplication::GuardedApplication(int& argc, char** argv) : QApplication(argc, argv) {
+  setStyle(new LightFrames);  // whose owner is the application
   installEventFilter(&screenBound_);
   std::atexit(exiting);
 }

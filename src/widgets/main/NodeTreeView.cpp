@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "widgets/FocusFrame.h"
+#include "widgets/LightFrames.h"
 #include "widgets/main/TreeIconPainter.h"
 #include "widgets/main/TreeModel.h"
 
@@ -73,7 +74,7 @@ void NodeTreeView::paintFrame() {
   if (hasFocus()) return paintFocusFrame(painter, rect(), palette());
   painter.setPen(QPen(palette().base(), kTreeFrame * 2));
   painter.drawRect(rect());
-  painter.setPen(palette().color(QPalette::Mid));
+  painter.setPen(LightFrames::outlineOf(palette()));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
