@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QFontInfo>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -18,7 +19,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kTitlePoints = 16;
+constexpr double kTitleScale = 1.75;  // of the font of the others
 
 }  // namespace
 
@@ -29,7 +30,7 @@ AboutDialog::AboutDialog(const ApplicationModule& app, QWidget* owner) : QDialog
   column->setSizeConstraint(QLayout::SetFixedSize);
   QLabel* title = addLabel("lblTitle", QCoreApplication::applicationName());
   QFont font = title->font();
-  font.setPointSize(kTitlePoints);
+  font.setPointSizeF(QFontInfo(font).pointSizeF() * kTitleScale);
   title->setFont(font);
   addLabel("lblVersion", programVersion());
   addLabel("lblDisclaimer", toQString(app.LoadResString(Message::Disclaimer)))->setWordWrap(true);

@@ -15,8 +15,14 @@ namespace velra {
 
 namespace {
 
-constexpr QSize kRecoverSize(860, 360);              // logical pixels
-constexpr int kWidths[] = {230, 130, 70, 240, 160};  // of the columns, likewise
+// In logical pixels, for letters as high as the last tells; for larger ones more.
+constexpr QSize kRecoverSize(860, 360);
+constexpr int kWidths[] = {230, 130, 70, 240, 160};  // of the columns
+constexpr double kUsualHeight = 15;
+
+double scaleOf(const QWidget& window) {
+  return qMax(1.0, window.fontMetrics().height() / kUsualHeight);
+}
 
 }  // namespace
 
@@ -30,7 +36,7 @@ RecoverDialogWindow::RecoverDialogWindow(const ApplicationModule& app, RecoverDi
   makeList();
   makeButtons();
   fillList();
-  resize(kRecoverSize);
+  resize(kRecoverSize * scaleOf(*this));
   dialog_.onUnload = [this] { done(Accepted); };
   dialog_.onRows = [this] { fillList(); };
 }
@@ -52,7 +58,9 @@ void RecoverDialogWindow::makeList() {
   }
   lvwKept_->setHeaderLabels(headers);
   int column = 0;
-  for (const int width : kWidths) lvwKept_->setColumnWidth(column++, width);
+  for (const int width : kWidths) {
+    lvwKept_->setColumnWidth(column++, qRound(width * scaleOf(*this)));
+  }
   connect(lvwKept_, &QTreeWidget::currentItemChanged, this, [this] { openButtons(); });
 }
 

@@ -25,7 +25,10 @@ constexpr QSize kShotPicture(128, 96);
 QIcon iconOf(const PictureFrame& picture) {
   const QImage image(picture.pixels.data(), picture.width, picture.height, picture.width * 4,
                      QImage::Format_RGB32);
-  return QPixmap::fromImage(image);
+  const QPixmap pixmap = QPixmap::fromImage(image);
+  QIcon icon(pixmap);
+  icon.addPixmap(pixmap, QIcon::Selected);  // else it is tinted, and seen less
+  return icon;
 }
 
 }  // namespace
