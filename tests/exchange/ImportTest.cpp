@@ -41,6 +41,8 @@ std::string saidBy(const Content& content, bool allWords) {
     if (object.time) all += " " + ms(object.time->start) + "-" + ms(object.time->end);
     const std::string description = object.text("Description");
     if (!description.empty()) all += ' ' + description;
+    const ContentField* keyFrame = object.field("Keyframe");
+    if (keyFrame && keyFrame->span && !allWords) all += " at " + ms(keyFrame->span->start);
     const ContentField* words = object.field("TranscriptWordList");
     if (words && allWords) all += spokenLine(words->words);
     all += "\n";

@@ -10,6 +10,7 @@
 #include "exchange/imports/FieldTexts.h"
 #include "expressions/Transcript.h"
 #include "protocol/ClassRules.h"
+#include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
 #include "tool/SegmentSpans.h"
 #include "values/TimeCode.h"
@@ -146,6 +147,8 @@ void SegmentPlan::fillIn(Expression& segment, const ProposedSegment& row) {
     if (!field || trimmed(text).empty()) continue;
     if (auto value = valueOfText(segment.secol(), *field, text)) field->assign(std::move(*value));
   }
+  auto* video = as<VideoExpression>(&segment);
+  if (video && row.keyFrame) video->SetKeyFrameTime(*row.keyFrame);
 }
 
 }  // namespace velra

@@ -39,6 +39,7 @@ Proposal proposalOf(const std::vector<FoundShot>& shots) {
                                  "Shot " + std::to_string(number),
                                  1,
                                  {},
+                                 {},
                                  {}});
   }
   return proposal;

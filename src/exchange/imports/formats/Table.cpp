@@ -77,8 +77,11 @@ class TableReader {
       proposal.refused.push_back({line.row, Message::RowWithoutTimes, {}});
       return;
     }
-    ProposedSegment segment{line.row, *start, *end, cell(line, title_), 1, {}, {}};
+    ProposedSegment segment{line.row, *start, *end, cell(line, title_), 1, {}, {}, {}};
     readPlace(line, segment);
+    // This program's own tables have a span and a file there.
+    const std::string keyFrame = cell(line, column({"keyframe"}));
+    segment.keyFrame = timeInText(keyFrame.substr(0, keyFrame.find('-')), rate_);
     for (std::size_t i = 0; i < line.cells.size() && i < head_.size(); ++i) {
       if (i != start_ && i != end_ && i != title_) {
         segment.fields.emplace_back(trimmed(head_[i]), line.cells[i]);
