@@ -20,7 +20,7 @@ struct ProposedSegment {
   int level = 1;                   // 2 for a part of the last one of level 1, and so on
   std::optional<ObjectKind> kind;  // of the expressions that it is one of, where the file tells
   std::vector<std::pair<std::string, std::string>> fields;  // names and texts
-  std::optional<double> keyFrame;  // when the picture that stands for it is shown
+  std::optional<double> keyFrame{};  // when the picture that stands for it is shown
 };
 
 /// Words that a file proposes together.

@@ -39,7 +39,6 @@ Proposal proposalOf(const std::vector<FoundShot>& shots) {
                                  "Shot " + std::to_string(number),
                                  1,
                                  {},
-                                 {},
                                  {}});
   }
   return proposal;

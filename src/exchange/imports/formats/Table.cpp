@@ -77,7 +77,7 @@ class TableReader {
       proposal.refused.push_back({line.row, Message::RowWithoutTimes, {}});
       return;
     }
-    ProposedSegment segment{line.row, *start, *end, cell(line, title_), 1, {}, {}, {}};
+    ProposedSegment segment{line.row, *start, *end, cell(line, title_), 1, {}, {}};
     readPlace(line, segment);
     // This program's own tables have a span and a file there.
     const std::string keyFrame = cell(line, column({"keyframe"}));
