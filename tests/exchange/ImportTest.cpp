@@ -41,8 +41,11 @@ std::string saidBy(const Content& content, bool allWords) {
     if (object.time) all += " " + ms(object.time->start) + "-" + ms(object.time->end);
     const std::string description = object.text("Description");
     if (!description.empty()) all += ' ' + description;
-    const ContentField* keyFrame = object.field("Keyframe");
-    if (keyFrame && keyFrame->span && !allWords) all += " at " + ms(keyFrame->span->start);
+    if (object.kind == ObjectKind::Video && object.level > 0 && !allWords) {
+      const ContentField* keyFrame = object.field("Keyframe");
+      const ContentSpan shown = *(keyFrame ? keyFrame->span : object.time);
+      all += " at " + ms(keyFrame ? shown.start : (shown.start + shown.end) / 2);
+    }
     const ContentField* words = object.field("TranscriptWordList");
     if (words && allWords) all += spokenLine(words->words);
     all += "\n";
