@@ -33,7 +33,8 @@ class Camera {
     desktop_.view("tvwExpression");
     dragSplitter(160);
     take(desktop_.window, "main-window");
-    takeMenu();
+    takeMenu("mnuFile", "file-menu");
+    takeMenu("mnuEdit", "edit-menu");
     takeForms();
     takeSearch();
     takeTools();
@@ -66,11 +67,11 @@ class Camera {
     press(form, "CancelButt");
   }
 
-  void takeMenu() {
-    auto* menu = desktop_.window.findChild<QMenu*>(QStringLiteral("mnuEdit"));
-    menu->popup(desktop_.window.mapToGlobal(QPoint(40, 120)));
-    take(*menu, "edit-menu");
-    menu->close();
+  void takeMenu(const char* menuName, const char* name) {
+    auto& menu = control<QMenu>(desktop_.window, menuName);
+    menu.popup(desktop_.window.mapToGlobal(QPoint(40, 120)));
+    take(menu, name);
+    menu.close();
   }
 
   void takeForms() {
