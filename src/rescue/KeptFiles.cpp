@@ -26,6 +26,7 @@ std::string freePlace(const std::string& folder, const std::string& path) {
 KeptFiles writeKeptFiles(const std::vector<KeptObject>& kept, const std::string& folder) {
   KeptFiles result;
   const std::string target = withSeparator(strAbsolutePath(folder));
+  makeFolders(strAbsolutePath(folder));
   std::vector<std::string> made;
   for (const KeptObject& object : kept) {
     if (object.removed) continue;

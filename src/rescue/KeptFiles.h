@@ -16,7 +16,8 @@ struct KeptFiles {
 };
 
 /// Writes the bytes of kept objects and pictures, as they are and under the names of their files,
-/// into a folder. A name that is taken there gets a number; removed objects have no bytes.
+/// into a folder, which is made when it is missing. A name that is taken there gets a number;
+/// removed objects have no bytes.
 KeptFiles writeKeptFiles(const std::vector<KeptObject>& kept, const std::string& folder);
 
 }  // namespace velra
