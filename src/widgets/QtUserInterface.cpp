@@ -111,6 +111,7 @@ std::string QtUserInterface::inputBox(const std::string& prompt, const std::stri
 std::optional<std::string> QtUserInterface::chosenFile(QFileDialog& dialog) {
   const QuestionCursor cursor;
   dialog.setObjectName(QStringLiteral("dlgCommonDialog"));
+  labelLists(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   const QString file = dialog.selectedFiles().constFirst();
   folder_ = QFileInfo(file).absolutePath();

@@ -99,7 +99,7 @@ std::vector<std::string> accessibilityFaults(QWidget& window) {
   if (QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&window)) {
     walk.visit(*interface);
   }
-  walk.checkObjectNames(window);
+  if (!window.inherits("QFileDialog")) walk.checkObjectNames(window);  // the toolkit's own
   return walk.take();
 }
 

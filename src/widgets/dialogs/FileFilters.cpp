@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/dialogs/FileFilters.h"
 
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -37,6 +40,13 @@ QString fileDialogFilter(const std::string& pairs) {
 QString suffixOf(const QString& filter) {
   static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
   return ending.match(filter).captured(1);
+}
+
+void labelLists(const QFileDialog& dialog) {
+  for (const QString& part : {QStringLiteral("lookIn"), QStringLiteral("fileType")}) {
+    auto* label = dialog.findChild<QLabel*>(part + QStringLiteral("Label"));
+    if (label) label->setBuddy(dialog.findChild<QComboBox*>(part + QStringLiteral("Combo")));
+  }
 }
 
 }  // namespace velra

@@ -4,6 +4,8 @@
 #include <QString>
 #include <string>
 
+class QFileDialog;
+
 namespace velra {
 
 /// The filter of a file dialog in the toolkit's form: from pairs of a description and a list of
@@ -13,5 +15,8 @@ QString fileDialogFilter(const std::string& pairs);
 
 /// The first ending of a filter in the toolkit's form; "" for one that takes all files.
 QString suffixOf(const QString& filter);
+
+/// Names the lists of the toolkit's own file dialog by the labels beside them, as it does not do.
+void labelLists(const QFileDialog& dialog);
 
 }  // namespace velra
