@@ -44,6 +44,10 @@ std::string MessageCatalogue::text(int id) const {
 std::string MessageCatalogue::inLanguage(const std::string& sentence) const {
   for (const MessageRow& row : messagesFrom1178()) {
     if (row.text == sentence) return text(row.id);
+    const std::string behind = std::string(": ") + row.text;
+    if (sentence.ends_with(behind)) {
+      return sentence.substr(0, sentence.size() - behind.size()) + ": " + text(row.id);
+    }
   }
   return sentence;
 }

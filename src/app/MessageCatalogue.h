@@ -26,8 +26,8 @@ class MessageCatalogue {
   std::string text(int id) const;
   std::string text(Message message) const { return text(static_cast<int>(message)); }
 
-  /// A sentence of a folder that knows no languages, in the language; the sentence itself where no
-  /// row of the last ones has it.
+  /// A sentence of a folder that knows no languages, alone or behind a path and ": ", in the
+  /// language; the sentence itself where no row of the last ones has it.
   std::string inLanguage(const std::string& sentence) const;
 
   bool holds(int id) const;

@@ -140,6 +140,26 @@ constexpr MessageRow kFrom1178[] = {
     {1274, "Search &Again", "Cerca di &nuovo"},
     {1275, "&Make Segments", "Crea &segmenti"},
     {1276, "The movie has no pictures there.", "Il filmato non ha immagini in quel tratto."},
+    // Why files of others cannot be written or read.
+    {1277, "The document has no Version to cut.", "Il documento non ha una Version da montare."},
+    {1278, "No Version tells how long it is.", "Nessuna Version dice quanto dura."},
+    {1279, "Neither the Video nor the movie tells how many pictures a second has; --rate does.",
+     "Né il Video né il filmato dicono quante immagini ha un secondo; lo dice --rate."},
+    {1280, "The Version has no Transcript to take the words.",
+     "La Version non ha un Transcript che prenda le parole."},
+    {1281, "The Version has no Video, Audio or Transcript.",
+     "La Version non ha né Video né Audio né Transcript."},
+    {1282, "The list has no events.", "La lista non ha eventi."},
+    {1283, "It is no metadata file of FFmpeg: its first line is not \";FFMETADATA1\".",
+     "Non è un file di metadati di FFmpeg: la prima riga non è \";FFMETADATA1\"."},
+    {1284, "It is no WebVTT: its first line is not \"WEBVTT\".",
+     "Non è un WebVTT: la prima riga non è \"WEBVTT\"."},
+    {1285, "There are no cues in it.", "Non contiene sottotitoli."},
+    {1286, "A quotation mark is not closed: the table is cut off.",
+     "Una virgoletta non è chiusa: la tabella è tronca."},
+    {1287, "The first line of the table has to name the columns start, end, title.",
+     "La prima riga della tabella deve nominare le colonne start, end, title."},
+    {1288, "The table has no lines.", "La tabella non ha righe."},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "shell/ExchangeCommands.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
@@ -17,6 +18,7 @@
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "protocol/MainWindow.h"
+#include "shell/ExchangeFilters.h"
 #include "shell/MainTrees.h"
 #include "shell/OpenedDocument.h"
 #include "shell/ShotsDialog.h"
@@ -28,32 +30,17 @@ namespace {
 
 constexpr std::size_t kMostRows = 20;  // that a box has room for
 
-std::string patternsOf(std::string_view extensions) {
-  return "*." + replaceAll(std::string(extensions), " ", ";*.");
-}
-
-std::string filterOf(std::string_view title, const std::string& patterns) {
-  return std::string(title) + " (" + patterns + ")|" + patterns + "|";
-}
-
-std::string exportFilters() {
-  std::string filters;
-  for (const ExportFormat* format : exportFormats()) {
-    filters += filterOf(format->title, format->makesFolder ? "*" : patternsOf(format->extension));
+// Where a command cannot be done, the person is told why.
+void orTell(const ApplicationModule& app, const std::function<void()>& command) {
+  std::string reason;
+  try {
+    return command();
+  } catch (const ExchangeFailure& failure) {
+    reason = failure.what();
+  } catch (const RunTimeError& error) {
+    reason = error.description();
   }
-  return filters;
-}
-
-// The first filter is for all formats; which one it is the name of the file tells then.
-std::string importFilters(const std::string& all) {
-  std::string patterns;
-  std::string filters;
-  for (const ImportFormat* format : importFormats()) {
-    if (!format->read) continue;  // the last one
-    patterns += (patterns.empty() ? "" : ";") + patternsOf(format->extensions);
-    filters += filterOf(format->title, patternsOf(format->extensions));
-  }
-  return filterOf(all, patterns) + filters;
+  app.ui.messageBox(app.messages.inLanguage(reason), BoxKind::Exclamation);
 }
 
 std::string inOneLine(const std::vector<std::string>& notes) {
@@ -93,18 +80,14 @@ void ExchangeCommands::mnuFileExportAs() {
   if (exportFormats()[format]->makesFolder && unsaved) {
     return app_.ui.messageBox(app_.LoadResString(Message::SaveFirst), BoxKind::Exclamation);
   }
-  try {
+  orTell(app_, [&] {
     const Content content = contentOf(app_, *openedDocument(app_));
     Exported exported;
     app_.ui.workAside(app_.LoadResString(Message::Exporting), [&] {
       exported = exportContent(*exportFormats()[format], content, options);
     });
     tellDone(app_, window_, Message::ExportAs, options.output + "." + inOneLine(exported.notes));
-  } catch (const ExchangeFailure& failure) {
-    app_.ui.messageBox(failure.what(), BoxKind::Exclamation);
-  } catch (const RunTimeError& error) {
-    app_.ui.messageBox(error.description(), BoxKind::Exclamation);
-  }
+  });
 }
 
 ObjectRef ExchangeCommands::shownVersion() const {
@@ -146,30 +129,22 @@ void ExchangeCommands::mnuFileImport() {
 
 void ExchangeCommands::import(const ImportFormat& format, const std::string& path,
                               ImportOptions options) {
-  try {
-    const auto sign = app_.ui.showProgress(app_.LoadResString(Message::Importing));
-    show(Message::ImportFile, importInto(app_, *openedDocument(app_), format, path, options,
-                                         [&](double share) { sign->show(share); }));
-  } catch (const WordsInTheWay&) {
-    if (!app_.ui.askYesNo(app_.LoadResString(Message::AskReplaceWords))) return;
-    options.replace = true;
-    import(format, path, options);
-  } catch (const ExchangeFailure& failure) {
-    app_.ui.messageBox(failure.what(), BoxKind::Exclamation);
-  } catch (const RunTimeError& error) {
-    app_.ui.messageBox(error.description(), BoxKind::Exclamation);
-  }
+  orTell(app_, [&] {
+    try {
+      const auto sign = app_.ui.showProgress(app_.LoadResString(Message::Importing));
+      show(Message::ImportFile, importInto(app_, *openedDocument(app_), format, path, options,
+                                           [&](double share) { sign->show(share); }));
+    } catch (const WordsInTheWay&) {
+      if (!app_.ui.askYesNo(app_.LoadResString(Message::AskReplaceWords))) return;
+      options.replace = true;
+      import(format, path, options);
+    }
+  });
 }
 
 void ExchangeCommands::mnuFileFindShots() {
   if (!presenter_ || !needsDocument(app_)) return;
-  try {
-    takeShots(whereTo(kShotsImport));
-  } catch (const ExchangeFailure& failure) {
-    app_.ui.messageBox(failure.what(), BoxKind::Exclamation);
-  } catch (const RunTimeError& error) {
-    app_.ui.messageBox(error.description(), BoxKind::Exclamation);
-  }
+  orTell(app_, [this] { takeShots(whereTo(kShotsImport)); });
 }
 
 void ExchangeCommands::takeShots(const ImportOptions& options) {
