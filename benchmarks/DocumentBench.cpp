@@ -78,7 +78,7 @@ double measureTextPass(BenchSession& session) {
     for (const ObjectRef& object : session.document()->collObjects().described()) {
       for (const SchemaElement& field : object->secol()) {
         if (!field.bValid()) continue;
-        if (const auto* text = std::get_if<std::string>(&field.vContent())) {
+        if (const auto text = field.vContent().text()) {
           found += toLower(*text).find("küste") != std::string::npos ? 1U : 0U;
         }
       }

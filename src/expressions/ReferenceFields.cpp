@@ -2,7 +2,6 @@
 #include "expressions/ReferenceFields.h"
 
 #include <algorithm>
-#include <variant>
 
 #include "app/ApplicationModule.h"
 #include "platform/UserInterface.h"
@@ -16,8 +15,7 @@ namespace {
 
 // The identifier in a field; "" where a schema gave the field a type that holds none.
 std::string guidIn(const SchemaElement& field) {
-  const auto* text = std::get_if<std::string>(&field.vContent());
-  return text ? *text : std::string();
+  return std::string(field.vContent().text().value_or(""));
 }
 
 bool isManifestation(const SchemaElement& field) {

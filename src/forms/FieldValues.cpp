@@ -7,16 +7,16 @@
 namespace velra {
 
 Date toDate(const Value& value) {
-  if (const auto* date = std::get_if<Date>(&value)) return *date;
-  if (const auto* text = std::get_if<std::string>(&value)) {
-    if (const auto date = Date::fromUserText(*text)) return *date;
+  if (const auto date = value.day()) return *date;
+  if (const auto text = value.text()) {
+    if (const auto date = Date::fromUserText(std::string(*text))) return *date;
   }
   raise(kTypeMismatch);
 }
 
 bool toBoolean(const Value& value) {
-  if (const auto* truth = std::get_if<bool>(&value)) return *truth;
-  if (const auto* text = std::get_if<std::string>(&value)) {
+  if (const auto truth = value.truth()) return *truth;
+  if (const auto text = value.text()) {
     if (equalIgnoringAsciiCase(*text, "true")) return true;
     if (equalIgnoringAsciiCase(*text, "false")) return false;
   }

@@ -14,8 +14,8 @@ namespace {
 
 bool differsFromNumber(const Value& stored, std::int16_t held) {
   // True is no number that a check box can hold.
-  if (const auto* truth = std::get_if<bool>(&stored)) return *truth || held != 0;
-  if (std::holds_alternative<std::string>(stored)) return true;
+  if (const auto truth = stored.truth()) return *truth || held != 0;
+  if (stored.text()) return true;
   return toReal(stored) != held;
 }
 
@@ -29,12 +29,10 @@ StringList stringsOf(const SetOfRows& rows) {
 }  // namespace
 
 bool differs(const Value& stored, const Value& held) {
-  if (const auto* text = std::get_if<std::string>(&held)) {
-    if (isEmpty(stored)) return !text->empty();
-    const auto* storedText = std::get_if<std::string>(&stored);
-    return !storedText || *storedText != *text;
+  if (const auto text = held.text()) {
+    return isEmpty(stored) ? !text->empty() : stored.text() != text;
   }
-  if (const auto* number = std::get_if<std::int16_t>(&held)) {
+  if (const auto number = held.whole()) {
     return differsFromNumber(stored, *number);
   }
   return stored != held;

@@ -52,7 +52,8 @@ void ObjectBase::setTextField(const std::string& name, const std::string& text) 
 void ObjectBase::strInitGUID(const std::string& guid) {
   SchemaElement* field = secol().field(rules_.identityField);
   if (!field) return;
-  field->setVContent(guid);
+  // What the file says is nearly always the same and stays where it is.
+  if (field->vContent().text() != guid) field->setVContent(guid);
   field->setBChanged(false);
   field->setBValid(true);
 }
@@ -146,7 +147,7 @@ std::string ObjectBase::strInitAsNew(const std::string& guid, const std::string&
 void ObjectBase::bindForm(const std::shared_ptr<ObjectForm>& form) {
   objForm_ = form;
   if (objForm_) objForm_->setObject(shared_from_this());
-  for (SchemaElement& element : *secol_) element.watch(this);
+  secol_->watch(this);
 }
 
 // The registry keeps identifiers, references and what is to be saved in indexes, so it must hear of

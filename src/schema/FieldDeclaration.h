@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
-#include <utility>
+#include <vector>
 
 namespace velra {
 
@@ -34,39 +34,7 @@ struct FieldDeclaration {
   bool bIgnore = false;
 };
 
-/// A hold on a shared declaration, for one thread. It is one pointer wide, where the library's own
-/// is two and counts for all threads: the fields of a large document hold one each, and there are
-/// more than a million of them.
-// One assignment takes copies and moves.
-// NOLINTNEXTLINE(cppcoreguidelines-special-member-functions)
-class DeclarationRef {
- public:
-  DeclarationRef() = default;
-  explicit DeclarationRef(FieldDeclaration declaration)
-      : shared_(new Shared{std::move(declaration), 1}) {}
-  DeclarationRef(const DeclarationRef& other) : shared_(other.shared_) {
-    if (shared_) ++shared_->holds;
-  }
-  DeclarationRef(DeclarationRef&& other) noexcept
-      : shared_(std::exchange(other.shared_, nullptr)) {}
-  DeclarationRef& operator=(DeclarationRef other) noexcept {
-    std::swap(shared_, other.shared_);
-    return *this;
-  }
-  ~DeclarationRef() {
-    if (shared_ && --shared_->holds == 0) delete shared_;
-  }
-
-  explicit operator bool() const { return shared_ != nullptr; }
-  const FieldDeclaration& operator*() const { return shared_->declaration; }
-  const FieldDeclaration* operator->() const { return &shared_->declaration; }
-
- private:
-  struct Shared {
-    FieldDeclaration declaration;
-    std::size_t holds;
-  };
-  Shared* shared_ = nullptr;
-};
+/// The fields of a class, in the schema's order.
+using FieldTable = std::vector<std::shared_ptr<const FieldDeclaration>>;
 
 }  // namespace velra

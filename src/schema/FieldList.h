@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,13 +23,13 @@ class FieldList {
   SchemaElement& Item(std::size_t position);
   const SchemaElement& Item(std::size_t position) const;
   SchemaElement& Item(const std::string& key);
-  std::size_t Count() const { return elements_.size(); }
+  std::size_t Count() const { return elements_.size() - 1; }
   void Remove(std::size_t position);
 
-  auto begin() { return elements_.begin(); }
-  auto end() { return elements_.end(); }
-  auto begin() const { return elements_.begin(); }
-  auto end() const { return elements_.end(); }
+  auto begin() { return elements().begin(); }
+  auto end() { return elements().end(); }
+  auto begin() const { return elements().begin(); }
+  auto end() const { return elements().end(); }
 
   /// The first field of exactly this name, or of this lower-cased name; null when there is none.
   SchemaElement* field(std::string_view strName);
@@ -41,24 +43,43 @@ class FieldList {
   /// The set in a relation field; null when it is absent or not assigned.
   const StringList* relationList(std::string_view strLowerName) const;
 
+  /// Is told of each write to a field from now on; it outlives the list.
+  void watch(ContentWatcher* watcher) { watcher_ = watcher; }
+
   std::int16_t iNumValid() const;
   std::int16_t iNumValidAndReadable() const;
   bool bChanged() const;
 
  protected:
-  FieldList() = default;
+  FieldList();
   ~FieldList() = default;
-  FieldList(FieldList&&) = default;
   FieldList(const FieldList&) = delete;
   FieldList& operator=(const FieldList&) = delete;
-  FieldList& operator=(FieldList&&) = delete;
 
-  std::vector<SchemaElement>& elements() { return elements_; }
-  const std::vector<SchemaElement>& elements() const { return elements_; }
+  std::span<SchemaElement> elements() { return std::span(elements_).subspan(1); }
+  std::span<const SchemaElement> elements() const { return std::span(elements_).subspan(1); }
+
+  /// Puts the fields of a class behind those that are there, all unassigned.
+  void declare(const std::shared_ptr<const FieldTable>& table);
+
+  /// Brings the texts of all values into one block. A field that is written to later has its own.
+  void packTexts();
 
  private:
-  std::vector<SchemaElement> elements_;
-  std::vector<std::string> keys_;  // empty while no element has a key
+  friend class SchemaElement;
+
+  const FieldDeclaration& declarationOf(const SchemaElement& element) const {
+    return *(*table_)[element.place() - 1];
+  }
+  void redeclare(const SchemaElement& element, FieldDeclaration declaration);
+  FieldTable ownTable() const;
+  ContentWatcher* watcher() const { return watcher_; }
+
+  std::unique_ptr<char[]> texts_;            // packed; values that stand there come behind it
+  std::shared_ptr<const FieldTable> table_;  // of the class, or of this list alone
+  std::vector<SchemaElement> elements_;      // behind the mark
+  std::vector<std::string> keys_;            // empty while no element has a key
+  ContentWatcher* watcher_ = nullptr;
 };
 
 }  // namespace velra

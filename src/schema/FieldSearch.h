@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace velra {
 
@@ -17,7 +18,7 @@ class FieldSearch {
   long hitsIn(const SchemaElement& field) const;
 
  private:
-  bool bTextMatches(const std::string& value) const;
+  bool bTextMatches(std::string_view value) const;
 
   std::string text_;
   bool matchCase_;

@@ -35,10 +35,9 @@ Times timesOf(const XmlNode& node) {
 }
 
 void readText(const XmlNode& node, SchemaElement& element) {
-  std::string text = node.typedText();
-  const bool usable = !text.empty();
-  element.setVContent(std::move(text));
-  if (usable) element.setBValid(true);
+  const std::string text = node.typedText();
+  element.setVContent(text);
+  if (!text.empty()) element.setBValid(true);
 }
 
 void readDate(const XmlNode& node, SchemaElement& element) {
@@ -57,6 +56,7 @@ void readBool(const XmlNode& node, SchemaElement& element) {
 
 void readSet(const XmlNode& node, SchemaElement& element) {
   StringList list;
+  list.reserve(static_cast<std::size_t>(iChildElements(node)));
   for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
     const bool typed = element.tyType() == tyType::SetOfStrings;
     list.push_back(typed ? item.typedText() : item.text());
@@ -119,7 +119,7 @@ void readElement(const XmlNode& node, SchemaElement& element) {
 
 std::string strReadInstance(const ApplicationModule& app, const XmlDocument& domDoc,
                             const std::string& strClassName, const ClassDeclaration& declaration,
-                            std::vector<SchemaElement>& elements) {
+                            std::span<SchemaElement> elements) {
   const XmlNode root = domDoc.documentElement();
   if (root.baseName() != strClassName)
     return strClassName + ": " + app.LoadResString(Message::ClassNameMismatch);

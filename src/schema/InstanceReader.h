@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <span>
 #include <string>
-#include <vector>
 
 namespace velra {
 
@@ -16,6 +16,6 @@ struct ClassDeclaration;
 /// time that is no number raises kTypeMismatch.
 std::string strReadInstance(const ApplicationModule& app, const XmlDocument& domDoc,
                             const std::string& strClassName, const ClassDeclaration& declaration,
-                            std::vector<SchemaElement>& elements);
+                            std::span<SchemaElement> elements);
 
 }  // namespace velra

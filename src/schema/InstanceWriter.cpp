@@ -75,7 +75,7 @@ void writeField(const SchemaElement& element, XmlWriter& domDoc) {
 
 }  // namespace
 
-void WriteInstance(const std::vector<SchemaElement>& elements, XmlWriter& domDoc) {
+void WriteInstance(std::span<const SchemaElement> elements, XmlWriter& domDoc) {
   for (const SchemaElement& element : elements) {
     if (element.bValid()) writeField(element, domDoc);
   }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
+#include <span>
 
 namespace velra {
 
@@ -10,6 +10,6 @@ class XmlWriter;
 
 /// Adds one element for each assigned field to the root, in the order of the fields.
 /// kInvalidArgument for a value that XML cannot hold.
-void WriteInstance(const std::vector<SchemaElement>& elements, XmlWriter& domDoc);
+void WriteInstance(std::span<const SchemaElement> elements, XmlWriter& domDoc);
 
 }  // namespace velra

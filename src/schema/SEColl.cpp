@@ -35,17 +35,18 @@ std::string SEColl::strLoadParsed(InstanceDocument& domDoc, const XmlDocument& p
   if (!message.empty())
     return domSchema->message().empty() ? app_.LoadResString(Message::SchemaLoadError) + message
                                         : message;
-  return strReadInstance(app_, parsed, strClassName,
-                         domSchema->classDeclaration(strClassName, shared_.collCloseListTypes),
-                         elements());
+  std::string failure = strReadInstance(
+      app_, parsed, strClassName,
+      domSchema->classDeclaration(strClassName, shared_.collCloseListTypes), elements());
+  packTexts();
+  return failure;
 }
 
 std::string SEColl::strLoadType(const SchemaFile& schema, const std::string& strType) {
   const ClassDeclaration& declaration =
       schema.classDeclaration(strType, shared_.collCloseListTypes);
   if (!declaration.message.empty()) return declaration.message;
-  elements().reserve(elements().size() + declaration.fields.size());
-  for (const auto& field : declaration.fields) elements().emplace_back(field);
+  declare(declaration.fields);
   return {};
 }
 

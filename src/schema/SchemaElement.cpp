@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "schema/CloseList.h"
+#include "schema/FieldList.h"
 
 namespace velra {
 
@@ -20,22 +21,32 @@ const CloseList& listNamed(const CloseLists& lists, const std::string& name) {
 
 }  // namespace
 
-SchemaElement::SchemaElement(DeclarationRef declaration) : declaration_(std::move(declaration)) {}
+static_assert(sizeof(SchemaElement) == sizeof(Value));
+
+void SchemaElement::setPlace(std::size_t place) {
+  constexpr std::size_t kEnd = std::size_t{1} << 22;
+  if (place >= kEnd) raise(kOverflow);
+  placeLow_ = static_cast<std::uint16_t>(place & 0xFFFF);
+  placeHigh_ = static_cast<std::uint8_t>(place >> 16) & 0x3F;
+}
+
+FieldList& SchemaElement::list() const {
+  return *static_cast<FieldList*>((this - place())->vContent_.marked());
+}
 
 const FieldDeclaration& SchemaElement::declaration() const {
-  static const FieldDeclaration kBlank;
-  return declaration_ ? *declaration_ : kBlank;
+  return list().declarationOf(*this);
 }
 
 // The declaration is shared by all objects of a class, so a field that departs from it gets a copy.
 void SchemaElement::changeDeclaration(const std::function<void(FieldDeclaration&)>& change) {
   FieldDeclaration own = declaration();
   change(own);
-  declaration_ = DeclarationRef(std::move(own));
+  list().redeclare(*this, std::move(own));
 }
 
 void SchemaElement::tellWatcher(ReferenceChange change) {
-  if (watcher_) watcher_->contentChanged(*this, change);
+  if (ContentWatcher* watcher = list().watcher()) watcher->contentChanged(*this, change);
 }
 
 void SchemaElement::assign(Value content) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -12,6 +13,7 @@ namespace velra {
 
 class ApplicationModule;
 class CloseLists;
+class FieldList;
 class SchemaElement;
 
 /// What a write can do to the references in a field: add some, or at most take some away.
@@ -25,11 +27,17 @@ class ContentWatcher {
   virtual void contentChanged(const SchemaElement& element, ReferenceChange change) = 0;
 };
 
-/// One field of an object: what the schema says of it, its value and its flags.
+/// One field of an object: its value and its flags. What the schema says of it, and who watches it,
+/// is known by the list in which it stands. A large document has more than a million fields, and so
+/// the way to the list goes over a mark that stands before all fields of the object.
 class SchemaElement {
  public:
-  SchemaElement() = default;
-  explicit SchemaElement(DeclarationRef declaration);
+  SchemaElement(const SchemaElement&) = delete;
+  SchemaElement& operator=(const SchemaElement&) = delete;
+  // Within its list alone.
+  SchemaElement(SchemaElement&&) noexcept = default;
+  SchemaElement& operator=(SchemaElement&&) noexcept = default;
+  ~SchemaElement() = default;
 
   bool bValid() const { return bValid_; }
   bool bChanged() const { return bChanged_; }
@@ -72,19 +80,26 @@ class SchemaElement {
   /// they have. For a closed list the first item of the list in `lists`.
   void Init(const ApplicationModule& app, const CloseLists& lists);
 
-  /// The watcher outlives the field.
-  void watch(ContentWatcher* watcher) { watcher_ = watcher; }
-
  private:
+  friend class FieldList;
+
+  /// The mark, at place 0, and a field at a place from 1; kOverflow beyond what fits.
+  explicit SchemaElement(FieldList& list) : vContent_(Value::mark(&list)) {}
+  explicit SchemaElement(std::size_t place) { setPlace(place); }
+
+  std::size_t place() const { return placeLow_ + (std::size_t{placeHigh_} << 16); }
+  void setPlace(std::size_t place);
+  FieldList& list() const;
+
   const FieldDeclaration& declaration() const;
   void changeDeclaration(const std::function<void(FieldDeclaration&)>& change);
   void tellWatcher(ReferenceChange change);
 
-  DeclarationRef declaration_;
-  Value vContent_;
-  ContentWatcher* watcher_ = nullptr;
-  bool bChanged_ = false;
-  bool bValid_ = false;
+  [[no_unique_address]] Value vContent_;  // the others stand in its last bytes
+  std::uint8_t bChanged_ : 1 = 0;
+  std::uint8_t bValid_ : 1 = 0;
+  std::uint8_t placeHigh_ : 6 = 0;
+  std::uint16_t placeLow_ = 0;
 };
 
 }  // namespace velra

@@ -17,7 +17,7 @@ class CloseLists;
 
 /// The fields of one class, or the message that tells why they cannot be read.
 struct ClassDeclaration {
-  std::vector<DeclarationRef> fields;
+  std::shared_ptr<const FieldTable> fields;
   /// Offsets of the fields of a name; more than one only where the schema repeats a name.
   std::map<std::string, std::vector<std::size_t>, std::less<>> offsets;
   std::string message;

@@ -53,10 +53,12 @@ bool hasAttributeWithValue(const XmlNode& node, std::string_view baseName,
 
 ClassDeclaration SchemaReader::strLoadType(const std::string& strType) {
   result_ = {};
+  fields_.clear();
   result_.message = loadClass(strType);
-  for (std::size_t i = 0; i < result_.fields.size(); ++i) {
-    result_.offsets[result_.fields[i]->strName].push_back(i);
+  for (std::size_t i = 0; i < fields_.size(); ++i) {
+    result_.offsets[fields_[i]->strName].push_back(i);
   }
+  result_.fields = std::make_shared<const FieldTable>(std::move(fields_));
   return std::move(result_);
 }
 
@@ -122,11 +124,11 @@ std::string SchemaReader::strReadElements(const XmlNode& node, const std::string
     const std::string type = attributeByBaseName(child, "type");
     if (type.empty() || field.strName.empty()) {
       return strType + ":" + app_.LoadResString(Message::SchemaElementPrefix) +
-             std::to_string(result_.fields.size() + 1) + app_.LoadResString(Message::NoTypeOrName);
+             std::to_string(fields_.size() + 1) + app_.LoadResString(Message::NoTypeOrName);
     }
     if (field.strName.find("GUID") != std::string::npos) field.bReadOnly = true;
     mapType(prefix, type, field);
-    result_.fields.emplace_back(std::move(field));
+    fields_.push_back(std::make_shared<const FieldDeclaration>(std::move(field)));
   }
   return {};
 }

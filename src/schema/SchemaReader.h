@@ -38,6 +38,7 @@ class SchemaReader {
   const XmlNode& root_;
   CloseLists& lists_;
   ClassDeclaration result_;
+  FieldTable fields_;
 };
 
 }  // namespace velra

@@ -5,13 +5,14 @@
 #include <utility>
 
 #include "base/Collection.h"
+#include "values/RareText.h"
 
 namespace velra {
 
 /// A word and the time in which it is spoken, in seconds from the start of the movie.
 struct WordItem {
-  std::string strStart;  // a text form of the times; nothing fills it
-  std::string strEnd;
+  RareText strStart;  // a text form of the times; nothing fills it
+  RareText strEnd;
   double dStart = 0;
   double dend = 0;
   std::string strTxt;

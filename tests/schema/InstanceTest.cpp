@@ -48,17 +48,18 @@ class InstanceTest : public ::testing::Test, protected test::TestApplication {
   }
 
   struct Object {
+    Object(ApplicationModule& app, SharedParts& shared) : fields(app, shared) {}
+    Object(InstanceTest& test, const std::string& xml) : Object(test.app, test.shared_) {
+      const std::string path = test.folder.write("c.xml", xml);
+      message = fields.strLoad(document, path, schema, test.files_, "C");
+    }
+
     SEColl fields;
     InstanceDocument document;
     std::shared_ptr<const SchemaFile> schema;
     std::string message;
   };
-  Object read(const std::string& xml) {
-    Object object{SEColl(app, shared_), {}, nullptr, {}};
-    const std::string path = folder.write("c.xml", xml);
-    object.message = object.fields.strLoad(object.document, path, object.schema, files_, "C");
-    return object;
-  }
+  Object read(const std::string& xml) { return {*this, xml}; }
   Object readContent(const std::string& content) { return read("<C>" + content + "</C>"); }
 
   /// The content of the root after a save of all fields.
@@ -97,6 +98,28 @@ TEST_F(InstanceTest, ReadsAndWritesEachType) {
     Object again = readContent(expected);
     EXPECT_EQ(written(again), expected == "<s/>" || expected == "<set/>" ? "" : expected);
   }
+}
+
+// What objects of a class share, and the fields of one object, ends with the first change to it.
+TEST_F(InstanceTest, FieldsDepartFromTheirClassAndFromTheirFile) {
+  const Object sibling = readContent("<s>sibling</s>");
+  Value copy;
+  {
+    Object object = readContent("<s>first</s><i>7</i><g><GUID>a</GUID></g>");
+    SEColl& fields = object.fields;
+    copy = fields.field("s")->vContent();
+    fields.field("s")->setStrName("renamed");
+    fields.Item(2).assign("seven");
+    fields.Remove(1);
+    fields.Add(tyType::String, "", "Last", "new", "", false, false, false, true, "key");
+    EXPECT_EQ(&fields.Item("key"), &fields.Item(fields.Count()));
+    EXPECT_EQ(fields.relationField("last")->strName(), "Last");
+    EXPECT_EQ(fields.field("renamed"), nullptr);
+    EXPECT_EQ(written(object), "<i>seven</i><g><GUID>a</GUID></g><Last>new</Last>");
+  }
+  EXPECT_EQ(copy, Value("first"));
+  EXPECT_EQ(sibling.fields.assignedText("s"), "sibling");
+  EXPECT_EQ(sibling.fields.Item(2).tyType(), tyType::Integer);
 }
 
 TEST_F(InstanceTest, WritesValuesOfFormsAndDefaults) {
@@ -147,7 +170,7 @@ TEST_F(InstanceTest, TellsWhyAnObjectCannotBeRead) {
 }
 
 TEST_F(InstanceTest, NewObjectsNeedASchema) {
-  Object object{SEColl(app, shared_), {}, nullptr, {}};
+  Object object(app, shared_);
   const auto initialise = [&](const std::string& path, const std::string& className) {
     return object.fields.strInitAsNew(object.document, "", object.schema, path, "xsd", className);
   };

@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "platform/files/Files.h"
 #include "schema/CloseList.h"
-#include "schema/SchemaElement.h"
+#include "schema/FieldList.h"
 #include "support/TestApplication.h"
 
 namespace velra {
@@ -14,13 +14,18 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+struct Fields : FieldList {};
+
 /// The message, or for each field "name:type" with "+readonly", "+ignore" and "#comment" where
 /// they are set.
 std::string described(const ClassDeclaration& declaration) {
   if (!declaration.message.empty()) return declaration.message;
   std::string text;
-  for (const DeclarationRef& each : declaration.fields) {
-    const SchemaElement field(each);
+  Fields fields;
+  for (const auto& each : *declaration.fields) {
+    const SchemaElement& field =
+        fields.Add(each->type, each->strCloseList, each->strName, {}, each->strComment,
+                   each->bIgnore, each->bReadOnly, false, false);
     text += (text.empty() ? "" : " ") + field.strName() + ":" + field.strType();
     if (field.bReadOnly()) text += "+readonly";
     if (field.bIgnore()) text += "+ignore";
@@ -103,10 +108,8 @@ TEST_F(SchemaReaderTest, ADefaultValueTouchesNoFlagAndNoStructure) {
   };
   lists_.Add({"L", {"b", "a"}});
   for (const auto& one : cases) {
-    SchemaElement field;
-    field.setTyType(one.type);
-    field.setStrCloseList("L");
-    field.setVContent(std::string("was"));
+    Fields fields;
+    SchemaElement& field = fields.Add(one.type, "L", "", "was", "", false, false, false, false);
     field.Init(app, lists_);
     EXPECT_EQ(field.vContent(), one.expected) << field.strType();
     EXPECT_FALSE(field.bValid() || field.bChanged());

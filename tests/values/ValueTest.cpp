@@ -19,6 +19,7 @@ TEST(Value, HasATextAndANumberWhereItCan) {
       {std::string(" 2.5 "), " 2.5 ", 2.5},
       {std::string("two"), "two", std::nullopt},
       {std::string(), "", std::nullopt},
+      {Value::borrowed("25"), "25", 25},
       {std::int16_t{-7}, "-7", -7},
       {0.1, "0.1", 0.1},
       {25.0, "25", 25},
@@ -29,7 +30,8 @@ TEST(Value, HasATextAndANumberWhereItCan) {
       {std::make_shared<WordColl>(), std::nullopt, std::nullopt},
   };
   for (const auto& one : cases) {
-    const std::string name = "alternative " + std::to_string(one.value.index());
+    const auto name = &one - cases;
+    EXPECT_EQ(Value(one.value), one.value) << name;
     if (one.text) {
       EXPECT_EQ(toText(one.value), *one.text) << name;
     } else {

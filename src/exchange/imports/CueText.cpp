@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "base/Text.h"
 #include "exchange/ContentText.h"

@@ -56,7 +56,7 @@ QWidget* makeCheck(FieldBox& box, QWidget* frame) {
 
 // A text that is no date leaves the one that was there.
 QWidget* makeEarlyDate(FieldBox& box, const Date& date, QWidget* frame) {
-  const auto shown = [&box] { return toQString(std::get<Date>(box.value).isoText()); };
+  const auto shown = [&box] { return toQString(box.value.day().value().isoText()); };
   auto* text = new QLineEdit(shown(), frame);
   text->setEnabled(!box.bReadOnly);
   QObject::connect(text, &QLineEdit::textEdited, text, [&box, date](const QString& typed) {
@@ -68,7 +68,7 @@ QWidget* makeEarlyDate(FieldBox& box, const Date& date, QWidget* frame) {
 }
 
 QWidget* makeDate(FieldBox& box, QWidget* frame) {
-  const auto* date = std::get_if<Date>(&box.value);
+  const auto date = box.value.day();
   if (date && date->year < kFirstYear) return makeEarlyDate(box, *date, frame);
   auto* picker = new DateBox(frame);
   picker->setCalendarPopup(true);
