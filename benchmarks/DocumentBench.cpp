@@ -181,7 +181,7 @@ void addFor(const Figures& f, std::vector<Measure>& measures) {
               f.objects, f.parse * perObject, f.open * perObject, f.removeEach * 1000);
   measures.push_back({"open / P" + size, f.open / f.parse, "", 2.5});
   measures.push_back({"save as / plain copy" + size, f.saveAs / f.copy, "", 1.3});
-  measures.push_back({"memory / file bytes" + size, f.memory, "", 2.5});
+  measures.push_back({"memory / file bytes" + size, f.memory, "", 1.5});
   measures.push_back({"memory kept after closing" + size, f.kept, "", 0.1});
   measures.push_back({"search / one pass" + size, f.search / f.textPass, "", 3});
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -51,6 +52,17 @@ class RegisteredObject {
 
   /// Null ends the listening.
   virtual void setObjectListener(ObjectListener* listener) = 0;
+
+ private:
+  friend class ObjectRegistry;
+
+  /// Where the one registry that may hold it has it. It stands here, since a list of all objects
+  /// would take several times as much.
+  struct Place {
+    std::uint64_t number = 0;  // 0: nowhere
+    std::uint64_t key = 0;     // of the identifier
+  };
+  Place place_;
 };
 
 /// The object as a Target, by its kind; null when it is of another. Target says by `isKind` which

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/NumberSource.h"
 
-#include <charconv>
 #include <utility>
 
 #include "base/Paths.h"
@@ -14,17 +13,6 @@ namespace velra {
 namespace {
 
 constexpr int kHighestNumber = 32767;
-
-// The number between prefix and suffix of a path; 0 when there is none.
-int numberIn(const std::string& key, const std::string& prefix, const std::string& suffix) {
-  if (key.size() <= prefix.size() + suffix.size()) return 0;
-  if (!key.starts_with(prefix) || !key.ends_with(suffix)) return 0;
-  const char* first = key.data() + prefix.size();
-  const char* last = key.data() + key.size() - suffix.size();
-  int number = 0;
-  const auto [end, error] = std::from_chars(first, last, number);
-  return error == std::errc() && end == last && *first != '0' ? number : 0;
-}
 
 }  // namespace
 
@@ -52,7 +40,7 @@ void NumberSource::Listing::fileWent(const std::string& path) {
   const std::string& folder = numbers_.listedFolder_;
   if (!path.starts_with(folder)) return;
   numbers_.listedNames_.erase(path.substr(folder.size()));
-  numbers_.freed(path);
+  numbers_.freed(pathKey(path));
 }
 
 bool NumberSource::fileTaken(const std::string& path) const {
@@ -83,7 +71,7 @@ std::string NumberSource::take(const std::string& prefix, const std::string& suf
   if (family.key.empty()) family.key = strAbsolutePath(prefix);
   std::string path = takeFromGaps(family, prefix, suffix);
   if (!path.empty()) return path;
-  for (; family.frontier <= kHighestNumber; ++family.frontier) {
+  for (; family.frontier <= kHighestNumber; pass(family, suffix)) {
     path = prefix + std::to_string(family.frontier) + suffix;
     if (objects_.find(path)) continue;
     if (!fileTaken(path)) return path;
@@ -92,10 +80,15 @@ std::string NumberSource::take(const std::string& prefix, const std::string& suf
   raise(kOverflow);
 }
 
-void NumberSource::freed(const std::string& key) {
+void NumberSource::pass(Family& family, const std::string& suffix) {
+  const int number = family.frontier++;
+  family.passed.emplace(pathKey(family.key + std::to_string(number) + suffix), number);
+}
+
+void NumberSource::freed(PathKey key) {
   for (auto& [name, family] : families_) {
-    const int number = numberIn(key, family.key, name.second);
-    if (number > 0 && number < family.frontier) family.gaps.insert(number);
+    const auto number = family.passed.find(key);
+    if (number != family.passed.end()) family.gaps.insert(number->second);
   }
 }
 

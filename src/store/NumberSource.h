@@ -4,7 +4,10 @@
 #include <map>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
+
+#include "store/PathKey.h"
 
 namespace velra {
 
@@ -23,8 +26,8 @@ class NumberSource {
   /// The first free path of the form prefix, number, suffix. kOverflow beyond 32767.
   std::string take(const std::string& prefix, const std::string& suffix);
 
-  /// The registry tells of every identifier (in its normal form) that went out of use.
-  void freed(const std::string& key);
+  /// The registry tells of every identifier that went out of use.
+  void freed(PathKey key);
 
   /// True when nothing is taken for used that is free; for tests.
   bool checkConsistency() const;
@@ -51,9 +54,11 @@ class NumberSource {
     std::string key;   // the normal form of the prefix
     int frontier = 1;  // every number below is taken by an object, but for the gaps
     std::set<int> gaps;
+    std::unordered_map<PathKey, int> passed;  // the numbers below, by their paths
   };
 
   bool fileTaken(const std::string& path) const;
+  static void pass(Family& family, const std::string& suffix);
   std::string takeFromGaps(Family& family, const std::string& prefix, const std::string& suffix);
 
   ObjectRegistry& objects_;

@@ -2,7 +2,6 @@
 #include "store/ObjectRegistry.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "base/Paths.h"
@@ -14,30 +13,31 @@ ObjectRegistry::~ObjectRegistry() {
   clear();
 }
 
+bool ObjectRegistry::holds(const RegisteredObject& object) const {
+  return object.place_.number != 0 && objects_.find(object.place_.number).get() == &object;
+}
+
 void ObjectRegistry::Add(const RegisteredRef& object) {
   rekeyAfterFolderChange();
-  if (places_.contains(object.get())) return;
-  const std::uint64_t number = next_++;
-  objects_.emplace_hint(objects_.end(), number, object);
-  places_.emplace(object.get(), indexed(number, strAbsolutePath(object->strGUID())));
+  if (holds(*object)) return;
+  const PathKey key = pathKey(strAbsolutePath(object->strGUID()));
+  object->place_ = {objects_.add(object), key};
+  byKey_.emplace(key, object->place_.number);
   object->setObjectListener(this);
   if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
   if (object->bChanged()) markedChanged(*object);
 }
 
 bool ObjectRegistry::Remove(const RegisteredObject& object) {
-  const auto at = places_.find(&object);
-  if (at == places_.end()) return false;
-  const Place place = at->second;
-  const std::string key = place.key();
-  places_.erase(at);
-  unindex(place);
-  changed_.erase(place.number);
-  written_.erase(place.number);
+  if (!holds(object)) return false;
+  const auto [number, key] = object.place_;
+  const RegisteredRef kept = objects_.find(number);  // its end must not meet a half-changed list
+  unindex(object);
+  changed_.erase(number);
+  written_.erase(number);
   if (const auto* described = as<const DescribedObject>(&object)) references_.removed(*described);
-  const auto entry = objects_.find(place.number);
-  const RegisteredRef kept = entry->second;  // its end must not meet a half-changed list
-  objects_.erase(entry);
+  objects_.remove(number);
+  kept->place_ = {};
   kept->setObjectListener(nullptr);
   numbers_.freed(key);
   return true;
@@ -45,18 +45,19 @@ bool ObjectRegistry::Remove(const RegisteredObject& object) {
 
 RegisteredRef ObjectRegistry::Item(std::size_t position) const {
   if (position < 1 || position > objects_.size()) raise(kSubscriptOutOfRange);
-  return std::next(objects_.begin(), static_cast<std::ptrdiff_t>(position) - 1)->second;
+  auto at = objects_.begin();
+  while (--position > 0) ++at;
+  return (*at).object;
 }
 
 std::uint64_t ObjectRegistry::numberOf(const RegisteredObject& object) const {
-  const auto at = places_.find(&object);
-  return at == places_.end() ? 0 : at->second.number;
+  return holds(object) ? object.place_.number : 0;
 }
 
 RegisteredList ObjectRegistry::changedObjects() {
   RegisteredList list;
   for (auto at = changed_.begin(); at != changed_.end();) {
-    const RegisteredRef& object = objects_.at(*at);
+    const RegisteredRef object = objects_.find(*at);
     if (object->bChanged()) {
       list.push_back(object);
       ++at;
@@ -81,7 +82,7 @@ void ObjectRegistry::markedChanged(const RegisteredObject& object) {
 ObjectList ObjectRegistry::takeWritten(std::size_t most) {
   ObjectList list;
   while (!written_.empty() && list.size() < most) {
-    auto object = as<DescribedObject>(objects_.at(*written_.begin()));
+    auto object = as<DescribedObject>(objects_.find(*written_.begin()));
     if (object && object->bChanged()) list.push_back(std::move(object));
     written_.erase(written_.begin());
   }
@@ -103,83 +104,80 @@ ObjectList ObjectRegistry::described() const {
   return list;
 }
 
-const RegisteredRef* ObjectRegistry::firstWithKey(const std::string& key,
-                                                  std::uint64_t& number) const {
-  const auto [first, last] = byKey_.equal_range(key);
-  if (first == last) return nullptr;
-  number = first->second;
-  for (auto at = first; at != last; ++at) number = std::min(number, at->second);
-  return &objects_.at(number);
+RegisteredRef ObjectRegistry::firstAt(const std::string& path) const {
+  const auto [first, last] = byKey_.equal_range(pathKey(path));
+  RegisteredRef found;
+  for (auto at = first; at != last; ++at) {
+    RegisteredRef object = objects_.find(at->second);
+    const bool earlier = !found || object->place_.number < found->place_.number;
+    if (earlier && strAbsolutePath(object->strGUID()) == path) found = std::move(object);
+  }
+  return found;
 }
 
 RegisteredRef ObjectRegistry::find(const std::string& guid) {
   rekeyAfterFolderChange();
-  std::uint64_t number = 0;
-  const RegisteredRef* found = firstWithKey(strAbsolutePath(guid), number);
-  return found ? *found : nullptr;
+  return firstAt(strAbsolutePath(guid));
 }
 
 std::size_t ObjectRegistry::positionOf(const std::string& guid) {
-  rekeyAfterFolderChange();
-  std::uint64_t number = 0;
-  if (!firstWithKey(strAbsolutePath(guid), number)) return 0;
-  const auto entry = objects_.find(number);
-  return static_cast<std::size_t>(std::distance(objects_.begin(), entry)) + 1;
+  const RegisteredRef found = find(guid);
+  std::size_t position = 0;
+  for (const auto& [number, object] : objects_) {
+    ++position;
+    if (object == found) return position;
+  }
+  return 0;
 }
 
 void ObjectRegistry::identifierChanged(const RegisteredObject& object) {
-  const auto at = places_.find(&object);
-  if (at == places_.end()) return;
-  std::string key = strAbsolutePath(object.strGUID());
-  const std::string old = at->second.key();
+  if (holds(object)) rekey(*objects_.find(object.place_.number));
+}
+
+void ObjectRegistry::rekey(RegisteredObject& object) {
+  const PathKey key = pathKey(strAbsolutePath(object.strGUID()));
+  const PathKey old = object.place_.key;
   if (key == old) return;
-  unindex(at->second);
-  at->second = indexed(at->second.number, std::move(key));
+  unindex(object);
+  object.place_.key = key;
+  byKey_.emplace(key, object.place_.number);
   numbers_.freed(old);
 }
 
-ObjectRegistry::Place ObjectRegistry::indexed(std::uint64_t number, std::string key) {
-  return {number, &*byKey_.emplace(std::move(key), number)};
-}
-
-void ObjectRegistry::unindex(const Place& place) {
-  const auto [first, last] = byKey_.equal_range(place.key());
+void ObjectRegistry::unindex(const RegisteredObject& object) {
+  const auto [first, last] = byKey_.equal_range(object.place_.key);
   const auto at = std::find_if(
-      first, last, [&](const Keys::value_type& entry) { return &entry == place.entry; });
+      first, last, [&](const auto& entry) { return entry.second == object.place_.number; });
   if (at != last) byKey_.erase(at);
 }
 
 void ObjectRegistry::rekeyAfterFolderChange() {
   if (folderGeneration_ == currentFolderGeneration()) return;
   folderGeneration_ = currentFolderGeneration();
-  const Keys before = std::exchange(byKey_, {});
-  for (auto& [object, place] : places_) {
-    const std::string& old = place.key();
-    place = indexed(place.number, strAbsolutePath(object->strGUID()));
-    if (place.key() != old) numbers_.freed(old);
-  }
+  for (const auto& [number, object] : objects_) rekey(*object);
 }
 
 void ObjectRegistry::clear() {
-  for (const auto& [number, object] : objects_) object->setObjectListener(nullptr);
-  places_.clear();
+  for (const auto& [number, object] : objects_) {
+    object->setObjectListener(nullptr);
+    object->place_ = {};
+  }
   byKey_.clear();
   changed_.clear();
   written_.clear();
   references_.clear();
   // An object may take others with it, and none of them may meet a list in the middle of its end.
-  Sequence gone;
-  gone.swap(objects_);
+  const ObjectSequence gone = std::exchange(objects_, {});
 }
 
 bool ObjectRegistry::checkConsistency() const {
-  if (places_.size() != objects_.size() || byKey_.size() != objects_.size()) return false;
+  if (byKey_.size() != objects_.size()) return false;
   for (const auto& [number, object] : objects_) {
-    const auto place = places_.find(object.get());
-    if (place == places_.end() || place->second.number != number) return false;
+    const PathKey key = object->place_.key;
+    if (object->place_.number != number) return false;
     const bool fresh = folderGeneration_ == currentFolderGeneration();
-    if (fresh && place->second.key() != strAbsolutePath(object->strGUID())) return false;
-    const auto [first, last] = byKey_.equal_range(place->second.key());
+    if (fresh && key != pathKey(strAbsolutePath(object->strGUID()))) return false;
+    const auto [first, last] = byKey_.equal_range(key);
     bool indexed = false;
     for (auto at = first; at != last; ++at) indexed = indexed || at->second == number;
     if (!indexed || (object->bChanged() && !changed_.contains(number))) return false;

@@ -2,24 +2,23 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <set>
 #include <string>
 #include <unordered_map>
 
 #include "protocol/DescribedObject.h"
 #include "store/NumberSource.h"
+#include "store/ObjectSequence.h"
+#include "store/PathKey.h"
 #include "store/ReferenceIndex.h"
 
 namespace velra {
 
-/// The objects of a document in the order of their registration, found by identifier at once:
-/// beside each stands the normal form of its path. The answers are those of a walk over all objects
-/// that makes two paths absolute for each comparison.
+/// The objects of a document in the order of their registration, found by identifier at once, by a
+/// number for the normal form of its path. The answers are those of a walk over all objects that
+/// makes two paths absolute for each comparison. An object is in one registry at most.
 class ObjectRegistry : private ObjectListener {
  public:
-  using Sequence = std::map<std::uint64_t, RegisteredRef>;
-
   ObjectRegistry() = default;
   ObjectRegistry(const ObjectRegistry&) = delete;
   ObjectRegistry& operator=(const ObjectRegistry&) = delete;
@@ -42,7 +41,7 @@ class ObjectRegistry : private ObjectListener {
   ObjectList described() const;
 
   /// In order of registration, each with a number that grows along it.
-  const Sequence& sequence() const { return objects_; }
+  const ObjectSequence& sequence() const { return objects_; }
 
   /// The first object whose identifier is the same path; null when there is none.
   RegisteredRef find(const std::string& guid);
@@ -72,31 +71,22 @@ class ObjectRegistry : private ObjectListener {
   bool checkConsistency() const;
 
  private:
-  using Keys = std::unordered_multimap<std::string, std::uint64_t>;
-
-  struct Place {
-    std::uint64_t number = 0;
-    const Keys::value_type* entry = nullptr;  // in byKey_, whose entries stay where they are
-
-    const std::string& key() const { return entry->first; }
-  };
-
   void identifierChanged(const RegisteredObject& object) override;
   void referencesAdded(const DescribedObject& object) override;
   void markedChanged(const RegisteredObject& object) override;
   void rekeyAfterFolderChange();
-  Place indexed(std::uint64_t number, std::string key);
-  void unindex(const Place& place);
-  const RegisteredRef* firstWithKey(const std::string& key, std::uint64_t& number) const;
+  /// Gives the object the key of its identifier; the one that it had goes out of use.
+  void rekey(RegisteredObject& object);
+  void unindex(const RegisteredObject& object);
+  RegisteredRef firstAt(const std::string& path) const;
+  bool holds(const RegisteredObject& object) const;
 
-  Sequence objects_;
-  std::unordered_map<const RegisteredObject*, Place> places_;
-  Keys byKey_;                       // by the normal form of the identifier
+  ObjectSequence objects_;
+  std::unordered_multimap<PathKey, std::uint64_t> byKey_;  // numbers
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since
   ReferenceIndex references_{*this};
   NumberSource numbers_{*this};
-  std::uint64_t next_ = 1;
   unsigned folderGeneration_ = 0;
 };
 

@@ -7,6 +7,7 @@
 
 #include "base/Paths.h"
 #include "store/ObjectRegistry.h"
+#include "store/PathKey.h"
 
 namespace velra {
 
@@ -38,7 +39,7 @@ class ReferenceIndex::Collector : public ReferenceVisitor {
 
 // The normal form of an identifier stands for all the ways in which it may be written.
 ReferenceIndex::Key ReferenceIndex::keyOf(const std::string& guid) {
-  return std::hash<std::string>{}(strAbsolutePath(guid));
+  return pathKey(strAbsolutePath(guid));
 }
 
 ReferenceIndex::Key ReferenceIndex::keyOf(const DescribedObject& object) {
@@ -116,8 +117,7 @@ void ReferenceIndex::appendHolders(Key key, Holders& holders) const {
 
 // Numbers are given once, so that of an object that has gone names nobody.
 ObjectRef ReferenceIndex::livingOf(std::uint64_t holder) const {
-  const auto at = objects_.sequence().find(holder);
-  return at == objects_.sequence().end() ? nullptr : as<DescribedObject>(at->second);
+  return as<DescribedObject>(objects_.sequence().find(holder));
 }
 
 ObjectList ReferenceIndex::listOf(Holders holders) const {
