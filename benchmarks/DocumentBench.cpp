@@ -127,7 +127,7 @@ void measureOpen(BenchSession& session, const std::string& path, int repeats, Fi
 // What a Save As cannot do without: as many files of that size, made one by one, and the sync.
 void plainCopy(const fs::path& from, const fs::path& to) {
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(from)) {
-    const fs::path target = to / fs::relative(entry.path(), from);
+    const fs::path target = to / entry.path().lexically_relative(from);
     entry.is_directory() ? fs::create_directories(target) : fs::copy_file(entry.path(), target);
   }
   ::sync();

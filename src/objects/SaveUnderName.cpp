@@ -133,17 +133,34 @@ void SaveUnderName::renameKeyFrame(VideoExpression& video, SavePoint& before,
   relocations_.push_back({&video, oldGUID, newGUID});
 }
 
-bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
+// A sentence has been shown when the result is false.
+bool SaveUnderName::bHandOverAll() {
   try {
     for (const auto& [video, from, to] : relocations_) {
       video->UpdateLocationKeyFrameObject(from, to);
-      before.relocated(video->objKeyframeObject(), from, to);
     }
   } catch (const RunTimeError& error) {
     app_.ui.messageBox(error.description());
     return false;
   }
-  if (!bSaveInDependencyOrder(app_, objects_, document_)) return false;
+  return bSaveInDependencyOrder(app_, objects_, document_);
+}
+
+bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
+  io_.makeFilesBehind();
+  const bool handedOver = bHandOverAll();
+  const auto [made, failed] = io_.filesMade();
+  for (std::size_t i = 0; i < relocations_.size(); ++i) {
+    const auto& [video, from, to] = relocations_[i];
+    // The pictures came first.
+    if (i < made.size() && made[i]) before.relocated(video->objKeyframeObject(), from, to);
+  }
+  if (!failed.reason.empty()) {
+    if (app_.gMainForm) app_.gMainForm->setStrStatusBarText(failed.status);
+    if (handedOver) app_.ui.messageBox(io_.strSentence(failed));
+    return false;
+  }
+  if (!handedOver) return false;
   // The document must never be there before what it names.
   const std::string failure = io_.strFlush();
   if (!failure.empty()) app_.ui.messageBox(failure + " (" + document_.strGUID() + ")");

@@ -41,6 +41,7 @@ class SaveUnderName {
   bool bRename(SavePoint& before, const std::string& strAVDocPathName);
   void renameKeyFrame(VideoExpression& video, SavePoint& before,
                       const std::string& strAVDocPathName);
+  bool bHandOverAll();
   bool bSaveAllObjectsAs(SavePoint& before);
 
   ApplicationModule& app_;

@@ -5,7 +5,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kFormat = 2;
+constexpr int kFormat = 3;
 
 // `changed` of a session is the time of its last change.
 constexpr const char* kWorkTables = R"(
@@ -26,10 +26,11 @@ constexpr const char* kWorkTables = R"(
 
 // `blocks` tells what a planned file writes over. A planned removal is of a save that has not been
 // finished. A file that is made has been moved, or comes from nowhere; all of a save stand in one
-// row, each path with a zero byte behind it.
+// row, each path with a zero byte behind it, and without the folder when it is in that.
 constexpr const char* kPlanTables = R"(
   DROP TABLE IF EXISTS planned;
   DROP TABLE IF EXISTS removal;
+  DROP TABLE IF EXISTS made;
   CREATE TABLE planned(
     session INTEGER NOT NULL REFERENCES session ON DELETE CASCADE, position INTEGER NOT NULL,
     path TEXT NOT NULL, bytes BLOB NOT NULL, size INTEGER NOT NULL, modified INTEGER NOT NULL,
@@ -39,8 +40,8 @@ constexpr const char* kPlanTables = R"(
     planned INTEGER NOT NULL, size INTEGER NOT NULL, modified INTEGER NOT NULL,
     inode INTEGER NOT NULL, PRIMARY KEY(session, path, planned));
   CREATE TABLE made(
-    session INTEGER NOT NULL REFERENCES session ON DELETE CASCADE, position INTEGER NOT NULL,
-    path TEXT NOT NULL, moved_from TEXT NOT NULL, PRIMARY KEY(session, position));
+    session INTEGER PRIMARY KEY REFERENCES session ON DELETE CASCADE, folder TEXT NOT NULL,
+    paths BLOB NOT NULL, moved_from BLOB NOT NULL);
 )";
 
 std::int64_t formatOf(Database& database) {

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "base/Paths.h"
 #include "base/Text.h"
 #include "platform/database/Database.h"
 #include "rescue/RescueTables.h"
@@ -29,6 +30,25 @@ void SavePlans::insert(SessionId session, const std::vector<PlannedFile>& files)
   }
 }
 
+// One row for all: as many rows as files would cost a tenth of the whole save. What most paths
+// begin with is more than half of them.
+void SavePlans::insert(SessionId session, const std::vector<MadeFile>& made) {
+  if (made.empty()) return;
+  const std::string folder = folderOf(made.front().path);
+  std::string paths;
+  std::string movedFrom;
+  for (const MadeFile& file : made) {
+    paths.append(file.path, file.path.starts_with(folder) ? folder.size() : 0) += '\0';
+    (movedFrom += file.movedFrom) += '\0';
+  }
+  database_.prepare("INSERT INTO made VALUES(?1, ?2, ?3, ?4)")
+      .number(1, session)
+      .text(2, folder)
+      .bytes(3, paths)
+      .bytes(4, movedFrom)
+      .run();
+}
+
 void SavePlans::planSave(SessionId session, const SavePlan& plan) {
   Transaction transaction(database_);
   drop(session);
@@ -45,20 +65,7 @@ void SavePlans::planCopy(SessionId session, const CopyPlan& plan) {
   Transaction transaction(database_);
   drop(session);
   insert(session, {plan.document});
-  // One row for all: as many rows as files would cost a tenth of the whole save.
-  std::string paths;
-  std::string movedFrom;
-  for (const MadeFile& file : plan.made) {
-    paths += file.path + '\0';
-    movedFrom += file.movedFrom + '\0';
-  }
-  if (!plan.made.empty()) {
-    database_.prepare("INSERT INTO made VALUES(?1, 1, ?2, ?3)")
-        .number(1, session)
-        .bytes(2, paths)
-        .bytes(3, movedFrom)
-        .run();
-  }
+  insert(session, plan.made);
   transaction.commit();
 }
 
@@ -123,15 +130,16 @@ std::vector<PlannedRemoval> SavePlans::dueRemovals(SessionId session) {
 
 std::vector<MadeFile> SavePlans::made(SessionId session) {
   std::vector<MadeFile> found;
-  Statement rows =
-      database_.prepare("SELECT path, moved_from FROM made WHERE session = ?1 ORDER BY position");
-  rows.number(1, session);
-  while (rows.next()) {
-    const std::vector<std::string> paths = split(rows.text(0), '\0');
-    const std::vector<std::string> movedFrom = split(rows.text(1), '\0');
-    for (std::size_t i = 0; i < paths.size() && i < movedFrom.size(); ++i) {
-      if (!paths[i].empty()) found.push_back({paths[i], movedFrom[i]});
-    }
+  Statement row =
+      database_.prepare("SELECT folder, paths, moved_from FROM made WHERE session = ?1");
+  row.number(1, session);
+  if (!row.next()) return found;
+  const std::string folder = row.text(0);
+  const std::vector<std::string> paths = split(row.text(1), '\0');
+  const std::vector<std::string> movedFrom = split(row.text(2), '\0');
+  for (std::size_t i = 0; i < paths.size() && i < movedFrom.size(); ++i) {
+    if (paths[i].empty()) continue;
+    found.push_back({paths[i].starts_with('/') ? paths[i] : folder + paths[i], movedFrom[i]});
   }
   return found;
 }

@@ -43,6 +43,7 @@ class SavePlans {
 
  private:
   void insert(SessionId session, const std::vector<PlannedFile>& files);
+  void insert(SessionId session, const std::vector<MadeFile>& made);
   std::vector<PlannedFile> files(SessionId session);
   std::vector<PlannedRemoval> removals(SessionId session, int planned);
   std::vector<MadeFile> made(SessionId session);

@@ -96,6 +96,7 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   const std::string path = strAbsolutePath(strGUID);
   // A file that came under a promised name since is another program's.
   if (names_.isPromised(strGUID)) {
+    if (behind_) return saveFailure_ = strSaveBehind(bytes, strGUID);
     saveFailure_ = writeNewFile(strGUID, bytes);
   } else if ((saveFailure_ = guard_.strWhyNotWrite(path)).empty()) {
     saveFailure_ = writeFileInPlace(strGUID, bytes);
@@ -107,6 +108,31 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   names_.written(strGUID);
   unflushedFolder_ = folderOf(strGUID);
   return {};
+}
+
+std::string IOManager::strSaveBehind(const std::string& bytes, const std::string& strGUID) {
+  const FilesBehind::Failure soFar = behind_->failure();
+  if (!soFar.reason.empty()) return strSentence(soFar);
+  behind_->write(strGUID, bytes, strStatus());
+  unflushedFolder_ = folderOf(strGUID);
+  return {};
+}
+
+void IOManager::makeFilesBehind() {
+  behind_ = std::make_unique<FilesBehind>(names_, guard_);
+}
+
+FilesBehind::Outcome IOManager::filesMade() {
+  return std::exchange(behind_, nullptr)->finish();
+}
+
+std::string IOManager::strSentence(const FilesBehind::Failure& failure) const {
+  if (failure.unwritten.empty()) return failure.reason;
+  return app_.messages.inLanguage(failure.reason) + " (" + failure.unwritten + ")";
+}
+
+std::string IOManager::strStatus() const {
+  return app_.gMainForm ? app_.gMainForm->strStatusBarText() : std::string();
 }
 
 void IOManager::noteLeftOut(const std::string& guid, const std::string& message) {
@@ -123,6 +149,7 @@ void IOManager::MoveObject(const std::string& source, const std::string& destina
   if (!bFileSystem_) return;
   const std::string from = strAbsolutePath(source);
   const std::string to = strAbsolutePath(destination);
+  if (behind_ && names_.isPromised(to)) return behind_->move(from, to, strStatus());
   MoveFileTo(from, to);
   names_.went(from);
   names_.came(to);
@@ -131,9 +158,15 @@ void IOManager::MoveObject(const std::string& source, const std::string& destina
 void IOManager::CopyObject(const std::string& source, const std::string& destination) {
   if (!bFileSystem_) return;
   const std::string to = strAbsolutePath(destination);
-  // Copying replaces, and what has come under a promised name is another program's.
-  if (names_.isPromised(to) && bFileExists(to)) raise(kFileAlreadyExists, to);
-  CopyFileTo(strAbsolutePath(source), to);
+  const std::string from = strAbsolutePath(source);
+  // What has come under a promised name is another program's.
+  if (!names_.isPromised(to)) {
+    CopyFileTo(from, to);
+  } else if (behind_) {
+    return behind_->copy(from, to, strStatus());
+  } else {
+    CopyToNewFile(from, to);
+  }
   names_.came(to);
 }
 

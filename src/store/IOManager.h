@@ -9,6 +9,7 @@
 #include "protocol/Expression.h"
 #include "schema/ObjectFiles.h"
 #include "store/ExpressionFinder.h"
+#include "store/FilesBehind.h"
 #include "store/FolderScans.h"
 #include "store/GuardedFiles.h"
 #include "store/NewFileNames.h"
@@ -65,6 +66,13 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// Why the last strSave failed; "" when it did not.
   const std::string& strSaveFailure() const { return saveFailure_; }
 
+  /// From now on files come under promised names by a thread of its own, so that what fails is told
+  /// by a later strSave or here. To be called in pairs.
+  void makeFilesBehind();
+  FilesBehind::Outcome filesMade();
+  /// The sentence for a person; "" for no failure.
+  std::string strSentence(const FilesBehind::Failure& failure) const;
+
   /// Told of an object that is left out at the opening. The box for it may not name the file.
   void noteLeftOut(const std::string& guid, const std::string& message);
   /// What was told first of an unnamed file, with its name; "" for nothing.
@@ -118,6 +126,8 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
  private:
   std::string strDeleteFile(const std::string& strGUID);
   std::string strDeleteRemoved(const std::string& strGUID);
+  std::string strSaveBehind(const std::string& bytes, const std::string& strGUID);
+  std::string strStatus() const;
 
   ApplicationModule& app_;
   bool bFileSystem_ = true;
@@ -125,6 +135,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   NewFileNames names_;
   RemovedFiles removed_;
   GuardedFiles guard_;
+  std::unique_ptr<FilesBehind> behind_;  // null when files are made at once
   FolderScans scans_;
   ExpressionFinder expressions_;
   std::string leftOut_;

@@ -13,7 +13,8 @@ std::string NewFileNames::give(ObjectRegistry& objects, ObjectKind kind,
   std::string folder;
   const std::string base = strSplitPath(strAVDocPathName, folder);
   if (kind == ObjectKind::AVDocument) return withSeparator(strAbsolutePath(folder)) + base + ".xml";
-  std::string message = strMakeDataFolder(app_, strAVDocPathName);
+  // Whoever has it listed has made it.
+  std::string message = listing_ ? std::string() : strMakeDataFolder(app_, strAVDocPathName);
   if (!message.empty()) return message;
   const std::string prefix =
       dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(classNameOf(kind));

@@ -81,6 +81,18 @@ int writeSynced(const std::string& path, std::string_view bytes, const std::stri
   return file && ::fsync(file.number()) == 0 ? 0 : errno;
 }
 
+std::string bytesToCopy(const std::string& source) {
+  const FileHandle file(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat status {};
+  if (!file || ::fstat(file.number(), &status) != 0) raiseFor(errno, source);
+  // A file with holes may be longer than the memory, or than the disk.
+  if (status.st_size > kMostCopied) raiseFor(EFBIG, source);
+  std::string bytes;
+  const int error = readAll(file, static_cast<std::size_t>(status.st_size), bytes);
+  if (error) raiseFor(error, source);
+  return bytes;
+}
+
 }  // namespace
 
 std::string replaceFile(const std::string& path, std::string_view bytes) {
@@ -106,15 +118,13 @@ void MoveFileTo(const std::string& source, const std::string& destination) {
 void CopyFileTo(const std::string& source, const std::string& destination) {
   checkSource(source);
   if (isSameFile(source, destination)) raiseFor(EACCES, destination);
-  const FileHandle file(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  struct stat status {};
-  if (!file || ::fstat(file.number(), &status) != 0) raiseFor(errno, source);
-  // A file with holes may be longer than the memory, or than the disk.
-  if (status.st_size > kMostCopied) raiseFor(EFBIG, source);
-  std::string bytes;
-  int error = readAll(file, static_cast<std::size_t>(status.st_size), bytes);
-  if (error) raiseFor(error, source);
-  error = writeInPlace(destination, bytes);
+  const int error = writeInPlace(destination, bytesToCopy(source));
+  if (error) raiseFor(error, destination);
+}
+
+void CopyToNewFile(const std::string& source, const std::string& destination) {
+  checkSource(source);
+  const int error = writeNew(destination, bytesToCopy(source));
   if (error) raiseFor(error, destination);
 }
 

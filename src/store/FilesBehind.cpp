@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/FilesBehind.h"
+
+#include <algorithm>
+#include <exception>
+#include <system_error>
+#include <utility>
+
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
+#include "platform/files/ContentPrint.h"
+#include "platform/files/FileMoves.h"
+#include "platform/files/Files.h"
+#include "store/GuardedFiles.h"
+#include "store/NewFileNames.h"
+
+namespace velra {
+
+namespace {
+
+constexpr int kThreads = 2;
+// So many at most, to stay small; the thread of the document then waits until there are few, since
+// to be woken for each single one would cost more than the file.
+constexpr std::size_t kMostWaiting = 64;
+constexpr std::size_t kFewWaiting = 16;
+
+}  // namespace
+
+FilesBehind::FilesBehind(NewFileNames& names, GuardedFiles& guard) : names_(names), guard_(guard) {
+  try {
+    for (int i = 0; i < kThreads; ++i) threads_.emplace_back([this] { work(); });
+  } catch (const std::system_error&) {
+    // Where the system refuses threads one does, or the files are made at once.
+  }
+}
+
+FilesBehind::~FilesBehind() {
+  join();
+}
+
+void FilesBehind::write(const std::string& guid, std::string bytes, std::string status) {
+  add({Kind::Write, guid, {}, std::move(bytes), std::move(status)});
+}
+
+void FilesBehind::copy(const std::string& from, const std::string& to, std::string status) {
+  add({Kind::Copy, to, from, {}, std::move(status)});
+}
+
+void FilesBehind::move(const std::string& from, const std::string& to, std::string status) {
+  addNow({Kind::Move, to, from, {}, std::move(status)});
+}
+
+void FilesBehind::addNow(File file) {
+  Lock lock(mutex_);
+  done_.wait(lock, [this] { return atRest(); });
+  files_.push_back(std::move(file));
+  if (failed_) return;
+  ++next_;
+  make(files_.back());
+  failed_ = !files_.back().made;
+}
+
+bool FilesBehind::atRest() const {
+  return busy_ == 0 && (next_ == files_.size() || failed_);
+}
+
+void FilesBehind::add(File file) {
+  if (threads_.empty()) return addNow(std::move(file));
+  Lock lock(mutex_);
+  if (files_.size() - next_ >= kMostWaiting) {
+    done_.wait(lock, [this] { return files_.size() - next_ <= kFewWaiting || failed_; });
+  }
+  files_.push_back(std::move(file));
+  lock.unlock();
+  handed_.notify_one();
+}
+
+void FilesBehind::work() {
+  Lock lock(mutex_);
+  while (true) {
+    handed_.wait(lock, [this] { return complete_ || failed_ || next_ < files_.size(); });
+    if (failed_ || next_ == files_.size()) return;
+    File& file = files_[next_++];  // a deque leaves it in its place
+    ++busy_;
+    lock.unlock();
+    make(file);
+    lock.lock();
+    --busy_;
+    failed_ = failed_ || !file.made;
+    if (failed_ || atRest() || files_.size() - next_ == kFewWaiting) done_.notify_one();
+  }
+}
+
+void FilesBehind::make(File& file) {
+  try {
+    if (file.kind == Kind::Write) {
+      file.print = contentPrint(file.bytes);
+      file.failure = writeNewFile(file.to, std::exchange(file.bytes, {}));
+    } else if (file.kind == Kind::Move) {
+      MoveFileTo(file.from, file.to);
+    } else {
+      CopyToNewFile(file.from, file.to);
+    }
+  } catch (const RunTimeError& error) {
+    file.failure = error.description();
+  } catch (const std::exception& error) {
+    file.failure = error.what();
+  }
+  file.made = file.failure.empty();
+}
+
+FilesBehind::Failure FilesBehind::failure() {
+  Lock lock(mutex_);
+  if (!failed_) return {};
+  done_.wait(lock, [this] { return atRest(); });
+  const auto file = std::find_if(files_.begin(), files_.end(),
+                                 [](const File& one) { return !one.failure.empty(); });
+  return {file->failure, file->kind == Kind::Write ? file->to : std::string(), file->status};
+}
+
+void FilesBehind::join() {
+  {
+    const Lock lock(mutex_);
+    complete_ = true;
+  }
+  handed_.notify_all();
+  for (std::thread& thread : threads_) {
+    if (thread.joinable()) thread.join();
+  }
+}
+
+FilesBehind::Outcome FilesBehind::finish() {
+  join();
+  Outcome outcome{{}, failure()};
+  for (const File& file : files_) {
+    outcome.made.push_back(file.made);
+    if (file.made) note(file);
+  }
+  return outcome;
+}
+
+void FilesBehind::note(const File& file) {
+  if (file.kind == Kind::Write) {
+    guard_.noteContent(strAbsolutePath(file.to), file.print);
+    names_.written(file.to);
+  } else {
+    if (file.kind == Kind::Move) names_.went(file.from);
+    names_.came(file.to);
+  }
+}
+
+}  // namespace velra

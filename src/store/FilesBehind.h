@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <condition_variable>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace velra {
+
+class GuardedFiles;
+class NewFileNames;
+
+/// Makes new files on threads of its own while the bytes of the next ones are made. After one that
+/// fails none is begun any more. Nothing may lie at the paths to which they come. To be used by the
+/// thread of the document.
+class FilesBehind {
+ public:
+  FilesBehind(NewFileNames& names, GuardedFiles& guard);
+  FilesBehind(const FilesBehind&) = delete;
+  FilesBehind& operator=(const FilesBehind&) = delete;
+  /// Waits for what was begun.
+  ~FilesBehind();
+
+  /// Hand a file over; they wait when too many are waiting. The status text is what the person saw
+  /// then. A path that is moved from may be the next one's to come to, so that moving waits for all
+  /// that were handed over and is done at once.
+  void write(const std::string& guid, std::string bytes, std::string status);
+  void copy(const std::string& from, const std::string& to, std::string status);
+  void move(const std::string& from, const std::string& to, std::string status);
+
+  /// What has failed, the first in the order of handing over.
+  struct Failure {
+    std::string reason;     // "" when nothing has
+    std::string unwritten;  // the path, when it was to be written
+    std::string status;     // what was handed over with it
+  };
+  /// Of what has been done so far.
+  Failure failure();
+
+  struct Outcome {
+    std::vector<bool> made;  // of each that was handed over
+    Failure failure;
+  };
+  /// Waits for all, and tells the names and the guard of those that were made.
+  Outcome finish();
+
+ private:
+  enum class Kind { Write, Copy, Move };
+  struct File {
+    Kind kind;
+    std::string to;
+    std::string from;
+    std::string bytes;  // empty when it has been written
+    std::string status;
+    std::uint64_t print = 0;  // of the bytes
+    bool made = false;
+    std::string failure = {};  // why it could not be made
+  };
+  using Lock = std::unique_lock<std::mutex>;
+
+  void add(File file);
+  void addNow(File file);
+  void work();
+  bool atRest() const;
+  static void make(File& file);
+  void join();
+  void note(const File& file);
+
+  NewFileNames& names_;
+  GuardedFiles& guard_;
+  std::mutex mutex_;
+  std::condition_variable handed_;  // a file, or the last one
+  std::condition_variable done_;    // enough for the thread of the document to go on
+  std::deque<File> files_;          // what was handed over, none taken out
+  std::size_t next_ = 0;            // which is to be begun
+  int busy_ = 0;                    // threads with a file
+  bool complete_ = false;           // no more will be handed over
+  bool failed_ = false;
+  std::vector<std::thread> threads_;  // last: they use the others
+};
+
+}  // namespace velra
