@@ -12,6 +12,7 @@
 #include "DocumentMaker.h"
 #include "PlainParse.h"
 #include "RunFolder.h"
+#include "SlowShelf.h"
 #include "base/Text.h"
 #include "rescue/RescueWriter.h"
 #include "schema/SEColl.h"
@@ -25,9 +26,10 @@ namespace fs = std::filesystem;
 
 struct Figures {
   int objects = 0;
-  double parse = 0;  // P: every file read, parsed and dropped, milliseconds of processor time
+  double parse = 0;  // P: every file read, parsed and dropped, milliseconds
   double open = 0;
-  double saveOne = 0;  // after one edit
+  double slowOpen = 0;  // `measureSlowOpen`; one document alone is measured
+  double saveOne = 0;   // after one edit
   double saveAs = 0;
   double copy = 0;        // every file copied one by one, and a sync at the end
   double removeEach = 0;  // each removed object
@@ -37,9 +39,18 @@ struct Figures {
   double kept = 0;      // of these, the share that stays after closing
 };
 
+constexpr int kSlowObjects = 1000;  // a second and more is waited for these
+
 double leastWork(int repeats, const std::function<void()>& action) {
   Times times;
   for (int i = 0; i < repeats; ++i) times.takeWork(action);
+  return times.at(0);
+}
+
+// By the clock, where several threads are at work.
+double leastTime(int repeats, const std::function<void()>& action) {
+  Times times;
+  for (int i = 0; i < repeats; ++i) times.take(action);
   return times.at(0);
 }
 
@@ -118,10 +129,19 @@ void measureOpen(BenchSession& session, const std::string& path, int repeats, Fi
   figures.memory = (heapBytes() - before) / files;
   session.close();
   figures.kept = (heapBytes() - before) / files;
-  figures.open = leastWork(repeats, [&] {
+  figures.open = leastTime(repeats, [&] {
     session.close();
     session.open(path);
   });
+}
+
+// A shelf far away: what an opening takes of what its calls would take one after another.
+double measureSlowOpen(BenchSession& session, const std::string& path) {
+  session.close();
+  const SlowShelf shelf;
+  Times times;
+  times.take([&] { session.open(path); });
+  return times.at(0) / SlowShelf::inTurn();
 }
 
 // What a Save As cannot do without: as many files of that size, made one by one, and the sync.
@@ -163,9 +183,10 @@ Figures measureDocument(RunFolder& run, const std::string& schema, int objects) 
   const std::string place = run.make(std::to_string(objects));
   const std::string path = makeDocument(place, {objects, 20000});
   const int repeats = objects > 10000 ? 2 : 5;
-  figures.parse = leastWork(repeats, [&] { plainParse(place); });
+  figures.parse = leastTime(repeats, [&] { plainParse(place); });
   BenchSession session(run.path(), schema);
   measureOpen(session, path, repeats, figures);
+  if (objects == kSlowObjects) figures.slowOpen = measureSlowOpen(session, path);
   figures.saveOne = measureSaving(session);
   figures.search = measureSearch(session);
   figures.textPass = measureTextPass(session);
@@ -180,6 +201,9 @@ void addFor(const Figures& f, std::vector<Measure>& measures) {
   std::printf("%d objects: each read and parsed once in %.0f us, opened in %.0f, removed in %.1f\n",
               f.objects, f.parse * perObject, f.open * perObject, f.removeEach * 1000);
   measures.push_back({"open / P" + size, f.open / f.parse, "", 2.5});
+  if (f.objects == kSlowObjects) {
+    measures.push_back({"open far away / call after call", f.slowOpen, "", 0.4});
+  }
   measures.push_back({"save as / plain copy" + size, f.saveAs / f.copy, "", 1.3});
   measures.push_back({"memory / file bytes" + size, f.memory, "", 1.5});
   measures.push_back({"memory kept after closing" + size, f.kept, "", 0.1});

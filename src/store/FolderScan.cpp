@@ -11,6 +11,7 @@
 #include "protocol/MainWindow.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SchemaFile.h"
+#include "store/ParsedAhead.h"
 
 namespace velra {
 
@@ -54,6 +55,30 @@ void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocumen
   file.fields = std::move(fields);
 }
 
+// What a loaded object tells of its file.
+ScannedFile answerOf(const RegisteredObject& loaded, std::string name) {
+  ScannedFile file;
+  file.name = std::move(name);
+  file.kind = loaded.kind();
+  const auto* described = as<const DescribedObject>(&loaded);
+  if (described) noteRelations(described->secol(), rulesOf(described->kind()), file);
+  return file;
+}
+
+ScannedFile contentOf(ApplicationModule& app, OpenDocument& document, const ParsedAhead::File& read,
+                      std::string name) {
+  ScannedFile file;
+  file.name = std::move(name);
+  file.stamp = read.stamp;
+  if (read.parsed) {
+    file.kind = kindOfRoot(read.document.documentElement().baseName());
+    if (file.kind) readFields(app, document, read.document, rulesOf(*file.kind), file);
+  } else {
+    file.reason = read.document.reason();
+  }
+  return file;
+}
+
 }  // namespace
 
 void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
@@ -66,20 +91,29 @@ void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
     files_.push_back(std::move(file));
   }
   takeOver(before);
-  for (ScannedFile& file : files_) {
-    const RegisteredRef loaded = document.loadedObject(folder_ + file.name);
-    if (!loaded) {
-      read(app, document, file);
-      continue;
-    }
-    ScannedFile answered;
-    answered.name = std::move(file.name);
-    answered.kind = loaded->kind();
-    file = std::move(answered);
-    const auto* described = as<DescribedObject>(loaded.get());
-    if (described) noteRelations(described->secol(), rulesOf(described->kind()), file);
-  }
+  readAll(app, document);
   index();
+}
+
+void FolderScan::readAll(ApplicationModule& app, OpenDocument& document) {
+  std::vector<ParsedAhead::Wanted> wanted;
+  std::vector<ScannedFile*> waiting;
+  for (ScannedFile& file : files_) {
+    std::string path = folder_ + file.name;
+    if (const RegisteredRef loaded = document.loadedObject(path)) {
+      file = answerOf(*loaded, std::move(file.name));
+    } else {
+      wanted.push_back({std::move(path), file.stamp});
+      waiting.push_back(&file);
+    }
+  }
+  ParsedAhead ahead(std::move(wanted));
+  for (ScannedFile* file : waiting) {
+    const ParsedAhead::File& read = ahead.take();
+    if (read.known) continue;
+    if (app.gMainForm) app.gMainForm->workSteps();
+    *file = contentOf(app, document, read, std::move(file->name));
+  }
 }
 
 void FolderScan::takeOver(std::vector<ScannedFile>& before) {
@@ -89,24 +123,6 @@ void FolderScan::takeOver(std::vector<ScannedFile>& before) {
     const auto at = known.find(file.name);
     if (at != known.end()) file = std::move(*at->second);
   }
-}
-
-void FolderScan::read(ApplicationModule& app, OpenDocument& document, ScannedFile& file) {
-  const std::string path = folder_ + file.name;
-  const FileStamp stamp = fileStamp(path);
-  if (file.stamp == stamp && stamp.exists) return;
-  if (app.gMainForm) app.gMainForm->workSteps();
-  ScannedFile fresh;
-  fresh.name = std::move(file.name);
-  fresh.stamp = stamp;
-  XmlDocument parsed;
-  if (parsed.load(path)) {
-    fresh.kind = kindOfRoot(parsed.documentElement().baseName());
-    if (fresh.kind) readFields(app, document, parsed, rulesOf(*fresh.kind), fresh);
-  } else {
-    fresh.reason = parsed.reason();
-  }
-  file = std::move(fresh);
 }
 
 void FolderScan::index() {

@@ -78,7 +78,7 @@ class FolderScan {
 
  private:
   void takeOver(std::vector<ScannedFile>& before);
-  void read(ApplicationModule& app, OpenDocument& document, ScannedFile& file);
+  void readAll(ApplicationModule& app, OpenDocument& document);
   void index();
 
   std::string folder_;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <mutex>
 
 #include "platform/xml/XmlLibrary.h"
 
@@ -51,12 +52,27 @@ bool takesTooLong(void* context) {
   return limits.exceededBy(countsOf(context));
 }
 
-// The files that took long, of which the last is not long ago. Each thread has its own.
-struct CostlyFiles {
-  int count = 0;
-  std::chrono::steady_clock::time_point last;
+// The files that took long, of which the last is not long ago; of all threads, since a document is
+// read by several.
+class CostlyFiles {
+ public:
+  bool areMany() {
+    const std::lock_guard lock(mutex_);
+    if (std::chrono::steady_clock::now() - last_ > kForgotten) count_ = 0;
+    return count_ >= kMostCostly;
+  }
+  void add() {
+    const std::lock_guard lock(mutex_);
+    ++count_;
+    last_ = std::chrono::steady_clock::now();
+  }
+
+ private:
+  std::mutex mutex_;
+  int count_ = 0;
+  std::chrono::steady_clock::time_point last_;
 };
-thread_local CostlyFiles costlyFiles;
+CostlyFiles costlyFiles;
 
 void stop(void* context, const char* reason) {
   sessionOf(context).note(reason);
@@ -173,14 +189,11 @@ std::size_t attributesOf(std::string_view bytes, std::size_t at) {
 }  // namespace
 
 Patience::Patience(ParseSession& session) : session_(session) {
-  if (std::chrono::steady_clock::now() - costlyFiles.last > kForgotten) costlyFiles.count = 0;
-  session_.hurried = costlyFiles.count >= kMostCostly;
+  session_.hurried = costlyFiles.areMany();
 }
 
 Patience::~Patience() {
-  if (!kHurried.exceededBy(session_.counts)) return;
-  ++costlyFiles.count;
-  costlyFiles.last = std::chrono::steady_clock::now();
+  if (kHurried.exceededBy(session_.counts)) costlyFiles.add();
 }
 
 void installBounds(xmlSAXHandler& handler) {
