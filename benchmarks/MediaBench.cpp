@@ -24,6 +24,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kSeeks = 80;
 constexpr int kSteps = 200;
+constexpr int kRounds = 3;
 constexpr double kPlaySeconds = 10;
 
 class RandomTimes {
@@ -86,25 +87,37 @@ Measure steps(const std::string& name, const std::string& path, double step) {
   return {(step > 0 ? "step +1, " : "step -1, ") + name + ", p95", times.p95(), "ms", 25};
 }
 
-// Both go to the same times and convert or paint nothing. Nothing without the other.
+// Both go to the same times, in turns, and convert or paint nothing; the better of three. Nothing
+// without the other.
 void addBeside(std::vector<Measure>& measures, const std::string& name, const std::string& path,
                const std::string& folder) {
   RandomTimes random;
   std::vector<double> targets(kSeeks);
   for (double& t : targets) t = random.next();
-  const auto other = measureMpv(path, targets, folder);
-  if (!other) return;
+  double seek = 0;
+  double otherSeek = 0;
+  double otherStep = 0;
   FrameSource source;
   source.open(path);
-  Times seeks;
-  for (const double t : targets) seeks.take([&] { source.at(t); });
+  for (int round = 0; round < kRounds; ++round) {
+    const auto other = measureMpv(path, targets, folder);
+    if (!other) return;
+    Times seeks;
+    for (const double t : targets) seeks.take([&] { source.at(t); });
+    const auto less = [&](double& least, double one) {
+      least = round == 0 ? one : std::min(least, one);
+    };
+    less(seek, seeks.p95());
+    less(otherSeek, other->seek);
+    less(otherStep, other->stepBack);
+  }
   Times steps;
   for (int i = 0; i < kSteps; ++i) {
     const double t = kBenchSeconds / 2 - i * kBenchFrame;
     steps.take([&] { source.at(t); });
   }
-  measures.push_back({"exact seek, " + name + ", p95 / mpv's", seeks.p95() / other->seek, "", 1});
-  const double step = steps.p95() / other->stepBack;
+  measures.push_back({"exact seek, " + name + ", p95 / mpv's", seek / otherSeek, "", 1});
+  const double step = steps.p95() / otherStep;
   measures.push_back({"step -1, " + name + ", p95 / mpv's", step, "", 0.2});
 }
 
