@@ -28,7 +28,7 @@ constexpr double kMostOnTheWay = 300;
 // So many pictures before the one that is sought are decoded all, if the cache has room, since
 // people step back; who does so by no more than two pictures does it again.
 constexpr double kFewestWhole = 4;
-constexpr double kWholeBefore = 8;
+constexpr double kWholeBefore = 4;
 constexpr double kStepBack = 2;
 constexpr double kWholeBeforeSteps = 30;
 
@@ -125,15 +125,14 @@ FrameSource::Found FrameSource::step(bool& ended) {
 }
 
 FrameSource::Found FrameSource::decodeOn(double target) {
-  leaveOut(target);
+  leaveOut(target, reader_.time().value_or(kInfinite));
   bool ended = false;
   Found picture;
   while (!ended && !(picture && target < picture->end)) {
     if (Found next = step(ended)) picture = std::move(next);
   }
   const bool doubtful = picture && picture->time < wholeFrom_;
-  wholeFrom_ = -kInfinite;
-  reader_.leaveOutBefore(-kInfinite);
+  leaveOutNone();
   if (reader_.input().cancelled()) return nullptr;
   if (!doubtful) return picture;
   mayLeaveOut_ = false;  // a picture is shown for long, or the movie ends before its length
@@ -141,12 +140,17 @@ FrameSource::Found FrameSource::decodeOn(double target) {
 }
 
 // The picture that is sought, and those that it may be stepped back to, come whole.
-void FrameSource::leaveOut(double target) {
+void FrameSource::leaveOut(double target, double start) {
   const double end = duration_ >= 0 ? std::min(target, duration_) : target;
   const double from = end - whole_;
-  if (!mayLeaveOut_ || !(reader_.time().value_or(kInfinite) < from)) return;
+  if (!mayLeaveOut_ || !(start < from)) return;
   wholeFrom_ = from;
   reader_.leaveOutBefore(from);
+}
+
+void FrameSource::leaveOutNone() {
+  wholeFrom_ = -kInfinite;
+  reader_.leaveOutBefore(-kInfinite);
 }
 
 FrameSource::Found FrameSource::seekTo(double target, double lead) {
@@ -157,11 +161,13 @@ FrameSource::Found FrameSource::seekTo(double target, double lead) {
   while (!reader_.input().cancelled()) {
     const double from = sought - back;
     if (from <= 0) break;
+    leaveOut(target, -kInfinite);
     if (reader_.startBehind(from) && *reader_.time() <= target) {
       return decodeOn(target);
     }
     back = back == 0 ? kFirstStepBack : back * kStepBackFactor;
   }
+  leaveOutNone();
   return reader_.rewind() ? decodeOn(target) : nullptr;
 }
 

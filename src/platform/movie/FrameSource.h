@@ -72,7 +72,8 @@ class FrameSource {
   Found find(double target);
   Found step(bool& ended);
   Found decodeOn(double target);
-  void leaveOut(double target);
+  void leaveOut(double target, double start);
+  void leaveOutNone();
   Found seekTo(double target, double lead);
   Found seekByKeys(double target, double lead);
   double measure();

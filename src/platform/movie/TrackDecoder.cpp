@@ -19,6 +19,7 @@ constexpr int kVainPackets = 100;
 constexpr int kVainKeys = 3;
 
 // Each one works at a picture of its own, which takes its memory and is waited for after a seek.
+// There is one more than cores, since each waits at times for the rows of another.
 constexpr int kFewestThreads = 2;
 constexpr int kMostThreads = 8;
 
@@ -31,7 +32,7 @@ std::string TrackDecoder::open(const AVStream& stream) {
   packet_.reset(av_packet_alloc());
   avcodec_parameters_to_context(codec_.get(), stream.codecpar);
   codec_->pkt_timebase = stream.time_base;
-  codec_->thread_count = std::clamp(av_cpu_count(), kFewestThreads, kMostThreads);
+  codec_->thread_count = std::clamp(av_cpu_count() + 1, kFewestThreads, kMostThreads);
   codec_->max_pixels = MovieFile::kMostPixels;
   draining_ = false;
   if (avcodec_open2(codec_.get(), decoder, nullptr) < 0) return "The decoder refuses it.";
