@@ -81,7 +81,7 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   }
   if (message.empty()) {
     io->joinStore(guid);
-    copied_ = copiedFolderOf(collObjects_, *this);
+    copied_ = copiedFolderOf(collObjects_, *this, io->scans());
     for (const std::string& more : {strCopyTold(), io->strLeftOut()}) {
       told += (told.empty() || more.empty() ? "" : " ") + more;
     }

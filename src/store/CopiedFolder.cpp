@@ -10,6 +10,7 @@
 #include "platform/xml/XmlDocument.h"
 #include "protocol/DescribedObject.h"
 #include "store/DataFolder.h"
+#include "store/FolderScans.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -30,10 +31,12 @@ class OwnFolder {
 
   /// True when the folder holds the object's file, by name, and another folder's was read.
   bool hasCopyOf(const std::string& path) {
+    return hasOther(path) && !objects_.find(folder_ + path.substr(folderOf(path).size()));
+  }
+  /// True when a path of another folder is one of this folder by its name.
+  bool hasOther(const std::string& path) {
     const std::string folder = folderOf(path);
-    if (folder == folder_) return false;
-    const std::string own = folder_ + path.substr(folder.size());
-    return holds(path.substr(folder.size())) && !isOwn(folder) && !objects_.find(own);
+    return folder != folder_ && holds(path.substr(folder.size())) && !isOwn(folder);
   }
   /// The class of that file.
   std::string classOfCopy(const std::string& path) const {
@@ -84,7 +87,8 @@ class MissingObjects : public ReferenceVisitor {
 
 }  // namespace
 
-CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document) {
+CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document,
+                            const FolderScans& scans) {
   OwnFolder own(objects, document.strGUID());
   for (const auto& [number, registered] : objects.sequence()) {
     const auto* object = as<const DescribedObject>(registered.get());
@@ -96,7 +100,11 @@ CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& docu
   }
   MissingObjects missing(objects, own);
   document.visitReferences(missing);
-  return {missing.other, false};
+  if (!missing.other.empty()) return {missing.other, false};
+  for (const std::string& path : scans.relativesOfRest(dataFolderOf(document.strGUID()))) {
+    if (own.hasOther(path)) return {folderOf(path), false};
+  }
+  return {};
 }
 
 }  // namespace velra

@@ -6,6 +6,7 @@
 namespace velra {
 
 class DescribedObject;
+class FolderScans;
 class ObjectRegistry;
 
 /// Where the objects of a document lie when they should lie in its own data folder: the document
@@ -15,8 +16,10 @@ struct CopiedFolder {
   bool works = false;  // on objects that lie there, and not on those of its own folder
 };
 
-/// Looks through the objects of a document that has just been opened. Texts are compared first:
-/// only an object that lies elsewhere has the disk asked.
-CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document);
+/// Looks through the objects of a document that has just been opened, and through the files of its
+/// folder of which none was made: a copy's own segments belong to an expression of the first place.
+/// Texts are compared first: only what leads elsewhere has the disk asked.
+CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document,
+                            const FolderScans& scans);
 
 }  // namespace velra

@@ -167,6 +167,16 @@ std::optional<LoadedFields> FolderScan::takeFields(const std::string& name, Obje
   return std::exchange(file.fields, std::nullopt);
 }
 
+std::vector<std::string> FolderScan::relativesOfRest() const {
+  std::vector<std::string> paths;
+  for (const ScannedFile& file : files_) {
+    if (!file.fields) continue;
+    paths.insert(paths.end(), file.ownRelatives.begin(), file.ownRelatives.end());
+    if (!file.partOf.empty()) paths.push_back(file.partOf);
+  }
+  return paths;
+}
+
 void FolderScan::endOpening() {
   // What a loaded object answers need not be kept beside it.
   std::erase_if(files_, [](const ScannedFile& file) { return !file.stamp.exists; });

@@ -69,6 +69,9 @@ class FolderScan {
   /// Hands over the fields that were read ahead for a file; nothing when there are none.
   std::optional<LoadedFields> takeFields(const std::string& name, ObjectKind kind);
 
+  /// The normal forms of what those files refer to of which no object was made.
+  std::vector<std::string> relativesOfRest() const;
+
   /// Drops what was read ahead and nobody took.
   void endOpening();
 

@@ -46,6 +46,12 @@ std::optional<LoadedFields> FolderScans::takeFields(const std::string& guid, Obj
   return known->second.scan.takeFields(path.substr(folder.size()), kind);
 }
 
+std::vector<std::string> FolderScans::relativesOfRest(const std::string& folder) const {
+  const auto known = folders_.find(withSeparator(strAbsolutePath(folder)));
+  return known == folders_.end() ? std::vector<std::string>()
+                                 : known->second.scan.relativesOfRest();
+}
+
 bool FolderScans::checkConsistency() const {
   for (const auto& [path, folder] : folders_) {
     if (!folder.scan.checkConsistency()) return false;

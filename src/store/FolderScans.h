@@ -42,6 +42,9 @@ class FolderScans {
   /// The fields of a file that the opening has read already; nothing when it has to be read.
   std::optional<LoadedFields> takeFields(const std::string& guid, ObjectKind kind);
 
+  /// What the files of a folder refer to of which the opening has made no object.
+  std::vector<std::string> relativesOfRest(const std::string& folder) const;
+
   /// Which folder could not be searched since the opening began, and why; "" when all could.
   const std::string& unlisted() const { return unlisted_; }
 

@@ -157,5 +157,21 @@ TEST(GuardedFiles, ASaveWithoutTheDocumentsOwnFileMarksNothingForDeletion) {
   session.takeShown();
 }
 
+TEST(CopiedFolder, IsSeenByASegmentThatBelongsToTheFirstPlace) {
+  for (const std::string name : {"video1", "video7"}) {
+    DocumentSession session;
+    session.files.smallLadder();
+    session.files.segment("video2", "video1", 0, 1000);
+    std::string text = session.folder.read("film_files/film_video2.xml");
+    const std::string parent = session.files.id("video1");
+    text.replace(text.find(parent), parent.size(), "/first/film_files/film_" + name + ".xml");
+    session.files.writeRaw("film_video2.xml", text);
+    ASSERT_EQ(session.open(session.files.documentPath()), "");
+    const CopiedFolder& copied = session.document()->copiedFolder();
+    EXPECT_EQ(copied.other, name == "video1" ? "/first/film_files/" : "") << name;
+    EXPECT_FALSE(copied.works);
+  }
+}
+
 }  // namespace
 }  // namespace velra
