@@ -66,8 +66,8 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// Why the last strSave failed; "" when it did not.
   const std::string& strSaveFailure() const { return saveFailure_; }
 
-  /// From now on files come under promised names by a thread of its own, so that what fails is told
-  /// by a later strSave or here. To be called in pairs.
+  /// From now on files come under promised names by threads of their own, so that what fails is
+  /// told by a later strSave or here. To be called in pairs.
   void makeFilesBehind();
   FilesBehind::Outcome filesMade();
   /// The sentence for a person; "" for no failure.

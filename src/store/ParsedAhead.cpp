@@ -30,6 +30,7 @@ void readFile(const ParsedAhead::Wanted& wanted, ParsedAhead::File& file) {
   try {
     if (!file.known) file.parsed = file.document.load(wanted.path);
   } catch (...) {
+    // No error may end on a reader's thread: whoever takes the file gets it.
     file.raised = std::current_exception();
   }
 }
