@@ -98,6 +98,7 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   if (names_.isPromised(strGUID)) {
     if (behind_) return saveFailure_ = strSaveBehind(bytes, strGUID);
     saveFailure_ = writeNewFile(strGUID, bytes);
+    unflushed_.made();
   } else if ((saveFailure_ = guard_.strWhyNotWrite(path)).empty()) {
     saveFailure_ = writeFileInPlace(strGUID, bytes);
   }
@@ -106,7 +107,7 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   }
   guard_.noteContent(path, contentPrint(bytes));
   names_.written(strGUID);
-  unflushedFolder_ = folderOf(strGUID);
+  unflushed_.written(strGUID);
   return {};
 }
 
@@ -114,7 +115,8 @@ std::string IOManager::strSaveBehind(const std::string& bytes, const std::string
   const FilesBehind::Failure soFar = behind_->failure();
   if (!soFar.reason.empty()) return strSentence(soFar);
   behind_->write(strGUID, bytes, strStatus());
-  unflushedFolder_ = folderOf(strGUID);
+  unflushed_.made();
+  unflushed_.written(strGUID);
   return {};
 }
 
@@ -140,13 +142,9 @@ void IOManager::noteLeftOut(const std::string& guid, const std::string& message)
   if (leftOut_.empty() && !named) leftOut_ = guid + ": " + message;
 }
 
-std::string IOManager::strFlush() {
-  if (unflushedFolder_.empty()) return {};
-  return syncFolder(std::exchange(unflushedFolder_, {}));
-}
-
 void IOManager::MoveObject(const std::string& source, const std::string& destination) {
   if (!bFileSystem_) return;
+  unflushed_.made();
   const std::string from = strAbsolutePath(source);
   const std::string to = strAbsolutePath(destination);
   if (behind_ && names_.isPromised(to)) return behind_->move(from, to, strStatus());
@@ -157,6 +155,7 @@ void IOManager::MoveObject(const std::string& source, const std::string& destina
 
 void IOManager::CopyObject(const std::string& source, const std::string& destination) {
   if (!bFileSystem_) return;
+  unflushed_.made();
   const std::string to = strAbsolutePath(destination);
   const std::string from = strAbsolutePath(source);
   // What has come under a promised name is another program's.

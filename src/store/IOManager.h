@@ -14,6 +14,7 @@
 #include "store/GuardedFiles.h"
 #include "store/NewFileNames.h"
 #include "store/RemovedFiles.h"
+#include "store/UnflushedFiles.h"
 
 namespace velra {
 
@@ -79,7 +80,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   const std::string& strLeftOut() const { return leftOut_; }
 
   /// Brings what was saved since the last call to the disk. The failure's description, or "".
-  std::string strFlush();
+  std::string strFlush() { return unflushed_.strFlush(); }
 
   /// Raise a run-time error on failure.
   void MoveObject(const std::string& source, const std::string& destination);
@@ -139,7 +140,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   FolderScans scans_;
   ExpressionFinder expressions_;
   std::string leftOut_;
-  std::string unflushedFolder_;
+  UnflushedFiles unflushed_;
   std::string saveFailure_;
   std::unique_ptr<DocumentRescue> rescue_;
 };

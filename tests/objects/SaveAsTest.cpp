@@ -25,11 +25,21 @@ int goodSyncs = kAll;  // so many, then they fail
 }  // namespace
 
 /// In place of the system's, since no disk fails on demand.
-extern "C" int syncfs(int file) noexcept {
+extern "C" {
+
+int syncfs(int file) noexcept {
   if (goodSyncs-- > 0) return static_cast<int>(::syscall(SYS_syncfs, file));
   errno = ENOSPC;
   return -1;
 }
+
+int fsync(int file) {
+  if (goodSyncs-- > 0) return static_cast<int>(::syscall(SYS_fsync, file));
+  errno = ENOSPC;
+  return -1;
+}
+
+}  // extern "C"
 
 namespace velra {
 namespace {
@@ -191,14 +201,17 @@ TEST(SaveAs, AFailedOneLeavesEveryNameAndChangeAndTheNextFindsAllObjects) {
 TEST(SaveAs, ASaveThatDoesNotReachTheDiskHasFailed) {
   DocumentSession session;
   openEdited(session);
-  const Texts state = stateOf(*session.document());
-  goodSyncs = 0;
-  EXPECT_FALSE(session.document()->bSave());
-  goodSyncs = kAll;
-  EXPECT_EQ(session.takeShown().size(), 2U);
-  EXPECT_EQ(test::firstDifference(stateOf(*session.document()), state), "");
-  EXPECT_TRUE(session.document()->bSave());
-  EXPECT_TRUE(session.document()->collObjects().changedObjects().empty());
+  for (const char* title : {"with new files", "one file alone"}) {
+    session.object("media1")->setStrTitle(title);
+    const Texts state = stateOf(*session.document());
+    goodSyncs = 0;
+    EXPECT_FALSE(session.document()->bSave());
+    goodSyncs = kAll;
+    EXPECT_EQ(session.takeShown().size(), 2U);
+    EXPECT_EQ(test::firstDifference(stateOf(*session.document()), state), "");
+    EXPECT_TRUE(session.document()->bSave());
+    EXPECT_TRUE(session.document()->collObjects().changedObjects().empty());
+  }
 }
 
 TEST(SaveAs, WhatCameFromElsewhereIsNeitherOverwrittenNorDeleted) {
