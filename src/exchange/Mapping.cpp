@@ -16,35 +16,36 @@ Mapping::Mapping(const Content& content, const ExportOptions& options, const std
                                     : options.mapping) {
   const FileBytes file = readFile(path_);
   if (!file.reason.empty()) throw ExchangeFailure("The mapping " + path_ + ": " + file.reason);
+  int number = 0;
   for (const std::string& line : split(file.bytes, '\n')) {
-    ++line_;
-    readLine(std::string(trimmed(line)), knows);
+    readLine(++number, std::string(trimmed(line)), knows);
   }
   if (!options.mapping.empty()) checkFields(content);
 }
 
-void Mapping::refuse(const std::string& what) const {
-  throw ExchangeFailure(path_ + ", line " + std::to_string(line_) + ": " + what);
+void Mapping::refuse(int line, const std::string& what) const {
+  throw ExchangeFailure(path_ + ", line " + std::to_string(line) + ": " + what);
 }
 
-void Mapping::readLine(const std::string& line, const KnowsElement& knows) {
+void Mapping::readLine(int number, const std::string& line, const KnowsElement& knows) {
   if (line.empty() || line.starts_with('#')) return;
   const std::size_t sign = line.find('=');
   const std::string name(trimmed(line.substr(0, sign)));
   const std::size_t point = name.find('.');
   if (sign == std::string::npos || point == std::string::npos) {
-    refuse("\"" + line + "\" is not of the form Class.Field = element.");
+    refuse(number, "\"" + line + "\" is not of the form Class.Field = element.");
   }
   const auto kind = kindOfRoot(name.substr(0, point));
-  if (!kind) refuse(name + ": there is no class of that name.");
+  if (!kind) refuse(number, name + ": there is no class of that name.");
   const std::string target(trimmed(line.substr(sign + 1)));
   const std::size_t blank = target.find(' ');
   const std::string element = target.substr(0, blank);
   if (!knows(*kind, element)) {
-    refuse(name + ": there is no element \"" + element + "\" for this class.");
+    refuse(number, name + ": there is no element \"" + element + "\" for this class.");
   }
   const std::string qualifier = blank == std::string::npos ? "" : target.substr(blank);
-  rules_.push_back({*kind, name.substr(point + 1), element, std::string(trimmed(qualifier))});
+  rules_.push_back(
+      {number, *kind, name.substr(point + 1), element, std::string(trimmed(qualifier))});
 }
 
 // A class of which the document has no object says nothing of its fields.
@@ -58,8 +59,8 @@ void Mapping::checkFields(const Content& content) const {
         std::any_of(object->fields.begin(), object->fields.end(),
                     [&](const ContentField& field) { return field.name == rule.field; });
     if (known) continue;
-    throw ExchangeFailure(path_ + ": the schema has no field " + rule.field + " of class " +
-                          classNameOf(rule.kind) + ".");
+    refuse(rule.line,
+           classNameOf(rule.kind) + '.' + rule.field + ": the schema has no such field.");
   }
 }
 
@@ -93,14 +94,18 @@ std::vector<const ContentField*> Mapping::readableFields(const ContentObject& ob
   return fields;
 }
 
-std::vector<const ContentField*> Mapping::unmapped(const ContentObject& object) const {
-  std::vector<const ContentField*> fields = readableFields(object);
-  std::erase_if(fields, [&](const ContentField* field) {
-    return std::any_of(rules_.begin(), rules_.end(), [&](const Rule& rule) {
+std::vector<Mapping::Unmapped> Mapping::unmapped(const ContentObject& object) const {
+  std::vector<Unmapped> left;
+  for (const ContentField* field : readableFields(object)) {
+    const bool mapped = std::any_of(rules_.begin(), rules_.end(), [&](const Rule& rule) {
       return rule.kind == object.kind && rule.field == field->name;
     });
-  });
-  return fields;
+    if (mapped) continue;
+    for (const std::string& text : field->texts) {
+      left.push_back({classNameOf(object.kind) + '.' + field->name, text});
+    }
+  }
+  return left;
 }
 
 }  // namespace velra

@@ -35,11 +35,18 @@ class Mapping {
   /// What an object says, in the order of its fields; a field of two lines is there twice.
   std::vector<MappedValue> valuesOf(const ContentObject& object) const;
 
-  /// Its assigned fields that people read and that have no line.
-  std::vector<const ContentField*> unmapped(const ContentObject& object) const;
+  /// A text of a field that has no line.
+  struct Unmapped {
+    std::string field;  // with its class, as mapping files name it
+    std::string text;
+  };
+
+  /// What its assigned fields without a line say to people.
+  std::vector<Unmapped> unmapped(const ContentObject& object) const;
 
  private:
   struct Rule {
+    int line;
     ObjectKind kind;
     std::string field;
     std::string element;
@@ -50,12 +57,11 @@ class Mapping {
   static void addValue(const Rule& rule, const ContentField& field, std::size_t number,
                        std::vector<MappedValue>& values);
   static std::vector<const ContentField*> readableFields(const ContentObject& object);
-  void readLine(const std::string& line, const KnowsElement& knows);
+  void readLine(int number, const std::string& line, const KnowsElement& knows);
   void checkFields(const Content& content) const;
-  [[noreturn]] void refuse(const std::string& what) const;
+  [[noreturn]] void refuse(int line, const std::string& what) const;
 
   std::string path_;
-  int line_ = 0;
   std::vector<Rule> rules_;
 };
 

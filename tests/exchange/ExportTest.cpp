@@ -148,7 +148,7 @@ TEST(Mapping, IsRefusedWithLineAndField) {
       {"Film.Title = title", "line 1: Film.Title: there is no class of that name."},
       {"Media.Format = title",
        "line 1: Media.Format: there is no element \"title\" for this class."},
-      {"AVDocument.Titel = title", ": the schema has no field Titel of class AVDocument."},
+      {"\nAVDocument.Titel = title", "line 2: AVDocument.Titel: the schema has no such field."},
   };
   for (const auto& [text, sentence] : kCases) {
     session.folder.write("own.map", text);

@@ -122,12 +122,9 @@ class EbuCoreWriter {
   }
 
   void writeTechnical(const ContentObject& object) {
-    for (const ContentField* field : mapping_.unmapped(object)) {
-      for (const std::string& text : field->texts) {
-        ++extensions_;
-        xml_.element("ebucore:technicalAttributeString", text,
-                     {{"typeLabel", classNameOf(object.kind) + '.' + field->name}});
-      }
+    for (const auto& [field, text] : mapping_.unmapped(object)) {
+      ++extensions_;
+      xml_.element("ebucore:technicalAttributeString", text, {{"typeLabel", field}});
     }
   }
 

@@ -150,17 +150,15 @@ class PbCoreWriter {
   }
 
   void extend(const ContentObject& object, const char* tag) {
-    for (const ContentField* field : mapping_.unmapped(object)) {
-      for (const std::string& text : field->texts) {
-        ++extensions_;
-        xml_.open(tag);
-        xml_.open("extensionWrap");
-        xml_.element("extensionElement", classNameOf(object.kind) + '.' + field->name);
-        xml_.element("extensionValue", text);
-        xml_.element("extensionAuthorityUsed", "velra");
-        xml_.close();
-        xml_.close();
-      }
+    for (const auto& [field, text] : mapping_.unmapped(object)) {
+      ++extensions_;
+      xml_.open(tag);
+      xml_.open("extensionWrap");
+      xml_.element("extensionElement", field);
+      xml_.element("extensionValue", text);
+      xml_.element("extensionAuthorityUsed", "velra");
+      xml_.close();
+      xml_.close();
     }
   }
 
