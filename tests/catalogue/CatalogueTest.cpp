@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 
 #include "PostgresServer.h"
+#include "base/Text.h"
 #include "catalogue/Catalogue.h"
 #include "catalogue/CatalogueLoading.h"
 #include "catalogue/PostgresConnection.h"
@@ -59,21 +61,39 @@ std::string rowsOf(const CatalogueTable& table) {
   return row + "'' FROM " + table.name;
 }
 
-Texts sqliteRows(const std::string& path, const std::string& query) {
+Texts sqliteRows(const std::string& path, const std::string& query, int columns = 1) {
   Texts rows;
   Database database(path);
   Statement statement = database.prepare(query);
-  while (statement.next()) rows.push_back(statement.text(0));
+  while (statement.next()) {
+    std::string& row = rows.emplace_back();
+    for (int column = 0; column < columns; ++column) row += statement.text(column) + '|';
+  }
   std::sort(rows.begin(), rows.end());
   return rows;
 }
 
 Texts serverRows(const std::string& address, const std::string& query) {
   Texts rows;
-  for (const auto& row : PostgresConnection(address).run(query))
-    rows.push_back(row[0].value_or(""));
+  for (const auto& answer : PostgresConnection(address).run(query)) {
+    std::string& row = rows.emplace_back();
+    for (const auto& value : answer) row += value.value_or("") + '|';
+  }
   std::sort(rows.begin(), rows.end());
   return rows;
+}
+
+// Those that the documentation shows.
+Texts documentedQueries() {
+  Texts queries;
+  bool inside = false;
+  std::ifstream document(VELRA_SOURCE_DIR "/docs/exchange.md");
+  for (std::string line; std::getline(document, line);) {
+    if (line.starts_with("    SELECT")) queries.emplace_back();
+    inside = (inside || line.starts_with("    SELECT")) && line.starts_with("    ");
+    if (inside) queries.back() += line + '\n';
+  }
+  return queries;
 }
 
 void checkADay(ExchangeSession& session, const std::string& database) {
@@ -138,11 +158,27 @@ TEST(Catalogue, AServerHoldsAndFindsTheSame) {
 
   const std::string file = session.folder / "c.db";
   const auto local = openCatalogue(file);
-  ASSERT_EQ(load(session, *local, {session.document}), "1 0 0 0");
+  const Texts both = {session.document, VELRA_SOURCE_DIR "/data/sample/lighthouse.xml"};
+  ASSERT_EQ(load(session, *local, both), "2 0 0 0");
+  ASSERT_EQ(load(session, *openCatalogue(address), both), "1 1 0 0");
   for (const CatalogueTable& table : kCatalogueTableList) {
     const Texts rows = sqliteRows(file, rowsOf(table));
     EXPECT_FALSE(rows.empty()) << table.name;
     EXPECT_EQ(rows, serverRows(address, rowsOf(table))) << table.name;
+  }
+  const std::string said =
+      "The gale|00:00:36:00|In November come gales. Waves as high as houses break over that rock, "
+      "and for nine days no boat can land. Nobody comes, nobody leaves.|";
+  const std::pair<int, std::string> shown[] = {
+      {2, "Mare e costa|0.0|"}, {4, "Skarholm Light|The log|00:00:25:00|00:00:36:00|"}, {3, said}};
+  const Texts queries = documentedQueries();
+  ASSERT_EQ(queries.size(), std::size(shown));
+  for (std::size_t i = 0; i < queries.size(); ++i) {
+    const Texts rows = sqliteRows(file, queries[i], shown[i].first);
+    EXPECT_EQ(std::count(rows.begin(), rows.end(), shown[i].second), 1) << queries[i];
+    const std::string there = replaceAll(queries[i], "group_concat(word.text, ' ')",
+                                         "string_agg(word.text, ' ' ORDER BY word.number)");
+    EXPECT_EQ(rows, serverRows(address, there)) << queries[i];
   }
   const auto remote = openCatalogue(address);
   for (const char* words : {"the", "lantern", "li*", "lig* the"}) {
