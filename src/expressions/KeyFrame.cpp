@@ -4,6 +4,7 @@
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
+#include "expressions/KeyFramesAhead.h"
 #include "expressions/Video.h"
 #include "objects/MediaObject.h"
 #include "platform/UserInterface.h"
@@ -124,9 +125,13 @@ std::string KeyFrame::makeBitmap() const {
     app_.WarnNotFoundOnce(movie);
     return {};
   }
-  std::string target = strTempPath() + strMakeGUIDText() + ".bmp";
+  std::string target;
   try {
-    grabFrame(movie, dGetKeyFrameTime(), {}, target);
+    const double seconds = dGetKeyFrameTime();
+    if (const auto ahead = ahead_.lock()) target = ahead->take(movie, seconds);
+    if (!target.empty()) return target;
+    target = strTempPath() + strMakeGUIDText() + ".bmp";
+    grabFrame(movie, seconds, {}, target);
   } catch (const RunTimeError& error) {
     // A damaged movie or a full disk costs the picture, not the segment; one sentence for each
     // trouble with a movie is enough.

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "values/Chunk.h"
 #include "values/Picture.h"
@@ -11,6 +12,7 @@ namespace velra {
 
 class ApplicationModule;
 class IOManager;
+class KeyFramesAhead;
 class MediaObject;
 class Video;
 
@@ -22,6 +24,10 @@ class KeyFrame {
   const std::shared_ptr<MediaObject>& objKeyframeObject() const { return objKeyframeObject_; }
   const Picture& picKeyFrame() const { return picKeyFrame_; }
   const Picture& picKeyFrameSmall() const { return picKeyFrameSmall_; }
+
+  /// Where the picture may be ready, as long as that lives.
+  const std::weak_ptr<KeyFramesAhead>& ahead() const { return ahead_; }
+  void setAhead(std::weak_ptr<KeyFramesAhead> ahead) { ahead_ = std::move(ahead); }
 
   /// Seconds; -1 when the field is not assigned, the middle of the span when no time was chosen.
   double dGetKeyFrameTime() const;
@@ -49,6 +55,7 @@ class KeyFrame {
   std::shared_ptr<MediaObject> objKeyframeObject_;
   Picture picKeyFrame_;
   Picture picKeyFrameSmall_;
+  std::weak_ptr<KeyFramesAhead> ahead_;
 };
 
 /// The middle of a span, in seconds.

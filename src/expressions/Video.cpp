@@ -64,6 +64,12 @@ void Video::openBelow() {
   if (!io()->bReadsOnly()) CreateKeyFrameIcons();
 }
 
+// Segments are of the class of what they are part of.
+void Video::prepareAsSegmentOf(const ExpressionBase& parent) {
+  keyFrame_.setAhead(static_cast<const Video&>(parent).keyFrame_.ahead());
+  chooseKeyFrameTime();
+}
+
 void Video::finishAsSegment() {
   InitKeyFrameFile();
   CreateKeyFrameIcons();

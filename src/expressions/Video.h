@@ -42,6 +42,9 @@ class Video : public ExpressionBase, public VideoExpression {
   Picture picKeyFrameSmall() const override { return keyFrame_.picKeyFrameSmall(); }
   double dGetKeyFrameTime() const override { return keyFrame_.dGetKeyFrameTime(); }
   void SetKeyFrameTime(double seconds) override { keyFrame_.SetKeyFrameTime(seconds); }
+  /// Segments that are made of this one, and of these, take their pictures from there while it
+  /// lives.
+  void expectSegments(const std::shared_ptr<KeyFramesAhead>& ahead) { keyFrame_.setAhead(ahead); }
   void InitKeyFrameFile() { keyFrame_.InitKeyFrameFile(); }
   void CreateKeyFrameIcons() { keyFrame_.CreateKeyFrameIcons(); }
   void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to) override {
@@ -52,7 +55,7 @@ class Video : public ExpressionBase, public VideoExpression {
   void afterLoad() override;
   void fieldChanged(const SchemaElement& element) override;
   void openBelow() override;
-  void prepareAsSegmentOf(const ExpressionBase&) override { chooseKeyFrameTime(); }
+  void prepareAsSegmentOf(const ExpressionBase& parent) override;
   void finishAsSegment() override;
 
  private:

@@ -5,10 +5,14 @@
 #include <limits>
 #include <memory>
 #include <tuple>
+#include <utility>
 
 #include "base/Text.h"
 #include "exchange/imports/FieldTexts.h"
+#include "expressions/KeyFramesAhead.h"
 #include "expressions/Transcript.h"
+#include "expressions/Video.h"
+#include "platform/files/Files.h"
 #include "protocol/ClassRules.h"
 #include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
@@ -107,7 +111,7 @@ void SegmentPlan::propose(const ProposedSegment& row, const ExpressionRef& into)
 }
 
 // A chain that grows in the order of time has each segment behind the one before it.
-void SegmentPlan::make(const std::function<void(double)>& progress) {
+std::vector<SegmentPlan::Place*> SegmentPlan::inOrder() {
   std::vector<Place*> planned;
   for (Place& place : places_) {
     if (place.parent) planned.push_back(&place);
@@ -116,6 +120,33 @@ void SegmentPlan::make(const std::function<void(double)>& progress) {
     return std::tie(a->row.level, a->row.start, a->row.end) <
            std::tie(b->row.level, b->row.start, b->row.end);
   });
+  return planned;
+}
+
+// All Videos that take rows are of one Version, and so of one movie. Null where there are none.
+std::shared_ptr<KeyFramesAhead> SegmentPlan::keyFramesAhead(const std::vector<Place*>& planned) {
+  std::shared_ptr<Video> main;
+  std::vector<double> times;
+  for (const Place* place : planned) {
+    const Place* top = place;
+    while (top->parent) top = top->parent;
+    const auto video = as<Video>(top->expression);
+    if (!video) continue;
+    main = video;
+    Chunk span;
+    span.dStart = place->bounds.start;
+    span.dend = place->bounds.end;
+    times.push_back(middleOf(span));
+  }
+  if (!main || !bFileExists(main->strGetMediaObjectPath())) return nullptr;
+  auto ahead = std::make_shared<KeyFramesAhead>(main->strGetMediaObjectPath(), std::move(times));
+  main->expectSegments(ahead);
+  return ahead;
+}
+
+void SegmentPlan::make(const std::function<void(double)>& progress) {
+  const std::vector<Place*> planned = inOrder();
+  const auto ahead = keyFramesAhead(planned);
   double done = 0;
   for (Place* place : planned) {
     if (progress) progress(done++ / static_cast<double>(planned.size()));

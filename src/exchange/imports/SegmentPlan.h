@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,8 @@
 #include "protocol/Expression.h"
 
 namespace velra {
+
+class KeyFramesAhead;
 
 /// Proposed segments beside those that are there: which of them may be made, by the rules by which
 /// a person cuts, and then the making of all of these. Nothing is changed before `make`.
@@ -52,6 +55,8 @@ class SegmentPlan {
   static Message faultOf(const Place& parent, const ProposedSegment& row);
   bool checkFields(const ProposedSegment& row, const ExpressionRef& into);
   void cut(const Place& parent, ProposedSegment& row);
+  std::vector<Place*> inOrder();
+  static std::shared_ptr<KeyFramesAhead> keyFramesAhead(const std::vector<Place*>& planned);
   bool makeOne(Place& place);
   static void fillIn(Expression& segment, const ProposedSegment& row);
 

@@ -16,19 +16,29 @@ namespace {
 
 }  // namespace
 
-void grabFrame(const std::string& path, double seconds, PixelSize size,
-               const std::string& targetBmp) {
-  FrameSource source;
-  if (const std::string reason = source.open(path); !reason.empty()) refuse(path, reason);
-  if (size.width <= 0 || size.height <= 0) size = source.size();
-  const auto picture = source.at(seconds);
-  PictureConverter converter;
+FrameGrabber::FrameGrabber(const std::string& path)
+    : path_(path),
+      source_(std::make_unique<FrameSource>()),
+      converter_(std::make_unique<PictureConverter>()) {
+  if (const std::string reason = source_->open(path); !reason.empty()) refuse(path, reason);
+}
+
+FrameGrabber::~FrameGrabber() = default;
+
+void FrameGrabber::grab(double seconds, PixelSize size, const std::string& targetBmp) {
+  if (size.width <= 0 || size.height <= 0) size = source_->size();
+  const auto picture = source_->at(seconds);
   const auto pixels =
-      picture ? converter.convert(*picture->frame, size.width, size.height) : nullptr;
-  if (!pixels) refuse(path, "The picture cannot be decoded.");
+      picture ? converter_->convert(*picture->frame, size.width, size.height) : nullptr;
+  if (!pixels) refuse(path_, "The picture cannot be decoded.");
   if (const std::string reason = writeBitmap(*pixels, targetBmp); !reason.empty()) {
     refuse(targetBmp, reason);
   }
+}
+
+void grabFrame(const std::string& path, double seconds, PixelSize size,
+               const std::string& targetBmp) {
+  FrameGrabber(path).grab(seconds, size, targetBmp);
 }
 
 }  // namespace velra
