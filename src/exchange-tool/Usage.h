@@ -38,9 +38,10 @@ Options of an import:
   --threshold N      by how many hundredths two pictures differ at a cut; by default 7
   --shortest S       seconds of the shortest shot; by default 0.5
 
-A catalogue is a SQLite file or an address as postgresql://user@host/database. It takes the documents
-that have changed since last time, and forgets those whose files are gone. A line of what is found:
-document, class, title, time, field and text, tabs between them; a word may end in "*".
+A catalogue is a SQLite file or an address as postgresql://user@host/database. Of the documents that
+are named it takes those that have changed since last time, and forgets those whose files are gone.
+A line of what is found: document, class, title, time, field and text, tabs between them; a word may
+end in "*".
 
 The schema and the vocabulary are those of velra's settings (VELRA_MACHINE_SETTINGS names another
 file of them). An export only reads the document. A save that was cut off has to be finished first,
