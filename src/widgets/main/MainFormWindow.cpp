@@ -105,10 +105,13 @@ void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {
 }
 
 void MainFormWindow::showSplash() {
+  // Showing it runs events, and after a slow start the tick is due: it would delete a window that
+  // is not all shown. A box before it, about the vocabulary, may have stood until after the tick.
+  const int left = timer1_.isActive() ? timer1_.remainingTime() : kSplashMilliseconds;
+  timer1_.stop();
   splash_ = new SplashWindow(app_, this);
   splash_->show();
-  // A box before it, about the vocabulary, may have stood longer than that.
-  if (!timer1_.isActive()) timer1_.start(kSplashMilliseconds);
+  timer1_.start(left);
   // Drawn before the work that may follow at once.
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
