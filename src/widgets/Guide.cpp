@@ -21,7 +21,8 @@ constexpr struct {
     {"frmMain", "main-window"},     {"frmAVDocForm", "forms"},  {"VersionForm", "forms"},
     {"MediaForm", "forms"},         {"StorageForm", "forms"},   {"AVDocSchemaDialog", "flags"},
     {"VideoForm", "cutting"},       {"RangeDialog", "cutting"}, {"SearchDialog", "find"},
-    {"SearchResultDialog", "find"},
+    {"SearchResultDialog", "find"}, {"ShotsDialog", "cutting"}, {"RecoverDialog", "trouble"},
+    {"ConnectionDialog", "files"},
 };
 
 /// The page of a window, or for a box that has none of the window that it belongs to.

@@ -126,7 +126,7 @@ TEST_F(MainFormWindowTest, EntriesFollowTheMenuState) {
 TEST_F(MainFormWindowTest, HelpIsThePageOfTheWindow) {
   QTemporaryDir guide;
   QDir(guide.path()).mkdir(QStringLiteral("en"));
-  for (const char* page : {"index", "search", "main-window", "forms"}) {
+  for (const char* page : {"index", "search", "main-window", "forms", "trouble"}) {
     QFile file(guide.filePath(QStringLiteral("en/%1.html").arg(QLatin1String(page))));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
   }
@@ -141,10 +141,13 @@ TEST_F(MainFormWindowTest, HelpIsThePageOfTheWindow) {
   QDialog form(&window);
   form.setObjectName(QStringLiteral("MediaForm"));
   QMessageBox box(&form);
+  QDialog recover(&window);
+  recover.setObjectName(QStringLiteral("RecoverDialog"));
   EXPECT_EQ(opened([&] { action("mnuHelpContents")->trigger(); }), "index.html");
   EXPECT_EQ(opened([&] { action("mnuHelpSearchForHelpOn")->trigger(); }), "search.html");
   EXPECT_EQ(opened([&] { QTest::keyClick(&window, Qt::Key_F1); }), "main-window.html");
   EXPECT_EQ(opened([&] { QTest::keyClick(&box, Qt::Key_F1); }), "forms.html");
+  EXPECT_EQ(opened([&] { QTest::keyClick(&recover, Qt::Key_F1); }), "trouble.html");
   EXPECT_EQ(opened([&] { QTest::keyClick(&box, Qt::Key_F1, Qt::ShiftModifier); }), "");
   QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
   EXPECT_EQ(ui.takeShown(), Shown{});
