@@ -230,6 +230,7 @@ enum class Message : int {
   ShortestShot = 1273,
   SearchAgain = 1274,
   MakeSegments = 1275,
+  NoFirstPoint = 1289,
 };
 
 }  // namespace velra

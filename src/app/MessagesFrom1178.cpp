@@ -160,6 +160,7 @@ constexpr MessageRow kFrom1178[] = {
     {1287, "The first line of the table has to name the columns start, end, title.",
      "La prima riga della tabella deve nominare le colonne start, end, title."},
     {1288, "The table has no lines.", "La tabella non ha righe."},
+    {1289, "No first point has been taken.", "Non è stato preso un primo punto."},
 };
 
 }  // namespace

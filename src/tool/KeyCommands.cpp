@@ -44,7 +44,7 @@ void KeyCommands::takeFirstPoint() {
 }
 
 void KeyCommands::takeSecondPoint() {
-  tool_.segments.bSelecting() ? tool_.segments.SelectSegmentPoint() : app_.ui.beep();
+  tool_.segments.SelectSecondPoint();
 }
 
 void KeyCommands::askTimeCode() {

@@ -71,6 +71,12 @@ void SegmentEditor::SelectSegmentPoint() {
   }
 }
 
+void SegmentEditor::SelectSecondPoint() {
+  if (selection_.waits()) return SelectSegmentPoint();
+  parts_.app.ui.beep();
+  announce(Message::NoFirstPoint);
+}
+
 void SegmentEditor::beginSelection(double position) {
   if (!bPointIsFree(lists_.children(), position)) return tell(Message::StartInsideSegment);
   selection_.begin(position);

@@ -50,10 +50,11 @@ class SegmentEditor {
   /// Changes the key frame of the expression itself. kNoObject without a movie.
   void ChangeKeyFrame();
 
+  /// Nothing but a beep, and a sentence to be heard, while no first point waits.
+  void SelectSecondPoint();
   /// Ends a half-made selection, as Esc does.
   void CancelSelection();
   void BlinkerTimer() { selection_.tick(); }
-  bool bSelecting() const { return selection_.waits(); }
 
   // Clicks on timeline and strip keep the two in step and jump to the segment.
   void timelineClicked(std::int16_t index);

@@ -14,6 +14,7 @@
 #include "forms/MetadataKinds.h"
 #include "support/FormObject.h"
 #include "widgets/AccessibilityWalk.h"
+#include "widgets/Announcer.h"
 #include "widgets/ModalAnswer.h"
 
 namespace velra {
@@ -102,6 +103,7 @@ TEST_F(FormPresenterTest, AFormStandsOverItsOwnersWindow) {
 
 TEST_F(FormPresenterTest, TicksMoveByMouseAndKeyboard) {
   field(2).setBValid(false);
+  QStringList told;  // to people who hear the window
   showDialog([&](QDialog& window, QTreeWidget& list) {
     EXPECT_EQ(test::accessibilityFaults(window), std::vector<std::string>{});
     QStringList headers;
@@ -111,11 +113,15 @@ TEST_F(FormPresenterTest, TicksMoveByMouseAndKeyboard) {
     EXPECT_EQ(headers.join(QLatin1Char('|')), QStringLiteral("Valid|Attribute Name|Type|Comment"));
     EXPECT_EQ(list.topLevelItem(1)->text(1), QStringLiteral("Field2"));
     EXPECT_EQ(list.topLevelItem(1)->text(2), QStringLiteral("String"));
+    QObject::connect(window.findChild<Announcer*>(), &Announcer::said,
+                     [&told](const QString& sentence) { told << sentence; });
     QTest::keyClick(&list, Qt::Key_Space);
     QTest::keyClick(&list, Qt::Key_Down);
     QTest::keyClick(&list, Qt::Key_Space);
     press(window, "OKButton");
   });
+  EXPECT_EQ(told, QStringList(
+                      {QStringLiteral("Field1: not checked"), QStringLiteral("Field2: checked")}));
   EXPECT_FALSE(field(1).bValid());
   EXPECT_TRUE(field(2).bValid());
   EXPECT_FALSE(dialog_.bCancel());

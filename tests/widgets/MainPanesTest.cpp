@@ -7,9 +7,11 @@
 #include <QIcon>
 #include <QLabel>
 #include <QTest>
+#include <QTimer>
 
 #include "platform/settings/UserSettings.h"
 #include "support/TemporaryFolder.h"
+#include "widgets/Announcer.h"
 #include "widgets/WindowPlace.h"
 #include "widgets/main/MainStatusBar.h"
 #include "widgets/main/NodeTreeView.h"
@@ -126,6 +128,23 @@ TEST(MainStatusBarTest, TheLastOfManyTextsIsShown) {
   for (int i = 2; i <= 500; ++i) bar.showText(QStringLiteral("Opening object n. %1").arg(i));
   EXPECT_TRUE(QTest::qWaitFor(
       [label] { return label->text() == QStringLiteral("Opening object n. 500"); }));
+}
+
+TEST(MainStatusBarTest, TheLastOfManyTextsIsSaidWhileItsWindowIsTheActiveOne) {
+  MainStatusBar bar(nullptr);
+  QStringList said;
+  QObject::connect(bar.findChild<Announcer*>(), &Announcer::said,
+                   [&said](const QString& sentence) { said << sentence; });
+  bar.showText(QStringLiteral("not heard"));
+  auto* timer = bar.findChild<QTimer*>(QStringLiteral("tmrSpoken"));
+  EXPECT_TRUE(QTest::qWaitFor([timer] { return !timer->isActive(); }));
+  bar.show();
+  bar.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bar));
+  bar.showText(QStringLiteral("Saving object n. 1"));
+  bar.showText(QStringLiteral("Saving object n. 2"));
+  EXPECT_TRUE(QTest::qWaitFor([timer] { return !timer->isActive(); }));
+  EXPECT_EQ(said, QStringList{QStringLiteral("Saving object n. 2")});
 }
 
 TEST(WindowPlaceTest, PlaceAndSizeComeBackInTwips) {

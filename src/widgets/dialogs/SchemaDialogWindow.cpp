@@ -12,6 +12,7 @@
 #include "widgets/Announcer.h"
 #include "widgets/QtText.h"
 #include "widgets/dialogs/DialogButtons.h"
+#include "widgets/dialogs/TickState.h"
 
 namespace velra {
 
@@ -74,6 +75,7 @@ void SchemaDialogWindow::fillList() {
     item->setCheckState(0, row.ticked ? Qt::Checked : Qt::Unchecked);
     item->setSizeHint(0, {0, ListView1_->fontMetrics().height() + kRowSpace});
     item->setData(0, Qt::AccessibleTextRole, toQString(row.strName));
+    item->setData(0, Qt::AccessibleDescriptionRole, tickState(item->checkState(0)));
     item->setText(1, toQString(row.strName));
     item->setText(2, toQString(row.strType));
     item->setText(3, toQString(row.strComment));
@@ -97,7 +99,11 @@ void SchemaDialogWindow::tickMoved(QTreeWidgetItem& row) {
   const auto position = static_cast<std::size_t>(ListView1_->indexOfTopLevelItem(&row)) + 1;
   const bool ticked = row.checkState(0) == Qt::Checked;
   if (dialog_.rows()[position - 1].ticked == ticked) return;
-  if (dialog_.setTicked(position, ticked)) return;
+  if (dialog_.setTicked(position, ticked)) {
+    const QString state = tickState(row.checkState(0));
+    row.setData(0, Qt::AccessibleDescriptionRole, state);
+    return announcer_.say(row.text(1) + QStringLiteral(": ") + state);
+  }
   const QSignalBlocker quiet(ListView1_);
   row.setCheckState(0, ticked ? Qt::Unchecked : Qt::Checked);
   announcer_.say(fieldStays_ + row.text(1));

@@ -13,7 +13,9 @@
 #include "app/ApplicationModule.h"
 #include "platform/movie/MediaGraph.h"
 #include "shell/ShotsDialog.h"
+#include "widgets/Announcer.h"
 #include "widgets/QtText.h"
+#include "widgets/dialogs/TickState.h"
 
 namespace velra {
 
@@ -35,7 +37,11 @@ QIcon iconOf(const PictureFrame& picture) {
 
 ShotsDialogWindow::ShotsDialogWindow(const ApplicationModule& app, ShotsDialog& dialog,
                                      QWidget* owner)
-    : QDialog(owner), app_(app), dialog_(dialog), lstShots_(new QListWidget(this)) {
+    : QDialog(owner),
+      app_(app),
+      dialog_(dialog),
+      lstShots_(new QListWidget(this)),
+      announcer_(*new Announcer(this)) {
   setObjectName(QStringLiteral("ShotsDialog"));
   setWindowTitle(titleFromCaption(app.LoadResString(Message::FindShots)));
   lstShots_->setObjectName(QStringLiteral("lstShots"));
@@ -45,6 +51,7 @@ ShotsDialogWindow::ShotsDialogWindow(const ApplicationModule& app, ShotsDialog& 
   connect(lstShots_, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
     dialog_.setTicked(static_cast<std::size_t>(lstShots_->row(item)),
                       item->checkState() == Qt::Checked);
+    announcer_.say(item->text() + QStringLiteral(": ") + tickState(item->checkState()));
   });
   auto* column = new QVBoxLayout(this);
   column->addWidget(makeSearch());

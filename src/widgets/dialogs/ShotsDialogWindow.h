@@ -11,6 +11,7 @@ class QPushButton;
 
 namespace velra {
 
+class Announcer;
 class ApplicationModule;
 class ShotsDialog;
 
@@ -37,6 +38,7 @@ class ShotsDialogWindow : public QDialog {
   const ApplicationModule& app_;
   ShotsDialog& dialog_;
   QListWidget* lstShots_;
+  Announcer& announcer_;
   QDoubleSpinBox* numThreshold_ = nullptr;
   QDoubleSpinBox* numShortest_ = nullptr;
 };

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLocale>
 
+#include "widgets/Announcer.h"
 #include "widgets/Texts.h"
 #include "widgets/progress/WorkBar.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kRedrawMilliseconds = 50;
 constexpr int kClockMilliseconds = 1000;
+constexpr int kSpokenMilliseconds = 1000;
 
 }  // namespace
 
@@ -22,12 +24,19 @@ MainStatusBar::MainStatusBar(QWidget* parent)
       text_(addPanel("sbStatusBar_1", Texts::tr("Status"), 1)),
       bar_(new WorkBar(this)),
       date_(addPanel("sbStatusBar_2", Texts::tr("Date"), 0)),
-      time_(addPanel("sbStatusBar_3", Texts::tr("Time"), 0)) {
+      time_(addPanel("sbStatusBar_3", Texts::tr("Time"), 0)),
+      announcer_(new Announcer(this)) {
   setObjectName(QStringLiteral("sbStatusBar"));
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // never widens the window
   insertPermanentWidget(1, bar_);
   later_.setSingleShot(true);
   connect(&later_, &QTimer::timeout, this, &MainStatusBar::drawText);
+  // Not over what a window says of itself when it appears: that would be cut off.
+  spoken_.setObjectName(QStringLiteral("tmrSpoken"));
+  spoken_.setSingleShot(true);
+  connect(&spoken_, &QTimer::timeout, this, [this] {
+    if (window()->isActiveWindow()) announcer_->say(pending_);
+  });
   connect(&clock_, &QTimer::timeout, this, &MainStatusBar::updateClock);
   clock_.start(kClockMilliseconds);
   updateClock();
@@ -50,6 +59,7 @@ void MainStatusBar::showProgress(std::size_t done, std::size_t total) {
 
 void MainStatusBar::showText(const QString& text) {
   pending_ = text;
+  spoken_.start(kSpokenMilliseconds);
   if (sinceDrawn_.isValid() && sinceDrawn_.elapsed() < kRedrawMilliseconds) {
     if (!later_.isActive()) later_.start(kRedrawMilliseconds);
     return;

@@ -9,11 +9,12 @@ class QLabel;
 
 namespace velra {
 
+class Announcer;
 class WorkBar;
 
 /// The three panels: text, date, time. The text is seen at once even while work keeps the window
 /// from its events; of texts that follow one another faster than anybody reads, only some are
-/// drawn, and the last one always.
+/// drawn, and the last one always. The last one is also said to people who hear the window.
 class MainStatusBar : public QStatusBar {
   Q_OBJECT
 
@@ -36,7 +37,9 @@ class MainStatusBar : public QStatusBar {
   QString pending_;
   QElapsedTimer sinceDrawn_;
   QTimer later_;
+  QTimer spoken_{this};
   QTimer clock_;
+  Announcer* announcer_;
 };
 
 }  // namespace velra

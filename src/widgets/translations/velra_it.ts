@@ -151,5 +151,13 @@
         <source>To the parent (sub)expression</source>
         <translation>Alla (sotto)espressione superiore</translation>
     </message>
+    <message>
+        <source>checked</source>
+        <translation>con segno</translation>
+    </message>
+    <message>
+        <source>not checked</source>
+        <translation>senza segno</translation>
+    </message>
 </context>
 </TS>
