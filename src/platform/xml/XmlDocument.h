@@ -7,12 +7,19 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/Files.h"
+
 // NOLINTBEGIN(bugprone-reserved-identifier): the names of libxml2
 struct _xmlDoc;
 struct _xmlNode;
 // NOLINTEND(bugprone-reserved-identifier)
 
 namespace velra {
+
+namespace xml {
+class PlainXml;
+struct PlainNode;
+}  // namespace xml
 
 struct XmlAttribute {
   std::string nodeName;  // with its prefix
@@ -26,8 +33,9 @@ class XmlNode {
  public:
   XmlNode() = default;
   explicit XmlNode(_xmlNode* node) : node_(node) {}
+  explicit XmlNode(const xml::PlainNode* node) : plain_(node) {}
 
-  explicit operator bool() const { return node_ != nullptr; }
+  explicit operator bool() const { return node_ || plain_; }
 
   bool isElement() const;
   /// Comments and processing instructions hold no text of the document, blanks never do.
@@ -57,10 +65,14 @@ class XmlNode {
 
  private:
   _xmlNode* node_ = nullptr;
+  const xml::PlainNode* plain_ = nullptr;  // in its place
 };
 
 /// How many element children a node has.
 int iChildElements(const XmlNode& node);
+
+/// The bytes of a file that is not too large to be parsed.
+FileBytes readXml(const std::string& path);
 
 /// A parsed XML file. Text nodes of white space alone are not part of it, but for what typedText
 /// tells. Files are read and parsed as docs/file-formats.md tells: no network, bounded entities,
@@ -77,6 +89,8 @@ class XmlDocument {
   /// Replaces the content by the file's. On failure the document is empty and `reason` has one line
   /// that tells why, and `load` says in it which file.
   bool load(const std::string& path);
+  /// The same from what `readXml`, or `readFile` with a lower limit, gave for the path.
+  bool load(const std::string& path, const FileBytes& file);
   bool parse(std::string_view bytes, const std::string& path);
 
   const std::string& reason() const { return reason_; }
@@ -96,6 +110,7 @@ class XmlDocument {
     void operator()(_xmlDoc* document) const;
   };
   std::unique_ptr<_xmlDoc, Free> document_;
+  std::shared_ptr<const xml::PlainXml> plain_;  // in its place
   std::string reason_;
   std::uint64_t print_ = 0;
 };
