@@ -42,6 +42,9 @@ class MainWindow : public FormOwner {
   virtual void workBegins(std::size_t /*parts*/, Leaving /*leaving*/) {}
   /// One part more is done; one beyond their number counts nothing. Raises LeftInWork.
   virtual void workSteps() {}
+  /// None is done, since something outside of the program is waited for. To be called some ten
+  /// times in a second. Raises LeftInWork.
+  virtual void workWaits() {}
   virtual void workEnds() {}
 };
 

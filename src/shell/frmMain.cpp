@@ -47,6 +47,10 @@ void frmMain::workBegins(std::size_t parts, Leaving leaving) {
 
 void frmMain::workSteps() {
   if (workDone_ < workParts_) face_.showProgress(++workDone_, workParts_);
+  workWaits();
+}
+
+void frmMain::workWaits() {
   if (leaving_ == Leaving::AtOnce && face_.isLeaveAsked()) throw LeftInWork();
 }
 

@@ -56,6 +56,7 @@ class frmMain : public MainWindow {
   void UpdateSmallKeyFrames() override;
   void workBegins(std::size_t parts, Leaving leaving) override;
   void workSteps() override;
+  void workWaits() override;
   void workEnds() override { workBegins(0, Leaving::NotBefore); }
 
   // The mouse and the keyboard on the trees.
