@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/files/Files.h"
@@ -15,11 +18,19 @@ namespace velra {
 class ApplicationModule;
 class CloseLists;
 
+/// Lets a name be looked up without a copy of it.
+struct NameHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view name) const {
+    return std::hash<std::string_view>{}(name);
+  }
+};
+
 /// The fields of one class, or the message that tells why they cannot be read.
 struct ClassDeclaration {
   std::shared_ptr<const FieldTable> fields;
   /// Offsets of the fields of a name; more than one only where the schema repeats a name.
-  std::map<std::string, std::vector<std::size_t>, std::less<>> offsets;
+  std::unordered_map<std::string, std::vector<std::size_t>, NameHash, std::equal_to<>> offsets;
   std::string message;
 };
 
