@@ -87,7 +87,7 @@ void FilesBehind::work() {
     lock.lock();
     --busy_;
     failed_ = failed_ || !file.made;
-    if (failed_ || atRest() || files_.size() - next_ == kFewWaiting) done_.notify_one();
+    if (failed_ || atRest() || files_.size() - next_ <= kFewWaiting) done_.notify_one();
   }
 }
 
