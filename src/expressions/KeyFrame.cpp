@@ -11,6 +11,7 @@
 #include "platform/files/BitmapCheck.h"
 #include "platform/files/Files.h"
 #include "platform/movie/FrameGrabber.h"
+#include "protocol/ClassRules.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SEColl.h"
 #include "store/DataFolder.h"
@@ -21,15 +22,13 @@ namespace velra {
 
 namespace {
 
-constexpr std::string_view kField = "Keyframe";
-
 // The small picture: 750 by 1000 twips at 15 twips a pixel.
 constexpr int kSmallWidth = 50;
 constexpr int kSmallHeight = 67;
 
 SchemaElement* assignedField(SEColl& fields) {
   for (SchemaElement& field : fields) {
-    if (field.bValid() && field.strName() == kField) return &field;
+    if (field.bValid() && field.strName() == kKeyFrameField) return &field;
   }
   return nullptr;
 }
@@ -51,7 +50,7 @@ double KeyFrame::dGetKeyFrameTime() const {
 }
 
 void KeyFrame::SetKeyFrameTime(double seconds) {
-  SchemaElement* field = video_.secol().field(kField);
+  SchemaElement* field = video_.secol().field(kKeyFrameField);
   if (!field) return;
   auto chunk = field->bValid() ? asChunk(field->vContent()) : nullptr;
   if (!chunk) {
@@ -150,10 +149,11 @@ void KeyFrame::CreateKeyFrameIcons() {
   picKeyFrame_ = {};
   picKeyFrameSmall_ = {};
   if (path.empty()) return;
-  checkBitmap(path);
   // Absolute, since it is drawn at a time when another folder may be the current one.
-  picKeyFrame_.path = strAbsolutePath(path);
-  video_.io()->guard().noteStamp(picKeyFrame_.path);
+  const std::string place = strAbsolutePath(path);
+  const auto seen = video_.io()->scans().goodPicture(place);
+  video_.io()->guard().noteStamp(place, seen ? *seen : checkBitmap(path));
+  picKeyFrame_.path = place;
   picKeyFrameSmall_ = {picKeyFrame_.path, kSmallWidth, kSmallHeight};
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "protocol/ClassRules.h"
 #include "protocol/DescribedObject.h"
 #include "schema/SchemaElement.h"
 
@@ -24,7 +25,7 @@ class MediaObject : public RegisteredObject {
 
   /// The field that it stands for; its owner tells of each write to it.
   static constexpr const char* kStorageField = "Collocation";
-  static constexpr const char* kVideoField = "Keyframe";
+  static constexpr const char* kVideoField = kKeyFrameField;
   void ownerFieldChanged();
   /// The owner goes; what it said last stays, since the file must still be found.
   void ownerGoes(const std::string& lastGUID) { lastGUID_ = lastGUID; }

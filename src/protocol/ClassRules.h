@@ -29,6 +29,9 @@ struct ClassRules {
 /// A MediaObject has a name and no fields.
 const ClassRules& rulesOf(ObjectKind kind);
 
+/// The field of a Video that names the picture of its key frame.
+inline constexpr const char* kKeyFrameField = "Keyframe";
+
 /// Relation field of an expression that holds the identifier of its Version, lower-cased.
 inline constexpr std::string_view kVersionGuidField = "versionguid";
 

@@ -55,6 +55,18 @@ void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocumen
   file.fields = std::move(fields);
 }
 
+// The picture of the key frame that a file names.
+std::string keyFrameOf(const XmlDocument& parsed) {
+  const XmlNode root = parsed.documentElement();
+  if (root.baseName() != classNameOf(ObjectKind::Video)) return {};
+  for (XmlNode node = root.firstElement(); node; node = node.nextElement()) {
+    if (node.baseName() != kKeyFrameField) continue;
+    const std::string path = node.text();
+    return path.empty() ? path : strAbsolutePath(path);
+  }
+  return {};
+}
+
 // What a loaded object tells of its file.
 ScannedFile answerOf(const RegisteredObject& loaded, std::string name) {
   ScannedFile file;
@@ -81,7 +93,7 @@ ScannedFile contentOf(ApplicationModule& app, OpenDocument& document, const Pars
 
 }  // namespace
 
-void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
+void FolderScan::refresh(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
   std::vector<ScannedFile> before = std::exchange(files_, {});
   FolderListing listing = listFiles(folder_ + "*.xml");
   reason_ = std::move(listing.reason);
@@ -91,11 +103,11 @@ void FolderScan::refresh(ApplicationModule& app, OpenDocument& document) {
     files_.push_back(std::move(file));
   }
   takeOver(before);
-  readAll(app, document);
+  readAll(app, document, pictures);
   index();
 }
 
-void FolderScan::readAll(ApplicationModule& app, OpenDocument& document) {
+void FolderScan::readAll(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
   std::vector<ParsedAhead::Wanted> wanted;
   std::vector<ScannedFile*> waiting;
   for (ScannedFile& file : files_) {
@@ -107,11 +119,15 @@ void FolderScan::readAll(ApplicationModule& app, OpenDocument& document) {
       waiting.push_back(&file);
     }
   }
-  ParsedAhead ahead(std::move(wanted));
+  ParsedAhead::Calls calls;
+  if (pictures) calls.pictureOf = keyFrameOf;
+  if (app.gMainForm) calls.waits = [&app] { app.gMainForm->workWaits(); };
+  ParsedAhead ahead(std::move(wanted), std::move(calls));
   for (ScannedFile* file : waiting) {
     const ParsedAhead::File& read = ahead.take();
     if (read.known) continue;
     if (app.gMainForm) app.gMainForm->workSteps();
+    if (read.picture) pictures->insert_or_assign(read.picture->path, read.picture->stamp);
     *file = contentOf(app, document, read, std::move(file->name));
   }
 }

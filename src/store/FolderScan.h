@@ -44,14 +44,18 @@ struct ScannedFile {
   bool readable() const { return reason.empty() && message.empty() && !error; }
 };
 
+/// Pictures that have been looked at, by their absolute paths, and what they were then.
+using PictureStamps = std::unordered_map<std::string, FileStamp>;
+
 /// What the searches know of the XML files of one folder. Each file is read once for an opening; a
 /// search then looks at its answers alone and at the files that must be reported each time.
 class FolderScan {
  public:
   explicit FolderScan(std::string folder) : folder_(std::move(folder)) {}
 
-  /// Lists the folder anew, reads what is not loaded and not known, and builds the index.
-  void refresh(ApplicationModule& app, OpenDocument& document);
+  /// Lists the folder anew, reads what is not loaded and not known, and builds the index. The good
+  /// pictures of what is read join `pictures`, if there is such a list.
+  void refresh(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures);
 
   /// Why the folder could not be listed; "" when it could.
   const std::string& reason() const { return reason_; }
@@ -81,7 +85,7 @@ class FolderScan {
 
  private:
   void takeOver(std::vector<ScannedFile>& before);
-  void readAll(ApplicationModule& app, OpenDocument& document);
+  void readAll(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures);
   void index();
 
   std::string folder_;

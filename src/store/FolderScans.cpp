@@ -20,6 +20,7 @@ FolderScans::Opening::Opening(FolderScans& scans) : scans_(scans) {
 FolderScans::Opening::~Opening() {
   if (--scans_.depth_ > 0) return;
   for (auto& [path, folder] : scans_.folders_) folder.scan.endOpening();
+  scans_.pictures_ = {};
 }
 
 FolderScan& FolderScans::of(const std::string& folder) {
@@ -30,7 +31,9 @@ FolderScan& FolderScans::of(const std::string& folder) {
   }
   const std::string path = withSeparator(strAbsolutePath(folder));
   Folder& known = folders_.try_emplace(path, Folder{FolderScan(path)}).first->second;
-  if (depth_ == 0 || known.listedIn != opening_) known.scan.refresh(app_, *app_.gAVDoc);
+  if (depth_ == 0 || known.listedIn != opening_) {
+    known.scan.refresh(app_, *app_.gAVDoc, depth_ > 0 && looksAtPictures_ ? &pictures_ : nullptr);
+  }
   known.listedIn = opening_;
   const std::string& reason = known.scan.reason();
   if (!reason.empty()) unlisted_ = path + " cannot be listed (" + reason + ")";
@@ -44,6 +47,11 @@ std::optional<LoadedFields> FolderScans::takeFields(const std::string& guid, Obj
   const auto known = folders_.find(folder);
   if (known == folders_.end()) return std::nullopt;
   return known->second.scan.takeFields(path.substr(folder.size()), kind);
+}
+
+std::optional<FileStamp> FolderScans::goodPicture(const std::string& path) const {
+  const auto known = pictures_.find(path);
+  return known == pictures_.end() ? std::nullopt : std::optional(known->second);
 }
 
 std::vector<std::string> FolderScans::relativesOfRest(const std::string& folder) const {

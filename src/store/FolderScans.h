@@ -42,6 +42,11 @@ class FolderScans {
   /// The fields of a file that the opening has read already; nothing when it has to be read.
   std::optional<LoadedFields> takeFields(const std::string& guid, ObjectKind kind);
 
+  /// False: pictures of key frames are not looked at while the files that name them are read.
+  void setLooksAtPictures(bool looks) { looksAtPictures_ = looks; }
+  /// What a picture was when the opening found it good; nothing when it has to be looked at.
+  std::optional<FileStamp> goodPicture(const std::string& path) const;
+
   /// What the files of a folder refer to of which the opening has made no object.
   std::vector<std::string> relativesOfRest(const std::string& folder) const;
 
@@ -63,6 +68,8 @@ class FolderScans {
   unsigned opening_ = 0;     // number of the last one, from 1
   int depth_ = 0;            // of nested openings; 0 when none is on
   std::string unlisted_;
+  PictureStamps pictures_;  // of the opening
+  bool looksAtPictures_ = true;
 };
 
 }  // namespace velra

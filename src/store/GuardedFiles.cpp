@@ -17,8 +17,8 @@ void GuardedFiles::noteContent(const std::string& path, std::uint64_t print) {
   contents_.insert_or_assign(contentPrint(path), print);
 }
 
-void GuardedFiles::noteStamp(const std::string& path) {
-  stamps_.insert_or_assign(contentPrint(path), fileStamp(path));
+void GuardedFiles::noteStamp(const std::string& path, const FileStamp& stamp) {
+  stamps_.insert_or_assign(contentPrint(path), stamp);
 }
 
 void GuardedFiles::spare(const std::string& path, std::string_view bytes, DocumentRescue* rescue) {

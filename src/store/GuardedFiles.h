@@ -30,7 +30,7 @@ class GuardedFiles {
   /// What a file held when it was read, or written last: `contentPrint` of it.
   void noteContent(const std::string& path, std::uint64_t print);
   /// The same for a picture, by its stamp alone: tens of thousands are not read to the end.
-  void noteStamp(const std::string& path);
+  void noteStamp(const std::string& path, const FileStamp& stamp);
 
   /// Keeps the bytes of a file that is to be written over or to go, when they are not what was read
   /// or written last. Without a store they cannot be kept.

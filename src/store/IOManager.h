@@ -38,7 +38,10 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// True: an opening takes the objects as their files are. It chooses no key frames, makes none of
   /// the pictures that they lack, and does not ask for those that they have.
   bool bReadsOnly() const { return bReadsOnly_; }
-  void setBReadsOnly(bool readsOnly) { bReadsOnly_ = readsOnly; }
+  void setBReadsOnly(bool readsOnly) {
+    bReadsOnly_ = readsOnly;
+    scans_.setLooksAtPictures(!readsOnly);
+  }
   bool bConnectToDM() const { return false; }
   /// Address of a server; nothing sets it.
   std::string strHTTP() const { return {}; }

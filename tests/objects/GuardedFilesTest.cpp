@@ -95,7 +95,7 @@ TEST(GuardedFiles, APictureIsToldFromAnotherByItsStamp) {
     session.app.rescue = &writer;
     ASSERT_EQ(session.open(session.files.documentPath()), "");
     IOManager& io = *session.document()->io();
-    io.guard().noteStamp(picture);
+    io.guard().noteStamp(picture, fileStamp(picture));
     io.guard().spare(picture, io.rescue());
     session.folder.write("film_files/film_mediaobject1.bmp", "BM theirs");
     io.guard().spare(picture, io.rescue());

@@ -3,7 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
+#include <memory>
 #include <string>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include "support/TemporaryFolder.h"
@@ -58,6 +63,52 @@ TEST_F(ParsedAheadTest, CanBeLeftAtAnyFile) {
     for (int i = 0; i < taken; ++i) ahead.take();
   }
   EXPECT_TRUE(ParsedAhead(wanted_).take().parsed);
+}
+
+TEST_F(ParsedAheadTest, TellsOfGoodPicturesThatFilesName) {
+  std::string good = "BM" + std::string(64, '\0');
+  for (const auto& [place, value] : {std::pair{10, 54}, {14, 40}, {18, 1}, {22, 1}, {28, 24}}) {
+    good[static_cast<std::size_t>(place)] = static_cast<char>(value);
+  }
+  folder_.write("good.bmp", good);
+  folder_.write("bad.bmp", "film");
+  const char* const pictures[] = {"good.bmp", "bad.bmp", "missing.bmp", ""};
+  for (std::size_t i = 0; i < 40; ++i) {
+    wanted_.push_back({folder_ / ("file" + std::to_string(i)), {}});
+    folder_.write("file" + std::to_string(i), std::string("<n>") + pictures[i % 4] + "</n>");
+  }
+  const auto named = [this](const XmlDocument& document) {
+    const std::string name = document.documentElement().text();
+    return name.empty() ? name : folder_ / name;
+  };
+  ParsedAhead ahead(wanted_, {named, nullptr});
+  for (std::size_t i = 0; i < 40; ++i) {
+    const ParsedAhead::File& file = ahead.take();
+    const FileStamp stamp = file.picture ? file.picture->stamp : FileStamp();
+    EXPECT_EQ(stamp, i % 4 == 0 ? fileStamp(folder_ / "good.bmp") : FileStamp());
+  }
+}
+
+// As from a shelf that has gone: whoever waits is asked, may leave, and leaves threads behind.
+TEST_F(ParsedAheadTest, CanBeLeftWhileAFileIsWaitedFor) {
+  struct Left {};
+  make(20);
+  const auto comes = std::make_shared<std::atomic<bool>>(false);
+  const auto stuck = [comes](const XmlDocument&) {
+    while (!*comes) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return std::string();
+  };
+  int asked = 0;
+  const auto waits = [&asked] {
+    if (++asked == 3) throw Left();
+  };
+  EXPECT_THROW(ParsedAhead(wanted_, {stuck, waits}).take(), Left);
+  EXPECT_GT(comes.use_count(), 2) << "a thread still holds its call";
+  *comes = true;
+  for (int i = 0; i < 5000 && comes.use_count() > 2; ++i) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  EXPECT_EQ(comes.use_count(), 2) << "the last thread frees what they shared";
 }
 
 }  // namespace

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files/BitmapCheck.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <fstream>
 
 #include "base/RunTimeError.h"
 
@@ -65,17 +62,15 @@ bool goodHead(const Head& head, std::size_t read, std::int64_t fileSize) {
 
 }  // namespace
 
-void checkBitmap(const std::string& path) {
-  struct stat info {};
-  if (::stat(path.c_str(), &info) != 0 || S_ISDIR(info.st_mode)) raise(kFileNotFound, path);
+FileStamp checkBitmap(const std::string& path) {
+  const FileBytes file = readStart(path, kHead);
+  if (!file.reason.empty()) raise(bFileExists(path) ? kInvalidPicture : kFileNotFound, path);
   Head head{};
-  std::size_t read = 0;
-  if (S_ISREG(info.st_mode)) {
-    std::ifstream file(path, std::ios::binary);
-    file.read(reinterpret_cast<char*>(head.data()), static_cast<std::streamsize>(head.size()));
-    read = static_cast<std::size_t>(file.gcount());
+  std::copy(file.bytes.begin(), file.bytes.end(), head.begin());
+  if (!goodHead(head, file.bytes.size(), static_cast<std::int64_t>(file.stamp.size))) {
+    raise(kInvalidPicture, path);
   }
-  if (!goodHead(head, read, info.st_size)) raise(kInvalidPicture, path);
+  return file.stamp;
 }
 
 }  // namespace velra

@@ -83,15 +83,22 @@ std::string refusal(const struct stat& status, std::uint64_t limit) {
   return {};
 }
 
+FileStamp stampOf(const struct stat& status) {
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return {static_cast<std::uint64_t>(status.st_size),
+          status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec, status.st_dev,
+          status.st_ino, true};
+}
+
 FileBytes readUpTo(const std::string& path, std::uint64_t limit, std::uint64_t most) {
   const FileHandle file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
   struct stat status {};
   if (!file || ::fstat(file.number(), &status) != 0) return {{}, systemReason(errno)};
-  FileBytes read{{}, refusal(status, limit)};
+  FileBytes read{{}, refusal(status, limit), stampOf(status)};
   if (!read.reason.empty()) return read;
   const auto size = std::min(static_cast<std::uint64_t>(status.st_size), most);
   const int error = readAll(file, static_cast<std::size_t>(size), read.bytes);
-  if (error) read = {{}, systemReason(error)};
+  if (error) read = {{}, systemReason(error), read.stamp};
   return read;
 }
 
@@ -114,11 +121,7 @@ bool bSomethingAt(const std::string& path) {
 
 FileStamp fileStamp(const std::string& path) {
   struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) return {};
-  constexpr std::int64_t kNanoseconds = 1'000'000'000;
-  return {static_cast<std::uint64_t>(status.st_size),
-          status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec, status.st_dev,
-          status.st_ino, true};
+  return ::stat(path.c_str(), &status) == 0 ? stampOf(status) : FileStamp();
 }
 
 std::vector<std::string> colListFiles(const std::string& pattern) {

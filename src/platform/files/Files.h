@@ -45,7 +45,8 @@ FolderListing listFiles(const std::string& pattern);
 /// The bytes of a regular file, or one sentence that tells why not.
 struct FileBytes {
   std::string bytes;
-  std::string reason;  // empty on success
+  std::string reason;    // empty on success
+  FileStamp stamp = {};  // of what was opened; of no file when that failed
 };
 /// Refuses folders, pipes and devices, empty files and files above the limit.
 FileBytes readFile(const std::string& path, std::uint64_t limit = 1'000'000'000);
