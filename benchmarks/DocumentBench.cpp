@@ -200,9 +200,9 @@ void addFor(const Figures& f, std::vector<Measure>& measures) {
   const double perObject = 1000 / static_cast<double>(f.objects);
   std::printf("%d objects: each read and parsed once in %.0f us, opened in %.0f, removed in %.1f\n",
               f.objects, f.parse * perObject, f.open * perObject, f.removeEach * 1000);
-  measures.push_back({"open / P" + size, f.open / f.parse, "", 2.5});
+  measures.push_back({"open / P" + size, f.open / f.parse, "", 1.5});
   if (f.objects == kSlowObjects) {
-    measures.push_back({"open far away / call after call", f.slowOpen, "", 0.4});
+    measures.push_back({"open far away / call after call", f.slowOpen, "", 0.125});
   }
   measures.push_back({"save as / plain copy" + size, f.saveAs / f.copy, "", 1.3});
   measures.push_back({"memory / file bytes" + size, f.memory, "", 1.5});

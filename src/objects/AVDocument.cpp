@@ -14,7 +14,6 @@
 #include "objects/Storage.h"
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
-#include "platform/files/Files.h"
 #include "protocol/LongWork.h"
 #include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
@@ -71,7 +70,7 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   const FolderScans::Opening opening(io->scans());
   std::string told = io->strFinishCutOffSaves(guid);
   // Each file is read, and an object is made of it.
-  const std::size_t files = colListFiles(dataFolderOf(guid) + "*.xml").size();
+  const std::size_t files = io->scans().filesIn(dataFolderOf(guid));
   const LongWork work(app().gMainForm, 2 * files, Leaving::AtOnce);
   std::string message = LadderObject::strOpen(guid, form, io);
   unlisted_ = io->scans().unlisted();

@@ -20,7 +20,7 @@ class CloseLists;
 
 /// Lets a name be looked up without a copy of it.
 struct NameHash {
-  using is_transparent = void;
+  using is_transparent = void;  // NOLINT(readability-identifier-naming): the library's name
   std::size_t operator()(std::string_view name) const {
     return std::hash<std::string_view>{}(name);
   }

@@ -2,15 +2,14 @@
 #include "store/FolderScan.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "platform/xml/XmlDocument.h"
 #include "protocol/ClassRules.h"
 #include "protocol/MainWindow.h"
 #include "protocol/OpenDocument.h"
-#include "schema/SchemaFile.h"
 #include "store/ParsedAhead.h"
 
 namespace velra {
@@ -22,80 +21,17 @@ std::string relationKey(FolderScan::Relation relation, ObjectKind kind, const st
          path;
 }
 
-void noteRelations(const SEColl& secol, const ClassRules& rules, ScannedFile& file) {
-  file.ownRelatives.clear();
-  if (!rules.relationField.empty()) {
-    const StringList* list = secol.relationList(rules.relationField);
-    for (const std::string& guid : list ? *list : StringList{}) {
-      file.ownRelatives.push_back(strAbsolutePath(guid));
-    }
-  }
-  if (rules.partOfField.empty()) return;
-  const std::string version = secol.relationText(kVersionGuidField);
-  if (!version.empty()) file.ownRelatives.push_back(strAbsolutePath(version));
-  const std::string parent = secol.relationText(rules.partOfField);
-  file.partOf = parent.empty() ? std::string() : strAbsolutePath(parent);
-}
-
-void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocument& parsed,
-                const ClassRules& rules, ScannedFile& file) {
-  LoadedFields fields;
-  fields.secol = std::make_unique<SEColl>(app, document.shared());
-  try {
-    file.message =
-        fields.secol->strLoadParsed(fields.domDoc, parsed, fields.domSchema, rules.className);
-  } catch (const RunTimeError& error) {
-    // It is due when an object is made of the file, if that ever happens.
-    file.error = error;
-    return;
-  }
-  if (!file.message.empty()) return;
-  noteRelations(*fields.secol, rules, file);
-  fields.print = parsed.print();
-  file.fields = std::move(fields);
-}
-
-// The picture of the key frame that a file names.
-std::string keyFrameOf(const XmlDocument& parsed) {
-  const XmlNode root = parsed.documentElement();
-  if (root.baseName() != classNameOf(ObjectKind::Video)) return {};
-  for (XmlNode node = root.firstElement(); node; node = node.nextElement()) {
-    if (node.baseName() != kKeyFrameField) continue;
-    const std::string path = node.text();
-    return path.empty() ? path : strAbsolutePath(path);
-  }
-  return {};
-}
-
-// What a loaded object tells of its file.
-ScannedFile answerOf(const RegisteredObject& loaded, std::string name) {
-  ScannedFile file;
-  file.name = std::move(name);
-  file.kind = loaded.kind();
-  const auto* described = as<const DescribedObject>(&loaded);
-  if (described) noteRelations(described->secol(), rulesOf(described->kind()), file);
-  return file;
-}
-
-ScannedFile contentOf(ApplicationModule& app, OpenDocument& document, const ParsedAhead::File& read,
-                      std::string name) {
-  ScannedFile file;
-  file.name = std::move(name);
-  file.stamp = read.stamp;
-  if (read.parsed) {
-    file.kind = kindOfRoot(read.document.documentElement().baseName());
-    if (file.kind) readFields(app, document, read.document, rulesOf(*file.kind), file);
-  } else {
-    file.reason = read.document.reason();
-  }
-  return file;
-}
-
 }  // namespace
+
+std::size_t FolderScan::list() {
+  listed_ = listFiles(folder_ + "*.xml");
+  return listed_->names.size();
+}
 
 void FolderScan::refresh(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
   std::vector<ScannedFile> before = std::exchange(files_, {});
-  FolderListing listing = listFiles(folder_ + "*.xml");
+  if (!listed_) list();
+  FolderListing listing = *std::exchange(listed_, std::nullopt);
   reason_ = std::move(listing.reason);
   for (std::string& name : listing.names) {
     ScannedFile file;
@@ -120,7 +56,7 @@ void FolderScan::readAll(ApplicationModule& app, OpenDocument& document, Picture
     }
   }
   ParsedAhead::Calls calls;
-  if (pictures) calls.pictureOf = keyFrameOf;
+  if (pictures) calls.pictureOf = keyFrameNamedBy;
   if (app.gMainForm) calls.waits = [&app] { app.gMainForm->workWaits(); };
   ParsedAhead ahead(std::move(wanted), std::move(calls));
   for (ScannedFile* file : waiting) {
@@ -194,6 +130,7 @@ std::vector<std::string> FolderScan::relativesOfRest() const {
 }
 
 void FolderScan::endOpening() {
+  listed_.reset();
   // What a loaded object answers need not be kept beside it.
   std::erase_if(files_, [](const ScannedFile& file) { return !file.stamp.exists; });
   files_.shrink_to_fit();

@@ -1,48 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
-#include "base/RunTimeError.h"
 #include "platform/files/Files.h"
-#include "protocol/DescribedObject.h"
-#include "schema/InstanceDocument.h"
-#include "schema/SEColl.h"
+#include "protocol/ObjectKind.h"
+#include "store/ScannedFile.h"
 
 namespace velra {
 
 class ApplicationModule;
 class OpenDocument;
-class SchemaFile;
-
-/// The fields of an object's file, read ahead of the object.
-struct LoadedFields {
-  std::unique_ptr<SEColl> secol;
-  InstanceDocument domDoc;
-  std::shared_ptr<const SchemaFile> domSchema;
-  std::uint64_t print = 0;  // of the file: `contentPrint`
-};
-
-/// One XML file of a folder, as a search meets it.
-struct ScannedFile {
-  std::string name;
-  FileStamp stamp;                    // when it was read; of no file while a loaded object answers
-  std::optional<ObjectKind> kind;     // by the root; nothing for another one or an unreadable file
-  std::string reason;                 // the parser's reason for that
-  std::string message;                // why an object of the class cannot be read from it
-  std::optional<RunTimeError> error;  // the run-time error that reading it ends in
-  std::vector<std::string> ownRelatives;  // normal forms of what its own relation points at
-  std::string partOf;                     // normal form of its parent expression
-  std::optional<LoadedFields> fields;     // until the object takes them
-
-  bool readable() const { return reason.empty() && message.empty() && !error; }
-};
 
 /// Pictures that have been looked at, by their absolute paths, and what they were then.
 using PictureStamps = std::unordered_map<std::string, FileStamp>;
@@ -52,6 +23,9 @@ using PictureStamps = std::unordered_map<std::string, FileStamp>;
 class FolderScan {
  public:
   explicit FolderScan(std::string folder) : folder_(std::move(folder)) {}
+
+  /// Lists the folder for the next refresh of this opening. The number of its files.
+  std::size_t list();
 
   /// Lists the folder anew, reads what is not loaded and not known, and builds the index. The good
   /// pictures of what is read join `pictures`, if there is such a list.
@@ -90,6 +64,7 @@ class FolderScan {
 
   std::string folder_;
   std::string reason_;
+  std::optional<FolderListing> listed_;  // for the next refresh
   std::vector<ScannedFile> files_;
   std::unordered_map<std::string, std::size_t> byName_;
   std::unordered_map<std::string, std::vector<std::size_t>> byRelation_;

@@ -23,14 +23,22 @@ FolderScans::Opening::~Opening() {
   scans_.pictures_ = {};
 }
 
-FolderScan& FolderScans::of(const std::string& folder) {
-  if (!app_.gAVDoc) raise(kNoObject);
+FolderScans::Folder& FolderScans::knownFolder(const std::string& path) {
   if (generation_ != currentFolderGeneration()) {
     generation_ = currentFolderGeneration();
     folders_.clear();
   }
+  return folders_.try_emplace(path, Folder{FolderScan(path)}).first->second;
+}
+
+std::size_t FolderScans::filesIn(const std::string& folder) {
+  return knownFolder(withSeparator(strAbsolutePath(folder))).scan.list();
+}
+
+FolderScan& FolderScans::of(const std::string& folder) {
+  if (!app_.gAVDoc) raise(kNoObject);
   const std::string path = withSeparator(strAbsolutePath(folder));
-  Folder& known = folders_.try_emplace(path, Folder{FolderScan(path)}).first->second;
+  Folder& known = knownFolder(path);
   if (depth_ == 0 || known.listedIn != opening_) {
     known.scan.refresh(app_, *app_.gAVDoc, depth_ > 0 && looksAtPictures_ ? &pictures_ : nullptr);
   }

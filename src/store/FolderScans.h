@@ -36,6 +36,9 @@ class FolderScans {
     std::unique_ptr<DocumentSchemas::Hold> hold_;
   };
 
+  /// How many files a folder has that this opening will read, if it searches there.
+  std::size_t filesIn(const std::string& folder);
+
   /// What is known of a folder's files now; kNoObject without an open document.
   FolderScan& of(const std::string& folder);
 
@@ -61,6 +64,8 @@ class FolderScans {
     FolderScan scan;
     unsigned listedIn = 0;  // the opening that has listed it
   };
+
+  Folder& knownFolder(const std::string& path);
 
   ApplicationModule& app_;
   std::map<std::string, Folder> folders_;  // by normal form

@@ -13,15 +13,16 @@ namespace velra {
 namespace {
 
 // How far readers go ahead: an object's file has some kilobytes, and its nodes as much.
-constexpr std::size_t kMostAhead = 64;
+constexpr std::size_t kMostAhead = 128;
 constexpr std::uint64_t kMostBytesAhead = 8'000'000;  // of large files
 constexpr std::uint64_t kLargeFile = 100'000;
 
 // So many at once are handed over: to be woken for each single one costs more than the file.
-constexpr std::size_t kMostReady = 16;
+constexpr std::size_t kMostReady = 48;
 
 // A file takes a few dozen microseconds where nothing is waited for.
 constexpr std::chrono::microseconds kWaitsForShelf{400};
+constexpr std::size_t kFirstFiles = 8;  // which tell nothing of that
 constexpr unsigned kMostReaders = 16;
 
 constexpr std::chrono::milliseconds kBetweenCalls{100};
@@ -97,17 +98,12 @@ void ReadersAhead::takeInto(File& file, const std::function<void()>& waits) {
 }
 
 bool ReadersAhead::isSlow() const {
-  const std::size_t first = slots_.size() / 4;
-  return taken_ > first && spent_ > kWaitsForShelf * taken_;
+  const std::size_t files = taken_ + read_;
+  return files > kFirstFiles && spent_ > kWaitsForShelf * files;
 }
 
 bool ReadersAhead::mayBegin() const {
   return begun_ < wanted_.size() && begun_ - taken_ < slots_.size();
-}
-
-bool ReadersAhead::hasEnded() {
-  const Lock lock(mutex_);
-  return ended_;
 }
 
 void ReadersAhead::work(Reader& reader) {
@@ -119,16 +115,18 @@ void ReadersAhead::work(Reader& reader) {
     const std::size_t place = begun_++;
     lock.unlock();
     gone.clear();
-    read(place, reader);
+    Slot slot = read(place, reader);
     lock.lock();
+    if (!ended_) give(place, std::move(slot));
   }
   reader.gone.clear();
   --working_;
   ready_.notify_one();
 }
 
-void ReadersAhead::read(std::size_t place, Reader& reader) {
-  Slot slot{{}, &reader, 0, true};
+ReadersAhead::Slot ReadersAhead::read(std::size_t place, Reader& reader) {
+  Slot slot;
+  slot.reader = &reader;
   const Clock::time_point start = Clock::now();
   try {
     fill(place, slot);
@@ -136,9 +134,13 @@ void ReadersAhead::read(std::size_t place, Reader& reader) {
     // No error may end on a reader's thread: whoever takes the file gets it.
     slot.file.raised = std::current_exception();
   }
-  const Lock lock(mutex_);
-  if (ended_) return;
-  spent_ += Clock::now() - start;
+  slot.spent += Clock::now() - start;
+  return slot;
+}
+
+void ReadersAhead::give(std::size_t place, Slot slot) {
+  spent_ += slot.spent;
+  slot.ready = true;
   slots_[place % slots_.size()] = std::move(slot);
   ++read_;
   const bool many = read_ >= kMostReady || full_ > 0 || begun_ == wanted_.size() || isSlow();
@@ -151,10 +153,10 @@ void ReadersAhead::fill(std::size_t place, Slot& slot) {
   FileBytes read = readFile(wanted.path, kLargeFile);
   if (read.stamp.size > kLargeFile) {
     slot.large = read.stamp.size;
-    if (!waitForRoom(place, slot.large)) return;
+    if (!waitForRoom(place, slot)) return;
     read = readXml(wanted.path);
   }
-  if (!hasEnded()) parse(wanted, read, slot.file);
+  if (!ended_) parse(wanted, read, slot.file);
 }
 
 void ReadersAhead::parse(const Wanted& wanted, const FileBytes& read, File& file) const {
@@ -170,15 +172,16 @@ void ReadersAhead::parse(const Wanted& wanted, const FileBytes& read, File& file
   }
 }
 
-bool ReadersAhead::waitForRoom(std::size_t place, std::uint64_t size) {
+bool ReadersAhead::waitForRoom(std::size_t place, Slot& slot) {
   Lock lock(mutex_);
   const Clock::time_point start = Clock::now();
   ++full_;
   ready_.notify_one();
-  room_.wait(lock, [&] { return ended_ || place == taken_ || ahead_ + size <= kMostBytesAhead; });
+  room_.wait(lock,
+             [&] { return ended_ || place == taken_ || ahead_ + slot.large <= kMostBytesAhead; });
   --full_;
-  spent_ -= Clock::now() - start;
-  ahead_ += size;
+  slot.spent -= Clock::now() - start;
+  ahead_ += slot.large;
   return !ended_;
 }
 

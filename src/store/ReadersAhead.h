@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstddef>
@@ -47,15 +48,16 @@ class ReadersAhead : public std::enable_shared_from_this<ReadersAhead> {
     File file;
     Reader* reader = nullptr;
     std::uint64_t large = 0;  // bytes of one that waited for room
+    Clock::duration spent{};  // reading
     bool ready = false;
   };
 
   void addReader();
   void work(Reader& reader);
-  void read(std::size_t place, Reader& reader);
+  Slot read(std::size_t place, Reader& reader);
+  void give(std::size_t place, Slot slot);
   void fill(std::size_t place, Slot& slot);
-  bool waitForRoom(std::size_t place, std::uint64_t size);
-  bool hasEnded();
+  bool waitForRoom(std::size_t place, Slot& slot);
   void parse(const Wanted& wanted, const FileBytes& read, File& file) const;
   bool mayBegin() const;
   bool isSlow() const;
@@ -73,7 +75,7 @@ class ReadersAhead : public std::enable_shared_from_this<ReadersAhead> {
   std::uint64_t ahead_ = 0;        // bytes of large files that are not taken yet
   int full_ = 0;                   // readers that wait since these are too many
   int working_ = 0;                // readers that have not ended
-  bool ended_ = false;
+  std::atomic<bool> ended_ = false;
   Clock::duration spent_{};  // reading, by all
   std::deque<Reader> readers_;
 };

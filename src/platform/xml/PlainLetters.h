@@ -15,11 +15,10 @@ inline constexpr std::array<std::uint8_t, 256> kLetters = [] {
   std::array<std::uint8_t, 256> letters{};
   for (std::size_t c = 0x20; c < 0x80; ++c) letters[c] = kPlainText;
   letters['\t'] = letters['\n'] = kPlainText;
-  for (const char c : {'<', '&', ']'}) letters[static_cast<std::size_t>(c)] = 0;
-  const auto mark = [&](char first, char last, unsigned marks) {
-    for (char c = first; c <= last; ++c) {
-      auto& letter = letters[static_cast<std::size_t>(c)];
-      letter = static_cast<std::uint8_t>(letter | marks);
+  for (const std::uint8_t c : {'<', '&', ']'}) letters[c] = 0;
+  const auto mark = [&](std::uint8_t first, std::uint8_t last, unsigned marks) {
+    for (std::size_t c = first; c <= last; ++c) {
+      letters[c] = static_cast<std::uint8_t>(letters[c] | marks);
     }
   };
   mark('A', 'Z', kNameStart | kInName);
