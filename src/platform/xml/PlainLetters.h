@@ -15,7 +15,7 @@ inline constexpr std::array<std::uint8_t, 256> kLetters = [] {
   std::array<std::uint8_t, 256> letters{};
   for (std::size_t c = 0x20; c < 0x80; ++c) letters[c] = kPlainText;
   letters['\t'] = letters['\n'] = kPlainText;
-  for (const std::uint8_t c : {'<', '&', ']'}) letters[c] = 0;
+  letters[std::size_t{'<'}] = letters[std::size_t{'&'}] = letters[std::size_t{']'}] = 0;
   const auto mark = [&](std::uint8_t first, std::uint8_t last, unsigned marks) {
     for (std::size_t c = first; c <= last; ++c) {
       letters[c] = static_cast<std::uint8_t>(letters[c] | marks);
