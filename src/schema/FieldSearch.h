@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/CaselessText.h"
+
 namespace velra {
 
 class SchemaElement;
@@ -21,6 +23,7 @@ class FieldSearch {
   bool bTextMatches(std::string_view value) const;
 
   std::string text_;
+  CaselessText caseless_;
   bool matchCase_;
 };
 

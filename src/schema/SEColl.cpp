@@ -101,7 +101,10 @@ bool SEColl::bSaveAs(const InstanceDocument& domDoc, const std::string& strPath,
 }
 
 std::int16_t SEColl::iSearchText(const std::string& strText, bool bMatchCase) const {
-  const FieldSearch search(strText, bMatchCase);
+  return iHits(FieldSearch(strText, bMatchCase));
+}
+
+std::int16_t SEColl::iHits(const FieldSearch& search) const {
   long hits = 0;
   for (const SchemaElement& field : *this) {
     if (field.bValid()) hits += search.hitsIn(field);

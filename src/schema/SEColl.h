@@ -12,6 +12,7 @@
 namespace velra {
 
 class ApplicationModule;
+class FieldSearch;
 class ObjectFiles;
 class SchemaFile;
 class XmlDocument;
@@ -53,6 +54,8 @@ class SEColl : public FieldList {
 
   /// How many values hold the text: string fields, members of sets, words.
   std::int16_t iSearchText(const std::string& strText, bool bMatchCase) const;
+  /// The same for a text that is looked for in many objects. Threads may ask at once.
+  std::int16_t iHits(const FieldSearch& search) const;
 
   ApplicationModule& app() const { return app_; }
   const CloseLists& closeLists() const { return shared_.collCloseListTypes; }

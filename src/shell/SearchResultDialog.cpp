@@ -7,8 +7,8 @@
 #include "protocol/LongWork.h"
 #include "protocol/OpenDocument.h"
 #include "protocol/VideoExpression.h"
-#include "schema/SEColl.h"
 #include "shell/DialogPresenter.h"
+#include "shell/SearchAhead.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -43,10 +43,12 @@ void SearchResultDialog::fillRows() {
   rows_.clear();
   const ObjectList objects = app_.gAVDoc->collObjects().described();
   const LongWork work(app_.gMainForm, objects.size());
-  for (const ObjectRef& object : objects) {
+  SearchAhead search(objects, strSearch_, bCase_);
+  for (std::size_t i = 0; i < objects.size(); ++i) {
     if (app_.gMainForm) app_.gMainForm->workSteps();
-    const std::int16_t founds = object->secol().iSearchText(strSearch_, bCase_);
+    const std::int16_t founds = search.hitsIn(i);
     if (founds <= 0) continue;
+    const ObjectRef& object = objects[i];
     rows_.push_back(
         {object->className(), object->strTitle(), founds, smallIconOf(*object), object});
   }

@@ -7,6 +7,8 @@
 #include <limits>
 #include <random>
 
+#include "base/CaselessText.h"
+
 namespace velra {
 namespace {
 
@@ -29,6 +31,27 @@ TEST(Text, LowersByTheRulesOfUnicode) {
   EXPECT_TRUE(equalIgnoringAsciiCase("XML", "xMl"));
   EXPECT_FALSE(equalIgnoringAsciiCase("XML", "xm"));
   EXPECT_FALSE(equalIgnoringAsciiCase("[", "{")) << "32 apart, but no letters";
+}
+
+// Looked for in what is at hand, and lowered by all rules only where that can change the answer.
+TEST(Text, IsFoundWithoutCaseAsInTheLoweredValue) {
+  const std::vector<std::string> letters{"a",      "A",      "k",      "K",      "s",      "S",
+                                         "i",      "I",      "\u212A", "\u0130", "\u0307", "\u03A3",
+                                         "\u03C3", "\u03C2", "\u00C9", "\u00E9", "\xFF"};
+  std::mt19937 random(7);
+  const auto some = [&](std::size_t most) {
+    std::string text;
+    for (std::size_t i = random() % (most + 1); i > 0; --i) {
+      text += letters[random() % letters.size()];
+    }
+    return text;
+  };
+  for (int i = 0; i < 20'000; ++i) {
+    const std::string text = some(3);
+    const std::string value = some(7);
+    const bool found = toLower(value).find(toLower(text)) != std::string::npos;
+    ASSERT_EQ(CaselessText(text).bIn(value), found) << text << " in " << value;
+  }
 }
 
 TEST(Text, Splits) {
