@@ -3,7 +3,6 @@
 
 #include "base/Paths.h"
 #include "platform/files/ContentPrint.h"
-#include "platform/xml/PlainXml.h"
 #include "platform/xml/XmlBounds.h"
 #include "platform/xml/XmlLibrary.h"
 
@@ -48,7 +47,6 @@ bool XmlDocument::load(const std::string& path) {
 
 bool XmlDocument::load(const std::string& path, const FileBytes& file) {
   if (file.reason.empty() && parse(file.bytes, path)) return true;
-  plain_.reset();
   document_.reset();
   // Of the many files of a document the reason must tell which.
   if (!file.reason.empty()) reason_ = file.reason;
@@ -59,20 +57,15 @@ bool XmlDocument::load(const std::string& path, const FileBytes& file) {
 bool XmlDocument::parse(std::string_view bytes, const std::string& path) {
   print_ = contentPrint(bytes);
   reason_.clear();
-  document_.reset();
-  plain_ = xml::PlainXml::read(bytes);
-  if (plain_) return true;
   document_.reset(xml::parse(bytes, path, reason_).release());
   return document_ != nullptr;
 }
 
 XmlNode XmlDocument::documentElement() const {
-  if (plain_) return XmlNode(&plain_->root());
   return document_ ? XmlNode(xmlDocGetRootElement(document_.get())) : XmlNode();
 }
 
 std::string XmlDocument::shellText() const {
-  if (plain_) return plain_->shell();
   if (!document_) return {};
   const EmptyRoot emptied(*xmlDocGetRootElement(document_.get()));
   return xml::serialise(document_.get(), xml::hadDeclaration(document_.get()));

@@ -16,11 +16,6 @@ struct _xmlNode;
 
 namespace velra {
 
-namespace xml {
-class PlainXml;
-struct PlainNode;
-}  // namespace xml
-
 struct XmlAttribute {
   std::string nodeName;  // with its prefix
   std::string baseName;  // without
@@ -33,9 +28,8 @@ class XmlNode {
  public:
   XmlNode() = default;
   explicit XmlNode(_xmlNode* node) : node_(node) {}
-  explicit XmlNode(const xml::PlainNode* node) : plain_(node) {}
 
-  explicit operator bool() const { return node_ || plain_; }
+  explicit operator bool() const { return node_ != nullptr; }
 
   bool isElement() const;
   /// Comments and processing instructions hold no text of the document, blanks never do.
@@ -65,7 +59,6 @@ class XmlNode {
 
  private:
   _xmlNode* node_ = nullptr;
-  const xml::PlainNode* plain_ = nullptr;  // in its place
 };
 
 /// How many element children a node has.
@@ -110,7 +103,6 @@ class XmlDocument {
     void operator()(_xmlDoc* document) const;
   };
   std::unique_ptr<_xmlDoc, Free> document_;
-  std::shared_ptr<const xml::PlainXml> plain_;  // in its place
   std::string reason_;
   std::uint64_t print_ = 0;
 };

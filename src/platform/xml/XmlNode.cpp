@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/xml/PlainXml.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlLibrary.h"
 #include "platform/xml/XmlText.h"
 
 namespace velra {
 
-using xml::PlainNode;
 using xml::viewOf;
 
 namespace {
@@ -27,43 +25,13 @@ XmlAttribute declarationAttribute(const xmlNs& space) {
           std::string(viewOf(space.href))};
 }
 
-bool declaresSpace(std::string_view name) {
-  return name == "xmlns" || name.starts_with("xmlns:");
-}
-
-const PlainNode* elementFrom(const PlainNode* node) {
-  while (node && node->kind != PlainNode::Kind::Element) node = node->next();
-  return node;
-}
-
-/// Those that declare namespaces come before the others.
-void addAttributes(const PlainNode& element, bool declaring, std::vector<XmlAttribute>& found) {
-  for (std::size_t i = 0; i < element.values; i += 2) {
-    const PlainNode* const name = &element + 1 + i;
-    if (declaresSpace(name->view()) != declaring) continue;
-    found.push_back({std::string(name->view()), std::string(behindColon(name->view())),
-                     std::string(name[1].view())});
-  }
-}
-
-const PlainNode* findValue(const PlainNode& element, std::string_view nodeName) {
-  if (declaresSpace(nodeName)) return nullptr;
-  for (std::size_t i = 0; i < element.values; i += 2) {
-    const PlainNode* const name = &element + 1 + i;
-    if (name->view() == nodeName) return name + 1;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 bool XmlNode::isElement() const {
-  if (plain_) return plain_->kind == PlainNode::Kind::Element;
   return node_ && node_->type == XML_ELEMENT_NODE;
 }
 
 bool XmlNode::isText() const {
-  if (plain_) return plain_->kind == PlainNode::Kind::Text;
   return node_ && (node_->type == XML_TEXT_NODE || node_->type == XML_CDATA_SECTION_NODE ||
                    node_->type == XML_ENTITY_REF_NODE);
 }
@@ -73,7 +41,6 @@ bool XmlNode::isComment() const {
 }
 
 std::string XmlNode::nodeName() const {
-  if (plain_) return isElement() ? std::string(plain_->view()) : "#text";
   if (!node_) return {};
   if (isElement()) return xml::qualifiedName(node_->ns, node_->name);
   if (isComment()) return "#comment";
@@ -84,19 +51,18 @@ std::string XmlNode::nodeName() const {
 
 std::string_view XmlNode::baseName() const {
   if (!isElement()) return {};
-  return behindColon(plain_ ? plain_->view() : viewOf(node_->name));
+  return behindColon(viewOf(node_->name));
 }
 
 std::string_view XmlNode::prefix() const {
   if (!isElement()) return {};
-  if (node_ && node_->ns) return viewOf(node_->ns->prefix);
-  const std::string_view name = plain_ ? plain_->view() : viewOf(node_->name);
+  if (node_->ns) return viewOf(node_->ns->prefix);
+  const std::string_view name = viewOf(node_->name);
   const std::size_t colon = name.rfind(':');
   return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
 }
 
 std::string XmlNode::text() const {
-  if (plain_) return xml::textOf(*plain_);
   if (isElement()) return xml::textOf(node_->children);
   if (!isText()) return {};
   // A node alone, without those that follow it.
@@ -107,11 +73,6 @@ std::string XmlNode::text() const {
 }
 
 std::string XmlNode::typedText() const {
-  if (plain_) {
-    const PlainNode* const first = isElement() ? plain_->content() : nullptr;
-    const bool blank = first && first->kind == PlainNode::Kind::LoneBlank;
-    return blank ? std::string(first->view()) : text();
-  }
   const xmlNode* only = isElement() ? node_->children : nullptr;
   return only && xml::isLoneBlank(*only) ? std::string(viewOf(only->content)) : text();
 }
@@ -119,11 +80,6 @@ std::string XmlNode::typedText() const {
 std::vector<XmlAttribute> XmlNode::attributes() const {
   std::vector<XmlAttribute> found;
   if (!isElement()) return found;
-  if (plain_) {
-    addAttributes(*plain_, true, found);
-    addAttributes(*plain_, false, found);
-    return found;
-  }
   for (const xmlNs* space = node_->nsDef; space; space = space->next) {
     found.push_back(declarationAttribute(*space));
   }
@@ -153,40 +109,28 @@ const xmlAttr* findAttribute(const xmlNode* node, std::string_view nodeName) {
 }  // namespace
 
 std::string XmlNode::attribute(std::string_view nodeName) const {
-  if (plain_) {
-    const PlainNode* const value = findValue(*plain_, nodeName);
-    return value ? std::string(value->view()) : std::string();
-  }
   const xmlAttr* found = isElement() ? findAttribute(node_, nodeName) : nullptr;
   return found ? xml::textOf(found->children) : std::string();
 }
 
 bool XmlNode::hasAttribute(std::string_view nodeName) const {
-  if (plain_) return findValue(*plain_, nodeName) != nullptr;
   return isElement() && findAttribute(node_, nodeName);
 }
 
 XmlNode XmlNode::firstChild() const {
-  if (plain_) {
-    const PlainNode* const child = isElement() ? plain_->content() : nullptr;
-    return XmlNode(child && child->kind != PlainNode::Kind::LoneBlank ? child : nullptr);
-  }
   xmlNode* first = isElement() ? node_->children : nullptr;
   return first && xml::isLoneBlank(*first) ? XmlNode() : XmlNode(first);
 }
 
 XmlNode XmlNode::nextSibling() const {
-  if (plain_) return XmlNode(plain_->next());
   return node_ ? XmlNode(node_->next) : XmlNode();
 }
 
 XmlNode XmlNode::firstElement() const {
-  if (plain_) return XmlNode(isElement() ? elementFrom(plain_->content()) : nullptr);
   return isElement() ? XmlNode(elementFrom(node_->children)) : XmlNode();
 }
 
 XmlNode XmlNode::nextElement() const {
-  if (plain_) return XmlNode(elementFrom(plain_->next()));
   return node_ ? XmlNode(elementFrom(node_->next)) : XmlNode();
 }
 
