@@ -2,6 +2,7 @@
 #include "expressions/KeyFramesAhead.h"
 
 #include <algorithm>
+#include <exception>
 #include <optional>
 #include <utility>
 
@@ -52,8 +53,8 @@ KeyFramesAhead::Stills KeyFramesAhead::take(const std::string& movie,
     try {
       if (!grabber) grabber.emplace(movie);
       grabber->grab(time, {}, still.file);
-    } catch (const RunTimeError& error) {
-      still = {{}, error.description()};
+    } catch (const std::exception& error) {
+      still = {{}, error.what()};  // whoever asks for the picture is told
     }
     stills.push_back(std::move(still));
   }

@@ -2,8 +2,8 @@
 #include "shell/SearchAhead.h"
 
 #include <algorithm>
+#include <system_error>
 
-#include "base/RunTimeError.h"
 #include "schema/SEColl.h"
 
 namespace velra {
@@ -28,11 +28,15 @@ SearchAhead::SearchAhead(const ObjectList& objects, const std::string& text, boo
       search_(text, matchCase),
       hits_(objects.size()),
       groups_((objects.size() + kGroup - 1) / kGroup) {
-  for (std::size_t i = helpersFor(groups_.size()); i > 0; --i) {
-    threads_.emplace_back([this] {
-      while (countNext()) {
-      }
-    });
+  try {
+    for (std::size_t i = helpersFor(groups_.size()); i > 0; --i) {
+      threads_.emplace_back([this] {
+        while (countNext()) {
+        }
+      });
+    }
+  } catch (const std::system_error&) {
+    // Where the system refuses one more, those that there are do the work, and who asks.
   }
 }
 
@@ -66,7 +70,8 @@ SearchAhead::State SearchAhead::count(std::size_t group) {
       hits_[i] = objects_[i]->secol().iHits(search_);
     }
     return State::Counted;
-  } catch (const RunTimeError&) {
+  } catch (...) {
+    // No error may end on a thread of its own: whoever asks for the object gets it.
     return State::Failed;
   }
 }
