@@ -34,9 +34,11 @@ struct Exported {
 /// ExportFormats.h and .cpp.
 struct ExportFormat {
   std::string_view name;
-  std::string_view title;      // by which people know it, in any language
-  std::string_view extension;  // of its files, without the point
-  std::string_view what;       // one line
+  std::string_view title;  // by which people know it, in any language
+  /// Of its files, without the first point. XML has the format's name before it, since beside the
+  /// document "film.xml" is the document itself.
+  std::string_view extension;
+  std::string_view what;  // one line
   /// The options that it takes, without their dashes, a blank between them.
   std::string_view options;
   /// Raises ExchangeFailure.

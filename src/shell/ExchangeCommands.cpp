@@ -62,9 +62,10 @@ std::string ExchangeCommands::askExportPath(std::size_t& format) {
   if (!chosen) return {};
   format = std::min(chosen->filter, exportFormats().size() - 1);
   const ExportFormat& wanted = *exportFormats()[format];
-  const bool ends = asciiLower(strExtension(chosen->path)) == wanted.extension;
+  const std::string suffix = '.' + std::string(wanted.extension);
+  const bool ends = asciiLower(strExtension(chosen->path)) == strExtension(suffix);
   if (wanted.makesFolder || ends) return strAbsolutePath(chosen->path);
-  const std::string path = strAbsolutePath(chosen->path) + '.' + std::string(wanted.extension);
+  const std::string path = strAbsolutePath(chosen->path) + suffix;
   const bool free =
       !bFileExists(path) || app_.ui.askYesNo(path + app_.LoadResString(Message::AskReplace));
   return free ? path : std::string();

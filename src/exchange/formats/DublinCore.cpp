@@ -79,7 +79,7 @@ Exported writeDublinCore(const Content& content, const ExportOptions& options) {
 }  // namespace
 
 const ExportFormat kDublinCoreFormat{"dc",      "Dublin Core",
-                                     "xml",     "a record for harvesters, Dublin Core (OAI)",
+                                     "dc.xml",  "a record for harvesters, Dublin Core (OAI)",
                                      "mapping", writeDublinCore};
 
 }  // namespace velra

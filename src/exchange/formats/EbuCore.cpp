@@ -142,8 +142,9 @@ Exported writeEbuCore(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kEbuCoreFormat{"ebucore", "EBUCore 1.10",
-                                  "xml",     "a record for archives and broadcasters, EBUCore 1.10",
-                                  "mapping", writeEbuCore};
+const ExportFormat kEbuCoreFormat{
+    "ebucore",     "EBUCore 1.10",
+    "ebucore.xml", "a record for archives and broadcasters, EBUCore 1.10",
+    "mapping",     writeEbuCore};
 
 }  // namespace velra

@@ -176,7 +176,8 @@ Exported writePbCore(const Content& content, const ExportOptions& options) {
 
 }  // namespace
 
-const ExportFormat kPbCoreFormat{
-    "pbcore", "PBCore 2.1", "xml", "a record for archives, PBCore 2.1", "mapping", writePbCore};
+const ExportFormat kPbCoreFormat{"pbcore",     "PBCore 2.1",
+                                 "pbcore.xml", "a record for archives, PBCore 2.1",
+                                 "mapping",    writePbCore};
 
 }  // namespace velra
