@@ -129,9 +129,9 @@ TEST(QtUserInterface, FiltersThatAreFormatsGiveTheEnding) {
     dialog.findChild<QLineEdit*>()->setText(QStringLiteral("new"));
     static_cast<QDialog&>(dialog).accept();
   });
-  const auto chosen = ui.saveTypedFile("Export As", "A (*.a)|*.a|B (*.b)|*.b|", folder / "x");
+  const auto chosen = ui.saveTypedFile("Export As", "A (*.a)|*.a|B (*.b.c)|*.b.c|", folder / "x");
   ASSERT_TRUE(chosen);
-  EXPECT_EQ(chosen->path, folder / "new.b");
+  EXPECT_EQ(chosen->path, folder / "new.b.c");
   EXPECT_EQ(chosen->filter, 1U);
 }
 

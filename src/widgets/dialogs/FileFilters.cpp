@@ -38,7 +38,7 @@ QString fileDialogFilter(const std::string& pairs) {
 }
 
 QString suffixOf(const QString& filter) {
-  static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
+  static const QRegularExpression ending(QStringLiteral("\\*\\.([\\w.]+)"));
   return ending.match(filter).captured(1);
 }
 
