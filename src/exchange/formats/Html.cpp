@@ -28,8 +28,14 @@ article h2 { font-size: 1.1em; margin: .4em 0 0; white-space: pre-line; }
 .level2 { border-left-width: 6px; } .deeper { border-left-width: 12px; }
 .time { font-variant-numeric: tabular-nums; margin: 0; }
 @media print {
-  body { margin: 0; max-width: none; } header { break-after: page; }
+  :root { font-size: 8pt; line-height: 1.25; }
+  body { margin: 0; max-width: none; padding: 0; }
+  header { break-after: page; columns: 2; column-gap: 2em; }
+  h1 { column-span: all; margin: 0 0 .5em; } header h2 { break-after: avoid; }
   main { grid-template-columns: repeat(3, 1fr); }
+  article dl { display: block; } article dt, article dd { display: inline; }
+  article dt::after { content: ": "; } article dd + dd::before { content: "; "; }
+  article dt:not(:first-child)::before { content: "\A"; white-space: pre; }
 }
 )";
 
