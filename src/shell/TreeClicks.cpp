@@ -49,7 +49,9 @@ void TreeClicks::ShowAVDocTitle() {
   trees_.showDocument();
   Tree& tree = trees_.tree(TreeId::tvwMainTree);
   tree.makeCurrent(*app_.gAVDoc);
-  nodeClicked(TreeId::tvwMainTree, *tree.root());
+  // No click: a button that was pressed beside all nodes is still pending.
+  tree.select(tree.root());
+  treeEntered(TreeId::tvwMainTree);
 }
 
 TreeNode* TreeClicks::selectedNode() const {

@@ -53,8 +53,13 @@ TEST(Keys, OfTheMainWindowDoWhatTheMenusDo) {
   desktop.app.gAVDoc->setStrTitle("Renamed");
   strike(Qt::Key_S, Qt::ControlModifier);
   EXPECT_TRUE(desktop.app.gAVDoc->collObjects().changedObjects().empty());
+  // The menu of a tree without a selected node is none, and does not come with the next document.
+  desktop.view("tvwMainTree").clearSelection();
+  QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+  QCoreApplication::sendEvent(desktop.view("tvwMainTree").viewport(), &menuKey);
   strike(Qt::Key_N, Qt::ControlModifier);
   EXPECT_EQ(desktop.app.gAVDoc->strTitle(), "AVDocument");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   strike(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(desktop.window.isVisible());
 }
