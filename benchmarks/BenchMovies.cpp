@@ -10,17 +10,19 @@ namespace velra::bench {
 
 namespace {
 
-bool make(const std::string& path, const std::string& codec, const char* size = "1280x720") {
+// True when it stands or the command makes it, whose last argument its path will be.
+bool makeBy(const std::string& command, const std::string& path) {
   if (std::filesystem::exists(path)) return true;
   const std::string part = path + ".part";
-  const std::string command = std::string("ffmpeg -v fatal -y -f lavfi -t 40 -i testsrc2=s=") +
-                              size +
-                              ":r=25,noise=alls=6:allf=t"
-                              " -f lavfi -t 40 -i sine=440:r=44100 " +
-                              codec + " '" + part + "'";
-  if (std::system(command.c_str()) != 0) return false;
+  if (std::system(("ffmpeg -v fatal -y " + command + " '" + part + "'").c_str()) != 0) return false;
   std::filesystem::rename(part, path);
   return true;
+}
+
+bool make(const std::string& path, const std::string& codec, const char* size = "1280x720") {
+  return makeBy(std::string("-f lavfi -t 40 -i testsrc2=s=") + size +
+                    ":r=25,noise=alls=6:allf=t -f lavfi -t 40 -i sine=440:r=44100 " + codec,
+                path);
 }
 
 void makeNoise(const std::string& path) {
@@ -48,6 +50,20 @@ BenchMovies makeBenchMovies(const std::string& folder) {
       make(movies.h264Large, "-c:v libx264 -preset veryfast -b:v 6M -g 250 -bf 2 -c:a aac -f mp4",
            "1920x1080");
   return movies;
+}
+
+std::string makeLongMovie(const std::string& folder, int seconds) {
+  std::filesystem::create_directories(folder);
+  const std::string part = folder + "/small.avi";
+  const std::string path = folder + "/long.avi";
+  const int times = seconds / static_cast<int>(kBenchSeconds);
+  const bool made =
+      makeBy(
+          "-f lavfi -t 40 -i testsrc=s=320x180:r=25 -f lavfi -t 40 -i "
+          "sine=440:r=22050 -c:v mpeg4 -q:v 31 -g 50 -c:a mp2 -b:a 32k -f avi",
+          part) &&
+      makeBy("-stream_loop " + std::to_string(times) + " -i '" + part + "' -c copy -f avi", path);
+  return made ? path : "";
 }
 
 }  // namespace velra::bench

@@ -22,4 +22,8 @@ inline constexpr double kBenchFrame = 0.04;
 
 BenchMovies makeBenchMovies(const std::string& folder);
 
+/// One of some hours, small and repeating itself, 25 pictures a second with sound. Returns its
+/// path, or "" when it could not be made.
+std::string makeLongMovie(const std::string& folder, int seconds);
+
 }  // namespace velra::bench

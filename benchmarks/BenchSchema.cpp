@@ -61,6 +61,9 @@ std::string makeSchema(const std::string& folder) {
       << classOf("AVDocument", {{"Title", "xsd:string"},
                                 {"AVDocGUID", "xsd:string"},
                                 {"Synopsis", "xsd:string"},
+                                {"Themes", "xsd:string"},
+                                {"Subthemes", "xsd:string"},
+                                {"ThematicKeywords", "SetOfStrings"},
                                 {"ExpressedBy", "SetOfGUIDs"}})
       << classOf("Version", {{"VersionTitle", "xsd:string"},
                              {"VersionGUID", "xsd:string"},

@@ -57,11 +57,16 @@ class Maker {
 
   std::string make() {
     std::vector<std::string> versions;
-    const int count = plan_.segmentsOfOneVersion > 0 ? 1 : plan_.objects / kObjectsOfVersion;
-    for (int i = 0; i < count; ++i) versions.push_back(version());
+    if (plan_.segmentsOfOneVersion > 0) {
+      versions.push_back(version(plan_.segmentsOfOneVersion));
+      if (plan_.segmentsOfAnother > 0) versions.push_back(version(plan_.segmentsOfAnother));
+    } else {
+      for (int i = 0; i < plan_.objects / kObjectsOfVersion; ++i) versions.push_back(version(0));
+    }
     write(folder_ + "/film.xml", "AVDocument",
           element("Title", "film") + element("AVDocGUID", folder_ + "/film.xml") +
-              element("Synopsis", prose(1, 6)) + element("ExpressedBy", guids(versions)));
+              element("Synopsis", prose(1, 6)) + keywords() +
+              element("ExpressedBy", guids(versions)));
     return folder_ + "/film.xml";
   }
 
@@ -91,7 +96,13 @@ class Maker {
     return text + element("Colour", seed % 2 ? "black and white" : "colour");
   }
 
-  std::string version() {
+  static std::string keywords() {
+    return element("Themes", "Sea and Coast") + element("Subthemes", "Lighthouses and Navigation") +
+           element("ThematicKeywords", element("StringItem", "Lighthouses"));
+  }
+
+  // Of as many Videos and Audios; 0: of the usual numbers.
+  std::string version(int many) {
     const std::string guid = path("version");
     std::vector<std::string> medias;
     for (int i = 0; i < kMediaOfVersion; ++i) medias.push_back(media());
@@ -99,7 +110,6 @@ class Maker {
           element("VersionTitle", "Cut " + std::to_string(counters_["version"])) +
               element("VersionGUID", guid) + element("Duration", "", span(0, 600000)) +
               description() + element("ManifestedBy", guids(medias)));
-    const int many = plan_.segmentsOfOneVersion;
     expressions("Video", guid, many > 0 ? many : kVideosOfVersion);
     expressions("Audio", guid, many > 0 ? many : kAudiosOfVersion);
     expressions("Transcript", guid, kTranscriptsOfVersion);
@@ -109,7 +119,9 @@ class Maker {
   std::string media() {
     const std::string storage = path("storage");
     write(storage, "Storage",
-          element("Collocation", "reel " + std::to_string(counters_["storage"]) + ".mpg") +
+          element("Collocation", plan_.movie
+                                     ? std::string(plan_.movie)
+                                     : "reel " + std::to_string(counters_["storage"]) + ".mpg") +
               element("StorageGUID", storage) + description());
     const std::string guid = path("media");
     write(guid, "Media",
@@ -118,14 +130,15 @@ class Maker {
     return guid;
   }
 
-  // A main expression and its segments: every fourth of them has the three that come after it below
-  // it.
+  // A main expression and its segments, each a second long: every fourth of them has the three that
+  // come after it below it, and lasts as long as these.
   void expressions(const std::string& kind, const std::string& version, int count) {
     std::string lower = kind;
     lower[0] = static_cast<char>(lower[0] - 'A' + 'a');
     std::vector<std::string> paths;
     for (int i = 0; i < count; ++i) paths.push_back(path(lower));
-    expression(kind, paths[0], version, "", "", 0);
+    // Some room is left at the end.
+    expression(kind, paths[0], version, "", "", 0, count + 100);
     for (int i = 1; i < count; ++i) {
       const bool top = i % 4 == 1;
       const int parent = top ? 0 : i - (i - 1) % 4;
@@ -133,15 +146,15 @@ class Maker {
       const bool followed = next < count && (top || next % 4 != 1);
       expression(kind, paths[static_cast<std::size_t>(i)], "",
                  paths[static_cast<std::size_t>(parent)],
-                 followed ? paths[static_cast<std::size_t>(next)] : "", i);
+                 followed ? paths[static_cast<std::size_t>(next)] : "", i, top ? i + 4 : i + 1);
     }
   }
 
   void expression(const std::string& kind, const std::string& guid, const std::string& version,
-                  const std::string& parent, const std::string& next, int place) {
+                  const std::string& parent, const std::string& next, int place, int end) {
     std::string content = element("Title", kind + " " + std::to_string(place)) +
                           element(kind + "GUID", guid) +
-                          element("Time", "", span(place * 1000, place * 1000 + 900));
+                          element("Time", "", span(place * 1000, end * 1000 - 100));
     if (!version.empty()) content += element("VersionGUID", version);
     if (!parent.empty()) content += element("PartOf" + kind, parent);
     if (!next.empty()) content += element("FollowedBy" + kind, next);

@@ -10,6 +10,8 @@ struct DocumentPlan {
   int objects = 1000;            // a multiple of 50; spread over all classes
   int wordsInOneTranscript = 0;  // in the first main transcript
   int segmentsOfOneVersion = 0;  // if so, one Version with so many Videos and so many Audios
+  int segmentsOfAnother = 0;     // and if so, one more with as many of both
+  const char* movie = nullptr;   // what all Storages name; null: files that are not there
 };
 
 /// Writes a document with its object files into a folder, in the way of the sample: Versions with

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "DayBench.h"
 #include "DocumentBench.h"
 #include "MediaBench.h"
 #include "PieceBench.h"
@@ -32,6 +33,7 @@ constexpr Part kParts[] = {
     {"movie", "The movie, 1280 x 720", measureMedia},
     {"rescue", "Unsaved work of 50,000 objects", measureRescue},
     {"pieces", "The pieces", measurePieces},
+    {"day", "A day at 50,000 objects", measureDay},
 };
 
 }  // namespace

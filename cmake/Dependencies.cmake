@@ -20,4 +20,5 @@ endif()
 
 if(VELRA_BENCH)
   find_package(benchmark REQUIRED)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
