@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <chrono>
 #include <future>
 
 #include "widgets/BusyCursor.h"
@@ -23,9 +22,6 @@
 namespace velra {
 
 namespace {
-
-// Most movies open sooner, and nobody has to see that.
-constexpr std::chrono::milliseconds kUnnoticedWait{200};
 
 QMessageBox::Icon iconOf(BoxKind kind) {
   switch (kind) {
@@ -207,9 +203,7 @@ bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)
 void QtUserInterface::waitFor(const std::string& sentence, std::future<void> done,
                               std::stop_source* stop, const std::atomic<double>* share) {
   const BusyCursor cursor;
-  if (done.wait_for(kUnnoticedWait) == std::future_status::timeout) {
-    WaitingBox(toQString(sentence), owner(), stop).showUntil(done, share);
-  }
+  if (!isDoneUnnoticed(done)) WaitingBox(toQString(sentence), owner(), stop).showUntil(done, share);
   done.get();
 }
 

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <chrono>
 
 #include "widgets/Texts.h"
 
@@ -16,11 +17,26 @@ namespace {
 
 constexpr int kLookInterval = 15;
 
+// Most movies open sooner, and nobody has to see that.
+constexpr std::chrono::milliseconds kUnnoticedWait{200};
+constexpr std::chrono::milliseconds kBetweenEvents{2};
+
 bool isDone(const std::future<void>& work) {
   return work.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
 
 }  // namespace
+
+bool isDoneUnnoticed(const std::future<void>& work) {
+  const auto end = std::chrono::steady_clock::now() + kUnnoticedWait;
+  while (work.wait_for(kBetweenEvents) == std::future_status::timeout) {
+    if (std::chrono::steady_clock::now() >= end) return false;
+    // A signal that ends the program comes by a socket, and has to wait too.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::ExcludeSocketNotifiers);
+  }
+  return true;
+}
 
 WaitingBox::WaitingBox(const QString& text, QWidget* owner, std::stop_source* stop)
     : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), stop_(stop) {

@@ -11,6 +11,10 @@ class QPushButton;
 
 namespace velra {
 
+/// Waits for work for 0.2 s, which is too short for a box; true when it has ended. The windows
+/// paint meanwhile, while keys and clicks wait: no box keeps them from the windows yet.
+bool isDoneUnnoticed(const std::future<void>& work);
+
 /// Tells what the program waits for, while all windows paint themselves and take no commands. It
 /// closes by itself, when the work is done: Cancel and Escape ask work that can be stopped to stop.
 class WaitingBox : public QDialog {
