@@ -31,9 +31,11 @@ ExpressionList inChainOrder(const ExpressionList& segments) {
 
 class ContentWalk {
  public:
-  ContentWalk(const ApplicationModule& app, const AVDocument& document)
+  ContentWalk(const ApplicationModule& app, const AVDocument& document,
+              const std::function<void(std::size_t)>& progress)
       : folder_(strAbsolutePath(folderOf(document.strGUID()))),
-        translations_(app.objNaroThematicKeywords.get()) {
+        translations_(app.objNaroThematicKeywords.get()),
+        progress_(progress) {
     content_.path = strAbsolutePath(document.strGUID());
     content_.schema = strAbsolutePath(app.strXSDPath());
   }
@@ -113,6 +115,7 @@ class ContentWalk {
     relate(made);
     made.movie = movieOf(object, made);
     content_.objects.push_back(std::move(made));
+    if (progress_) progress_(place + 1);
     return place;
   }
 
@@ -132,6 +135,7 @@ class ContentWalk {
 
   std::string folder_;  // the document's
   VocabularyTranslations translations_;
+  const std::function<void(std::size_t)>& progress_;
   Content content_;
   std::unordered_set<const DescribedObject*> met_;
   double frameRate_ = 0;  // of the Version that the walk is in
@@ -139,8 +143,9 @@ class ContentWalk {
 
 }  // namespace
 
-Content contentOf(const ApplicationModule& app, const AVDocument& document) {
-  ContentWalk walk(app, document);
+Content contentOf(const ApplicationModule& app, const AVDocument& document,
+                  const std::function<void(std::size_t)>& progress) {
+  ContentWalk walk(app, document, progress);
   walk.walk(document, kNoContent, 1);
   return walk.take();
 }

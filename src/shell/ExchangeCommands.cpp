@@ -71,6 +71,15 @@ std::string ExchangeCommands::askExportPath(std::size_t& format) {
   return free ? path : std::string();
 }
 
+// Read by the thread of the windows, whose objects they are.
+Content ExchangeCommands::contentToExport() const {
+  const auto sign = app_.ui.showProgress(app_.LoadResString(Message::Exporting));
+  const double all = static_cast<double>(app_.gAVDoc->collObjects().Count());
+  return contentOf(app_, *openedDocument(app_), [&](std::size_t read) {
+    sign->show(std::min(static_cast<double>(read) / all, 1.0));
+  });
+}
+
 void ExchangeCommands::mnuFileExportAs() {
   if (!needsDocument(app_)) return;
   std::size_t format = 0;
@@ -82,7 +91,7 @@ void ExchangeCommands::mnuFileExportAs() {
     return app_.ui.messageBox(app_.LoadResString(Message::SaveFirst), BoxKind::Exclamation);
   }
   orTell(app_, [&] {
-    const Content content = contentOf(app_, *openedDocument(app_));
+    const Content content = contentToExport();
     Exported exported;
     app_.ui.workAside(app_.LoadResString(Message::Exporting), [&] {
       exported = exportContent(*exportFormats()[format], content, options);

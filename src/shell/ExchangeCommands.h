@@ -12,6 +12,7 @@ class ApplicationModule;
 class DialogPresenter;
 class MainTrees;
 class MainWindow;
+struct Content;
 struct ImportFormat;
 struct ImportOptions;
 struct ImportReport;
@@ -38,6 +39,7 @@ class ExchangeCommands {
 
  private:
   std::string askExportPath(std::size_t& format);
+  Content contentToExport() const;
   ImportOptions whereTo(const ImportFormat& format) const;
   void import(const ImportFormat& format, const std::string& path, ImportOptions options);
   void takeShots(const ImportOptions& options);

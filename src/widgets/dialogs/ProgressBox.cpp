@@ -13,7 +13,7 @@ constexpr qint64 kBetweenLooks = 40;
 }  // namespace
 
 ProgressBox::ProgressBox(const QString& sentence, QWidget* owner)
-    : box_(sentence, owner, nullptr), next_(kUnnoticed) {
+    : box_(sentence, owner, nullptr), next_(kBetweenLooks) {
   box_.setModal(true);
   since_.start();
 }
@@ -21,8 +21,10 @@ ProgressBox::ProgressBox(const QString& sentence, QWidget* owner)
 void ProgressBox::show(double share) {
   if (since_.elapsed() < next_) return;
   next_ = since_.elapsed() + kBetweenLooks;
-  box_.setShare(share);
-  box_.setVisible(true);
+  if (since_.elapsed() >= kUnnoticed) {
+    box_.setShare(share);
+    box_.setVisible(true);
+  }
   // A signal that ends the program comes by a socket, and has to wait too.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                   QEventLoop::ExcludeSocketNotifiers);
