@@ -189,6 +189,9 @@ void addPlay(std::vector<Measure>& measures, const std::string& name, const std:
   measures.push_back({"play, " + name + ", pictures missed", static_cast<double>(missed), "", 0});
   measures.push_back({"play, " + name + ", of one core", used, "%", 20});
   const double added = residentMegabytes() - memory;
+  if (const auto other = mpvPlayWork(path, 5, kPlaySeconds)) {
+    measures.push_back({"play, " + name + ", of one core / mpv's", used / 100 / *other, "", 0.8});
+  }
   measures.push_back({"play, " + name + ", memory added", added, "MB", 200});
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "OtherPlayer.h"
 
+#include <sys/resource.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 
@@ -11,6 +14,8 @@ namespace velra::bench {
 namespace {
 
 constexpr int kStepsBack = 40;
+const std::string kMpv =
+    "timeout 120 mpv --no-config --really-quiet --vo=null --ao=null --hwdec=no";
 
 // Each act begins a moment after the one before has ended, as a person's would.
 constexpr char kScript[] = R"(
@@ -66,10 +71,9 @@ std::optional<OtherPlayer> measureWith(double earlier, const std::string& movie,
   lua << "}, " << kStepsBack << ", '" << target << "'\n" << kScript;
   lua.close();
   std::ofstream(target).close();
-  const std::string command =
-      "timeout 120 mpv --no-config --really-quiet --vo=null --ao=null --hwdec=no --pause"
-      " --hr-seek-demuxer-offset=" +
-      std::to_string(earlier) + " --script='" + script + "' '" + movie + "' > /dev/null 2>&1";
+  const std::string command = kMpv +
+                              " --pause --hr-seek-demuxer-offset=" + std::to_string(earlier) +
+                              " --script='" + script + "' '" + movie + "' > /dev/null 2>&1";
   if (std::system(command.c_str()) != 0) return std::nullopt;
   OtherPlayer found;
   std::ifstream answer(target);
@@ -78,7 +82,36 @@ std::optional<OtherPlayer> measureWith(double earlier, const std::string& movie,
   return farthest < kExact ? std::optional(found) : std::nullopt;
 }
 
+// Processor time of the programs that were started and have ended, in seconds.
+double spentByOthers() {
+  struct rusage spent = {};
+  ::getrusage(RUSAGE_CHILDREN, &spent);
+  const auto seconds = [](const timeval& t) {
+    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
+  };
+  return seconds(spent.ru_utime) + seconds(spent.ru_stime);
+}
+
+// What a play of so many seconds takes of the processor, with the program's start. The pictures are
+// made as a screen takes them, in the movie's own size.
+std::optional<double> played(const std::string& movie, double from, double seconds) {
+  const double before = spentByOthers();
+  const std::string command = kMpv + " --vf=format=bgr0 --start=" + std::to_string(from) +
+                              " --length=" + std::to_string(seconds) + " '" + movie +
+                              "' > /dev/null 2>&1";
+  if (std::system(command.c_str()) != 0) return std::nullopt;
+  return spentByOthers() - before;
+}
+
 }  // namespace
+
+std::optional<double> mpvPlayWork(const std::string& movie, double from, double seconds) {
+  constexpr double kStart = 0.5;
+  const auto start = played(movie, from, kStart);
+  const auto all = played(movie, from, kStart + seconds);
+  if (!start || !all) return std::nullopt;
+  return std::max(*all - *start, 0.0) / seconds;
+}
 
 std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
                                       const std::string& folder) {
