@@ -10,11 +10,11 @@
 
 #include "BenchMovies.h"
 #include "OtherPlayer.h"
+#include "movies/FrameSource.h"
+#include "movies/PictureConverter.h"
 #include "platform/movie/FrameGrabber.h"
-#include "platform/movie/FrameSource.h"
 #include "platform/movie/MediaGraph.h"
 #include "platform/movie/MovieProbe.h"
-#include "platform/movie/PictureConverter.h"
 
 namespace velra::bench {
 

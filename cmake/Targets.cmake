@@ -69,6 +69,11 @@ function(velra_library folder)
     PRIVATE velra::flags ${private})
 endfunction()
 
+# For a program that may want a movie: the module, which it loads at run time, is built with it.
+function(velra_loads_movies program)
+  add_dependencies(${program} velra_movie_module)
+endfunction()
+
 # One test program for one folder of tests/. LINKS are the folders that its files include.
 function(velra_tests folder)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
@@ -76,6 +81,9 @@ function(velra_tests folder)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
   add_executable(velra_${folder}_tests ${sources})
   target_link_libraries(velra_${folder}_tests PRIVATE velra::flags ${links} GTest::gtest)
+  if("platform" IN_LIST ARG_LINKS)
+    velra_loads_movies(velra_${folder}_tests)
+  endif()
   target_compile_definitions(velra_${folder}_tests
                              PRIVATE VELRA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   gtest_discover_tests(

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <malloc.h>
 
+#include <QTimer>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "platform/movie/MediaGraph.h"
+#include "platform/movie/MovieLibrary.h"
 #include "platform/settings/MachineSettings.h"
 #include "platform/settings/UserSettings.h"
 #include "rescue/RescueStore.h"
@@ -36,6 +40,9 @@ constexpr int kKeptMemory = 256 * 1024 * 1024;
 // megabytes, and fresh pages for each cost as much as its colours.
 constexpr int kLargestKeptBlock = 32 * 1024 * 1024;
 
+// Behind the first painting, and before a hand can have reached a movie.
+constexpr std::chrono::milliseconds kBeforeMovies{500};
+
 int run(GuardedApplication& application, InterfaceLanguage language,
         const std::string& commandLine) {
   Texts::speak(language);
@@ -63,11 +70,24 @@ int run(GuardedApplication& application, InterfaceLanguage language,
   } catch (const LeftInWork&) {
     // The window closes with the first events.
   }
+  QTimer::singleShot(kBeforeMovies, loadMoviesAhead);
   // A box amid an opening from the command line may have taken the signal's event.
   const int status = quitBySignal.isAsked() ? 0 : QCoreApplication::exec();
   application.setLastWish({});
   application.setExitWish({});
   rules.releaseDocument();  // while the windows that it may report to are still there
+  return status;
+}
+
+int runInWindows(int argc, char** argv, InterfaceLanguage language) {
+  GuardedApplication application(argc, argv);
+  QCoreApplication::setApplicationName(QStringLiteral("velra"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.velra.velra"));
+  int status = 1;
+  application.guarded([&] {
+    status = run(application, language, commandLineOf(argc - 1, argv + 1, velra::currentFolder()));
+  });
   return status;
 }
 
@@ -82,13 +102,7 @@ int main(int argc, char** argv) {
   mallopt(M_TRIM_THRESHOLD, kKeptMemory);
   mallopt(M_MMAP_THRESHOLD, kLargestKeptBlock);
   SignalQuit::holdSignals();
-  GuardedApplication application(argc, argv);
-  QCoreApplication::setApplicationName(QStringLiteral("velra"));
-  QCoreApplication::setApplicationVersion(QStringLiteral(VELRA_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("org.velra.velra"));
-  int status = 1;
-  application.guarded([&] {
-    status = run(application, language, commandLineOf(argc - 1, argv + 1, velra::currentFolder()));
-  });
+  const int status = runInWindows(argc, argv, language);
+  if (areMoviesLoading()) std::_Exit(status);  // all is done that somebody could miss
   return status;
 }

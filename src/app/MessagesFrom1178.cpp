@@ -161,6 +161,10 @@ constexpr MessageRow kFrom1178[] = {
      "La prima riga della tabella deve nominare le colonne start, end, title."},
     {1288, "The table has no lines.", "La tabella non ha righe."},
     {1289, "No first point has been taken.", "Non è stato preso un primo punto."},
+    {1290, "The part of the program that reads movies cannot be loaded.",
+     "La parte del programma che legge i filmati non si può caricare."},
+    {1291, "The part of the program that reads movies belongs to another version.",
+     "La parte del programma che legge i filmati appartiene a un'altra versione."},
 };
 
 }  // namespace

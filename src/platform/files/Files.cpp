@@ -83,13 +83,6 @@ std::string refusal(const struct stat& status, std::uint64_t limit) {
   return {};
 }
 
-FileStamp stampOf(const struct stat& status) {
-  constexpr std::int64_t kNanoseconds = 1'000'000'000;
-  return {static_cast<std::uint64_t>(status.st_size),
-          status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec, status.st_dev,
-          status.st_ino, true};
-}
-
 FileBytes readUpTo(const std::string& path, std::uint64_t limit, std::uint64_t most) {
   const FileHandle file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
   struct stat status {};
@@ -117,11 +110,6 @@ bool bFolderExists(const std::string& path) {
 bool bSomethingAt(const std::string& path) {
   struct stat status {};
   return ::lstat(path.c_str(), &status) == 0;
-}
-
-FileStamp fileStamp(const std::string& path) {
-  struct stat status {};
-  return ::stat(path.c_str(), &status) == 0 ? stampOf(status) : FileStamp();
 }
 
 std::vector<std::string> colListFiles(const std::string& pattern) {

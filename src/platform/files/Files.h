@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files/FileStamp.h"
+
 namespace velra {
 
 /// True for an existing file that is no folder.
@@ -13,18 +15,6 @@ bool bFileExists(const std::string& path);
 bool bFolderExists(const std::string& path);
 /// True when a new file cannot have the path: also for a folder, and a link that leads nowhere.
 bool bSomethingAt(const std::string& path);
-
-/// What tells one state of a file from another, and from other files.
-struct FileStamp {
-  std::uint64_t size = 0;
-  std::int64_t modified = 0;  // nanoseconds
-  std::uint64_t device = 0;
-  std::uint64_t inode = 0;
-  bool exists = false;
-
-  bool operator==(const FileStamp&) const = default;
-};
-FileStamp fileStamp(const std::string& path);
 
 /// The names in a folder that match a pattern of the form "folder/*.xml", capitals or not, plain
 /// files alone, sorted by their bytes. A folder that cannot be listed gives none.

@@ -3,8 +3,7 @@
 
 #include "base/RunTimeError.h"
 #include "platform/files/Bitmap.h"
-#include "platform/movie/FrameSource.h"
-#include "platform/movie/PictureConverter.h"
+#include "platform/movie/MovieLibrary.h"
 
 namespace velra {
 
@@ -16,20 +15,16 @@ namespace {
 
 }  // namespace
 
-FrameGrabber::FrameGrabber(const std::string& path)
-    : path_(path),
-      source_(std::make_unique<FrameSource>()),
-      converter_(std::make_unique<PictureConverter>()) {
-  if (const std::string reason = source_->open(path); !reason.empty()) refuse(path, reason);
+FrameGrabber::FrameGrabber(const std::string& path) : path_(path) {
+  std::string reason;
+  stills_ = movieLibrary().stills(path, reason);
+  if (!stills_) refuse(path, reason);
 }
 
 FrameGrabber::~FrameGrabber() = default;
 
 void FrameGrabber::grab(double seconds, PixelSize size, const std::string& targetBmp) {
-  if (size.width <= 0 || size.height <= 0) size = source_->size();
-  const auto picture = source_->at(seconds);
-  const auto pixels =
-      picture ? converter_->convert(*picture->frame, size.width, size.height) : nullptr;
+  const auto pixels = stills_->at(seconds, size);
   if (!pixels) refuse(path_, "The picture cannot be decoded.");
   if (const std::string reason = writeBitmap(*pixels, targetBmp); !reason.empty()) {
     refuse(targetBmp, reason);

@@ -4,15 +4,11 @@
 #include <memory>
 #include <string>
 
+#include "platform/movie/PixelSize.h"
+
 namespace velra {
 
-class FrameSource;
-class PictureConverter;
-
-struct PixelSize {
-  int width = 0;
-  int height = 0;
-};
+class MovieStills;
 
 /// Writes pictures of one movie, which stays open for the next. One thread. All raise a run-time
 /// error with a sentence that names the movie or the target that refuses.
@@ -29,8 +25,7 @@ class FrameGrabber {
 
  private:
   std::string path_;
-  std::unique_ptr<FrameSource> source_;
-  std::unique_ptr<PictureConverter> converter_;
+  std::unique_ptr<MovieStills> stills_;
 };
 
 /// The same for one picture alone.
