@@ -11,6 +11,7 @@
 #include "MediaBench.h"
 #include "PieceBench.h"
 #include "RescueBench.h"
+#include "StartBench.h"
 #include "StripBench.h"
 #include "ToolBench.h"
 #include "TreeBench.h"
@@ -26,6 +27,7 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
+    {"start", "The start", measureStart},
     {"documents", "Documents", measureDocuments},
     {"trees", "The trees", measureTrees},
     {"tool", "The expression tool", measureTool},
