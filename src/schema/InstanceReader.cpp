@@ -15,9 +15,10 @@ namespace velra {
 
 namespace {
 
-double seconds(const std::string& milliseconds) {
-  const std::optional<double> value = toNumber(milliseconds);
-  if (!value) raise(kTypeMismatch, milliseconds);
+std::optional<double> seconds(std::optional<std::string_view> milliseconds) {
+  if (!milliseconds) return std::nullopt;
+  const std::optional<double> value = toNumber(*milliseconds);
+  if (!value) raise(kTypeMismatch, std::string(*milliseconds));
   return *value / 1000;
 }
 
@@ -28,27 +29,25 @@ struct Times {
 };
 
 Times timesOf(const XmlNode& node) {
-  Times times;
-  if (node.hasAttribute("start")) times.start = seconds(node.attribute("start"));
-  if (node.hasAttribute("end")) times.end = seconds(node.attribute("end"));
-  return times;
+  return {seconds(node.attribute("start")), seconds(node.attribute("end"))};
 }
 
+// A text stays in the document for now.
 void readText(const XmlNode& node, SchemaElement& element) {
-  const std::string text = node.typedText();
-  element.setVContent(text);
+  const std::string_view text = node.typedText();
+  element.setVContent(Value::borrowed(text));
   if (!text.empty()) element.setBValid(true);
 }
 
 void readDate(const XmlNode& node, SchemaElement& element) {
-  const auto date = Date::fromIsoText(node.text());
+  const auto date = Date::fromIsoText(std::string(node.text()));
   if (!date) return;
   element.setVContent(*date);
   element.setBValid(true);
 }
 
 void readBool(const XmlNode& node, SchemaElement& element) {
-  const std::string text = node.text();
+  const std::string_view text = node.text();
   if (text != "false" && text != "true") return;
   element.setVContent(text == "true");
   element.setBValid(true);
@@ -59,7 +58,7 @@ void readSet(const XmlNode& node, SchemaElement& element) {
   list.reserve(static_cast<std::size_t>(iChildElements(node)));
   for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
     const bool typed = element.tyType() == tyType::SetOfStrings;
-    list.push_back(typed ? item.typedText() : item.text());
+    list.emplace_back(typed ? item.typedText() : item.text());
   }
   const bool usable = !list.empty();
   element.setVContent(std::move(list));
@@ -81,7 +80,8 @@ void readWords(const XmlNode& node, SchemaElement& element) {
   words->reserve(static_cast<std::size_t>(iChildElements(node)));
   for (XmlNode item = node.firstElement(); item; item = item.nextElement()) {
     const Times times = timesOf(item);
-    if (times.complete()) words->Add("", "", *times.start, *times.end, item.typedText());
+    if (times.complete())
+      words->Add("", "", *times.start, *times.end, std::string(item.typedText()));
   }
   const bool usable = !words->empty();
   element.setVContent(std::move(words));
@@ -104,7 +104,7 @@ void readValue(const XmlNode& node, SchemaElement& element) {
     case tyType::WordList:
       return readWords(node, element);
     default:
-      element.setVContent(node.typedText());
+      element.setVContent(Value::borrowed(node.typedText()));
       element.setBValid(true);
   }
 }
@@ -123,11 +123,19 @@ std::string strReadInstance(const ApplicationModule& app, const XmlDocument& dom
   const XmlNode root = domDoc.documentElement();
   if (root.baseName() != strClassName)
     return strClassName + ": " + app.LoadResString(Message::ClassNameMismatch);
+  const FieldTable& fields = *declaration.fields;
+  const bool alone = declaration.offsets.size() == fields.size();
+  std::size_t next = 0;  // programs write fields in the schema's order
   for (XmlNode node = root.firstElement(); node; node = node.nextElement()) {
-    const auto named = node.prefix().empty() ? declaration.offsets.find(node.baseName())
-                                             : declaration.offsets.find(node.nodeName());
+    const std::string_view name = node.prefix().empty() ? node.baseName() : node.nodeName();
+    if (alone && next < fields.size() && fields[next]->strName == name) {
+      readElement(node, elements[next++]);
+      continue;
+    }
+    const auto named = declaration.offsets.find(name);
     if (named == declaration.offsets.end()) continue;
     for (const std::size_t offset : named->second) readElement(node, elements[offset]);
+    next = named->second.back() + 1;
   }
   return {};
 }

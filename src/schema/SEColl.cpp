@@ -35,11 +35,16 @@ std::string SEColl::strLoadParsed(InstanceDocument& domDoc, const XmlDocument& p
   if (!message.empty())
     return domSchema->message().empty() ? app_.LoadResString(Message::SchemaLoadError) + message
                                         : message;
-  std::string failure = strReadInstance(
-      app_, parsed, strClassName,
-      domSchema->classDeclaration(strClassName, shared_.collCloseListTypes), elements());
-  packTexts();
-  return failure;
+  try {
+    std::string failure = strReadInstance(
+        app_, parsed, strClassName,
+        domSchema->classDeclaration(strClassName, shared_.collCloseListTypes), elements());
+    packTexts();
+    return failure;
+  } catch (const RunTimeError&) {
+    packTexts();  // some may be the document's
+    throw;
+  }
 }
 
 std::string SEColl::strLoadType(const SchemaFile& schema, const std::string& strType) {

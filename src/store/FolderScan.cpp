@@ -2,6 +2,7 @@
 #include "store/FolderScan.h"
 
 #include <algorithm>
+#include <functional>
 #include <string_view>
 #include <utility>
 
@@ -16,9 +17,16 @@ namespace velra {
 
 namespace {
 
-std::string relationKey(FolderScan::Relation relation, ObjectKind kind, const std::string& path) {
-  return (relation == FolderScan::Relation::Own ? "own|" : "part|") + classNameOf(kind) + "|" +
-         path;
+std::size_t relationKey(FolderScan::Relation relation, ObjectKind kind, std::string_view path) {
+  constexpr std::size_t kKinds = 16;
+  const auto which = 2 * static_cast<std::size_t>(kind) + static_cast<std::size_t>(relation);
+  return std::hash<std::string_view>{}(path) * (2 * kKinds) + which;
+}
+
+bool pointsAt(const ScannedFile& file, FolderScan::Relation relation, const std::string& path) {
+  if (relation == FolderScan::Relation::PartOf) return file.partOf == path;
+  const auto& own = file.ownRelatives;
+  return std::find(own.begin(), own.end(), path) != own.end();
 }
 
 }  // namespace
@@ -29,6 +37,9 @@ std::size_t FolderScan::list() {
 }
 
 void FolderScan::refresh(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
+  byName_.clear();
+  related_.clear();
+  unreadable_.clear();
   std::vector<ScannedFile> before = std::exchange(files_, {});
   if (!listed_) list();
   FolderListing listing = *std::exchange(listed_, std::nullopt);
@@ -79,20 +90,22 @@ void FolderScan::takeOver(std::vector<ScannedFile>& before) {
 
 void FolderScan::index() {
   byName_.clear();
-  byRelation_.clear();
+  related_.clear();
   unreadable_.clear();
+  byName_.reserve(files_.size());
   for (std::size_t i = 0; i < files_.size(); ++i) {
     const ScannedFile& file = files_[i];
     byName_.emplace(file.name, i);
     if (!file.readable()) unreadable_.push_back(i);
     if (!file.kind) continue;
     for (const std::string& path : file.ownRelatives) {
-      byRelation_[relationKey(Relation::Own, *file.kind, path)].push_back(i);
+      related_.push_back({relationKey(Relation::Own, *file.kind, path), i});
     }
     if (!file.partOf.empty()) {
-      byRelation_[relationKey(Relation::PartOf, *file.kind, file.partOf)].push_back(i);
+      related_.push_back({relationKey(Relation::PartOf, *file.kind, file.partOf), i});
     }
   }
+  std::sort(related_.begin(), related_.end());
 }
 
 std::vector<std::size_t> FolderScan::relevant(Relation relation,
@@ -101,9 +114,12 @@ std::vector<std::size_t> FolderScan::relevant(Relation relation,
   std::vector<std::size_t> offsets = unreadable_;
   const std::string path = strAbsolutePath(guid);
   for (const ObjectKind kind : kinds) {
-    const auto found = byRelation_.find(relationKey(relation, kind, path));
-    if (found == byRelation_.end()) continue;
-    offsets.insert(offsets.end(), found->second.begin(), found->second.end());
+    const std::size_t key = relationKey(relation, kind, path);
+    auto at = std::lower_bound(related_.begin(), related_.end(), Related{key, 0});
+    for (; at != related_.end() && at->key == key; ++at) {
+      const ScannedFile& file = files_[at->offset];
+      if (file.kind == kind && pointsAt(file, relation, path)) offsets.push_back(at->offset);
+    }
   }
   std::sort(offsets.begin(), offsets.end());
   offsets.erase(std::unique(offsets.begin(), offsets.end()), offsets.end());
@@ -136,7 +152,7 @@ void FolderScan::endOpening() {
   files_.shrink_to_fit();
   for (ScannedFile& file : files_) file.fields.reset();
   index();
-  byRelation_.clear();
+  related_ = {};
 }
 
 bool FolderScan::checkConsistency() const {
@@ -147,7 +163,7 @@ bool FolderScan::checkConsistency() const {
     if (named == byName_.end() || named->second != i) return false;
     const bool reported = std::binary_search(unreadable_.begin(), unreadable_.end(), i);
     if (reported == file.readable()) return false;
-    if (byRelation_.empty() || file.partOf.empty() || !file.kind) continue;
+    if (related_.empty() || file.partOf.empty() || !file.kind) continue;
     const auto found = relevant(Relation::PartOf, {*file.kind}, file.partOf);
     if (!std::binary_search(found.begin(), found.end(), i)) return false;
   }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -58,6 +60,15 @@ class FolderScan {
   bool checkConsistency() const;
 
  private:
+  // That a file points at something, of which the key is a number that others may share.
+  struct Related {
+    std::size_t key;
+    std::size_t offset;
+    bool operator<(const Related& other) const {
+      return key != other.key ? key < other.key : offset < other.offset;
+    }
+  };
+
   void takeOver(std::vector<ScannedFile>& before);
   void readAll(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures);
   void index();
@@ -66,8 +77,8 @@ class FolderScan {
   std::string reason_;
   std::optional<FolderListing> listed_;  // for the next refresh
   std::vector<ScannedFile> files_;
-  std::unordered_map<std::string, std::size_t> byName_;
-  std::unordered_map<std::string, std::vector<std::size_t>> byRelation_;
+  std::unordered_map<std::string_view, std::size_t> byName_;  // the names are the files'
+  std::vector<Related> related_;                              // sorted
   std::vector<std::size_t> unreadable_;
 };
 

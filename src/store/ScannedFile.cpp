@@ -54,7 +54,7 @@ std::string keyFrameNamedBy(const XmlDocument& parsed) {
   if (root.baseName() != classNameOf(ObjectKind::Video)) return {};
   for (XmlNode node = root.firstElement(); node; node = node.nextElement()) {
     if (node.baseName() != kKeyFrameField) continue;
-    const std::string path = node.text();
+    const std::string path(node.text());
     return path.empty() ? path : strAbsolutePath(path);
   }
   return {};

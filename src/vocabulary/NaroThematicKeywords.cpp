@@ -17,7 +17,8 @@ std::string readChildren(const ApplicationModule& app, const XmlNode& element, M
   entries.clear();
   for (XmlNode child = element.firstChild(); child; child = child.nextSibling()) {
     if (!child.isElement()) {
-      raise(kTypeMismatch, element.nodeName() + " can hold elements only, not " + child.nodeName());
+      raise(kTypeMismatch, std::string(element.nodeName()) + " can hold elements only, not " +
+                               std::string(child.nodeName()));
     }
     auto entry = std::make_shared<Entry>();
     std::string error = entry->strSetFromDOMElement(app, child);

@@ -22,7 +22,7 @@ struct InstanceSession : FuzzSession {
   SharedParts shared{app};
 
   /// The file that a save would make of the given one; "" when it is no object of that class.
-  std::string saved(std::string_view bytes, const std::string& className) {
+  std::string saved(const std::string& bytes, const std::string& className) {
     XmlDocument parsed;
     if (!parsed.parse(bytes, folder / "input.xml")) return {};
     SEColl fields(app, shared);
@@ -38,7 +38,7 @@ struct InstanceSession : FuzzSession {
 void read(std::string_view bytes, const std::string& className) {
   static InstanceSession session;
   try {
-    const std::string once = session.saved(bytes, className);
+    const std::string once = session.saved(std::string(bytes), className);
     if (!once.empty()) require(session.saved(once, className) == once);
   } catch (const RunTimeError&) {
     // A time that is no number is told of in a box that ends the opening.

@@ -78,7 +78,7 @@ TEST_F(ParsedAheadTest, TellsOfGoodPicturesThatFilesName) {
     folder_.write("file" + std::to_string(i), std::string("<n>") + pictures[i % 4] + "</n>");
   }
   const auto named = [this](const XmlDocument& document) {
-    const std::string name = document.documentElement().text();
+    const std::string name(document.documentElement().text());
     return name.empty() ? name : folder_ / name;
   };
   ParsedAhead ahead(wanted_, {named, nullptr});

@@ -3,18 +3,19 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/files/Files.h"
 
-// NOLINTBEGIN(bugprone-reserved-identifier): the names of libxml2
-struct _xmlDoc;
-struct _xmlNode;
-// NOLINTEND(bugprone-reserved-identifier)
-
 namespace velra {
+
+namespace xml {
+class XmlRow;
+struct RowNode;
+}  // namespace xml
 
 struct XmlAttribute {
   std::string nodeName;  // with its prefix
@@ -22,12 +23,12 @@ struct XmlAttribute {
   std::string value;
 };
 
-/// A look at a node of an XmlDocument; valid as long as the document. An empty node answers every
-/// question with nothing, so that look-ups chain without tests.
+/// A look at a node of an XmlDocument; what it tells is valid as long as the document. An empty
+/// node answers every question with nothing, so that look-ups chain without tests.
 class XmlNode {
  public:
   XmlNode() = default;
-  explicit XmlNode(_xmlNode* node) : node_(node) {}
+  XmlNode(const xml::XmlRow* row, const xml::RowNode* node) : row_(row), node_(node) {}
 
   explicit operator bool() const { return node_ != nullptr; }
 
@@ -37,20 +38,19 @@ class XmlNode {
   bool isComment() const;
 
   /// The name with its prefix, as the file has it.
-  std::string nodeName() const;
+  std::string_view nodeName() const;
   /// The name behind the last colon.
   std::string_view baseName() const;
   std::string_view prefix() const;
 
   /// The text of the node and of all below it, in document order.
-  std::string text() const;
+  std::string_view text() const;
   /// The same of an element whose text people write: blanks count when it holds nothing else.
-  std::string typedText() const;
+  std::string_view typedText() const;
 
   std::vector<XmlAttribute> attributes() const;
-  /// The value of the attribute whose whole name is the given one; "" when there is none.
-  std::string attribute(std::string_view nodeName) const;
-  bool hasAttribute(std::string_view nodeName) const;
+  /// The value of the attribute whose whole name is the given one.
+  std::optional<std::string_view> attribute(std::string_view nodeName) const;
 
   XmlNode firstChild() const;
   XmlNode nextSibling() const;
@@ -58,7 +58,11 @@ class XmlNode {
   XmlNode nextElement() const;
 
  private:
-  _xmlNode* node_ = nullptr;
+  XmlNode firstIn() const;  // blanks too
+  static XmlNode elementFrom(XmlNode node);
+
+  const xml::XmlRow* row_ = nullptr;
+  const xml::RowNode* node_ = nullptr;
 };
 
 /// How many element children a node has.
@@ -72,9 +76,9 @@ FileBytes readXml(const std::string& path);
 /// validation where there is a document type.
 class XmlDocument {
  public:
-  XmlDocument() = default;
-  XmlDocument(XmlDocument&&) noexcept = default;
-  XmlDocument& operator=(XmlDocument&&) noexcept = default;
+  XmlDocument();
+  XmlDocument(XmlDocument&&) noexcept;
+  XmlDocument& operator=(XmlDocument&&) noexcept;
   ~XmlDocument();
   XmlDocument(const XmlDocument&) = delete;
   XmlDocument& operator=(const XmlDocument&) = delete;
@@ -84,7 +88,7 @@ class XmlDocument {
   bool load(const std::string& path);
   /// The same from what `readXml`, or `readFile` with a lower limit, gave for the path.
   bool load(const std::string& path, const FileBytes& file);
-  bool parse(std::string_view bytes, const std::string& path);
+  bool parse(const std::string& bytes, const std::string& path);
 
   const std::string& reason() const { return reason_; }
 
@@ -96,13 +100,10 @@ class XmlDocument {
 
   /// The document with an empty root: all that stands outside the root, the root's name and its
   /// attributes. "" for an empty document.
-  std::string shellText() const;
+  const std::string& shellText() const;
 
  private:
-  struct Free {
-    void operator()(_xmlDoc* document) const;
-  };
-  std::unique_ptr<_xmlDoc, Free> document_;
+  std::unique_ptr<const xml::XmlRow> row_;
   std::string reason_;
   std::uint64_t print_ = 0;
 };

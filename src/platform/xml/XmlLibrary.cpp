@@ -4,7 +4,6 @@
 #include <libxml/catalog.h>
 #include <libxml/parserInternals.h>
 #include <libxml/uri.h>
-#include <libxml/xmlerror.h>
 
 #include <algorithm>
 #include <new>
@@ -18,19 +17,7 @@
 namespace velra::xml {
 namespace {
 
-constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_BIG_LINES |
-                         XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
 constexpr const char* kTooFar = "entities expand too far";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-/// Names that a context has met stay in its dictionary, which refuses to grow beyond 10 MB.
-constexpr std::size_t kLargestDictionary = 1'000'000;
-
-#if LIBXML_VERSION >= 21200
-using ErrorPointer = const xmlError*;
-#else
-using ErrorPointer = xmlErrorPtr;
-#endif
 
 std::string oneLine(std::string text) {
   std::replace(text.begin(), text.end(), '\n', ' ');
@@ -80,11 +67,6 @@ xmlParserInput* loadEntity(const char* url, const char*, xmlParserCtxt* context)
       file.bytes.data(), static_cast<int>(file.bytes.size()), XML_CHAR_ENCODING_NONE);
   return buffer ? xmlNewIOInputStream(context, buffer, XML_CHAR_ENCODING_NONE) : nullptr;
 }
-
-struct FreeContext {
-  void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
-};
-using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
 
 Context makeContext() {
   initXml();

@@ -3,7 +3,9 @@
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
+#include <libxml/xmlerror.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +18,25 @@ struct FreeDocument {
   void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
 };
 using Document = std::unique_ptr<xmlDoc, FreeDocument>;
+
+struct FreeContext {
+  void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+};
+using Context = std::unique_ptr<xmlParserCtxt, FreeContext>;
+
+#if LIBXML_VERSION >= 21200
+using ErrorPointer = const xmlError*;
+#else
+using ErrorPointer = xmlErrorPtr;
+#endif
+
+/// The options of every parse. Names that a context has met stay in its dictionary, which refuses
+/// to grow beyond 10 MB: one that has this many bytes is to be replaced.
+inline constexpr int kOptions = XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_BIG_LINES |
+                                XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+inline constexpr std::size_t kLargestDictionary = 1'000'000;
+
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Starts the library once: no catalogues, external files only as the loader allows.
 void initXml();
@@ -39,6 +60,13 @@ inline const xmlChar* bytesOf(const std::string& text) {
 }
 inline std::string_view viewOf(const xmlChar* text) {
   return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
+}
+inline std::string_view viewOf(const xmlChar* text, std::size_t size) {
+  return {reinterpret_cast<const char*>(text), size};
+}
+
+inline std::string_view behindColon(std::string_view name) {
+  return name.substr(name.rfind(':') + 1);
 }
 
 /// A name with its prefix, as files write it.

@@ -89,9 +89,9 @@ std::string withRootAttributes(const std::string& shell, const XmlAttributes& at
   return xml::serialise(document.get(), xml::hadDeclaration(document.get()));
 }
 
-std::shared_ptr<const XmlShell> XmlShells::shared(std::string text) {
+std::shared_ptr<const XmlShell> XmlShells::shared(const std::string& text) {
   auto& known = shells_[text];
-  if (!known) known = std::make_shared<const XmlShell>(std::move(text));
+  if (!known) known = std::make_shared<const XmlShell>(text);
   return known;
 }
 

@@ -43,7 +43,7 @@ std::string withRootAttributes(const std::string& shell, const XmlAttributes& at
 /// The shells of many documents: one for all that have the same.
 class XmlShells {
  public:
-  std::shared_ptr<const XmlShell> shared(std::string text);
+  std::shared_ptr<const XmlShell> shared(const std::string& text);
 
  private:
   std::unordered_map<std::string, std::shared_ptr<const XmlShell>> shells_;

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/xml/XmlTexts.h"
 
-#include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlLibrary.h"
+#include "platform/xml/XmlText.h"
 
 namespace velra {
 
 namespace {
 
 void replaceText(xmlNode& element, const ReplaceText& replace) {
-  const XmlNode node(&element);
-  const std::string before = node.text();
-  const std::string after = replace(node.baseName(), before);
+  const std::string before = xml::textOf(element.children);
+  const std::string after = replace(xml::behindColon(xml::viewOf(element.name)), before);
   if (after == before) return;
   xmlNodeSetContent(&element, nullptr);
   xmlNodeAddContent(&element, xml::bytesOf(after));  // plain text: it is escaped when written
