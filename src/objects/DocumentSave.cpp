@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/DocumentSave.h"
 
+#include <optional>
+
 #include "app/ApplicationModule.h"
 #include "objects/AVDocument.h"
+#include "objects/PaintedWait.h"
 #include "objects/PlannedSave.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
+#include "protocol/LongWork.h"
 #include "protocol/MainWindow.h"
 #include "protocol/VideoExpression.h"
 #include "store/IOManager.h"
@@ -14,6 +18,12 @@
 #include "store/RemovedFiles.h"
 
 namespace velra {
+
+namespace {
+
+constexpr std::size_t kManyFiles = 100;  // which take longer than a person notices
+
+}  // namespace
 
 DocumentSave::DocumentSave(ApplicationModule& app, AVDocument& document)
     : app_(app), document_(document), objects_(document.collObjects()), io_(*document.io()) {}
@@ -42,6 +52,7 @@ bool DocumentSave::bSaveAllObjects() {
   if (!io_.bFileSystem()) return false;
   // One without changes has nothing to write, so only the others are asked.
   for (const RegisteredRef& object : objects_.changedObjects()) {
+    if (app_.gMainForm) app_.gMainForm->workSteps();
     if (object.get() != &document_ && !object->bSave()) return false;
   }
   return true;
@@ -61,11 +72,17 @@ bool DocumentSave::bWriteAll() {
     const std::string guid = object->strGUID();
     if (io_.names().isPromised(guid) && bSomethingAt(guid)) renumber(*object);
   }
+  const std::size_t files = objects_.changedObjects().size();
+  std::optional<LongWork> work;
+  if (files > kManyFiles) work.emplace(app_.gMainForm, files);
   SavePoint before(objects_.changedObjects());
-  PlannedSave planned(io_, objects_.changedObjects(), filesToRemove());
+  std::optional<PlannedSave> planned;
+  const auto plan = [&] { planned.emplace(io_, objects_.changedObjects(), filesToRemove()); };
+  work ? paintedWait(app_, plan) : plan();
   if (!bSaveAllObjects()) return bRefused(app_, {});
   const bool saved = document_.bSaveOwnFile();
-  const std::string failure = io_.strFlush();
+  const auto flush = [&] { return io_.strFlush(); };
+  const std::string failure = work ? paintedWait(app_, flush) : flush();
   if (!failure.empty()) {
     // Nobody knows what reached the disk, so all of it is to be written again.
     before.restoreFlags();
@@ -74,7 +91,7 @@ bool DocumentSave::bWriteAll() {
   if (!saved) return false;  // the document on the disk may still name what was removed
   for (const std::string& guid : document_.colObjRemoved()) io_.RemoveGUID(guid);
   io_.keepFilesOf(objects_);
-  planned.finished();
+  planned->finished();
   document_.unsavedWork().saved(objects_);
   return true;
 }

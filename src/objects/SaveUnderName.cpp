@@ -10,6 +10,7 @@
 #include "objects/DocumentSave.h"
 #include "objects/MediaObject.h"
 #include "objects/OrderedSave.h"
+#include "objects/PaintedWait.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
@@ -54,7 +55,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   document_.setStrSchemaPath(app_.strXSDPath());
   document_.setStrGUID(strAVDocPathName);
   io_.guard().setChosen(strAbsolutePath(strAVDocPathName));
-  planned_.emplace(io_, document_, std::move(made_));
+  paintedWait(app_, [&] { planned_.emplace(io_, document_, std::move(made_)); });
   if (!bSaveAllObjectsAs(before)) {
     bRefused(app_, {});
     return Outcome::NotWritten;
@@ -64,7 +65,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
     app_.ui.messageBox(io_.strSaveFailure());
     return Outcome::NotWritten;
   }
-  const std::string failure = io_.strFlush();
+  const std::string failure = strFlush();
   if (!failure.empty()) {
     bRefused(app_, failure + " (" + strAVDocPathName + ")");
     return Outcome::NotSynced;
@@ -146,10 +147,15 @@ bool SaveUnderName::bHandOverAll() {
   return bSaveInDependencyOrder(app_, objects_, document_);
 }
 
+// All of a new document is brought to the disk, which takes seconds.
+std::string SaveUnderName::strFlush() {
+  return paintedWait(app_, [&] { return io_.strFlush(); });
+}
+
 bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
   io_.makeFilesBehind();
   const bool handedOver = bHandOverAll();
-  const auto [made, failed] = io_.filesMade();
+  const auto [made, failed] = paintedWait(app_, [&] { return io_.filesMade(); });
   for (std::size_t i = 0; i < relocations_.size(); ++i) {
     const auto& [video, from, to] = relocations_[i];
     // The pictures came first.
@@ -162,7 +168,7 @@ bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
   }
   if (!handedOver) return false;
   // The document must never be there before what it names.
-  const std::string failure = io_.strFlush();
+  const std::string failure = strFlush();
   if (!failure.empty()) app_.ui.messageBox(failure + " (" + document_.strGUID() + ")");
   return failure.empty();
 }

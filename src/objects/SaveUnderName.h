@@ -42,6 +42,7 @@ class SaveUnderName {
   void renameKeyFrame(VideoExpression& video, SavePoint& before,
                       const std::string& strAVDocPathName);
   bool bHandOverAll();
+  std::string strFlush();
   bool bSaveAllObjectsAs(SavePoint& before);
 
   ApplicationModule& app_;

@@ -46,11 +46,12 @@ void frmMain::workBegins(std::size_t parts, Leaving leaving) {
 }
 
 void frmMain::workSteps() {
-  if (workDone_ < workParts_) face_.showProgress(++workDone_, workParts_);
+  if (workDone_ < workParts_) ++workDone_;
   workWaits();
 }
 
 void frmMain::workWaits() {
+  if (workParts_ > 0) face_.showProgress(workDone_, workParts_);
   if (leaving_ == Leaving::AtOnce && face_.isLeaveAsked()) throw LeftInWork();
 }
 

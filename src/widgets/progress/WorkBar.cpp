@@ -10,7 +10,7 @@ namespace velra {
 namespace {
 
 constexpr int kUnnoticedWork = 500;  // milliseconds
-constexpr int kRepaintMilliseconds = 200;
+constexpr int kRepaintMilliseconds = 80;
 constexpr int kBarWidth = 100;  // pixels
 constexpr int kFull = 1000;
 
@@ -36,11 +36,9 @@ void WorkBar::follow(std::size_t done, std::size_t total) {
     sinceBegun_.start();
     sinceDrawn_.start();
   }
-  if (sinceBegun_.elapsed() < kUnnoticedWork || sinceDrawn_.elapsed() < kRepaintMilliseconds) {
-    return;
-  }
+  if (sinceDrawn_.elapsed() < kRepaintMilliseconds) return;
   setValue(static_cast<int>(kFull * done / total));
-  if (isHidden()) {
+  if (isHidden() && sinceBegun_.elapsed() >= kUnnoticedWork) {
     show();
     parentWidget()->layout()->activate();  // its place, which comes by an event otherwise
   }

@@ -9,7 +9,7 @@ namespace velra {
 
 /// How far work has come that lasts longer than half a second. Works that follow one another
 /// without a pause are one wait. It runs no event of the window, so that no command begins, but has
-/// the whole window painted a few times in a second.
+/// the whole window painted often enough that nobody feels it stand still, from the start.
 class WorkBar : public QProgressBar {
   Q_OBJECT
 
