@@ -196,7 +196,7 @@ void addFor(const Figures& f, std::vector<Measure>& measures) {
   const double perObject = 1000 / static_cast<double>(f.objects);
   std::printf("%d objects: each read and parsed once in %.0f us, opened in %.0f, removed in %.1f\n",
               f.objects, f.parse * perObject, f.open * perObject, f.removeEach * 1000);
-  measures.push_back({"open / P" + size, f.open / f.parse, "", 1.5});
+  measures.push_back({"open / P" + size, f.open / f.parse, "", 1});
   if (f.objects == kSlowObjects) {
     measures.push_back({"open far away / call after call", f.slowOpen, "", 0.125});
   }
