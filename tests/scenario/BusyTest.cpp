@@ -57,7 +57,7 @@ TEST(Busy, AnOpeningCanBeLeftAndTakesNoKeysMeanwhile) {
   desktop.start("");
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&desktop.window));
   const std::string data = desktop.folder / "sample/lighthouse_files/lighthouse_";
-  for (int i = 0; i < 8000; ++i) {
+  for (int i = 0; i < 10000; ++i) {
     std::filesystem::copy_file(data + "version1.xml", data + "other" + std::to_string(i) + ".xml");
   }
   QCoreApplication::postEvent(&desktop.window,

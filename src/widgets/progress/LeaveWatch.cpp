@@ -10,8 +10,8 @@ namespace velra {
 
 namespace {
 
-constexpr int kQuietWork = 500;  // milliseconds
-constexpr int kRunMilliseconds = 200;
+constexpr int kQuietWork = 250;  // milliseconds
+constexpr int kRunMilliseconds = 100;
 
 bool beginsCommands(QEvent::Type type) {
   switch (type) {
