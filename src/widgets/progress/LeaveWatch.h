@@ -8,8 +8,9 @@ class QWidget;
 
 namespace velra {
 
-/// Lets a person close a window amid work that keeps its thread busy. From a quarter of a second on events
-/// run a few times in a second, but what would begin a command is dropped: keys, clicks and drops.
+/// Lets a person close a window amid work that keeps its thread busy. From a quarter of a second on
+/// events run a few times in a second, but what would begin a command is dropped: keys, clicks and
+/// drops.
 class LeaveWatch : public QObject {
   Q_OBJECT
 
