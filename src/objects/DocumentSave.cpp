@@ -78,11 +78,11 @@ bool DocumentSave::bWriteAll() {
   SavePoint before(objects_.changedObjects());
   std::optional<PlannedSave> planned;
   const auto plan = [&] { planned.emplace(io_, objects_.changedObjects(), filesToRemove()); };
-  work ? paintedWait(app_, plan) : plan();
+  work ? paintedWait(app_.gMainForm, plan) : plan();
   if (!bSaveAllObjects()) return bRefused(app_, {});
   const bool saved = document_.bSaveOwnFile();
   const auto flush = [&] { return io_.strFlush(); };
-  const std::string failure = work ? paintedWait(app_, flush) : flush();
+  const std::string failure = work ? paintedWait(app_.gMainForm, flush) : flush();
   if (!failure.empty()) {
     // Nobody knows what reached the disk, so all of it is to be written again.
     before.restoreFlags();

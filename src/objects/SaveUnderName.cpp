@@ -55,7 +55,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   document_.setStrSchemaPath(app_.strXSDPath());
   document_.setStrGUID(strAVDocPathName);
   io_.guard().setChosen(strAbsolutePath(strAVDocPathName));
-  paintedWait(app_, [&] { planned_.emplace(io_, document_, std::move(made_)); });
+  paintedWait(app_.gMainForm, [&] { planned_.emplace(io_, document_, std::move(made_)); });
   if (!bSaveAllObjectsAs(before)) {
     bRefused(app_, {});
     return Outcome::NotWritten;
@@ -149,13 +149,13 @@ bool SaveUnderName::bHandOverAll() {
 
 // All of a new document is brought to the disk, which takes seconds.
 std::string SaveUnderName::strFlush() {
-  return paintedWait(app_, [&] { return io_.strFlush(); });
+  return paintedWait(app_.gMainForm, [&] { return io_.strFlush(); });
 }
 
 bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
   io_.makeFilesBehind();
   const bool handedOver = bHandOverAll();
-  const auto [made, failed] = paintedWait(app_, [&] { return io_.filesMade(); });
+  const auto [made, failed] = paintedWait(app_.gMainForm, [&] { return io_.filesMade(); });
   for (std::size_t i = 0; i < relocations_.size(); ++i) {
     const auto& [video, from, to] = relocations_[i];
     // The pictures came first.
