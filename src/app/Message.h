@@ -231,6 +231,8 @@ enum class Message : int {
   SearchAgain = 1274,
   MakeSegments = 1275,
   NoFirstPoint = 1289,
+  ReadingMovie = 1292,
+  ClosingMovie = 1293,
 };
 
 }  // namespace velra

@@ -165,6 +165,8 @@ constexpr MessageRow kFrom1178[] = {
      "La parte del programma che legge i filmati non si può caricare."},
     {1291, "The part of the program that reads movies belongs to another version.",
      "La parte del programma che legge i filmati appartiene a un'altra versione."},
+    {1292, "The movie is being read.", "Lettura del filmato in corso."},
+    {1293, "The movie is being closed.", "Chiusura del filmato in corso."},
 };
 
 }  // namespace

@@ -70,14 +70,14 @@ std::string KeyFrame::strFile() const {
   return chunk ? chunk->strFile : std::string();
 }
 
-void KeyFrame::InitKeyFrameFile() {
+void KeyFrame::InitKeyFrameFile(Taking taking) {
   SchemaElement* field = assignedField(video_.secol());
   const auto chunk = field ? asChunk(field->vContent()) : nullptr;
   if (!chunk) return;
   objKeyframeObject_ = MediaObject::create(app_);
   objKeyframeObject_->strInit(video_.shared_from_this());
   if (!objKeyframeObject_->strGUID().empty()) return;
-  const std::string temporary = makeBitmap();
+  const std::string temporary = makeBitmap(taking);
   if (!temporary.empty()) placeBitmap(temporary, *chunk);
   // This tells of the name as well: what is written into the chunk itself nobody hears of.
   field->setBChanged(true);
@@ -117,7 +117,14 @@ std::string KeyFrame::moveIntoFolder(const std::string& temporary, Chunk& chunk)
   return reason;
 }
 
-std::string KeyFrame::makeBitmap() const {
+void KeyFrame::takeStill(const std::string& movie, const std::string& target,
+                         Taking taking) const {
+  const auto take = [&, seconds = dGetKeyFrameTime()] { grabFrame(movie, seconds, {}, target); };
+  if (taking == Taking::Here) return take();
+  app_.ui.workAside(app_.LoadResString(Message::ReadingMovie), take);
+}
+
+std::string KeyFrame::makeBitmap(Taking taking) const {
   const std::string movie = video_.strGetMediaObjectPath();
   if (movie.empty()) return {};
   if (!bFileExists(movie)) {
@@ -126,11 +133,10 @@ std::string KeyFrame::makeBitmap() const {
   }
   std::string target;
   try {
-    const double seconds = dGetKeyFrameTime();
-    if (const auto ahead = ahead_.lock()) target = ahead->take(movie, seconds);
+    if (const auto ahead = ahead_.lock()) target = ahead->take(movie, dGetKeyFrameTime());
     if (!target.empty()) return target;
     target = strTempPath() + strMakeGUIDText() + ".bmp";
-    grabFrame(movie, seconds, {}, target);
+    takeStill(movie, target, taking);
   } catch (const RunTimeError& error) {
     // A damaged movie or a full disk costs the picture, not the segment; one sentence for each
     // trouble with a movie is enough.

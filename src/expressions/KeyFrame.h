@@ -36,8 +36,13 @@ class KeyFrame {
   /// The path of the picture; "" when there is none.
   std::string strFile() const;
 
+  /// On which thread a picture is taken.
+  enum class Taking {
+    Here,
+    Aside,  // while the windows paint: a movie may need long for one
+  };
   /// Makes the object of the picture, and the picture itself from the movie if there is none yet.
-  void InitKeyFrameFile();
+  void InitKeyFrameFile(Taking taking);
 
   /// Takes up the picture. kFileNotFound or kInvalidPicture for a bad one.
   void CreateKeyFrameIcons();
@@ -45,7 +50,8 @@ class KeyFrame {
   void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to);
 
  private:
-  std::string makeBitmap() const;
+  std::string makeBitmap(Taking taking) const;
+  void takeStill(const std::string& movie, const std::string& target, Taking taking) const;
   void placeBitmap(const std::string& temporary, Chunk& chunk);
   /// Why the picture could not be brought into the data folder; "" when it was.
   std::string moveIntoFolder(const std::string& temporary, Chunk& chunk);

@@ -39,7 +39,8 @@ void KeyFramesAhead::begin() {
     return times_.begin() + static_cast<std::ptrdiff_t>(place);
   };
   coming_.push_back(std::async(
-      std::launch::async,
+      // Deferred where the machine gives no further thread.
+      std::launch::async | std::launch::deferred,
       [movie = movie_, times = std::vector(at(begun_), at(end))] { return take(movie, times); }));
   begun_ = end;
 }

@@ -51,7 +51,7 @@ void Video::chooseKeyFrameTime() {
 void Video::afterLoad() {
   if (!objMainExpr() || io()->bReadsOnly()) return;
   if (dGetKeyFrameTime() < 0) chooseKeyFrameTime();
-  InitKeyFrameFile();
+  InitKeyFrameFile(KeyFrame::Taking::Here);
 }
 
 void Video::fieldChanged(const SchemaElement& element) {
@@ -71,7 +71,7 @@ void Video::prepareAsSegmentOf(const ExpressionBase& parent) {
 }
 
 void Video::finishAsSegment() {
-  InitKeyFrameFile();
+  InitKeyFrameFile(KeyFrame::Taking::Aside);
   CreateKeyFrameIcons();
 }
 

@@ -45,7 +45,7 @@ class Video : public ExpressionBase, public VideoExpression {
   /// Segments that are made of this one, and of these, take their pictures from there while it
   /// lives.
   void expectSegments(const std::shared_ptr<KeyFramesAhead>& ahead) { keyFrame_.setAhead(ahead); }
-  void InitKeyFrameFile() { keyFrame_.InitKeyFrameFile(); }
+  void InitKeyFrameFile(KeyFrame::Taking taking) { keyFrame_.InitKeyFrameFile(taking); }
   void CreateKeyFrameIcons() { keyFrame_.CreateKeyFrameIcons(); }
   void UpdateLocationKeyFrameObject(const std::string& from, const std::string& to) override {
     keyFrame_.UpdateLocationKeyFrameObject(from, to);

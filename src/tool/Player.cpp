@@ -101,12 +101,14 @@ void Player::showStart() {
 void Player::ClosePlayer() try {
   bPlaying_ = false;
   parts_.face.runPendingEvents();
-  if (objMediaControl_) {
-    objMediaControl_->Stop();
-    parts_.face.runTimer1(false);
-    parts_.face.movieCloses();
-  }
-  objMediaControl_.reset();
+  if (!objMediaControl_) return;
+  objMediaControl_->Stop();
+  parts_.face.runTimer1(false);
+  parts_.face.movieCloses();
+  // The sound card takes some 50 ms to let go.
+  auto movie = std::move(objMediaControl_);
+  parts_.app.ui.workAside(parts_.app.LoadResString(Message::ClosingMovie),
+                          [&movie] { movie.reset(); });
 } catch (const RunTimeError&) {
   // The form closes whatever the movie says.
 }

@@ -23,6 +23,9 @@ namespace velra {
 
 namespace {
 
+// Here where the machine gives no further thread.
+constexpr std::launch kAside = std::launch::async | std::launch::deferred;
+
 QMessageBox::Icon iconOf(BoxKind kind) {
   switch (kind) {
     case BoxKind::Exclamation:
@@ -181,14 +184,14 @@ std::unique_ptr<ProgressSign> QtUserInterface::showProgress(const std::string& s
 }
 
 void QtUserInterface::workAside(const std::string& sentence, const std::function<void()>& work) {
-  waitFor(sentence, std::async(std::launch::async, work), nullptr);
+  waitFor(sentence, std::async(kAside, work), nullptr);
 }
 
 bool QtUserInterface::workAtLength(const std::string& sentence, const LongWork& work) {
   std::stop_source stop;
   std::atomic<double> share{0};
   const auto tell = [&](double done) { share = done; };
-  waitFor(sentence, std::async(std::launch::async, [&] { work(stop.get_token(), tell); }), &stop,
+  waitFor(sentence, std::async(kAside, [&] { work(stop.get_token(), tell); }), &stop,
           &share);
   return !stop.stop_requested();
 }
@@ -196,7 +199,7 @@ bool QtUserInterface::workAtLength(const std::string& sentence, const LongWork& 
 bool QtUserInterface::openMovie(const std::function<void(const std::stop_token&)>& work) {
   std::stop_source stop;
   waitFor(fromQString(Texts::tr("The movie is being read.")),
-          std::async(std::launch::async, work, stop.get_token()), &stop);
+          std::async(kAside, work, stop.get_token()), &stop);
   return !stop.stop_requested();
 }
 
