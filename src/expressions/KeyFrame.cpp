@@ -117,8 +117,7 @@ std::string KeyFrame::moveIntoFolder(const std::string& temporary, Chunk& chunk)
   return reason;
 }
 
-void KeyFrame::takeStill(const std::string& movie, const std::string& target,
-                         Taking taking) const {
+void KeyFrame::takeStill(const std::string& movie, const std::string& target, Taking taking) const {
   const auto take = [&, seconds = dGetKeyFrameTime()] { grabFrame(movie, seconds, {}, target); };
   if (taking == Taking::Here) return take();
   app_.ui.workAside(app_.LoadResString(Message::ReadingMovie), take);

@@ -2,7 +2,9 @@
 #include "store/ReferenceIndex.h"
 
 #include <algorithm>
+#include <bit>
 #include <functional>
+#include <numeric>
 #include <utility>
 
 #include "base/Paths.h"
@@ -43,7 +45,8 @@ ReferenceIndex::Key ReferenceIndex::keyOf(const std::string& guid) {
 }
 
 ReferenceIndex::Key ReferenceIndex::keyOf(const DescribedObject& object) {
-  return std::hash<const DescribedObject*>{}(&object);
+  // The factor, 2 to the 64th over the golden ratio, spreads neighbours over the first bits.
+  return std::hash<const DescribedObject*>{}(&object) * 0x9E3779B97F4A7C15U;
 }
 
 void ReferenceIndex::noteChange(const DescribedObject& object) {
@@ -54,6 +57,7 @@ void ReferenceIndex::clear() {
   built_ = false;
   changed_.clear();
   settled_ = {};
+  begins_ = {};
   fresh_.clear();
   freshCount_ = 0;
 }
@@ -74,7 +78,7 @@ void ReferenceIndex::build() {
     Collector collector(settled_, number);
     described->visitReferences(collector);
   }
-  sortAndDropDoubles(settled_);
+  order();
   settled_.shrink_to_fit();
   built_ = true;
   folderGeneration_ = currentFolderGeneration();
@@ -102,13 +106,27 @@ void ReferenceIndex::settle() {
   for (const auto& [key, holders] : fresh_) {
     for (const std::uint64_t holder : holders) settled_.push_back({key, holder});
   }
-  sortAndDropDoubles(settled_);
+  order();
   fresh_.clear();
   freshCount_ = 0;
 }
 
+void ReferenceIndex::order() {
+  sortAndDropDoubles(settled_);
+  begins_.assign(std::bit_ceil(settled_.size() + 1), 0);
+  for (const Reference& reference : settled_) ++begins_[slotOf(reference.key)];
+  std::exclusive_scan(begins_.begin(), begins_.end(), begins_.begin(), std::uint32_t{0});
+}
+
+std::size_t ReferenceIndex::slotOf(Key key) const {
+  // As many of the first bits as number the slots; a shift by all of them would mean none.
+  return begins_.size() == 1 ? 0 : key >> (64 - std::countr_zero(begins_.size()));
+}
+
 void ReferenceIndex::appendHolders(Key key, Holders& holders) const {
-  auto at = std::lower_bound(settled_.begin(), settled_.end(), Reference{key, 0});
+  const std::size_t begin = begins_.empty() ? 0 : begins_[slotOf(key)];
+  auto at = settled_.begin() + static_cast<std::ptrdiff_t>(begin);
+  while (at != settled_.end() && at->key < key) ++at;
   for (; at != settled_.end() && at->key == key; ++at) holders.push_back(at->holder);
   const auto fresh = fresh_.find(key);
   if (fresh == fresh_.end()) return;

@@ -84,6 +84,9 @@ class ReferenceIndex {
   std::vector<Reference> referencesOf(const DescribedObject& object) const;
   void add(Key key, std::uint64_t holder);
   void settle();
+  /// Puts the settled references in order, each once.
+  void order();
+  std::size_t slotOf(Key key) const;
   void appendHolders(Key key, Holders& holders) const;
   ObjectRef livingOf(std::uint64_t holder) const;
   ObjectList listOf(Holders holders) const;
@@ -94,6 +97,9 @@ class ReferenceIndex {
   unsigned folderGeneration_ = 0;
   std::unordered_set<const DescribedObject*> changed_;
   std::vector<Reference> settled_;  // in order
+  // Where among them the keys with the same first bits begin: a search by halves in a large
+  // document waits for the memory at every step.
+  std::vector<std::uint32_t> begins_;
   // What came since; it joins the others before it grows large beside them.
   std::unordered_map<Key, Holders> fresh_;
   std::size_t freshCount_ = 0;

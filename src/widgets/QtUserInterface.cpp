@@ -191,8 +191,7 @@ bool QtUserInterface::workAtLength(const std::string& sentence, const LongWork& 
   std::stop_source stop;
   std::atomic<double> share{0};
   const auto tell = [&](double done) { share = done; };
-  waitFor(sentence, std::async(kAside, [&] { work(stop.get_token(), tell); }), &stop,
-          &share);
+  waitFor(sentence, std::async(kAside, [&] { work(stop.get_token(), tell); }), &stop, &share);
   return !stop.stop_requested();
 }
 
