@@ -23,8 +23,8 @@ int readPixels(const UserSettings& settings, const std::string& key, const char*
   return pixelsFromTwips(static_cast<double>(isNumber ? twips : plain.toFloat(QString(first))));
 }
 
-void writePixels(UserSettings& settings, const std::string& key, int pixels) {
-  settings.write(kSection, key, std::to_string(twipsFromPixels(pixels)));
+std::string textOf(int pixels) {
+  return std::to_string(twipsFromPixels(pixels));
 }
 
 }  // namespace
@@ -39,13 +39,15 @@ void restorePlace(QWidget& window, const UserSettings& settings) {
 }
 
 void storePlace(const QWidget& window, UserSettings& settings) {
+  UserSettings::Texts texts;
   if (!window.isMinimized()) {
-    writePixels(settings, "MainLeft", window.x());
-    writePixels(settings, "MainTop", window.y());
-    writePixels(settings, "MainWidth", window.width());
-    writePixels(settings, "MainHeight", window.height());
+    texts = {{"MainLeft", textOf(window.x())},
+             {"MainTop", textOf(window.y())},
+             {"MainWidth", textOf(window.width())},
+             {"MainHeight", textOf(window.height())}};
   }
-  settings.write(kSection, "ViewMode", "velra");
+  texts.emplace_back("ViewMode", "velra");
+  settings.write(kSection, texts);
 }
 
 }  // namespace velra

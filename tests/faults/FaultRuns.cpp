@@ -61,7 +61,7 @@ bool keep(Experiment& at) {
 }
 
 bool set(Experiment& at) {
-  UserSettings(at.settingsPath).write("Window", "Place", "new");
+  UserSettings(at.settingsPath).write("Window", {{"Place", "new"}});
   const bool done = UserSettings(at.settingsPath).read("Window", "Place", "") == "new";
   if (!done) at.session.ui.shown.emplace_back("not set");
   return done;

@@ -132,15 +132,14 @@ TEST(UserSettings, KeepsTextsAndMakesItsFolders) {
   const std::string path = folder / "config/velra/velra.ini";
   UserSettings settings(path);
   EXPECT_EQ(settings.read("Settings", "MainLeft", "1000"), "1000");
-  settings.write("Settings", "MainLeft", "12.5");
-  settings.write("Settings", "ViewMode", "a\nb\\");
-  settings.write("Settings", "MainLeft", "dword:1");
+  settings.write("Settings", {{"MainLeft", "12.5"}, {"ViewMode", "a\nb\\"}});
+  settings.write("Settings", {{"MainLeft", "dword:1"}});
   EXPECT_EQ(folder.read("config/velra/velra.ini"),
             "[Settings]\nMainLeft=dword:1\nViewMode=a\\nb\\\\\n");
   EXPECT_EQ(UserSettings(path).read("Settings", "ViewMode", ""), "a\nb\\");
   EXPECT_EQ(settings.read("Other", "MainLeft", "none"), "none");
   folder.write("file", "x");
-  UserSettings(folder / "file/velra.ini").write("Settings", "a", "b");
+  UserSettings(folder / "file/velra.ini").write("Settings", {{"a", "b"}});
   EXPECT_EQ(folder.read("file"), "x");
 }
 

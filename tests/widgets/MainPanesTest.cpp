@@ -163,8 +163,7 @@ TEST(WindowPlaceTest, PlaceAndSizeComeBackInTwips) {
   restorePlace(second, settings);
   EXPECT_EQ(second.geometry(), first.geometry());
 
-  settings.write("Settings", "MainLeft", "wide");
-  settings.write("Settings", "MainTop", "1000.5");
+  settings.write("Settings", {{"MainLeft", "wide"}, {"MainTop", "1000.5"}});
   restorePlace(second, settings);
   EXPECT_EQ(second.pos(), QPoint(67, 67));
 }

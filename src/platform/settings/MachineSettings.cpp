@@ -79,7 +79,7 @@ std::optional<MachineSettings::Setting> MachineSettings::read(std::string_view s
 bool MachineSettings::write(std::string_view section, std::string_view name,
                             const Setting& setting) {
   const auto line = std::visit(LineOf{}, setting);
-  return line && file_.set(section, name, *line).empty();
+  return line && file_.set(section, {{std::string(name), *line}}).empty();
 }
 
 }  // namespace velra

@@ -69,11 +69,13 @@ std::optional<std::string_view> SettingsFile::find(std::string_view section,
   return withoutLineEnd(line.substr(line.find('=') + 1));
 }
 
-std::string SettingsFile::set(std::string_view section, std::string_view name,
-                              std::string_view text) {
+std::string SettingsFile::set(std::string_view section, const std::vector<Line>& lines) {
   refresh();
   if (!reason_.empty()) return reason_;
-  place(section, name, std::string(name) + "=" + std::string(text));
+  for (const auto& [name, text] : lines) {
+    place(section, name, name + "=" + text);
+    index();
+  }
   std::string failure = replaceFile(path_, bytes());
   stamp_ = {~std::uint64_t{0}, 0, 0, false};  // whatever is there now is looked at anew
   return failure;

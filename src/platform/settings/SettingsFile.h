@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/files/Files.h"
@@ -24,9 +25,11 @@ class SettingsFile {
   /// What stands behind "=", up to the end of the line; good until the next call.
   std::optional<std::string_view> find(std::string_view section, std::string_view name);
 
-  /// Sets a text without line ends and writes the file, whole and at once. The failure's
-  /// description or "". A file that is there and cannot be read is left alone.
-  std::string set(std::string_view section, std::string_view name, std::string_view text);
+  /// A name and its text, without line ends.
+  using Line = std::pair<std::string, std::string>;
+  /// Sets texts and writes the file, whole and at once. The failure's description or "". A file
+  /// that is there and cannot be read is left alone.
+  std::string set(std::string_view section, const std::vector<Line>& lines);
 
  private:
   using Names = std::map<std::string, std::size_t, std::less<>>;

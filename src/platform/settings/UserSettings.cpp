@@ -31,10 +31,11 @@ std::string UserSettings::read(const std::string& section, const std::string& ke
   return line ? unescapedLine(*line) : defaultText;
 }
 
-void UserSettings::write(const std::string& section, const std::string& key,
-                         const std::string& text) {
+void UserSettings::write(const std::string& section, const Texts& texts) {
   makeFolders(strAbsolutePath(folderOf(path_)));
-  file_.set(section, key, escapedLine(text));
+  std::vector<SettingsFile::Line> lines;
+  for (const auto& [key, text] : texts) lines.emplace_back(key, escapedLine(text));
+  file_.set(section, lines);
 }
 
 }  // namespace velra

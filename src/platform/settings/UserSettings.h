@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/settings/SettingsFile.h"
 
@@ -20,9 +22,11 @@ class UserSettings {
   std::string read(const std::string& section, const std::string& key,
                    const std::string& defaultText) const;
 
-  /// Sets a text. A store that cannot be written keeps what it had, without a word: losing a
-  /// window's place is no reason to disturb.
-  void write(const std::string& section, const std::string& key, const std::string& text);
+  /// Keys and their texts.
+  using Texts = std::vector<std::pair<std::string, std::string>>;
+  /// Sets texts of a section, all in one writing. A store that cannot be written keeps what it had,
+  /// without a word: losing a window's place is no reason to disturb.
+  void write(const std::string& section, const Texts& texts);
 
  private:
   std::string path_;
