@@ -54,9 +54,9 @@ ExpressionRef ExpressionFinder::openFound(ObjectKind kind, const std::string& gu
 ExpressionList ExpressionFinder::openOfVersion(const ObjectRef& version,
                                                const std::shared_ptr<IOManager>& io) {
   ExpressionList found;
-  for (const ObjRecord& record : colScanRelatives(
-           app_, scans_, version->strGUID(), ObjectKind::Version, FolderScan::Relation::Own,
-           {ObjectKind::Audio, ObjectKind::Transcript, ObjectKind::Video})) {
+  for (const ObjRecord& record :
+       colScanRelatives(app_, scans_, version->strGUID(), ObjectKind::Version, Relation::Own,
+                        {ObjectKind::Audio, ObjectKind::Transcript, ObjectKind::Video})) {
     const RegisteredRef loaded = app_.gAVDoc->loadedObject(record.strGUID);
     found.push_back(loaded ? as<Expression>(loaded)
                            : openFound(record.kind, record.strGUID, nullptr, version, io));
@@ -69,8 +69,8 @@ ExpressionList ExpressionFinder::openOfExpression(const ExpressionRef& parent,
   const ObjectKind kind = parent->kind();
   ExpressionList found;
   ExpressionRef last;
-  for (const ObjRecord& record : colScanRelatives(app_, scans_, parent->strGUID(), kind,
-                                                  FolderScan::Relation::PartOf, {kind})) {
+  for (const ObjRecord& record :
+       colScanRelatives(app_, scans_, parent->strGUID(), kind, Relation::PartOf, {kind})) {
     if (!app_.gAVDoc->loadedObject(record.strGUID)) {
       last = openFound(kind, record.strGUID, parent, parent->verVersion(), io);
     } else if (kind != ObjectKind::Video) {

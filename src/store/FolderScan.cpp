@@ -2,136 +2,81 @@
 #include "store/FolderScan.h"
 
 #include <algorithm>
-#include <functional>
-#include <string_view>
 #include <utility>
 
-#include "app/ApplicationModule.h"
 #include "base/Paths.h"
-#include "protocol/ClassRules.h"
-#include "protocol/MainWindow.h"
+#include "platform/files/FolderWatch.h"
 #include "protocol/OpenDocument.h"
-#include "store/ParsedAhead.h"
 
 namespace velra {
 
-namespace {
-
-std::size_t relationKey(FolderScan::Relation relation, ObjectKind kind, std::string_view path) {
-  constexpr std::size_t kKinds = 16;
-  const auto which = 2 * static_cast<std::size_t>(kind) + static_cast<std::size_t>(relation);
-  return std::hash<std::string_view>{}(path) * (2 * kKinds) + which;
-}
-
-bool pointsAt(const ScannedFile& file, FolderScan::Relation relation, const std::string& path) {
-  if (relation == FolderScan::Relation::PartOf) return file.partOf == path;
-  const auto& own = file.ownRelatives;
-  return std::find(own.begin(), own.end(), path) != own.end();
-}
-
-}  // namespace
-
 std::size_t FolderScan::list() {
+  watch_ = std::make_unique<FolderWatch>(folder_);
   listed_ = listFiles(folder_ + "*.xml");
   return listed_->names.size();
 }
 
-void FolderScan::refresh(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
-  byName_.clear();
-  related_.clear();
-  unreadable_.clear();
-  std::vector<ScannedFile> before = std::exchange(files_, {});
+void FolderScan::read(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
   if (!listed_) list();
   FolderListing listing = *std::exchange(listed_, std::nullopt);
   reason_ = std::move(listing.reason);
-  for (std::string& name : listing.names) {
-    ScannedFile file;
-    file.name = std::move(name);
-    files_.push_back(std::move(file));
-  }
-  takeOver(before);
-  readAll(app, document, pictures);
-  index();
-}
-
-void FolderScan::readAll(ApplicationModule& app, OpenDocument& document, PictureStamps* pictures) {
+  if (listing.links) watch_.reset();
+  files_.resize(listing.names.size());
   std::vector<ParsedAhead::Wanted> wanted;
-  std::vector<ScannedFile*> waiting;
-  for (ScannedFile& file : files_) {
-    std::string path = folder_ + file.name;
+  std::vector<std::size_t> waiting;
+  for (std::size_t i = 0; i < files_.size(); ++i) {
+    std::string path = folder_ + listing.names[i];
     if (const RegisteredRef loaded = document.loadedObject(path)) {
-      file = answerOf(*loaded, std::move(file.name));
+      files_[i] = answerOf(*loaded);
     } else {
-      wanted.push_back({std::move(path), file.stamp});
-      waiting.push_back(&file);
+      wanted.push_back({std::move(path), {}});
+      waiting.push_back(i);
     }
   }
-  ParsedAhead::Calls calls;
-  if (pictures) calls.pictureOf = keyFrameNamedBy;
-  if (app.gMainForm) calls.waits = [&app] { app.gMainForm->workWaits(); };
-  ParsedAhead ahead(std::move(wanted), std::move(calls));
-  for (ScannedFile* file : waiting) {
-    const ParsedAhead::File& read = ahead.take();
-    if (read.known) continue;
-    if (app.gMainForm) app.gMainForm->workSteps();
-    if (read.picture) pictures->insert_or_assign(read.picture->path, read.picture->stamp);
-    *file = contentOf(app, document, read, std::move(file->name));
-  }
-}
-
-void FolderScan::takeOver(std::vector<ScannedFile>& before) {
-  std::unordered_map<std::string_view, ScannedFile*> known;
-  for (ScannedFile& file : before) known.emplace(file.name, &file);
-  for (ScannedFile& file : files_) {
-    const auto at = known.find(file.name);
-    if (at != known.end()) file = std::move(*at->second);
-  }
+  readScanned(app, document, std::move(wanted), pictures, [&](std::size_t place, ScannedFile read) {
+    if (read.otherNames) watch_.reset();
+    files_[waiting[place]] = std::move(read);
+  });
+  for (std::size_t i = 0; i < files_.size(); ++i) files_[i].name = std::move(listing.names[i]);
+  index();
+  isRead_ = true;
 }
 
 void FolderScan::index() {
-  byName_.clear();
-  related_.clear();
-  unreadable_.clear();
   byName_.reserve(files_.size());
   for (std::size_t i = 0; i < files_.size(); ++i) {
-    const ScannedFile& file = files_[i];
-    byName_.emplace(file.name, i);
-    if (!file.readable()) unreadable_.push_back(i);
-    if (!file.kind) continue;
-    for (const std::string& path : file.ownRelatives) {
-      related_.push_back({relationKey(Relation::Own, *file.kind, path), i});
-    }
-    if (!file.partOf.empty()) {
-      related_.push_back({relationKey(Relation::PartOf, *file.kind, file.partOf), i});
-    }
+    byName_.emplace(files_[i].name, i);
+    if (!files_[i].readable()) unreadable_.push_back(i);
+    forEachRelation(files_[i], [&](std::uint64_t key) { related_.push_back({key, i}); });
   }
   std::sort(related_.begin(), related_.end());
 }
 
-std::vector<std::size_t> FolderScan::relevant(Relation relation,
-                                              const std::vector<ObjectKind>& kinds,
-                                              const std::string& guid) const {
+std::vector<const ScannedFile*> FolderScan::relevant(Relation relation,
+                                                     const std::vector<ObjectKind>& kinds,
+                                                     const std::string& guid) const {
   std::vector<std::size_t> offsets = unreadable_;
   const std::string path = strAbsolutePath(guid);
   for (const ObjectKind kind : kinds) {
-    const std::size_t key = relationKey(relation, kind, path);
-    auto at = std::lower_bound(related_.begin(), related_.end(), Related{key, 0});
+    const std::uint64_t key = relationKey(relation, kind, path);
+    auto at = std::lower_bound(related_.begin(), related_.end(), KnownRelation{key, 0});
     for (; at != related_.end() && at->key == key; ++at) {
-      const ScannedFile& file = files_[at->offset];
-      if (file.kind == kind && pointsAt(file, relation, path)) offsets.push_back(at->offset);
+      const ScannedFile& file = files_[at->file];
+      if (file.kind == kind && file.pointsAt(relation, path)) offsets.push_back(at->file);
     }
   }
   std::sort(offsets.begin(), offsets.end());
   offsets.erase(std::unique(offsets.begin(), offsets.end()), offsets.end());
-  return offsets;
+  std::vector<const ScannedFile*> files;
+  for (const std::size_t offset : offsets) files.push_back(&files_[offset]);
+  return files;
 }
 
 std::optional<LoadedFields> FolderScan::takeFields(const std::string& name, ObjectKind kind) {
   const auto at = byName_.find(name);
   if (at == byName_.end()) return std::nullopt;
   ScannedFile& file = files_[at->second];
-  if (file.kind != kind || !file.fields) return std::nullopt;
-  file.stamp = {};  // its object answers from now on; without one it is read again
+  if (file.kind != kind) return std::nullopt;
   return std::exchange(file.fields, std::nullopt);
 }
 
@@ -145,14 +90,11 @@ std::vector<std::string> FolderScan::relativesOfRest() const {
   return paths;
 }
 
-void FolderScan::endOpening() {
-  listed_.reset();
-  // What a loaded object answers need not be kept beside it.
-  std::erase_if(files_, [](const ScannedFile& file) { return !file.stamp.exists; });
-  files_.shrink_to_fit();
-  for (ScannedFile& file : files_) file.fields.reset();
-  index();
-  related_ = {};
+std::unique_ptr<KnownFolder> FolderScan::handOver() {
+  byName_.clear();
+  unreadable_.clear();
+  KnownFolder::Start start{std::exchange(files_, {}), std::exchange(related_, {}), reason_};
+  return std::make_unique<KnownFolder>(folder_, std::move(watch_), std::move(start));
 }
 
 bool FolderScan::checkConsistency() const {
@@ -163,9 +105,9 @@ bool FolderScan::checkConsistency() const {
     if (named == byName_.end() || named->second != i) return false;
     const bool reported = std::binary_search(unreadable_.begin(), unreadable_.end(), i);
     if (reported == file.readable()) return false;
-    if (related_.empty() || file.partOf.empty() || !file.kind) continue;
+    if (file.partOf.empty() || !file.kind) continue;
     const auto found = relevant(Relation::PartOf, {*file.kind}, file.partOf);
-    if (!std::binary_search(found.begin(), found.end(), i)) return false;
+    if (std::find(found.begin(), found.end(), &file) == found.end()) return false;
   }
   return true;
 }

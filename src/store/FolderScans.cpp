@@ -19,33 +19,51 @@ FolderScans::Opening::Opening(FolderScans& scans) : scans_(scans) {
 
 FolderScans::Opening::~Opening() {
   if (--scans_.depth_ > 0) return;
-  for (auto& [path, folder] : scans_.folders_) folder.scan.endOpening();
+  for (auto& [path, folder] : scans_.folders_) {
+    if (folder.known) folder.known->endSearch();
+    if (folder.scan && folder.scan->isRead()) folder.known = folder.scan->handOver();
+    folder.scan.reset();
+  }
   scans_.pictures_ = {};
 }
 
-FolderScans::Folder& FolderScans::knownFolder(const std::string& path) {
+FolderScans::Folder& FolderScans::folderAt(const std::string& path) {
   if (generation_ != currentFolderGeneration()) {
     generation_ = currentFolderGeneration();
     folders_.clear();
   }
-  return folders_.try_emplace(path, Folder{FolderScan(path)}).first->second;
+  Folder& folder = folders_[path];
+  if (!folder.scan && !folder.known) folder.scan = std::make_unique<FolderScan>(path);
+  return folder;
 }
 
 std::size_t FolderScans::filesIn(const std::string& folder) {
-  return knownFolder(withSeparator(strAbsolutePath(folder))).scan.list();
+  const Folder& found = folderAt(withSeparator(strAbsolutePath(folder)));
+  return found.scan ? found.scan->list() : 0;
 }
 
-FolderScan& FolderScans::of(const std::string& folder) {
+void FolderScans::lookAt(Folder& folder) {
+  if (folder.lookedAtIn == opening_) return;
+  PictureStamps* pictures = looksAtPictures_ ? &pictures_ : nullptr;
+  if (folder.scan) {
+    folder.scan->read(app_, *app_.gAVDoc, pictures);
+  } else {
+    folder.known->bringUpToDate(app_, *app_.gAVDoc, pictures);
+  }
+  folder.lookedAtIn = opening_;
+}
+
+std::vector<const ScannedFile*> FolderScans::relevant(const std::string& folder, Relation relation,
+                                                      const std::vector<ObjectKind>& kinds,
+                                                      const std::string& guid) {
   if (!app_.gAVDoc) raise(kNoObject);
   const std::string path = withSeparator(strAbsolutePath(folder));
-  Folder& known = knownFolder(path);
-  if (depth_ == 0 || known.listedIn != opening_) {
-    known.scan.refresh(app_, *app_.gAVDoc, depth_ > 0 && looksAtPictures_ ? &pictures_ : nullptr);
-  }
-  known.listedIn = opening_;
-  const std::string& reason = known.scan.reason();
+  Folder& found = folderAt(path);
+  lookAt(found);
+  const std::string& reason = found.scan ? found.scan->reason() : found.known->reason();
   if (!reason.empty()) unlisted_ = path + " cannot be listed (" + reason + ")";
-  return known.scan;
+  return found.scan ? found.scan->relevant(relation, kinds, guid)
+                    : found.known->relevant(app_, *app_.gAVDoc, relation, kinds, guid);
 }
 
 std::optional<LoadedFields> FolderScans::takeFields(const std::string& guid, ObjectKind kind) {
@@ -54,7 +72,9 @@ std::optional<LoadedFields> FolderScans::takeFields(const std::string& guid, Obj
   const std::string folder = folderOf(path);
   const auto known = folders_.find(folder);
   if (known == folders_.end()) return std::nullopt;
-  return known->second.scan.takeFields(path.substr(folder.size()), kind);
+  const std::string name = path.substr(folder.size());
+  return known->second.scan ? known->second.scan->takeFields(name, kind)
+                            : known->second.known->takeFields(name, kind);
 }
 
 std::optional<FileStamp> FolderScans::goodPicture(const std::string& path) const {
@@ -64,13 +84,14 @@ std::optional<FileStamp> FolderScans::goodPicture(const std::string& path) const
 
 std::vector<std::string> FolderScans::relativesOfRest(const std::string& folder) const {
   const auto known = folders_.find(withSeparator(strAbsolutePath(folder)));
-  return known == folders_.end() ? std::vector<std::string>()
-                                 : known->second.scan.relativesOfRest();
+  if (known == folders_.end() || !known->second.scan) return {};
+  return known->second.scan->relativesOfRest();
 }
 
 bool FolderScans::checkConsistency() const {
   for (const auto& [path, folder] : folders_) {
-    if (!folder.scan.checkConsistency()) return false;
+    if (folder.scan && !folder.scan->checkConsistency()) return false;
+    if (folder.known && !folder.known->checkConsistency()) return false;
   }
   return true;
 }

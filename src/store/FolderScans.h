@@ -8,6 +8,7 @@
 
 #include "schema/SchemaFile.h"
 #include "store/FolderScan.h"
+#include "store/KnownFolder.h"
 
 namespace velra {
 
@@ -16,8 +17,8 @@ class ApplicationModule;
 /// The folders that searches for objects of a document look through, and how long what is known of
 /// them counts. Within an opening a folder is listed by the first search in it and taken for
 /// unchanged from then on; the fields that were read ahead wait for the objects that will be made
-/// of the files. Outside of one, each search lists its folder anew, and reads again what has
-/// changed since.
+/// of the files. A search outside of one is an opening of its own, which learns what has come, gone
+/// and changed in a folder that an earlier one has read.
 class FolderScans {
  public:
   explicit FolderScans(ApplicationModule& app) : app_(app) {}
@@ -39,8 +40,12 @@ class FolderScans {
   /// How many files a folder has that this opening will read, if it searches there.
   std::size_t filesIn(const std::string& folder);
 
-  /// What is known of a folder's files now; kNoObject without an open document.
-  FolderScan& of(const std::string& folder);
+  /// The files of a folder that a search for objects of the kinds pointing at an identifier has to
+  /// look at, in the order of their names: those that point at it, and those that cannot be read.
+  /// Good until the next call. kNoObject without an open document.
+  std::vector<const ScannedFile*> relevant(const std::string& folder, Relation relation,
+                                           const std::vector<ObjectKind>& kinds,
+                                           const std::string& guid);
 
   /// The fields of a file that the opening has read already; nothing when it has to be read.
   std::optional<LoadedFields> takeFields(const std::string& guid, ObjectKind kind);
@@ -61,11 +66,13 @@ class FolderScans {
 
  private:
   struct Folder {
-    FolderScan scan;
-    unsigned listedIn = 0;  // the opening that has listed it
+    std::unique_ptr<FolderScan> scan;    // while an opening reads all of it, from its listing on
+    std::unique_ptr<KnownFolder> known;  // after that
+    unsigned lookedAtIn = 0;             // the opening that knows it as it is
   };
 
-  Folder& knownFolder(const std::string& path);
+  Folder& folderAt(const std::string& path);
+  void lookAt(Folder& folder);
 
   ApplicationModule& app_;
   std::map<std::string, Folder> folders_;  // by normal form

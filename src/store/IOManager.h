@@ -22,7 +22,7 @@ class ApplicationModule;
 class DocumentRescue;
 class ObjectRegistry;
 
-/// Writes and deletes object files and reads them; `FolderScan` reads those of a search. One
+/// Writes and deletes object files and reads them; `FolderScans` read those of a search. One
 /// instance belongs to one open document and is shared by all of its objects; its end deletes the
 /// files of removed objects. A server was foreseen as a second back end and is not there: with
 /// `bFileSystem` false the operations do nothing.

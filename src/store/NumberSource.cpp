@@ -58,7 +58,8 @@ std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix
       gap = family.gaps.erase(gap);
     } else if (fileTaken(path)) {
       // Within a listing files neither come nor go, so the gap is closed for good.
-      gap = listedFolder_.empty() ? std::next(gap) : family.gaps.erase(gap);
+      if (listedFolder_.empty()) family.filled.insert(*gap);
+      gap = family.gaps.erase(gap);
     } else {
       return path;
     }
@@ -69,6 +70,7 @@ std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix
 std::string NumberSource::take(const std::string& prefix, const std::string& suffix) {
   Family& family = families_[{prefix, suffix}];
   if (family.key.empty()) family.key = strAbsolutePath(prefix);
+  if (listedFolder_.empty()) takeNews(family);
   std::string path = takeFromGaps(family, prefix, suffix);
   if (!path.empty()) return path;
   for (; family.frontier <= kHighestNumber; pass(family, suffix)) {
@@ -80,6 +82,19 @@ std::string NumberSource::take(const std::string& prefix, const std::string& suf
   raise(kOverflow);
 }
 
+// The files of removed objects lie in their gaps by the thousand.
+void NumberSource::takeNews(const Family& family) {
+  const std::string folder = folderOf(family.key);
+  if (folder != watchedFolder_) watch_.emplace(folder);
+  const auto news = folder == watchedFolder_ ? watch_->take() : std::nullopt;
+  watchedFolder_ = folder;
+  if (news) {
+    for (const std::string& name : *news) freed(pathKey(folder + name));
+    return;
+  }
+  for (auto& [name, any] : families_) any.gaps.merge(any.filled);
+}
+
 void NumberSource::pass(Family& family, const std::string& suffix) {
   const int number = family.frontier++;
   family.passed.emplace(pathKey(family.key + std::to_string(number) + suffix), number);
@@ -88,7 +103,9 @@ void NumberSource::pass(Family& family, const std::string& suffix) {
 void NumberSource::freed(PathKey key) {
   for (auto& [name, family] : families_) {
     const auto number = family.passed.find(key);
-    if (number != family.passed.end()) family.gaps.insert(number->second);
+    if (number == family.passed.end()) continue;
+    family.filled.erase(number->second);
+    family.gaps.insert(number->second);
   }
 }
 
@@ -97,7 +114,8 @@ bool NumberSource::checkConsistency() const {
     for (int number = 1; number < family.frontier; ++number) {
       const std::string path = name.first + std::to_string(number) + name.second;
       const bool taken = objects_.find(path) || (!listedFolder_.empty() && fileTaken(path));
-      if (!taken && !family.gaps.contains(number)) return false;
+      const bool asked = family.gaps.contains(number) || family.filled.contains(number);
+      if (!taken && !asked) return false;
     }
   }
   return true;

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
 
+#include "platform/files/FolderWatch.h"
 #include "store/PathKey.h"
 
 namespace velra {
@@ -15,7 +17,8 @@ class ObjectRegistry;
 
 /// Finds the lowest free number for a new file of a class. A number is taken when an object of the
 /// registry has the path as its identifier or a file of the path exists. Each call
-/// counts from 1; what is kept here only saves asking again what is known to be taken by an object.
+/// counts from 1; what is kept here only saves asking again what is known to be taken by an object,
+/// or by a file in a folder that is watched.
 class NumberSource {
  public:
   explicit NumberSource(ObjectRegistry& objects) : objects_(objects) {}
@@ -51,18 +54,22 @@ class NumberSource {
 
  private:
   struct Family {
-    std::string key;   // the normal form of the prefix
-    int frontier = 1;  // every number below is taken by an object, but for the gaps
-    std::set<int> gaps;
+    std::string key;       // the normal form of the prefix
+    int frontier = 1;      // every number below is taken by an object, but for the gaps
+    std::set<int> gaps;    // numbers to be asked for again
+    std::set<int> filled;  // by files, as far as the watch has told
     std::unordered_map<PathKey, int> passed;  // the numbers below, by their paths
   };
 
   bool fileTaken(const std::string& path) const;
+  void takeNews(const Family& family);
   static void pass(Family& family, const std::string& suffix);
   std::string takeFromGaps(Family& family, const std::string& prefix, const std::string& suffix);
 
   ObjectRegistry& objects_;
   std::map<std::pair<std::string, std::string>, Family> families_;
+  std::string watchedFolder_;  // of the watch
+  std::optional<FolderWatch> watch_;
   std::string listedFolder_;
   std::unordered_set<std::string> listedNames_;
 };

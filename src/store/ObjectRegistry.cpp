@@ -39,7 +39,7 @@ bool ObjectRegistry::Remove(const RegisteredObject& object) {
   objects_.remove(number);
   kept->place_ = {};
   kept->setObjectListener(nullptr);
-  numbers_.freed(key);
+  departed(key);
   return true;
 }
 
@@ -120,6 +120,16 @@ RegisteredRef ObjectRegistry::find(const std::string& guid) {
   return firstAt(strAbsolutePath(guid));
 }
 
+bool ObjectRegistry::isTaken(PathKey key) {
+  rekeyAfterFolderChange();
+  return byKey_.contains(key);
+}
+
+void ObjectRegistry::departed(PathKey key) {
+  ++departures_;
+  numbers_.freed(key);
+}
+
 std::size_t ObjectRegistry::positionOf(const std::string& guid) {
   const RegisteredRef found = find(guid);
   std::size_t position = 0;
@@ -141,7 +151,7 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   unindex(object);
   object.place_.key = key;
   byKey_.emplace(key, object.place_.number);
-  numbers_.freed(old);
+  departed(old);
 }
 
 void ObjectRegistry::unindex(const RegisteredObject& object) {

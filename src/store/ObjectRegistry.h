@@ -46,6 +46,11 @@ class ObjectRegistry : private ObjectListener {
   /// The first object whose identifier is the same path; null when there is none.
   RegisteredRef find(const std::string& guid);
 
+  /// Whether an object has an identifier with this number; one that shares the number counts.
+  bool isTaken(PathKey key);
+  /// How often an identifier has gone out of use, by a removal or a new name.
+  std::uint64_t departures() const { return departures_; }
+
   /// Its position from 1; 0 when there is none.
   std::size_t positionOf(const std::string& guid);
 
@@ -78,6 +83,7 @@ class ObjectRegistry : private ObjectListener {
   /// Gives the object the key of its identifier; the one that it had goes out of use.
   void rekey(RegisteredObject& object);
   void unindex(const RegisteredObject& object);
+  void departed(PathKey key);
   RegisteredRef firstAt(const std::string& path) const;
   bool holds(const RegisteredObject& object) const;
 
@@ -87,6 +93,7 @@ class ObjectRegistry : private ObjectListener {
   std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since
   ReferenceIndex references_{*this};
   NumberSource numbers_{*this};
+  std::uint64_t departures_ = 0;
   unsigned folderGeneration_ = 0;
 };
 

@@ -31,7 +31,7 @@ std::string ParentFinder::strGetParentGUID(const std::string& strGUID, ObjectKin
   for (const ParentRule& rule : kParents) {
     if (kind != rule.kind) continue;
     const auto found =
-        colScanRelatives(app_, scans_, strGUID, kind, FolderScan::Relation::Own, {rule.parentKind});
+        colScanRelatives(app_, scans_, strGUID, kind, Relation::Own, {rule.parentKind});
     // Two parents that claim a child leave it without one.
     return found.size() == 1 ? found.front().strGUID : std::string();
   }

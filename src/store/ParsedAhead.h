@@ -30,6 +30,7 @@ class ParsedAhead {
   };
   struct File {
     FileStamp stamp;  // before it was read
+    bool otherNames = false;
     bool known = false;
     bool parsed = false;  // else the document has the reason
     XmlDocument document;

@@ -162,6 +162,7 @@ void ReadersAhead::fill(std::size_t place, Slot& slot) {
 void ReadersAhead::parse(const Wanted& wanted, const FileBytes& read, File& file) const {
   // Where the file could not be opened there may be one all the same.
   file.stamp = read.stamp.exists ? read.stamp : fileStamp(wanted.path);
+  file.otherNames = read.otherNames;
   file.parsed = file.document.load(wanted.path, read);
   const std::string path = file.parsed && pictureOf_ ? pictureOf_(file.document) : std::string();
   if (path.empty()) return;

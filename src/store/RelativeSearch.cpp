@@ -19,7 +19,7 @@ namespace {
 
 /// What a search asks of each file of the folder.
 struct Question {
-  FolderScan::Relation relation;
+  Relation relation;
   std::vector<ObjectKind> wanted;
   ObjectKind kind;  // of the object that is pointed at
   std::string strGUID;
@@ -27,7 +27,7 @@ struct Question {
 
 bool bRelated(const DescribedObject& object, const Question& question) {
   const auto* expression = as<const Expression>(&object);
-  if (question.relation == FolderScan::Relation::PartOf && expression) {
+  if (question.relation == Relation::PartOf && expression) {
     return expression->bCheckIfSubExpression(question.kind, question.strGUID);
   }
   return object.bCheckIfOwnRelative(question.kind, question.strGUID);
@@ -56,19 +56,16 @@ bool considerFile(ApplicationModule& app, const std::string& path, const Scanned
 
 std::vector<ObjRecord> colScanRelatives(ApplicationModule& app, FolderScans& scans,
                                         const std::string& strGUID, ObjectKind kind,
-                                        FolderScan::Relation relation,
-                                        const std::vector<ObjectKind>& wanted) {
+                                        Relation relation, const std::vector<ObjectKind>& wanted) {
   std::string folder;
   const std::string ownName = strSplitPath(strGUID, folder);
   if (wanted.front() == ObjectKind::AVDocument) folder += "../";
   const Question question{relation, wanted, kind, strGUID};
-  const FolderScan& scan = scans.of(folder);
   std::vector<ObjRecord> records;
-  for (const std::size_t offset : scan.relevant(relation, wanted, strGUID)) {
-    const ScannedFile& file = scan.file(offset);
-    if (std::string_view(file.name).substr(0, file.name.rfind('.')) == ownName) continue;
+  for (const ScannedFile* file : scans.relevant(folder, relation, wanted, strGUID)) {
+    if (std::string_view(file->name).substr(0, file->name.rfind('.')) == ownName) continue;
     ObjRecord record;
-    if (considerFile(app, folder + file.name, file, question, record)) {
+    if (considerFile(app, folder + file->name, *file, question, record)) {
       records.push_back(std::move(record));
     }
   }

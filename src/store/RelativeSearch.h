@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "store/FolderScan.h"
 #include "store/ObjRecord.h"
+#include "store/ScannedFile.h"
 
 namespace velra {
 
@@ -17,7 +17,6 @@ class FolderScans;
 /// none upward. In the order of the folder; broken files are reported in boxes.
 std::vector<ObjRecord> colScanRelatives(ApplicationModule& app, FolderScans& scans,
                                         const std::string& strGUID, ObjectKind kind,
-                                        FolderScan::Relation relation,
-                                        const std::vector<ObjectKind>& wanted);
+                                        Relation relation, const std::vector<ObjectKind>& wanted);
 
 }  // namespace velra

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/ScannedFile.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "platform/xml/XmlDocument.h"
 #include "protocol/ClassRules.h"
+#include "protocol/MainWindow.h"
 #include "protocol/OpenDocument.h"
 #include "schema/SchemaFile.h"
 
@@ -47,8 +50,7 @@ void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocumen
   file.fields = std::move(fields);
 }
 
-}  // namespace
-
+// The absolute path of the picture of the key frame that a file names; "" for none.
 std::string keyFrameNamedBy(const XmlDocument& parsed) {
   const XmlNode root = parsed.documentElement();
   if (root.baseName() != classNameOf(ObjectKind::Video)) return {};
@@ -60,20 +62,11 @@ std::string keyFrameNamedBy(const XmlDocument& parsed) {
   return {};
 }
 
-ScannedFile answerOf(const RegisteredObject& loaded, std::string name) {
+ScannedFile contentOf(ApplicationModule& app, OpenDocument& document,
+                      const ParsedAhead::File& read) {
   ScannedFile file;
-  file.name = std::move(name);
-  file.kind = loaded.kind();
-  const auto* described = as<const DescribedObject>(&loaded);
-  if (described) noteRelations(described->secol(), rulesOf(described->kind()), file);
-  return file;
-}
-
-ScannedFile contentOf(ApplicationModule& app, OpenDocument& document, const ParsedAhead::File& read,
-                      std::string name) {
-  ScannedFile file;
-  file.name = std::move(name);
   file.stamp = read.stamp;
+  file.otherNames = read.otherNames;
   if (read.parsed) {
     file.kind = kindOfRoot(read.document.documentElement().baseName());
     if (file.kind) readFields(app, document, read.document, rulesOf(*file.kind), file);
@@ -81,6 +74,52 @@ ScannedFile contentOf(ApplicationModule& app, OpenDocument& document, const Pars
     file.reason = read.document.reason();
   }
   return file;
+}
+
+}  // namespace
+
+bool ScannedFile::pointsAt(Relation relation, const std::string& path) const {
+  if (relation == Relation::PartOf) return partOf == path;
+  return std::find(ownRelatives.begin(), ownRelatives.end(), path) != ownRelatives.end();
+}
+
+std::uint64_t relationKey(Relation relation, ObjectKind kind, std::string_view path) {
+  constexpr std::size_t kKinds = 16;
+  const auto which = 2 * static_cast<std::size_t>(kind) + static_cast<std::size_t>(relation);
+  return std::hash<std::string_view>{}(path) * (2 * kKinds) + which;
+}
+
+void forEachRelation(const ScannedFile& file, const std::function<void(std::uint64_t)>& call) {
+  if (!file.kind) return;
+  for (const std::string& path : file.ownRelatives) {
+    call(relationKey(Relation::Own, *file.kind, path));
+  }
+  if (!file.partOf.empty()) call(relationKey(Relation::PartOf, *file.kind, file.partOf));
+}
+
+ScannedFile answerOf(const RegisteredObject& loaded) {
+  ScannedFile file;
+  file.kind = loaded.kind();
+  const auto* described = as<const DescribedObject>(&loaded);
+  if (described) noteRelations(described->secol(), rulesOf(described->kind()), file);
+  return file;
+}
+
+void readScanned(ApplicationModule& app, OpenDocument& document,
+                 std::vector<ParsedAhead::Wanted> files, PictureStamps* pictures,
+                 const std::function<void(std::size_t, ScannedFile)>& came) {
+  ParsedAhead::Calls calls;
+  if (pictures) calls.pictureOf = keyFrameNamedBy;
+  if (app.gMainForm) calls.waits = [&app] { app.gMainForm->workWaits(); };
+  const std::size_t count = files.size();
+  ParsedAhead ahead(std::move(files), std::move(calls));
+  for (std::size_t place = 0; place < count; ++place) {
+    const ParsedAhead::File& read = ahead.take();
+    if (read.known) continue;
+    if (app.gMainForm) app.gMainForm->workSteps();
+    if (read.picture) pictures->insert_or_assign(read.picture->path, read.picture->stamp);
+    came(place, contentOf(app, document, read));
+  }
 }
 
 }  // namespace velra

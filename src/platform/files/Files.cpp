@@ -52,10 +52,12 @@ bool fits(std::string_view name, std::string_view pattern) {
 }
 
 /// The listing mostly tells the kind; links and some file systems need a question.
+bool mayBeLink(const dirent& entry) {
+  return entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
+}
+
 bool isPlainFile(const dirent& entry, const std::string& folder) {
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type == DT_REG;
-  struct stat status {};
-  return ::stat((folder + entry.d_name).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  return mayBeLink(entry) ? bPlainFileExists(folder + entry.d_name) : entry.d_type == DT_REG;
 }
 
 FolderListing entriesOf(const std::string& folder,
@@ -87,11 +89,11 @@ FileBytes readUpTo(const std::string& path, std::uint64_t limit, std::uint64_t m
   const FileHandle file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
   struct stat status {};
   if (!file || ::fstat(file.number(), &status) != 0) return {{}, systemReason(errno)};
-  FileBytes read{{}, refusal(status, limit), stampOf(status)};
+  FileBytes read{{}, refusal(status, limit), stampOf(status), status.st_nlink > 1};
   if (!read.reason.empty()) return read;
   const auto size = std::min(static_cast<std::uint64_t>(status.st_size), most);
   const int error = readAll(file, static_cast<std::size_t>(size), read.bytes);
-  if (error) read = {{}, systemReason(error), read.stamp};
+  if (error) read = {{}, systemReason(error), read.stamp, read.otherNames};
   return read;
 }
 
@@ -107,6 +109,16 @@ bool bFolderExists(const std::string& path) {
   return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool bPlainFileExists(const std::string& path) {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+bool bLinkExists(const std::string& path) {
+  struct stat status {};
+  return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 bool bSomethingAt(const std::string& path) {
   struct stat status {};
   return ::lstat(path.c_str(), &status) == 0;
@@ -119,9 +131,13 @@ std::vector<std::string> colListFiles(const std::string& pattern) {
 FolderListing listFiles(const std::string& pattern) {
   const std::string folder = folderOf(pattern);
   const std::string_view namePattern = std::string_view(pattern).substr(pattern.rfind('/') + 1);
+  bool links = false;
   FolderListing found = entriesOf(folder, [&](const dirent& entry) {
-    return fits(entry.d_name, namePattern) && isPlainFile(entry, folder);
+    const bool wanted = fits(entry.d_name, namePattern) && isPlainFile(entry, folder);
+    links = links || (wanted && mayBeLink(entry));
+    return wanted;
   });
+  found.links = links;
   std::sort(found.names.begin(), found.names.end());
   return found;
 }

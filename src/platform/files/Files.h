@@ -13,6 +13,10 @@ namespace velra {
 /// True for an existing file that is no folder.
 bool bFileExists(const std::string& path);
 bool bFolderExists(const std::string& path);
+/// True for a regular file, or a link to one: what a listing of files holds.
+bool bPlainFileExists(const std::string& path);
+/// True for a link, wherever it leads.
+bool bLinkExists(const std::string& path);
 /// True when a new file cannot have the path: also for a folder, and a link that leads nowhere.
 bool bSomethingAt(const std::string& path);
 
@@ -29,14 +33,16 @@ std::vector<std::string> namesIn(const std::string& folder);
 struct FolderListing {
   std::vector<std::string> names;
   std::string reason;  // empty on success, and when there is no such folder
+  bool links = false;  // whether any of them may be a link to a file elsewhere
 };
 FolderListing listFiles(const std::string& pattern);
 
 /// The bytes of a regular file, or one sentence that tells why not.
 struct FileBytes {
   std::string bytes;
-  std::string reason;    // empty on success
-  FileStamp stamp = {};  // of what was opened; of no file when that failed
+  std::string reason;       // empty on success
+  FileStamp stamp = {};     // of what was opened; of no file when that failed
+  bool otherNames = false;  // whether it had another name besides, which may stand in any folder
 };
 /// Refuses folders, pipes and devices, empty files and files above the limit.
 FileBytes readFile(const std::string& path, std::uint64_t limit = 1'000'000'000);
