@@ -5,17 +5,16 @@
 
 #include "app/ApplicationModule.h"
 #include "objects/AVDocument.h"
-#include "objects/PaintedWait.h"
 #include "objects/PlannedSave.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "protocol/LongWork.h"
 #include "protocol/MainWindow.h"
+#include "objects/PaintedWait.h"
 #include "protocol/VideoExpression.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
-#include "store/RemovedFiles.h"
 
 namespace velra {
 
@@ -77,7 +76,7 @@ bool DocumentSave::bWriteAll() {
   if (files > kManyFiles) work.emplace(app_.gMainForm, files);
   SavePoint before(objects_.changedObjects());
   std::optional<PlannedSave> planned;
-  const auto plan = [&] { planned.emplace(io_, objects_.changedObjects(), filesToRemove()); };
+  const auto plan = [&] { planned.emplace(io_, objects_.changedObjects(), removals()); };
   work ? paintedWait(app_.gMainForm, plan) : plan();
   if (!bSaveAllObjects()) return bRefused(app_, {});
   const bool saved = document_.bSaveOwnFile();
@@ -89,23 +88,22 @@ bool DocumentSave::bWriteAll() {
     return bRefused(app_, failure + " (" + document_.strGUID() + ")");
   }
   if (!saved) return false;  // the document on the disk may still name what was removed
-  for (const std::string& guid : document_.colObjRemoved()) io_.RemoveGUID(guid);
-  io_.keepFilesOf(objects_);
+  io_.removed().addNoted();
+  io_.removed().keepFilesOf(objects_);
   planned->finished();
   document_.unsavedWork().saved(objects_);
   return true;
 }
 
-// As they will be when the next save is done.
-std::vector<std::string> DocumentSave::filesToRemove() {
-  RemovedFiles removed;
-  for (const std::string& guid : io_.colGUIDToRemove()) removed.add(guid);
-  for (const std::string& guid : document_.colObjRemoved()) {
-    // What lies under a name that was never written is another program's.
-    if (!io_.names().isPromised(guid)) removed.add(guid);
-  }
-  removed.keepFilesOf(objects_);
-  return removed.identifiers();
+// As they will be when the save is done. What lies under a name that was never written is another
+// program's.
+PlannedRemovals::Change DocumentSave::removals() {
+  RemovedFiles& removed = io_.removed();
+  removed.note(document_.colObjRemoved());
+  const std::vector<bool>& needed = removed.needed(objects_);
+  return io_.plannedRemovals().changeTo(needed.size(), [&](std::size_t place) {
+    return !needed[place] && !io_.names().isPromised(removed.all()[place]);
+  });
 }
 
 }  // namespace velra

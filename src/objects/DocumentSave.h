@@ -2,7 +2,8 @@
 #pragma once
 
 #include <string>
-#include <vector>
+
+#include "store/PlannedRemovals.h"
 
 namespace velra {
 
@@ -28,7 +29,7 @@ class DocumentSave {
   void renumber(DescribedObject& object);
   bool bSaveAllObjects();
   bool bWriteAll();
-  std::vector<std::string> filesToRemove();
+  PlannedRemovals::Change removals();
 
   ApplicationModule& app_;
   AVDocument& document_;

@@ -79,7 +79,7 @@ std::string ObjectBase::loadFields(const std::string& guid) {
     secol_ = std::move(loaded->secol);
     domDoc_ = std::move(loaded->domDoc);
     domSchema_ = std::move(loaded->domSchema);
-    io_->guard().noteContent(strAbsolutePath(guid), loaded->print);
+    io_->guard().noteContent(strAbsolutePath(guid), loaded->print, loaded->stamp);
     return {};
   }
   if (app_.gMainForm) app_.gMainForm->workSteps();

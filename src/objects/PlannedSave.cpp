@@ -44,8 +44,11 @@ void addToPlan(const RegisteredObject& object, IOManager& io, SavePlan& plan) {
 }  // namespace
 
 PlannedSave::PlannedSave(IOManager& io, const RegisteredList& objects,
-                         const std::vector<std::string>& removals)
-    : rescue_(storeOf(io)) {
+                         PlannedRemovals::Change removals)
+    : rescue_(storeOf(io)),
+      known_(io.plannedRemovals()),
+      change_(std::move(removals)),
+      toldNowhere_(!io.rescue()) {
   SavePlan all;
   const RegisteredObject* document = nullptr;
   for (const RegisteredRef& object : objects) {
@@ -56,20 +59,24 @@ PlannedSave::PlannedSave(IOManager& io, const RegisteredList& objects,
     }
   }
   if (document) addToPlan(*document, io, all);
-  for (const std::string& guid : removals) {
-    const std::string path = strAbsolutePath(guid);
-    if (!io.guard().mayDelete(path)) continue;
-    io.guard().spare(path, rescue_);
-    all.removals.push_back({path, fileStamp(path)});
+  const auto pathAt = [&](std::size_t place) { return strAbsolutePath(io.removed().all()[place]); };
+  for (const std::size_t place : change_.more) {
+    std::string path = pathAt(place);
+    const auto stamp = io.guard().goes(path, rescue_);
+    if (stamp) all.removals.push_back({std::move(path), *stamp});
   }
+  all.addsRemovals = !change_.all;
+  for (const std::size_t place : change_.stays) all.stays.push_back(pathAt(place));
   if (rescue_) planned_ = rescue_->plan(all).empty();
+  if (rescue_ && !planned_) known_.forget();
 }
 
 PlannedSave::PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made)
-    : rescue_(storeOf(io)), copies_(true) {
+    : rescue_(storeOf(io)), known_(io.plannedRemovals()), copies_(true) {
   if (!rescue_) return;
   try {
     planned_ = rescue_->plan(CopyPlan{plannedFile(document, io), std::move(made)}).empty();
+    if (!planned_) known_.forget();
   } catch (const RunTimeError&) {
     return;  // as above
   }
@@ -80,6 +87,7 @@ PlannedSave::~PlannedSave() {
 }
 
 void PlannedSave::finished() {
+  if (!copies_ && (planned_ || toldNowhere_)) known_.told(change_);
   if (!rescue_) return;
   if (planned_ && !copies_) {
     rescue_->finishSave();

@@ -7,6 +7,7 @@
 
 #include "protocol/RegisteredObject.h"
 #include "rescue/RescueRecords.h"
+#include "store/PlannedRemovals.h"
 
 namespace velra {
 
@@ -19,10 +20,9 @@ class IOManager;
 /// the files since is kept there too.
 class PlannedSave {
  public:
-  /// The objects that will be written, the document among them, and the files that go when it is
-  /// closed.
-  PlannedSave(IOManager& io, const RegisteredList& objects,
-              const std::vector<std::string>& removals);
+  /// The objects that will be written, the document among them, and what changes in the files that
+  /// go when it is closed.
+  PlannedSave(IOManager& io, const RegisteredList& objects, PlannedRemovals::Change removals);
   /// A save under another name, by which the document goes already, and what it makes beside it.
   PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
   PlannedSave(const PlannedSave&) = delete;
@@ -36,9 +36,12 @@ class PlannedSave {
 
  private:
   DocumentRescue* rescue_;  // null: nothing is to be told any more
+  PlannedRemovals& known_;
+  PlannedRemovals::Change change_;
   // A store that fails does not keep the files from being written.
   bool planned_ = false;
   bool copies_ = false;
+  bool toldNowhere_ = false;  // there is no store
   int errors_ = std::uncaught_exceptions();
 };
 

@@ -10,11 +10,11 @@
 #include "objects/DocumentSave.h"
 #include "objects/MediaObject.h"
 #include "objects/OrderedSave.h"
-#include "objects/PaintedWait.h"
 #include "objects/SavePoint.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "protocol/LongWork.h"
+#include "objects/PaintedWait.h"
 #include "protocol/VideoExpression.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
@@ -70,7 +70,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
     bRefused(app_, failure + " (" + strAVDocPathName + ")");
     return Outcome::NotSynced;
   }
-  io_.keepFilesOf(objects_);
+  io_.removed().keepFilesOf(objects_);
   planned_->finished();
   document_.unsavedWork().saved(objects_);
   return Outcome::Done;

@@ -58,6 +58,9 @@ struct PlannedRemoval {
 struct SavePlan {
   std::vector<PlannedFile> files;  // in the order of writing
   std::vector<PlannedRemoval> removals;
+  /// What earlier saves of the session have planned to go is to go as well, but for these paths.
+  bool addsRemovals = false;
+  std::vector<std::string> stays = {};
 };
 
 /// A file that a save under another name makes where none was.

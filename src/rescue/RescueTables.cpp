@@ -5,7 +5,7 @@ namespace velra {
 
 namespace {
 
-constexpr int kFormat = 3;
+constexpr int kFormat = 4;
 
 // `changed` of a session is the time of its last change.
 constexpr const char* kWorkTables = R"(
@@ -24,9 +24,10 @@ constexpr const char* kWorkTables = R"(
   CREATE INDEX replaced_of_session ON replaced(session);
 )";
 
-// `blocks` tells what a planned file writes over. A planned removal is of a save that has not been
-// finished. A file that is made has been moved, or comes from nowhere; all of a save stand in one
-// row, each path with a zero byte behind it, and without the folder when it is in that.
+// `blocks` tells what a planned file writes over. Removals are due, or of a save that has not been
+// finished, or not to be due any more when it is (`RemovalRows`). A file that is made has
+// been moved, or comes from nowhere. All removals and all files made of a save stand in one row,
+// each path with a zero byte behind it, and without the folder when it is in that.
 constexpr const char* kPlanTables = R"(
   DROP TABLE IF EXISTS planned;
   DROP TABLE IF EXISTS removal;
@@ -36,9 +37,9 @@ constexpr const char* kPlanTables = R"(
     path TEXT NOT NULL, bytes BLOB NOT NULL, size INTEGER NOT NULL, modified INTEGER NOT NULL,
     inode INTEGER NOT NULL, blocks BLOB NOT NULL, PRIMARY KEY(session, position));
   CREATE TABLE removal(
-    session INTEGER NOT NULL REFERENCES session ON DELETE CASCADE, path TEXT NOT NULL,
-    planned INTEGER NOT NULL, size INTEGER NOT NULL, modified INTEGER NOT NULL,
-    inode INTEGER NOT NULL, PRIMARY KEY(session, path, planned));
+    session INTEGER NOT NULL REFERENCES session ON DELETE CASCADE,
+    planned INTEGER NOT NULL, folder TEXT NOT NULL, paths BLOB NOT NULL, stamps BLOB NOT NULL);
+  CREATE INDEX removal_of_session ON removal(session);
   CREATE TABLE made(
     session INTEGER PRIMARY KEY REFERENCES session ON DELETE CASCADE, folder TEXT NOT NULL,
     paths BLOB NOT NULL, moved_from BLOB NOT NULL);

@@ -3,9 +3,10 @@
 
 #include <utility>
 
-#include "base/Paths.h"
 #include "base/Text.h"
 #include "platform/database/Database.h"
+#include "rescue/PathRow.h"
+#include "rescue/RemovalRows.h"
 #include "rescue/RescueTables.h"
 
 namespace velra {
@@ -17,8 +18,9 @@ void SavePlans::runAll(SessionId session, std::initializer_list<const char*> sta
 }
 
 void SavePlans::drop(SessionId session) {
-  runAll(session, {"DELETE FROM planned WHERE session = ?1", "DELETE FROM made WHERE session = ?1",
-                   "DELETE FROM removal WHERE session = ?1 AND planned = 1"});
+  runAll(session,
+         {"DELETE FROM planned WHERE session = ?1", "DELETE FROM made WHERE session = ?1"});
+  RemovalRows(database_).drop(session);
 }
 
 void SavePlans::insert(SessionId session, const std::vector<PlannedFile>& files) {
@@ -30,21 +32,18 @@ void SavePlans::insert(SessionId session, const std::vector<PlannedFile>& files)
   }
 }
 
-// One row for all: as many rows as files would cost a tenth of the whole save. What most paths
-// begin with is more than half of them.
 void SavePlans::insert(SessionId session, const std::vector<MadeFile>& made) {
   if (made.empty()) return;
-  const std::string folder = folderOf(made.front().path);
-  std::string paths;
+  PathRow row;
   std::string movedFrom;
   for (const MadeFile& file : made) {
-    paths.append(file.path, file.path.starts_with(folder) ? folder.size() : 0) += '\0';
+    row.add(file.path);
     (movedFrom += file.movedFrom) += '\0';
   }
   database_.prepare("INSERT INTO made VALUES(?1, ?2, ?3, ?4)")
       .number(1, session)
-      .text(2, folder)
-      .bytes(3, paths)
+      .text(2, row.folder)
+      .bytes(3, row.paths)
       .bytes(4, movedFrom)
       .run();
 }
@@ -53,11 +52,7 @@ void SavePlans::planSave(SessionId session, const SavePlan& plan) {
   Transaction transaction(database_);
   drop(session);
   insert(session, plan.files);
-  Statement row = database_.prepare("INSERT OR IGNORE INTO removal VALUES(?1, ?2, 1, ?3, ?4, ?5)");
-  for (const PlannedRemoval& removal : plan.removals) {
-    row.number(1, session).text(2, removal.path);
-    bindStamp(row, 3, removal.stamp).run();
-  }
+  RemovalRows(database_).plan(session, plan);
   transaction.commit();
 }
 
@@ -72,9 +67,8 @@ void SavePlans::planCopy(SessionId session, const CopyPlan& plan) {
 void SavePlans::finishSave(SessionId session) {
   Transaction transaction(database_);
   runAll(session,
-         {"DELETE FROM planned WHERE session = ?1", "DELETE FROM object WHERE session = ?1",
-          "DELETE FROM removal WHERE session = ?1 AND planned = 0",
-          "UPDATE removal SET planned = 0 WHERE session = ?1"});
+         {"DELETE FROM planned WHERE session = ?1", "DELETE FROM object WHERE session = ?1"});
+  RemovalRows(database_).finish(session);
   transaction.commit();
 }
 
@@ -92,7 +86,7 @@ void SavePlans::abandon(SessionId session) {
 }
 
 SavePlans::Open SavePlans::open(SessionId session) {
-  SavePlan plan{files(session), removals(session, 1)};
+  SavePlan plan{files(session), RemovalRows(database_).dueThen(session)};
   CopyPlan copy{{}, made(session)};
   if (!copy.made.empty() && !plan.files.empty()) {
     copy.document = std::move(plan.files.front());
@@ -114,18 +108,8 @@ std::vector<PlannedFile> SavePlans::files(SessionId session) {
   return found;
 }
 
-std::vector<PlannedRemoval> SavePlans::removals(SessionId session, int planned) {
-  std::vector<PlannedRemoval> found;
-  Statement rows = database_.prepare(
-      "SELECT path, size, modified, inode FROM removal WHERE session = ?1 AND planned <= ?2"
-      " ORDER BY rowid");
-  rows.number(1, session).number(2, planned);
-  while (rows.next()) found.push_back({rows.text(0), stampFrom(rows, 1)});
-  return found;
-}
-
 std::vector<PlannedRemoval> SavePlans::dueRemovals(SessionId session) {
-  return removals(session, 0);
+  return RemovalRows(database_).due(session);
 }
 
 std::vector<MadeFile> SavePlans::made(SessionId session) {
@@ -134,18 +118,16 @@ std::vector<MadeFile> SavePlans::made(SessionId session) {
       database_.prepare("SELECT folder, paths, moved_from FROM made WHERE session = ?1");
   row.number(1, session);
   if (!row.next()) return found;
-  const std::string folder = row.text(0);
-  const std::vector<std::string> paths = split(row.text(1), '\0');
+  const std::vector<std::string> paths = PathRow{row.text(0), row.text(1)}.list();
   const std::vector<std::string> movedFrom = split(row.text(2), '\0');
   for (std::size_t i = 0; i < paths.size() && i < movedFrom.size(); ++i) {
-    if (paths[i].empty()) continue;
-    found.push_back({paths[i].starts_with('/') ? paths[i] : folder + paths[i], movedFrom[i]});
+    found.push_back({paths[i], movedFrom[i]});
   }
   return found;
 }
 
 void SavePlans::removalsDone(SessionId session) {
-  runAll(session, {"DELETE FROM removal WHERE session = ?1 AND planned = 0"});
+  RemovalRows(database_).done(session);
 }
 
 }  // namespace velra

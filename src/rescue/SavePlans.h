@@ -45,7 +45,6 @@ class SavePlans {
   void insert(SessionId session, const std::vector<PlannedFile>& files);
   void insert(SessionId session, const std::vector<MadeFile>& made);
   std::vector<PlannedFile> files(SessionId session);
-  std::vector<PlannedRemoval> removals(SessionId session, int planned);
   std::vector<MadeFile> made(SessionId session);
   void runAll(SessionId session, std::initializer_list<const char*> statements);
 

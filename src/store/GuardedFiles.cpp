@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/GuardedFiles.h"
 
+#include <array>
+#include <chrono>
+#include <cstring>
+
 #include "app/MessageCatalogue.h"
 #include "platform/files/ContentPrint.h"
 #include "platform/files/Files.h"
@@ -8,13 +12,32 @@
 
 namespace velra {
 
+namespace {
+
+// The times of files stand still for some milliseconds, so that a young one does not tell two
+// writes from one.
+constexpr std::chrono::seconds kYoung{1};
+
+std::uint64_t printOf(const FileStamp& stamp) {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  if (!stamp.exists || std::chrono::nanoseconds(stamp.modified) > now - kYoung) return 0;
+  const std::array<std::uint64_t, 4> parts{stamp.size, static_cast<std::uint64_t>(stamp.modified),
+                                           stamp.device, stamp.inode};
+  std::array<char, sizeof(parts)> bytes{};
+  std::memcpy(bytes.data(), parts.data(), bytes.size());
+  return contentPrint({bytes.data(), bytes.size()});
+}
+
+}  // namespace
+
 void GuardedFiles::setDocument(const std::string& path) {
   document_ = path;
   own_.emplace(path);
 }
 
-void GuardedFiles::noteContent(const std::string& path, std::uint64_t print) {
-  contents_.insert_or_assign(contentPrint(path), print);
+void GuardedFiles::noteContent(const std::string& path, std::uint64_t print,
+                               const FileStamp& stamp) {
+  contents_.insert_or_assign(contentPrint(path), Content{print, printOf(stamp)});
 }
 
 void GuardedFiles::noteStamp(const std::string& path, const FileStamp& stamp) {
@@ -23,17 +46,40 @@ void GuardedFiles::noteStamp(const std::string& path, const FileStamp& stamp) {
 
 void GuardedFiles::spare(const std::string& path, std::string_view bytes, DocumentRescue* rescue) {
   const auto known = contents_.find(contentPrint(path));
-  if (known == contents_.end() || bytes.empty()) return;
-  const std::uint64_t print = contentPrint(bytes);
-  if (print != known->second && bKept(path, bytes, rescue)) known->second = print;
+  if (known != contents_.end()) spare(path, bytes, known->second, rescue);
 }
 
-void GuardedFiles::spare(const std::string& path, DocumentRescue* rescue) {
+// True when these bytes are what is known, now at the latest.
+bool GuardedFiles::spare(const std::string& path, std::string_view bytes, Content& known,
+                         DocumentRescue* rescue) {
+  if (bytes.empty()) return false;
+  const std::uint64_t print = contentPrint(bytes);
+  if (print != known.print && bKept(path, bytes, rescue)) known = {print, 0};
+  return print == known.print;
+}
+
+std::optional<FileStamp> GuardedFiles::goes(const std::string& path, DocumentRescue* rescue) {
+  const FileStamp present = own_ ? own_->stampOfOwn(path) : fileStamp(path);
+  if (own_ && !present.exists && fileStamp(path).exists) {
+    left_.add(path);
+    return std::nullopt;
+  }
+  if (present.exists) spareBefore(path, present, rescue);
+  return present;
+}
+
+void GuardedFiles::spareBefore(const std::string& path, const FileStamp& present,
+                               DocumentRescue* rescue) {
   const std::uint64_t key = contentPrint(path);
-  if (contents_.contains(key)) return spare(path, readFile(path).bytes, rescue);
+  if (const auto content = contents_.find(key); content != contents_.end()) {
+    Content& held = content->second;
+    const std::uint64_t stamp = printOf(present);
+    if (stamp != 0 && stamp == held.stamp) return;
+    if (spare(path, readFile(path).bytes, held, rescue)) held.stamp = stamp;
+    return;
+  }
   const auto known = stamps_.find(key);
-  const FileStamp present = fileStamp(path);
-  if (known == stamps_.end() || !present.exists || present == known->second) return;
+  if (known == stamps_.end() || present == known->second) return;
   if (bKept(path, readFile(path).bytes, rescue)) known->second = present;
 }
 
@@ -51,12 +97,6 @@ std::string GuardedFiles::strWhyNotWrite(const std::string& path) {
   }
   outside_.add(path);
   return {};
-}
-
-bool GuardedFiles::mayDelete(const std::string& path) {
-  if (!own_ || own_->owns(path) || !fileStamp(path).exists) return true;
-  left_.add(path);
-  return false;
 }
 
 std::string GuardedFiles::strTakeNotes(const MessageCatalogue& messages) {

@@ -27,26 +27,34 @@ class GuardedFiles {
   /// A file that a person has chosen to be written over.
   void setChosen(const std::string& path) { chosen_ = path; }
 
-  /// What a file held when it was read, or written last: `contentPrint` of it.
-  void noteContent(const std::string& path, std::uint64_t print);
+  /// What a file held when it was read, or written last: `contentPrint` of it. As long as it has
+  /// the stamp that it had then, it need not be read again.
+  void noteContent(const std::string& path, std::uint64_t print, const FileStamp& stamp = {});
   /// The same for a picture, by its stamp alone: tens of thousands are not read to the end.
   void noteStamp(const std::string& path, const FileStamp& stamp);
 
   /// Keeps the bytes of a file that is to be written over or to go, when they are not what was read
   /// or written last. Without a store they cannot be kept.
   void spare(const std::string& path, std::string_view bytes, DocumentRescue* rescue);
-  /// The same for a file that is to go, whose bytes are read if something is known of it.
-  void spare(const std::string& path, DocumentRescue* rescue);
+  /// The same for a file that is to go. Its stamp; nothing for a file that does not belong to the
+  /// document and stays.
+  std::optional<FileStamp> goes(const std::string& path, DocumentRescue* rescue);
 
   /// Why a file may not be written, or "".
   std::string strWhyNotWrite(const std::string& path);
-  /// False for a file that does not belong to the document; one that is not there may be deleted.
-  bool mayDelete(const std::string& path);
 
   /// Sentences on all that was unusual since the last call, each file once; "" for nothing.
   std::string strTakeNotes(const MessageCatalogue& messages);
 
  private:
+  struct Content {
+    std::uint64_t print;
+    std::uint64_t stamp;  // a print of it, too; 0 when it is not known
+  };
+
+  void spareBefore(const std::string& path, const FileStamp& present, DocumentRescue* rescue);
+  bool spare(const std::string& path, std::string_view bytes, Content& known,
+             DocumentRescue* rescue);
   bool bKept(const std::string& path, std::string_view bytes, DocumentRescue* rescue);
 
   /// One kind of event, told in one sentence however many files there are.
@@ -69,7 +77,7 @@ class GuardedFiles {
   std::string document_;
   std::string chosen_;
   // By a print of the path, since a large document has many.
-  std::unordered_map<std::uint64_t, std::uint64_t> contents_;
+  std::unordered_map<std::uint64_t, Content> contents_;
   std::unordered_map<std::uint64_t, FileStamp> stamps_;
   Note kept_{false};
   Note lost_{false};

@@ -176,9 +176,7 @@ std::string IOManager::strSync() {
 // Removing an object must not reach what is not the document's.
 std::string IOManager::strDeleteRemoved(const std::string& strGUID) {
   const std::string path = strAbsolutePath(strGUID);
-  if (!guard_.mayDelete(path)) return {};
-  guard_.spare(path, rescue_.get());
-  return strDeleteFile(strGUID);
+  return guard_.goes(path, rescue_.get()) ? strDeleteFile(strGUID) : std::string();
 }
 
 std::string IOManager::strDeleteFile(const std::string& strGUID) {

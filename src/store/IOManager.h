@@ -13,6 +13,7 @@
 #include "store/FolderScans.h"
 #include "store/GuardedFiles.h"
 #include "store/NewFileNames.h"
+#include "store/PlannedRemovals.h"
 #include "store/RemovedFiles.h"
 #include "store/UnflushedFiles.h"
 
@@ -90,10 +91,11 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   void CopyObject(const std::string& source, const std::string& destination);
 
   /// Identifiers of the files to delete at the next strSync.
-  const std::vector<std::string>& colGUIDToRemove() const { return removed_.identifiers(); }
+  std::vector<std::string> colGUIDToRemove() const { return removed_.identifiers(); }
   void RemoveGUID(const std::string& strGUIDToRemove) { removed_.add(strGUIDToRemove); }
-  /// Takes the identifiers of living objects from the list.
-  void keepFilesOf(ObjectRegistry& collObjects) { removed_.keepFilesOf(collObjects); }
+  /// The same list, and what saves have planned of it.
+  RemovedFiles& removed() { return removed_; }
+  PlannedRemovals& plannedRemovals() { return planned_; }
   /// Deletes the files of removed objects. The identifiers that could not be deleted and the last
   /// reason, or "".
   std::string strSync();
@@ -138,6 +140,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   bool bReadsOnly_ = false;
   NewFileNames names_;
   RemovedFiles removed_;
+  PlannedRemovals planned_;
   GuardedFiles guard_;
   std::unique_ptr<FilesBehind> behind_;  // null when files are made at once
   FolderScans scans_;

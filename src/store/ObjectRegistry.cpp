@@ -23,6 +23,7 @@ void ObjectRegistry::Add(const RegisteredRef& object) {
   const PathKey key = pathKey(strAbsolutePath(object->strGUID()));
   object->place_ = {objects_.add(object), key};
   byKey_.emplace(key, object->place_.number);
+  ++arrivals_;
   object->setObjectListener(this);
   if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
   if (object->bChanged()) markedChanged(*object);
@@ -130,6 +131,11 @@ void ObjectRegistry::departed(PathKey key) {
   numbers_.freed(key);
 }
 
+std::uint64_t ObjectRegistry::arrivals() {
+  rekeyAfterFolderChange();
+  return arrivals_;
+}
+
 std::size_t ObjectRegistry::positionOf(const std::string& guid) {
   const RegisteredRef found = find(guid);
   std::size_t position = 0;
@@ -151,6 +157,7 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   unindex(object);
   object.place_.key = key;
   byKey_.emplace(key, object.place_.number);
+  ++arrivals_;
   departed(old);
 }
 

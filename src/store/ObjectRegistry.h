@@ -54,6 +54,9 @@ class ObjectRegistry : private ObjectListener {
   /// Its position from 1; 0 when there is none.
   std::size_t positionOf(const std::string& guid);
 
+  /// Changes whenever an object comes to an identifier, be it new here or renamed.
+  std::uint64_t arrivals();
+
   /// The number of an object in the sequence; 0 when it is not there.
   std::uint64_t numberOf(const RegisteredObject& object) const;
 
@@ -95,6 +98,7 @@ class ObjectRegistry : private ObjectListener {
   NumberSource numbers_{*this};
   std::uint64_t departures_ = 0;
   unsigned folderGeneration_ = 0;
+  std::uint64_t arrivals_ = 0;
 };
 
 }  // namespace velra

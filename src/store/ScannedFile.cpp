@@ -47,6 +47,7 @@ void readFields(ApplicationModule& app, OpenDocument& document, const XmlDocumen
   if (!file.message.empty()) return;
   noteRelations(*fields.secol, rules, file);
   fields.print = parsed.print();
+  fields.stamp = file.stamp;
   file.fields = std::move(fields);
 }
 

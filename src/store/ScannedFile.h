@@ -37,6 +37,7 @@ struct LoadedFields {
   InstanceDocument domDoc;
   std::shared_ptr<const SchemaFile> domSchema;
   std::uint64_t print = 0;  // of the file: `contentPrint`
+  FileStamp stamp;          // before it was read
 };
 
 /// One XML file of a folder, as a search meets it.

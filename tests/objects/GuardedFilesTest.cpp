@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 
@@ -16,6 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::DocumentSession;
+using std::chrono_literals::operator""h;
 
 const std::string kTheirs = "<Version><VersionTitle>theirs</VersionTitle></Version>";
 
@@ -58,6 +60,9 @@ TEST(GuardedFiles, WhatAnotherProgramHasWrittenIsKeptBeforeItGoes) {
     session.files.version("version2", {});
     const std::string store = session.folder / "state/rescue.sqlite";
     const std::string changed = session.files.path(one.theirs);
+    for (const char* name : {"version1", "version2"}) {
+      fs::last_write_time(session.files.path(name), fs::file_time_type::clock::now() - 1h);
+    }
     {
       std::optional<RescueWriter> writer;
       if (one.withStore) session.app.rescue = &writer.emplace(store);
@@ -96,10 +101,10 @@ TEST(GuardedFiles, APictureIsToldFromAnotherByItsStamp) {
     ASSERT_EQ(session.open(session.files.documentPath()), "");
     IOManager& io = *session.document()->io();
     io.guard().noteStamp(picture, fileStamp(picture));
-    io.guard().spare(picture, io.rescue());
+    io.guard().goes(picture, io.rescue());
     session.folder.write("film_files/film_mediaobject1.bmp", "BM theirs");
-    io.guard().spare(picture, io.rescue());
-    io.guard().spare(picture, io.rescue());
+    io.guard().goes(picture, io.rescue());
+    io.guard().goes(picture, io.rescue());
     session.close();
     session.app.rescue = nullptr;
   }

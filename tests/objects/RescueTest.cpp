@@ -4,12 +4,17 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <filesystem>
 #include <map>
+#include <random>
+#include <set>
 
+#include "base/Paths.h"
 #include "platform/files/Files.h"
 #include "rescue/KeptWorkList.h"
 #include "rescue/RescueStore.h"
 #include "rescue/RescueWriter.h"
+#include "store/IOManager.h"
 #include "support/DocumentSession.h"
 
 namespace velra {
@@ -125,6 +130,68 @@ TEST(CutOffSave, WhatASaveRemovedGoesThoughTheProgramDiesBeforeTheDocumentIsClos
   writer.finish(std::chrono::seconds(10));
   RescueStore after(store);
   EXPECT_TRUE(interruptedSaves(after, "").empty());
+}
+
+// The paths that go by the store when the program dies now.
+std::set<std::string> dueInStore(RescueWriter& writer) {
+  std::set<std::string> due;
+  writer.run([&](RescueStore& store) {
+    for (const KeptWork& work : interruptedSaves(store, "")) {
+      for (const auto& removal : store.plans().dueRemovals(work.session)) due.insert(removal.path);
+    }
+  });
+  return due;
+}
+
+// A folder in the place of the document fails it.
+bool saveInVain(DocumentSession& session) {
+  const std::string path = session.files.documentPath();
+  std::filesystem::rename(path, path + ".away");
+  std::filesystem::create_directory(path);
+  const bool saved = session.document()->bSave();
+  std::filesystem::remove(path);
+  std::filesystem::rename(path + ".away", path);
+  session.takeShown();
+  return saved;
+}
+
+TEST(RemovedFiles, AreListedAndPlannedAsIfEachSaveLookedAtAllOfThem) {
+  DocumentSession session;
+  writeDocument(session);
+  RescueWriter writer(session.folder / "state/rescue.sqlite");
+  session.app.rescue = &writer;
+  ASSERT_EQ(session.open(session.files.documentPath()), "");
+  AVDocument& document = *session.document();
+  std::mt19937 random(1);
+  const auto oneOf = [&](const auto& list) {
+    return list[std::uniform_int_distribution<std::size_t>(0, list.size() - 1)(random)];
+  };
+  std::vector<std::string> listed;  // by the plain rule
+  for (int round = 0; round < 60 && !HasFailure(); ++round) {
+    SCOPED_TRACE(round);
+    ObjectRef version = oneOf(document.colChilds());
+    const auto& removed = document.colObjRemoved();
+    if (round % 3 == 1 && !removed.empty()) version->setStrGUID(oneOf(removed));
+    if (round % 4 == 0 && document.colChilds().size() > 2) document.RemoveObject(version);
+    if (round % 8 == 3) document.AddChild("new");
+    document.setStrTitle(std::to_string(round));
+    if (round % 5 == 4 && round % 8 != 3) {
+      EXPECT_FALSE(saveInVain(session));
+    } else {
+      EXPECT_TRUE(document.bSave());
+      listed.insert(listed.end(), removed.begin(), removed.end());
+      std::erase_if(listed, [&](const std::string& guid) {
+        return document.collObjects().find(guid) != nullptr;
+      });
+    }
+    EXPECT_EQ(document.io()->colGUIDToRemove(), listed);
+    std::set<std::string> paths;
+    for (const std::string& guid : listed) paths.insert(strAbsolutePath(guid));
+    EXPECT_EQ(dueInStore(writer), paths);
+  }
+  EXPECT_FALSE(listed.empty());
+  session.close();
+  session.app.rescue = nullptr;
 }
 
 TEST(UnsavedWork, IsKeptAsASaveWouldWriteItUntilItIsSaved) {

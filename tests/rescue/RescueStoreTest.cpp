@@ -65,7 +65,7 @@ TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
   const SessionId session = store_.begin("f", processIdentity());
   const auto open = [&] { return std::get<SavePlan>(plans.open(session)); };
   store_.keep(session, {object("one")});
-  const SavePlan plan{{{"one", kBytes, {}, "blocks"}}, {{"gone", {}}}};
+  const SavePlan plan{{{"one", kBytes, {}, "blocks"}}, {{"/d/gone", {}}}};
   plans.planSave(session, plan);
   plans.abandon(session);
   EXPECT_EQ(plans.open(session).index(), 0U);
@@ -82,7 +82,26 @@ TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
   plans.finishSave(session);
   EXPECT_TRUE(keptWork(store_, "").empty());
   EXPECT_TRUE(open().files.empty());
-  EXPECT_EQ(plans.dueRemovals(session).at(0).path, "gone");
+  const auto due = [&] {
+    std::string all;
+    for (const PlannedRemoval& removal : plans.dueRemovals(session)) {
+      all += removal.path + " " + std::to_string(removal.stamp.modified) + ";";
+    }
+    return all;
+  };
+  const SavePlan later{{}, {{"/d/more", {1, 2, 0, 3, true}}, {"/e/more", {}}}, true, {"/d/gone"}};
+  plans.planSave(session, later);
+  plans.abandon(session);
+  EXPECT_EQ(due(), "/d/gone 0;");
+  plans.planSave(session, later);
+  plans.finishSave(session);
+  EXPECT_EQ(due(), "/d/more 2;/e/more 0;");
+  plans.planSave(session, {{}, {{"/e/more", {1, 7, 0, 3, true}}}, true, {}});
+  plans.finishSave(session);
+  EXPECT_EQ(due(), "/d/more 2;/e/more 7;") << "what was told last counts";
+  plans.planSave(session, plan);
+  plans.finishSave(session);
+  EXPECT_EQ(due(), "/d/gone 0;") << "a plan that tells of all";
   plans.removalsDone(session);
   plans.planSave(session, plan);
   store_.end(session, SessionEnd::Error);

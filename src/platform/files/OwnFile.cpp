@@ -25,11 +25,12 @@ bool OwnFiles::isInside(const std::string& path) const {
          its.st_dev == own.st_dev && its.st_ino == own.st_ino;
 }
 
-bool OwnFiles::owns(const std::string& path) const {
+FileStamp OwnFiles::stampOfOwn(const std::string& path) const {
   const auto slash = path.rfind('/');
-  if (!std::string_view(path).substr(slash + 1).starts_with(prefix_)) return false;
+  if (!std::string_view(path).substr(slash + 1).starts_with(prefix_)) return {};
   struct stat file {};
-  return ::lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && isInside(path);
+  const bool regular = ::lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode);
+  return regular && isInside(path) ? stampOf(file) : FileStamp();
 }
 
 bool OwnFiles::holds(const std::string& path) const {

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/files/FileStamp.h"
+
 namespace velra {
 
 /// The files that are a document's own: regular files directly inside its data folder, whose names
@@ -16,7 +18,9 @@ class OwnFiles {
   /// The data folder, with a separator at its end.
   const std::string& folder() const { return folder_; }
 
-  bool owns(const std::string& path) const;
+  bool owns(const std::string& path) const { return stampOfOwn(path).exists; }
+  /// The stamp of one of them; of no file for any other path.
+  FileStamp stampOfOwn(const std::string& path) const;
 
   /// True for a path directly inside the data folder, of whatever name, but for a link.
   bool holds(const std::string& path) const;
