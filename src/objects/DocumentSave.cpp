@@ -11,7 +11,7 @@
 #include "platform/files/Files.h"
 #include "protocol/LongWork.h"
 #include "protocol/MainWindow.h"
-#include "objects/PaintedWait.h"
+#include "protocol/PaintedWait.h"
 #include "protocol/VideoExpression.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"

@@ -14,7 +14,7 @@
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "protocol/LongWork.h"
-#include "objects/PaintedWait.h"
+#include "protocol/PaintedWait.h"
 #include "protocol/VideoExpression.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
@@ -139,6 +139,7 @@ bool SaveUnderName::bHandOverAll() {
   try {
     for (const auto& [video, from, to] : relocations_) {
       video->UpdateLocationKeyFrameObject(from, to);
+      if (app_.gMainForm) app_.gMainForm->workWaits();
     }
   } catch (const RunTimeError& error) {
     app_.ui.messageBox(error.description());

@@ -13,7 +13,9 @@
 #include "platform/files/Files.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlWriter.h"
+#include "protocol/LongWork.h"
 #include "protocol/MainWindow.h"
+#include "protocol/PaintedWait.h"
 #include "rescue/DocumentRescue.h"
 #include "rescue/InterruptedSave.h"
 #include "rescue/KeptWorkList.h"
@@ -23,12 +25,18 @@
 
 namespace velra {
 
+namespace {
+
+constexpr std::size_t kManyFiles = 100;  // which take longer than a person notices
+
+}  // namespace
+
 IOManager::IOManager(ApplicationModule& app)
     : app_(app), names_(app), scans_(app), expressions_(app, scans_) {}
 
 IOManager::~IOManager() {
   // What could not be deleted now is tried again when the document is opened next.
-  if (strSync().empty() && rescue_) rescue_->removalsDone();
+  if (strDeleteAll().empty() && rescue_) rescue_->removalsDone();
   const std::string notes = guard_.strTakeNotes(app_.messages);
   if (!notes.empty() && app_.gMainForm) app_.gMainForm->setStrStatusBarText(notes);
 }
@@ -167,6 +175,13 @@ void IOManager::CopyObject(const std::string& source, const std::string& destina
     CopyToNewFile(from, to);
   }
   names_.came(to);
+}
+
+// Thousands of files take seconds.
+std::string IOManager::strDeleteAll() {
+  if (removed_.size() <= kManyFiles) return strSync();
+  const LongWork work(app_.gMainForm, removed_.size());
+  return paintedWait(app_.gMainForm, [this] { return strSync(); });
 }
 
 std::string IOManager::strSync() {

@@ -131,6 +131,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
 
  private:
   std::string strDeleteFile(const std::string& strGUID);
+  std::string strDeleteAll();
   std::string strDeleteRemoved(const std::string& strGUID);
   std::string strSaveBehind(const std::string& bytes, const std::string& strGUID);
   std::string strStatus() const;
