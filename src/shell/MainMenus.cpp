@@ -43,7 +43,7 @@ MenuState menusOf(const MenuState& menus, const DescribedObject& object, bool fr
 
 // The menu does not wait long for a store that is busy: then it stays as it was.
 bool anyUnsavedWork(const ApplicationModule& app, bool otherwise) {
-  constexpr std::chrono::milliseconds kMenuPatience{100};
+  constexpr std::chrono::milliseconds kMenuPatience{30};
   if (!app.rescue || !app.rescue->finish(kMenuPatience)) return otherwise;
   bool any = false;
   app.rescue->run([&](RescueStore& store) { any = hasRestorableWork(store); });
