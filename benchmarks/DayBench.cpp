@@ -11,6 +11,7 @@
 #include "RunFolder.h"
 #include "base/Paths.h"
 #include "objects/AVDocument.h"
+#include "platform/files/Files.h"
 
 namespace velra::bench {
 
@@ -115,6 +116,8 @@ std::vector<Measure> measureDay(const std::string& folder) {
   plan.segmentsOfAnother = kSegmentsOfAnother;
   plan.movie = movie.c_str();
   const std::string path = makeDocument(run.make("day"), plan);
+  // A save that makes a file waits for all that the disk is behind with.
+  syncFolder(run.path());
   Day day(run.path(), makeSchema(run.path()));
   open(day, "open", path);
   lookAround(day);
