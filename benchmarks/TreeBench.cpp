@@ -128,7 +128,8 @@ class TreeSession {
   double measureIcons() {
     std::vector<std::string> keys;
     for (const TreeNode* node : nodes()) {
-      if (session_.mainForm.imlTreeIcons().keyFrame(node->Image)) keys.push_back(node->Image);
+      if (session_.mainForm.imlTreeIcons().keyFrame(node->Image->key))
+        keys.push_back(node->Image->key);
     }
     if (keys.size() > kIcons) keys.resize(kIcons);
     const double before = heapBytes();

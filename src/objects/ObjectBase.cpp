@@ -27,6 +27,10 @@ SEColl& ObjectBase::secol() const {
   return *secol_;
 }
 
+std::uint64_t ObjectBase::stateNumber() const {
+  return secol_ ? secol_->stateNumber() : 0;
+}
+
 std::string ObjectBase::strGUID() const {
   return secol_ ? secol_->assignedText(rules_.identityField) : std::string();
 }

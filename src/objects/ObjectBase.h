@@ -28,6 +28,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   ObjectKind kind() const override { return rules_.kind; }
   std::shared_ptr<IOManager> io() const override { return io_; }
   SEColl& secol() const override;
+  std::uint64_t stateNumber() const override;
 
   std::string strGUID() const override;
   void setStrGUID(const std::string& guid) override;

@@ -37,6 +37,9 @@ class DescribedObject : public RegisteredObject,
   /// The fields; kNoObject before the object is loaded.
   virtual SEColl& secol() const = 0;
   std::int16_t iNumValidElem() const;
+  /// Stands for what the fields hold, as `FieldList` gives it: where two are alike, so are title,
+  /// identifier and all else that the fields say. 0 while there is none.
+  virtual std::uint64_t stateNumber() const { return 0; }
 
   virtual void setStrTitle(const std::string& title) = 0;
   virtual void setStrSchemaPath(const std::string& path) = 0;

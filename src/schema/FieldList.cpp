@@ -2,6 +2,7 @@
 #include "schema/FieldList.h"
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <utility>
 
@@ -12,6 +13,9 @@
 namespace velra {
 
 namespace {
+
+// The process has them once, so that none is given twice.
+std::atomic<std::uint64_t> lastStateNumber = 0;
 
 // The fields themselves are not touched: many of them are in no cache.
 template <class Element, class Matches>
@@ -74,6 +78,7 @@ SchemaElement& FieldList::Item(const std::string& key) {
 
 void FieldList::Remove(std::size_t position) {
   Item(position);
+  forgetState();
   const auto offset = static_cast<std::ptrdiff_t>(position) - 1;
   elements_.erase(elements_.begin() + offset + 1);
   for (std::size_t place = position; place < elements_.size(); ++place) {
@@ -106,12 +111,14 @@ FieldTable FieldList::ownTable() const {
 }
 
 void FieldList::redeclare(const SchemaElement& element, FieldDeclaration declaration) {
+  forgetState();
   FieldTable table = ownTable();
   table[element.place() - 1] = std::make_shared<const FieldDeclaration>(std::move(declaration));
   table_ = std::make_shared<const FieldTable>(std::move(table));
 }
 
 void FieldList::declare(const std::shared_ptr<const FieldTable>& table) {
+  forgetState();
   if (Count() == 0) {
     table_ = table;
   } else {
@@ -156,6 +163,11 @@ std::string FieldList::relationText(std::string_view strLowerName) const {
 const StringList* FieldList::relationList(std::string_view strLowerName) const {
   const SchemaElement* field = relationField(strLowerName);
   return field && field->bValid() ? asList(field->vContent()) : nullptr;
+}
+
+std::uint64_t FieldList::stateNumber() const {
+  if (state_ == 0) state_ = ++lastStateNumber;
+  return state_;
 }
 
 std::int16_t FieldList::iNumValid() const {

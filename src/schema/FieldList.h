@@ -46,6 +46,10 @@ class FieldList {
   /// Is told of each write to a field from now on; it outlives the list.
   void watch(ContentWatcher* watcher) { watcher_ = watcher; }
 
+  /// Stands for what the fields hold: no other list has the number, and each write to a field gives
+  /// another one. Never 0. To be asked by one thread.
+  std::uint64_t stateNumber() const;
+
   std::int16_t iNumValid() const;
   std::int16_t iNumValidAndReadable() const;
   bool bChanged() const;
@@ -71,6 +75,7 @@ class FieldList {
   const FieldDeclaration& declarationOf(const SchemaElement& element) const {
     return *(*table_)[element.place() - 1];
   }
+  void forgetState() { state_ = 0; }
   void redeclare(const SchemaElement& element, FieldDeclaration declaration);
   FieldTable ownTable() const;
   ContentWatcher* watcher() const { return watcher_; }
@@ -80,6 +85,7 @@ class FieldList {
   std::vector<SchemaElement> elements_;      // behind the mark
   std::vector<std::string> keys_;            // empty while no element has a key
   ContentWatcher* watcher_ = nullptr;
+  mutable std::uint64_t state_ = 0;  // 0 from a write on until somebody asks
 };
 
 }  // namespace velra

@@ -46,6 +46,7 @@ void SchemaElement::changeDeclaration(const std::function<void(FieldDeclaration&
 }
 
 void SchemaElement::tellWatcher(ReferenceChange change) {
+  list().forgetState();
   if (ContentWatcher* watcher = list().watcher()) watcher->contentChanged(*this, change);
 }
 

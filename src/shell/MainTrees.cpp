@@ -14,6 +14,13 @@
 
 namespace velra {
 
+namespace {
+
+// Objects that are looked at in a millisecond or less.
+constexpr std::uint64_t kIconGroup = 512;
+
+}  // namespace
+
 void MainTrees::clear() {
   tvwMainTree_.clear();
   tvwExpression_.clear();
@@ -54,8 +61,12 @@ void MainTrees::RemoveIcon(const std::string& key) {
   face_.iconsChanged();
 }
 
+void MainTrees::addIcon(const VideoExpression& video) {
+  icons_.addKeyFrame(video.strGUID(), video.picKeyFrameSmall(), video.stateNumber());
+}
+
 void MainTrees::AddSmallKeyFrame(const VideoExpression& video) {
-  icons_.addKeyFrame(video.strGUID(), video.picKeyFrameSmall());
+  addIcon(video);
   face_.iconsChanged();
 }
 
@@ -63,10 +74,9 @@ void MainTrees::AddSmallKeyFrame(const VideoExpression& video) {
 void MainTrees::AddAllSmallKeyFrames() {
   if (!app_.gAVDoc) return;
   for (const auto& [number, object] : app_.gAVDoc->collObjects().sequence()) {
+    if (number % kIconGroup == 0) app_.gMainForm->workWaits();
     const auto* video = as<VideoExpression>(object.get());
-    if (video && video->objMainExpr()) {
-      icons_.addKeyFrame(video->strGUID(), video->picKeyFrameSmall());
-    }
+    if (video && video->objMainExpr()) addIcon(*video);
   }
   face_.iconsChanged();
 }

@@ -38,6 +38,8 @@ class MainTrees {
   void ResetListImageExpression();
 
  private:
+  void addIcon(const VideoExpression& video);
+
   ApplicationModule& app_;
   MainWindowFace& face_;
   TreeIcons icons_;

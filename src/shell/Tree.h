@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "protocol/DescribedObject.h"
+#include "shell/TreeIcons.h"
 
 namespace velra {
 
 /// A node of one of the two trees. It carries its object, so that commands need no look-up.
 struct TreeNode {
   std::string Text;
-  std::string Image;          // key of the icon
-  std::string SelectedImage;  // key of the icon while the node is the current one
+  IconRef Image;
+  IconRef SelectedImage;  // while the node is the current one
   ObjectRef Tag;
+  std::uint64_t shownState = 0;  // state number of the object when it was shown here; 0: unknown
   TreeNode* Parent = nullptr;
   std::size_t row = 0;  // place among the parent's children, from 0
   std::vector<std::unique_ptr<TreeNode>> children;

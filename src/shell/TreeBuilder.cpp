@@ -16,19 +16,25 @@ namespace velra {
 
 namespace {
 
-void show(TreeNode& node, const ObjectRef& object, const std::string& image,
-          const std::string& selectedImage) {
+void show(TreeNode& node, const ObjectRef& object, const IconRef& image,
+          const IconRef& selectedImage) {
   node.Text = object->strTitle();
   node.Image = image;
   node.SelectedImage = selectedImage;
   node.Tag = object;
+  node.shownState = object->stateNumber();
 }
 
 std::unique_ptr<TreeNode> makeNode(const ObjectRef& object, const std::string& image,
                                    const std::string& selectedImage) {
   auto node = std::make_unique<TreeNode>();
-  show(*node, object, image, selectedImage);
+  show(*node, object, TreeIcons::named(image), TreeIcons::named(selectedImage));
   return node;
+}
+
+// An object that was not written to since stands in its node as it would be shown anew.
+bool shows(const TreeNode& node, const DescribedObject& object) {
+  return node.shownState != 0 && node.shownState == object.stateNumber() && node.Image->listed;
 }
 
 // An object that was removed must not live on in the nodes of a former tree: a damaged chain would
@@ -118,17 +124,24 @@ ExpressionList chainOf(const ExpressionList& members) {
   return {};
 }
 
+void showSegment(TreeNode& node, const ExpressionRef& segment, const TreeIcons& icons) {
+  if (shows(node, *segment)) {
+    node.Tag = segment;
+    return;
+  }
+  const bool ofVideo = segment->kind() == ObjectKind::Video;
+  const IconRef icon = ofVideo ? icons.iconOf(*segment) : TreeIcons::named(segment->className());
+  if (!icon) raise(kInvalidArgument, segment->strGUID());
+  show(node, segment, icon, icon);
+}
+
 void SetSubExpressions(TreeNode& node, const Expression& expression, const TreeIcons& icons) {
   const ExpressionList chain = chainOf(expression.colSubExpressions());
   arrangeChildren(node, chain);
   for (std::size_t i = 0; i < chain.size(); ++i) {
-    const Expression& segment = *chain[i];
-    const std::string image =
-        segment.kind() == ObjectKind::Video ? segment.strGUID() : segment.className();
-    if (!icons.holds(image)) raise(kInvalidArgument, image);
     TreeNode& child = *node.children[i];
-    show(child, chain[i], image, image);
-    SetSubExpressions(child, segment, icons);
+    showSegment(child, chain[i], icons);
+    SetSubExpressions(child, *chain[i], icons);
   }
 }
 
@@ -144,13 +157,14 @@ std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
                                         const TreeIcons& icons, std::unique_ptr<TreeNode> former) {
   if (former) letObjectsGo(*former);
   auto root = former ? std::move(former) : std::make_unique<TreeNode>();
-  show(*root, version, "Version", "Version");
+  const IconRef versionIcon = TreeIcons::named("Version");
+  show(*root, version, versionIcon, versionIcon);
   ExpressionList mains{version->vdMainVideo(), version->auMainAudio(), version->trMainTranscript()};
   std::erase(mains, nullptr);
   arrangeChildren(*root, mains);
   for (std::size_t i = 0; i < mains.size(); ++i) {
-    const std::string& image = mains[i]->className();
-    show(*root->children[i], mains[i], image, image);
+    const IconRef icon = TreeIcons::named(mains[i]->className());
+    show(*root->children[i], mains[i], icon, icon);
     SetSubExpressions(*root->children[i], *mains[i], icons);
   }
   return root;

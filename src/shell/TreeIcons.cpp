@@ -4,37 +4,75 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
+
+#include "protocol/DescribedObject.h"
 
 namespace velra {
 
 namespace {
 
-constexpr std::array<std::string_view, 15> kNamedIcons = {
-    "AVDocument",  "Version",   "ItemSel",     "TranscriptOpen", "Audio",
-    "Expression",  "Video",     "VideoClosed", "Media",          "VideoOpen",
-    "AudioClosed", "AudioOpen", "Storage",     "Transcript",     "TranscriptClosed"};
+const std::array<TreeIcon, 15> kNamedIcons = {{{"AVDocument", {}},
+                                               {"Version", {}},
+                                               {"ItemSel", {}},
+                                               {"TranscriptOpen", {}},
+                                               {"Audio", {}},
+                                               {"Expression", {}},
+                                               {"Video", {}},
+                                               {"VideoClosed", {}},
+                                               {"Media", {}},
+                                               {"VideoOpen", {}},
+                                               {"AudioClosed", {}},
+                                               {"AudioOpen", {}},
+                                               {"Storage", {}},
+                                               {"Transcript", {}},
+                                               {"TranscriptClosed", {}}}};
 
 }  // namespace
 
+IconRef TreeIcons::named(std::string_view name) {
+  const auto* const at = std::find_if(kNamedIcons.begin(), kNamedIcons.end(),
+                                      [name](const TreeIcon& icon) { return icon.key == name; });
+  return at == kNamedIcons.end() ? nullptr : IconRef(IconRef(), at);
+}
+
 bool TreeIcons::holds(const std::string& key) const {
-  return std::find(kNamedIcons.begin(), kNamedIcons.end(), key) != kNamedIcons.end() ||
-         keyFrames_.contains(key);
+  return named(key) || keyFrames_.contains(key);
 }
 
 const Picture* TreeIcons::keyFrame(const std::string& key) const {
   const auto found = keyFrames_.find(key);
-  return found == keyFrames_.end() ? nullptr : &found->second;
+  return found == keyFrames_.end() ? nullptr : &found->second.icon->picture;
 }
 
-void TreeIcons::addKeyFrame(const std::string& key, const Picture& picture) {
-  keyFrames_.insert_or_assign(key, picture);
+IconRef TreeIcons::iconOf(const DescribedObject& object) const {
+  const auto known = byState_.find(object.stateNumber());
+  if (known != byState_.end()) return known->second->icon;
+  const std::string key = object.strGUID();
+  const auto found = keyFrames_.find(key);
+  return found == keyFrames_.end() ? named(key) : found->second.icon;
+}
+
+void TreeIcons::addKeyFrame(std::string key, Picture picture, std::uint64_t state) {
+  remove(key);
+  auto icon = std::make_shared<TreeIcon>(TreeIcon{std::move(key), std::move(picture)});
+  const std::string_view name = icon->key;
+  const KeyFrame& kept = keyFrames_.emplace(name, KeyFrame{std::move(icon), state}).first->second;
+  if (state != 0) byState_[state] = &kept;
 }
 
 void TreeIcons::remove(const std::string& key) {
-  keyFrames_.erase(key);
+  const auto found = keyFrames_.find(key);
+  if (found == keyFrames_.end()) return;
+  const auto known = byState_.find(found->second.state);
+  if (known != byState_.end() && known->second == &found->second) byState_.erase(known);
+  found->second.icon->listed = false;
+  keyFrames_.erase(found);
 }
 
 void TreeIcons::removeKeyFrames() {
+  for (const auto& [key, frame] : keyFrames_) frame.icon->listed = false;
+  byState_.clear();
   keyFrames_.clear();
 }
 

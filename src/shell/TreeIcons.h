@@ -1,12 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "values/Picture.h"
 
 namespace velra {
+
+class DescribedObject;
+
+/// An icon of the list. Nodes that show it share it, and keep it when the list does not.
+struct TreeIcon {
+  std::string key;
+  Picture picture;     // of a key frame
+  bool listed = true;  // false once the list has let it go
+};
+using IconRef = std::shared_ptr<const TreeIcon>;
 
 /// The image list of both trees: named icons that are always there, and one icon for each key
 /// frame, under the identifier of its video. A key frame's icon is the picture inside a red frame;
@@ -19,12 +32,27 @@ class TreeIcons {
   /// Null for a named icon or an unknown key.
   const Picture* keyFrame(const std::string& key) const;
 
-  void addKeyFrame(const std::string& key, const Picture& picture);
+  /// Null when there is none of the name.
+  static IconRef named(std::string_view name);
+
+  /// The icon under the object's identifier; null when there is none.
+  IconRef iconOf(const DescribedObject& object) const;
+
+  /// The key is the identifier of an object whose fields had this state number; 0 for an unknown
+  /// one.
+  void addKeyFrame(std::string key, Picture picture, std::uint64_t state = 0);
   void remove(const std::string& key);
   void removeKeyFrames();
 
  private:
-  std::unordered_map<std::string, Picture> keyFrames_;
+  struct KeyFrame {
+    std::shared_ptr<TreeIcon> icon;
+    std::uint64_t state;
+  };
+
+  std::unordered_map<std::string_view, KeyFrame> keyFrames_;  // by the keys that stand in the icons
+  // An object that was not written to since has its icon here, and need not say its identifier.
+  std::unordered_map<std::uint64_t, const KeyFrame*> byState_;
 };
 
 }  // namespace velra

@@ -19,8 +19,8 @@ namespace {
 std::unique_ptr<TreeNode> node(const std::string& text, const std::string& image = "Version") {
   auto made = std::make_unique<TreeNode>();
   made->Text = text;
-  made->Image = image;
-  made->SelectedImage = image + "/selected";
+  made->Image = std::make_shared<const TreeIcon>(TreeIcon{image, {}});
+  made->SelectedImage = std::make_shared<const TreeIcon>(TreeIcon{image + "/selected", {}});
   return made;
 }
 
@@ -119,6 +119,17 @@ TEST_F(TreeViewTest, KeysWorkLikeTheMouse) {
   QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
   QApplication::sendEvent(&view, &byTab);
   EXPECT_EQ(heard, "return;entered;");
+}
+
+TEST_F(TreeViewTest, TheAsteriskOpensAllBelowTheCurrentNodeAndNothingElse) {
+  view.collapse(indexOf("first"));
+  view.setCurrentIndex(indexOf("second"));
+  QTest::keyClick(&view, Qt::Key_Asterisk);
+  EXPECT_FALSE(view.isExpanded(indexOf("first")));
+  view.collapse(indexOf("root"));
+  view.setCurrentIndex(indexOf("root"));
+  QTest::keyClick(&view, Qt::Key_Asterisk);
+  EXPECT_TRUE(view.visualRect(indexOf("below")).isValid());
 }
 
 TEST_F(TreeViewTest, TheSelectedNodeShowsItsSelectedImage) {

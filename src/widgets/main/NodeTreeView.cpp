@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QPainter>
+#include <vector>
 
 #include "widgets/FocusFrame.h"
 #include "widgets/LightFrames.h"
@@ -130,8 +131,27 @@ void NodeTreeView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   const QModelIndex before = currentIndex();
-  QTreeView::keyPressEvent(event);
+  if (event->key() == Qt::Key_Asterisk) {
+    expandBelow(before);
+    QAbstractItemView::keyPressEvent(event);  // NOLINT(bugprone-parent-virtual-call): past its own
+  } else {
+    QTreeView::keyPressEvent(event);
+  }
   if (currentIndex() != before) click(currentIndex(), kLeftButton);
+}
+
+// The toolkit's own way notes each node as open, and most have nothing below them.
+void NodeTreeView::expandBelow(const QModelIndex& index) {
+  scheduleDelayedItemsLayout();  // until then nodes that open are only noted
+  std::vector<TreeNode*> nodes;
+  if (TreeNode* node = model_.node(index)) nodes.push_back(node);
+  while (!nodes.empty()) {
+    TreeNode* node = nodes.back();
+    nodes.pop_back();
+    if (node->children.empty()) continue;
+    expand(model_.indexOf(*node));
+    for (const auto& child : node->children) nodes.push_back(child.get());
+  }
 }
 
 void NodeTreeView::keyReleaseEvent(QKeyEvent* event) {

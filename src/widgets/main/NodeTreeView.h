@@ -48,6 +48,7 @@ class NodeTreeView : public QTreeView {
 
  private:
   void click(const QModelIndex& index, MouseButton button);
+  void expandBelow(const QModelIndex& index);
   bool isOnNode(const QPoint& position) const;
   void paintFrame();
 

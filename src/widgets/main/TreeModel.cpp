@@ -35,9 +35,13 @@ void TreeModel::select(TreeNode* node) {
 }
 
 QModelIndex TreeModel::index(int row, int column, const QModelIndex& parent) const {
-  if (!hasIndex(row, column, parent)) return {};
-  const TreeNode* above = node(parent);
-  return indexOf(above ? *above->children[static_cast<std::size_t>(row)] : *tree_.root());
+  if (row < 0 || column != 0) return {};
+  const auto place = static_cast<std::size_t>(row);
+  if (const TreeNode* above = node(parent)) {
+    if (place >= above->children.size()) return {};
+    return createIndex(row, 0, above->children[place].get());
+  }
+  return place == 0 && tree_.root() ? indexOf(*tree_.root()) : QModelIndex();
 }
 
 QModelIndex TreeModel::parent(const QModelIndex& child) const {
@@ -58,14 +62,22 @@ bool TreeModel::hasChildren(const QModelIndex& parent) const {
   return rowCount(parent) > 0;
 }
 
+// The view asks it of each row that it lays out, and nothing more of one that says so.
+Qt::ItemFlags TreeModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+  return node(index) && !hasChildren(index) ? flags | Qt::ItemNeverHasChildren : flags;
+}
+
 QVariant TreeModel::data(const QModelIndex& index, int role) const {
   const TreeNode* shown = node(index);
   if (!shown) return {};
   switch (role) {
     case Qt::DisplayRole:
       return lineText(shown->Text);
-    case Qt::DecorationRole:
-      return iconOf_(shown == tree_.selected() ? shown->SelectedImage : shown->Image);
+    case Qt::DecorationRole: {
+      const IconRef& image = shown == tree_.selected() ? shown->SelectedImage : shown->Image;
+      return image ? iconOf_(image->key) : QVariant();
+    }
     case Qt::AccessibleDescriptionRole:  // what else only the icon would say
       return shown->Tag ? toQString(shown->Tag->className()) : QString();
     default:

@@ -35,6 +35,7 @@ class TreeModel : public QAbstractItemModel, public TreeWatcher {
   int rowCount(const QModelIndex& parent) const override;
   int columnCount(const QModelIndex& parent) const override;
   bool hasChildren(const QModelIndex& parent) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
   QVariant data(const QModelIndex& index, int role) const override;
 
   void treeAboutToReset() override;
