@@ -8,6 +8,7 @@
 #include "objects/AVDocument.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
+#include "protocol/LongWork.h"
 #include "protocol/MainWindow.h"
 #include "protocol/ObjectFactory.h"
 #include "shell/DocumentClosing.h"
@@ -86,7 +87,11 @@ std::string OpenCommands::open(const std::string& path, const std::shared_ptr<IO
   if (!frmAVDocForm_) frmAVDocForm_ = app_.objectFactory->createForm(ObjectKind::AVDocument);
   std::string message = document->strOpen(path, frmAVDocForm_, io);
   // Who opens a document waits anyway; who removes the first node of it should not.
-  if (message.empty()) document->collObjects().references().bringUpToDate();
+  if (message.empty()) {
+    const LongWork work(&window_, 1);
+    window_.workSteps();
+    document->collObjects().references().bringUpToDate([this] { window_.workWaits(); });
+  }
   return message;
 }
 
@@ -120,6 +125,8 @@ void OpenCommands::openWithWantedObject(const std::string& wanted, const std::st
 
 // Icons come before the nodes that refer to them.
 void OpenCommands::show() {
+  const LongWork work(&window_, 1);
+  window_.workSteps();
   trees_.AddAllSmallKeyFrames();
   clicks_.ShowAVDocTitle();
 }

@@ -16,6 +16,7 @@ namespace velra {
 namespace {
 
 constexpr std::size_t kFewFresh = 1024;
+constexpr std::uint64_t kReferenceGroup = 512;  // objects, which are asked in some milliseconds
 
 template <class T>
 void sortAndDropDoubles(std::vector<T>& list) {
@@ -70,24 +71,26 @@ std::vector<ReferenceIndex::Reference> ReferenceIndex::referencesOf(
   return found;
 }
 
-void ReferenceIndex::build() {
+void ReferenceIndex::build(const std::function<void()>& meanwhile) {
   clear();
   for (const auto& [number, object] : objects_.sequence()) {
     const auto* described = as<DescribedObject>(object.get());
     if (!described) continue;
+    if (number % kReferenceGroup == 0) meanwhile();
     Collector collector(settled_, number);
     described->visitReferences(collector);
   }
+  meanwhile();
   order();
   settled_.shrink_to_fit();
   built_ = true;
   folderGeneration_ = currentFolderGeneration();
 }
 
-void ReferenceIndex::bringUpToDate() {
+void ReferenceIndex::bringUpToDate(const std::function<void()>& meanwhile) {
   if (inBatch_) return;
   // Relative identifiers mean other paths when the current folder has changed.
-  if (!built_ || folderGeneration_ != currentFolderGeneration()) return build();
+  if (!built_ || folderGeneration_ != currentFolderGeneration()) return build(meanwhile);
   for (const DescribedObject* object : std::exchange(changed_, {})) {
     for (const Reference& reference : referencesOf(*object)) add(reference.key, reference.holder);
   }

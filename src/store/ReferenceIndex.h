@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -26,8 +27,9 @@ class ReferenceIndex {
   ReferenceIndex& operator=(const ReferenceIndex&) = delete;
 
   /// Does now what the first question would wait for: takes in what has changed, and everything
-  /// when nothing has been asked yet.
-  void bringUpToDate();
+  /// when nothing has been asked yet. The latter may take a while: `meanwhile` is called then, many
+  /// times in a tenth of a second, and must not change the objects.
+  void bringUpToDate(const std::function<void()>& meanwhile = [] {});
 
   /// Those with the identifier in a field, in order of registration.
   ObjectList holdersOf(const std::string& guid);
@@ -80,7 +82,7 @@ class ReferenceIndex {
   static Key keyOf(const DescribedObject& object);
 
   void noteChange(const DescribedObject& object);
-  void build();
+  void build(const std::function<void()>& meanwhile);
   std::vector<Reference> referencesOf(const DescribedObject& object) const;
   void add(Key key, std::uint64_t holder);
   void settle();

@@ -35,9 +35,11 @@ void WorkBar::follow(std::size_t done, std::size_t total) {
   if (!sinceBegun_.isValid()) {
     sinceBegun_.start();
     sinceDrawn_.start();
+    setValue(0);
   }
   if (sinceDrawn_.elapsed() < kRepaintMilliseconds) return;
-  setValue(static_cast<int>(kFull * done / total));
+  // Work that follows on other work does not begin anew for the eye.
+  if (done > 0) setValue(static_cast<int>(kFull * done / total));
   if (isHidden() && sinceBegun_.elapsed() >= kUnnoticedWork) {
     show();
     parentWidget()->layout()->activate();  // its place, which comes by an event otherwise
