@@ -91,10 +91,12 @@ void ExchangeCommands::mnuFileExportAs() {
     return app_.ui.messageBox(app_.LoadResString(Message::SaveFirst), BoxKind::Exclamation);
   }
   orTell(app_, [&] {
-    const Content content = contentToExport();
+    Content content = contentToExport();
     Exported exported;
     app_.ui.workAside(app_.LoadResString(Message::Exporting), [&] {
-      exported = exportContent(*exportFormats()[format], content, options);
+      // What was read of a large document is given back there as well.
+      const Content read = std::move(content);
+      exported = exportContent(*exportFormats()[format], read, options);
     });
     tellDone(app_, window_, Message::ExportAs, options.output + "." + inOneLine(exported.notes));
   });
