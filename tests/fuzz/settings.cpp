@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string text(kept.value_or(""));
   const bool was = kept.has_value();
 
-  velra::fuzz::require(velra::SettingsFile(path).set("Settings", "MainTop", "12").empty());
+  velra::fuzz::require(velra::SettingsFile(path).set("Settings", {{"MainTop", "12"}}).empty());
   velra::SettingsFile after(path);
   velra::fuzz::require(after.find("Settings", "MainTop") == "12");
   const auto now = after.find("Settings", "MainLeft");
