@@ -42,8 +42,9 @@ constexpr Part kParts[] = {
 
 // Without an argument every part is measured, else the one of that name.
 int main(int count, char** arguments) {
-  mallopt(M_TRIM_THRESHOLD, 256 * 1024 * 1024);  // as the program does, like the next
+  mallopt(M_TRIM_THRESHOLD, 256 * 1024 * 1024);  // as the program does, like the next two
   mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+  mallopt(M_MXFAST, 0);
   ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
   const QApplication application(count, arguments);
   const std::string_view only = count > 1 ? arguments[1] : "";
