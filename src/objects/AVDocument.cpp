@@ -72,7 +72,11 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   // Each file is read, and an object is made of it.
   const std::size_t files = io->scans().filesIn(dataFolderOf(guid));
   const LongWork work(app().gMainForm, 2 * files, Leaving::AtOnce);
+  collObjects_.reserve(files);
+  io->guard().reserve(files);
   std::string message = LadderObject::strOpen(guid, form, io);
+  // Who opens a document waits anyway; who removes the first node of it should not.
+  if (message.empty() && app().gMainForm) collObjects_.references().beginBeside();
   unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {
     app().ui.messageBox(unlisted_ + ": the expressions in it are not opened.",

@@ -85,14 +85,7 @@ std::string OpenCommands::open(const std::string& path, const std::shared_ptr<IO
   const auto document = std::make_shared<AVDocument>(app_);
   const auto busy = app_.ui.showBusy();
   if (!frmAVDocForm_) frmAVDocForm_ = app_.objectFactory->createForm(ObjectKind::AVDocument);
-  std::string message = document->strOpen(path, frmAVDocForm_, io);
-  // Who opens a document waits anyway; who removes the first node of it should not.
-  if (message.empty()) {
-    const LongWork work(&window_, 1);
-    window_.workSteps();
-    document->collObjects().references().bringUpToDate([this] { window_.workWaits(); });
-  }
-  return message;
+  return document->strOpen(path, frmAVDocForm_, io);
 }
 
 void OpenCommands::openOrFind(const std::string& path, const std::shared_ptr<IOManager>& io) {
@@ -115,6 +108,7 @@ void OpenCommands::openWithWantedObject(const std::string& wanted, const std::st
                                         const std::shared_ptr<IOManager>& io) {
   changeCurrentFolder(folderOf(document));
   const std::string message = open(document, io);
+  if (message.empty()) awaitReferences();
   openedDocument(app_)->ShowObjectForm(wanted, window_);
   if (message.empty()) {
     show();
@@ -125,10 +119,20 @@ void OpenCommands::openWithWantedObject(const std::string& wanted, const std::st
 
 // Icons come before the nodes that refer to them.
 void OpenCommands::show() {
+  {
+    const LongWork work(&window_, 1);
+    window_.workSteps();
+    trees_.AddAllSmallKeyFrames();
+    clicks_.ShowAVDocTitle();
+  }
+  awaitReferences();
+}
+
+// Nobody may change an object before.
+void OpenCommands::awaitReferences() {
   const LongWork work(&window_, 1);
   window_.workSteps();
-  trees_.AddAllSmallKeyFrames();
-  clicks_.ShowAVDocTitle();
+  app_.gAVDoc->collObjects().references().bringUpToDate([this] { window_.workWaits(); });
 }
 
 void OpenCommands::mnuFileNew() {

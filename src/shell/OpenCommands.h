@@ -29,14 +29,15 @@ class OpenCommands {
   void OpenDoc(const std::string& path, bool bFileSystem);
   void mnuFileNew();
 
-  /// Reads a document, which becomes the open one. A message, or "".
+  /// Reads a document, which becomes the open one. A message, or "": `show` has to follow then.
   std::string open(const std::string& path, const std::shared_ptr<IOManager>& io);
+  void show();
 
  private:
   void openOrFind(const std::string& path, const std::shared_ptr<IOManager>& io);
   void openWithWantedObject(const std::string& wanted, const std::string& document,
                             const std::shared_ptr<IOManager>& io);
-  void show();
+  void awaitReferences();
   std::shared_ptr<AVDocument> NewDocument();
 
   ApplicationModule& app_;

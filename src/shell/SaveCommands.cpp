@@ -8,10 +8,8 @@
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
 #include "shell/DocumentClosing.h"
-#include "shell/MainTrees.h"
 #include "shell/OpenCommands.h"
 #include "shell/OpenedDocument.h"
-#include "shell/TreeClicks.h"
 #include "store/DataFolder.h"
 #include "store/IOManager.h"
 
@@ -65,9 +63,8 @@ void SaveCommands::SaveDocumentAs() {
   removeFolderIfEmpty(dataFolderOf(former));
   app_.gNotFound.clear();
   const std::string message = opening_.open(path, std::make_shared<IOManager>(app_));
-  trees_.AddAllSmallKeyFrames();
   if (message.empty()) {
-    clicks_.ShowAVDocTitle();
+    opening_.show();
     tellDone(app_, window_, Message::SaveAs, path);
   } else {
     app_.ui.messageBox(message, BoxKind::Exclamation);

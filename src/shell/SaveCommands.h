@@ -7,22 +7,15 @@ namespace velra {
 
 class ApplicationModule;
 class DocumentClosing;
-class MainTrees;
 class MainWindow;
 class OpenCommands;
-class TreeClicks;
 
 /// The commands of the File menu that write the open document.
 class SaveCommands {
  public:
-  SaveCommands(ApplicationModule& app, MainWindow& window, MainTrees& trees, TreeClicks& clicks,
-               DocumentClosing& closing, OpenCommands& opening)
-      : app_(app),
-        window_(window),
-        trees_(trees),
-        clicks_(clicks),
-        closing_(closing),
-        opening_(opening) {}
+  SaveCommands(ApplicationModule& app, MainWindow& window, DocumentClosing& closing,
+               OpenCommands& opening)
+      : app_(app), window_(window), closing_(closing), opening_(opening) {}
 
   /// Saves; a document that was never saved, as Save As.
   void mnuFileSave();
@@ -36,8 +29,6 @@ class SaveCommands {
 
   ApplicationModule& app_;
   MainWindow& window_;
-  MainTrees& trees_;
-  TreeClicks& clicks_;
   DocumentClosing& closing_;
   OpenCommands& opening_;
 };

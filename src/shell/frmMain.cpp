@@ -12,7 +12,7 @@ frmMain::frmMain(ApplicationModule& app)
       clicks_(app, face_, trees_, menus_),
       closing_(app, trees_),
       opening_(app, *this, trees_, clicks_, closing_),
-      saving_(app, *this, trees_, clicks_, closing_, opening_),
+      saving_(app, *this, closing_, opening_),
       recovering_(app, *this, closing_, opening_),
       transfer_(app, closing_, opening_, saving_),
       exchange_(app, *this, trees_),

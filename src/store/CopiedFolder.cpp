@@ -35,6 +35,8 @@ class OwnFolder {
   }
   /// True when a path of another folder is one of this folder by its name.
   bool hasOther(const std::string& path) {
+    // As nearly all, which needs no copy of the folder's name.
+    if (path.rfind('/') + 1 == folder_.size() && path.starts_with(folder_)) return false;
     const std::string folder = folderOf(path);
     return folder != folder_ && holds(path.substr(folder.size())) && !isOwn(folder);
   }

@@ -50,6 +50,7 @@ void FolderScan::index() {
     forEachRelation(files_[i], [&](std::uint64_t key) { related_.push_back({key, i}); });
   }
   std::sort(related_.begin(), related_.end());
+  slots_.set(related_);
 }
 
 std::vector<const ScannedFile*> FolderScan::relevant(Relation relation,
@@ -59,7 +60,7 @@ std::vector<const ScannedFile*> FolderScan::relevant(Relation relation,
   const std::string path = strAbsolutePath(guid);
   for (const ObjectKind kind : kinds) {
     const std::uint64_t key = relationKey(relation, kind, path);
-    auto at = std::lower_bound(related_.begin(), related_.end(), KnownRelation{key, 0});
+    auto at = slots_.find(related_, key);
     for (; at != related_.end() && at->key == key; ++at) {
       const ScannedFile& file = files_[at->file];
       if (file.kind == kind && file.pointsAt(relation, path)) offsets.push_back(at->file);
@@ -93,6 +94,7 @@ std::vector<std::string> FolderScan::relativesOfRest() const {
 std::unique_ptr<KnownFolder> FolderScan::handOver() {
   byName_.clear();
   unreadable_.clear();
+  slots_.clear();
   KnownFolder::Start start{std::exchange(files_, {}), std::exchange(related_, {}), reason_};
   return std::make_unique<KnownFolder>(folder_, std::move(watch_), std::move(start));
 }

@@ -11,6 +11,7 @@
 
 #include "platform/files/Files.h"
 #include "protocol/ObjectKind.h"
+#include "store/KeySlots.h"
 #include "store/KnownFolder.h"
 #include "store/ScannedFile.h"
 
@@ -66,6 +67,7 @@ class FolderScan {
   std::vector<ScannedFile> files_;
   std::unordered_map<std::string_view, std::size_t> byName_;  // the names are the files'
   std::vector<KnownRelation> related_;                        // sorted; files are offsets
+  KeySlots slots_;                                            // of these
   std::vector<std::size_t> unreadable_;
 };
 

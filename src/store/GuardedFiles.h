@@ -27,6 +27,9 @@ class GuardedFiles {
   /// A file that a person has chosen to be written over.
   void setChosen(const std::string& path) { chosen_ = path; }
 
+  /// Makes room for what is to be noted of so many files.
+  void reserve(std::size_t files) { contents_.reserve(files); }
+
   /// What a file held when it was read, or written last: `contentPrint` of it. As long as it has
   /// the stamp that it had then, it need not be read again.
   void noteContent(const std::string& path, std::uint64_t print, const FileStamp& stamp = {});

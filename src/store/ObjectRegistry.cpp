@@ -18,6 +18,7 @@ bool ObjectRegistry::holds(const RegisteredObject& object) const {
 }
 
 void ObjectRegistry::Add(const RegisteredRef& object) {
+  references_.await();
   rekeyAfterFolderChange();
   if (holds(*object)) return;
   const PathKey key = pathKey(strAbsolutePath(object->strGUID()));
@@ -30,6 +31,7 @@ void ObjectRegistry::Add(const RegisteredRef& object) {
 }
 
 bool ObjectRegistry::Remove(const RegisteredObject& object) {
+  references_.await();
   if (!holds(object)) return false;
   const auto [number, key] = object.place_;
   const RegisteredRef kept = objects_.find(number);  // its end must not meet a half-changed list
@@ -151,6 +153,7 @@ void ObjectRegistry::identifierChanged(const RegisteredObject& object) {
 }
 
 void ObjectRegistry::rekey(RegisteredObject& object) {
+  references_.await();
   const PathKey key = pathKey(strAbsolutePath(object.strGUID()));
   const PathKey old = object.place_.key;
   if (key == old) return;
@@ -175,6 +178,7 @@ void ObjectRegistry::rekeyAfterFolderChange() {
 }
 
 void ObjectRegistry::clear() {
+  references_.clear();
   for (const auto& [number, object] : objects_) {
     object->setObjectListener(nullptr);
     object->place_ = {};
@@ -182,7 +186,6 @@ void ObjectRegistry::clear() {
   byKey_.clear();
   changed_.clear();
   written_.clear();
-  references_.clear();
   // An object may take others with it, and none of them may meet a list in the middle of its end.
   const ObjectSequence gone = std::exchange(objects_, {});
 }

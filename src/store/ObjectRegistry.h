@@ -24,6 +24,9 @@ class ObjectRegistry : private ObjectListener {
   ObjectRegistry& operator=(const ObjectRegistry&) = delete;
   ~ObjectRegistry() override;
 
+  /// Makes room for so many objects in all.
+  void reserve(std::size_t count) { byKey_.reserve(count); }
+
   /// Appends an object; one that is there already stays where it is.
   void Add(const RegisteredRef& object);
 

@@ -2,9 +2,9 @@
 #include "store/ReferenceIndex.h"
 
 #include <algorithm>
-#include <bit>
+#include <chrono>
 #include <functional>
-#include <numeric>
+#include <system_error>
 #include <utility>
 
 #include "base/Paths.h"
@@ -55,10 +55,15 @@ void ReferenceIndex::noteChange(const DescribedObject& object) {
 }
 
 void ReferenceIndex::clear() {
+  beside_ = {};  // which waits; what it raised nobody asks for any more
+  forgetAll();
+}
+
+void ReferenceIndex::forgetAll() {
   built_ = false;
   changed_.clear();
   settled_ = {};
-  begins_ = {};
+  slots_.clear();
   fresh_.clear();
   freshCount_ = 0;
 }
@@ -72,7 +77,7 @@ std::vector<ReferenceIndex::Reference> ReferenceIndex::referencesOf(
 }
 
 void ReferenceIndex::build(const std::function<void()>& meanwhile) {
-  clear();
+  forgetAll();
   for (const auto& [number, object] : objects_.sequence()) {
     const auto* described = as<DescribedObject>(object.get());
     if (!described) continue;
@@ -87,8 +92,24 @@ void ReferenceIndex::build(const std::function<void()>& meanwhile) {
   folderGeneration_ = currentFolderGeneration();
 }
 
+void ReferenceIndex::beginBeside() {
+  try {
+    beside_ = std::async(std::launch::async, [this] { build([] {}); });
+  } catch (const std::system_error&) {  // without a further thread the first question builds it
+  }
+}
+
+void ReferenceIndex::awaitWith(const std::function<void()>& meanwhile) {
+  constexpr std::chrono::milliseconds kBetweenCalls{20};
+  while (beside_.valid() && beside_.wait_for(kBetweenCalls) == std::future_status::timeout) {
+    meanwhile();
+  }
+  await();
+}
+
 void ReferenceIndex::bringUpToDate(const std::function<void()>& meanwhile) {
   if (inBatch_) return;
+  awaitWith(meanwhile);
   // Relative identifiers mean other paths when the current folder has changed.
   if (!built_ || folderGeneration_ != currentFolderGeneration()) return build(meanwhile);
   for (const DescribedObject* object : std::exchange(changed_, {})) {
@@ -116,20 +137,11 @@ void ReferenceIndex::settle() {
 
 void ReferenceIndex::order() {
   sortAndDropDoubles(settled_);
-  begins_.assign(std::bit_ceil(settled_.size() + 1), 0);
-  for (const Reference& reference : settled_) ++begins_[slotOf(reference.key)];
-  std::exclusive_scan(begins_.begin(), begins_.end(), begins_.begin(), std::uint32_t{0});
-}
-
-std::size_t ReferenceIndex::slotOf(Key key) const {
-  // As many of the first bits as number the slots; a shift by all of them would mean none.
-  return begins_.size() == 1 ? 0 : key >> (64 - std::countr_zero(begins_.size()));
+  slots_.set(settled_);
 }
 
 void ReferenceIndex::appendHolders(Key key, Holders& holders) const {
-  const std::size_t begin = begins_.empty() ? 0 : begins_[slotOf(key)];
-  auto at = settled_.begin() + static_cast<std::ptrdiff_t>(begin);
-  while (at != settled_.end() && at->key < key) ++at;
+  auto at = slots_.find(settled_, key);
   for (; at != settled_.end() && at->key == key; ++at) holders.push_back(at->holder);
   const auto fresh = fresh_.find(key);
   if (fresh == fresh_.end()) return;

@@ -3,12 +3,14 @@
 
 #include <cstdint>
 #include <functional>
+#include <future>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
 #include "protocol/DescribedObject.h"
+#include "store/KeySlots.h"
 
 namespace velra {
 
@@ -30,6 +32,14 @@ class ReferenceIndex {
   /// when nothing has been asked yet. The latter may take a while: `meanwhile` is called then, many
   /// times in a tenth of a second, and must not change the objects.
   void bringUpToDate(const std::function<void()>& meanwhile = [] {});
+
+  /// Begins to take in everything on a thread beside, for which the next question waits. Until then
+  /// the objects may be read alone; the registry waits before it changes.
+  void beginBeside();
+  /// Waits for that thread; raises what it raised.
+  void await() {
+    if (beside_.valid()) beside_.get();
+  }
 
   /// Those with the identifier in a field, in order of registration.
   ObjectList holdersOf(const std::string& guid);
@@ -82,13 +92,14 @@ class ReferenceIndex {
   static Key keyOf(const DescribedObject& object);
 
   void noteChange(const DescribedObject& object);
+  void forgetAll();
   void build(const std::function<void()>& meanwhile);
+  void awaitWith(const std::function<void()>& meanwhile);
   std::vector<Reference> referencesOf(const DescribedObject& object) const;
   void add(Key key, std::uint64_t holder);
   void settle();
   /// Puts the settled references in order, each once.
   void order();
-  std::size_t slotOf(Key key) const;
   void appendHolders(Key key, Holders& holders) const;
   ObjectRef livingOf(std::uint64_t holder) const;
   ObjectList listOf(Holders holders) const;
@@ -99,12 +110,11 @@ class ReferenceIndex {
   unsigned folderGeneration_ = 0;
   std::unordered_set<const DescribedObject*> changed_;
   std::vector<Reference> settled_;  // in order
-  // Where among them the keys with the same first bits begin: a search by halves in a large
-  // document waits for the memory at every step.
-  std::vector<std::uint32_t> begins_;
+  KeySlots slots_;                  // of these
   // What came since; it joins the others before it grows large beside them.
   std::unordered_map<Key, Holders> fresh_;
   std::size_t freshCount_ = 0;
+  std::future<void> beside_;  // last, since it ends before what it works on
 };
 
 }  // namespace velra
