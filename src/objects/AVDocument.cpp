@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/AVDocument.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/ApplicationModule.h"
@@ -24,6 +25,9 @@
 namespace velra {
 
 namespace {
+
+// So many that what is called from the memory for them stays in the caches.
+constexpr std::size_t kRemovedTogether = 64;
 
 Version& versionOf(const Storage& storage) {
   const auto media = storage.objParent();
@@ -146,10 +150,21 @@ void AVDocument::RemoveObject(ObjectRef& removed) {
 }
 
 void AVDocument::RemoveObjects(const ObjectList& removed) {
+  ReferenceIndex::Batch batch(collObjects_.references());
+  std::span<const ObjectRef> rest(removed);
+  while (!rest.empty()) {
+    const auto group = rest.first(std::min(kRemovedTogether, rest.size()));
+    removeTogether(group, batch);
+    rest = rest.subspan(group.size());
+  }
+}
+
+void AVDocument::removeTogether(std::span<const ObjectRef> removed, ReferenceIndex::Batch& batch) {
   ReferenceIndex& references = collObjects_.references();
-  ReferenceIndex::Batch batch(references);
+  const std::vector<ReferenceIndex::Keys> keys = references.callKeysOf(removed);
+  auto key = keys.begin();
   for (const ObjectRef& object : removed) {
-    for (const ObjectRef& holder : references.holdersOf(*object)) {
+    for (const ObjectRef& holder : references.holdersOf(*key++)) {
       holder->RemoveReferenceObj(*object);
     }
     const auto* expression = as<Expression>(object.get());

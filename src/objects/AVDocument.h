@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -81,6 +82,7 @@ class AVDocument : public LadderObject, public OpenDocument {
   void adopt(DescribedObject& child) override;
 
  private:
+  void removeTogether(std::span<const ObjectRef> removed, ReferenceIndex::Batch& batch);
   void noteRemoved(const ObjectRef& removed);
 
   SharedParts shared_;

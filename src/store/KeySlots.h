@@ -32,6 +32,16 @@ class KeySlots {
     return at;
   }
 
+  /// Calls from the memory where a key's entries begin, for `callEntry`, and the first of them, for
+  /// `find`. Both do not wait for it.
+  void callSlot(std::uint64_t key) const {
+    if (!begins_.empty()) __builtin_prefetch(&begins_[slotOf(key)]);
+  }
+  template <class Entry>
+  void callEntry(const std::vector<Entry>& sorted, std::uint64_t key) const {
+    if (!begins_.empty()) __builtin_prefetch(sorted.data() + begins_[slotOf(key)]);
+  }
+
  private:
   std::size_t slotOf(std::uint64_t key) const {
     // As many of the first bits as number the slots; a shift by all of them would mean none.

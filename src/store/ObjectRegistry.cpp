@@ -9,6 +9,12 @@
 
 namespace velra {
 
+namespace {
+
+constexpr std::size_t kFewStale = 1024;
+
+}  // namespace
+
 ObjectRegistry::~ObjectRegistry() {
   clear();
 }
@@ -35,7 +41,6 @@ bool ObjectRegistry::Remove(const RegisteredObject& object) {
   if (!holds(object)) return false;
   const auto [number, key] = object.place_;
   const RegisteredRef kept = objects_.find(number);  // its end must not meet a half-changed list
-  unindex(object);
   changed_.erase(number);
   written_.erase(number);
   if (const auto* described = as<const DescribedObject>(&object)) references_.removed(*described);
@@ -43,6 +48,7 @@ bool ObjectRegistry::Remove(const RegisteredObject& object) {
   kept->place_ = {};
   kept->setObjectListener(nullptr);
   departed(key);
+  dropStaleKeys();
   return true;
 }
 
@@ -112,7 +118,7 @@ RegisteredRef ObjectRegistry::firstAt(const std::string& path) const {
   RegisteredRef found;
   for (auto at = first; at != last; ++at) {
     RegisteredRef object = objects_.find(at->second);
-    const bool earlier = !found || object->place_.number < found->place_.number;
+    const bool earlier = object && (!found || at->second < found->place_.number);
     if (earlier && strAbsolutePath(object->strGUID()) == path) found = std::move(object);
   }
   return found;
@@ -125,7 +131,8 @@ RegisteredRef ObjectRegistry::find(const std::string& guid) {
 
 bool ObjectRegistry::isTaken(PathKey key) {
   rekeyAfterFolderChange();
-  return byKey_.contains(key);
+  const auto [first, last] = byKey_.equal_range(key);
+  return std::any_of(first, last, [&](const auto& entry) { return isAt(key, entry.second); });
 }
 
 void ObjectRegistry::departed(PathKey key) {
@@ -157,18 +164,25 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   const PathKey key = pathKey(strAbsolutePath(object.strGUID()));
   const PathKey old = object.place_.key;
   if (key == old) return;
-  unindex(object);
+  const std::uint64_t number = object.place_.number;
   object.place_.key = key;
-  byKey_.emplace(key, object.place_.number);
+  const auto [first, last] = byKey_.equal_range(key);
+  const bool wasHere =
+      std::any_of(first, last, [number](const auto& entry) { return entry.second == number; });
+  if (!wasHere) byKey_.emplace(key, number);
   ++arrivals_;
   departed(old);
+  dropStaleKeys();
 }
 
-void ObjectRegistry::unindex(const RegisteredObject& object) {
-  const auto [first, last] = byKey_.equal_range(object.place_.key);
-  const auto at = std::find_if(
-      first, last, [&](const auto& entry) { return entry.second == object.place_.number; });
-  if (at != last) byKey_.erase(at);
+bool ObjectRegistry::isAt(PathKey key, std::uint64_t number) const {
+  const RegisteredRef object = objects_.find(number);
+  return object && object->place_.key == key;
+}
+
+void ObjectRegistry::dropStaleKeys() {
+  if (byKey_.size() < 2 * objects_.size() + kFewStale) return;
+  std::erase_if(byKey_, [this](const auto& entry) { return !isAt(entry.first, entry.second); });
 }
 
 void ObjectRegistry::rekeyAfterFolderChange() {
@@ -191,7 +205,7 @@ void ObjectRegistry::clear() {
 }
 
 bool ObjectRegistry::checkConsistency() const {
-  if (byKey_.size() != objects_.size()) return false;
+  if (byKey_.size() < objects_.size()) return false;
   for (const auto& [number, object] : objects_) {
     const PathKey key = object->place_.key;
     if (object->place_.number != number) return false;

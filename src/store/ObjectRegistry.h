@@ -88,13 +88,16 @@ class ObjectRegistry : private ObjectListener {
   void rekeyAfterFolderChange();
   /// Gives the object the key of its identifier; the one that it had goes out of use.
   void rekey(RegisteredObject& object);
-  void unindex(const RegisteredObject& object);
+  bool isAt(PathKey key, std::uint64_t number) const;
+  void dropStaleKeys();
   void departed(PathKey key);
   RegisteredRef firstAt(const std::string& path) const;
   bool holds(const RegisteredObject& object) const;
 
   ObjectSequence objects_;
-  std::unordered_multimap<PathKey, std::uint64_t> byKey_;  // numbers
+  // Numbers. One that has gone, or has another key now, stays a while: to take it out at once is to
+  // wait for memory that no cache holds.
+  std::unordered_multimap<PathKey, std::uint64_t> byKey_;
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since
   ReferenceIndex references_{*this};

@@ -50,6 +50,10 @@ ReferenceIndex::Key ReferenceIndex::keyOf(const DescribedObject& object) {
   return std::hash<const DescribedObject*>{}(&object) * 0x9E3779B97F4A7C15U;
 }
 
+ReferenceIndex::Keys ReferenceIndex::keysOf(const DescribedObject& object) {
+  return {keyOf(object.strGUID()), keyOf(object)};
+}
+
 void ReferenceIndex::noteChange(const DescribedObject& object) {
   if (built_) changed_.insert(&object);
 }
@@ -169,12 +173,28 @@ ObjectList ReferenceIndex::holdersOf(const std::string& guid) {
   return listOf(std::move(holders));
 }
 
-ObjectList ReferenceIndex::holdersOf(const DescribedObject& object) {
+ObjectList ReferenceIndex::holdersOf(const Keys& keys) {
   bringUpToDate();
   Holders holders;
-  appendHolders(keyOf(object.strGUID()), holders);
-  appendHolders(keyOf(object), holders);
+  appendHolders(keys.identifier, holders);
+  appendHolders(keys.object, holders);
   return listOf(std::move(holders));
+}
+
+std::vector<ReferenceIndex::Keys> ReferenceIndex::callKeysOf(
+    std::span<const ObjectRef> objects) const {
+  std::vector<Keys> keys;
+  keys.reserve(objects.size());
+  for (const ObjectRef& object : objects) {
+    keys.push_back(keysOf(*object));
+    slots_.callSlot(keys.back().identifier);
+    slots_.callSlot(keys.back().object);
+  }
+  for (const Keys& one : keys) {
+    slots_.callEntry(settled_, one.identifier);
+    slots_.callEntry(settled_, one.object);
+  }
+  return keys;
 }
 
 ReferenceIndex::Batch::Batch(ReferenceIndex& index) : index_(index) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <future>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -45,7 +46,18 @@ class ReferenceIndex {
   ObjectList holdersOf(const std::string& guid);
 
   /// Those with the identifier in a field or the object below or beside them.
-  ObjectList holdersOf(const DescribedObject& object);
+  ObjectList holdersOf(const DescribedObject& object) { return holdersOf(keysOf(object)); }
+
+  using Key = std::uint64_t;  // of an object or an identifier
+  /// Under what an object is referred to, as long as it has its identifier.
+  struct Keys {
+    Key identifier;
+    Key object;
+  };
+  ObjectList holdersOf(const Keys& keys);
+  /// The keys of objects that will be asked about soon. What is known under them is called from the
+  /// memory together: who asks one by one waits for each.
+  std::vector<Keys> callKeysOf(std::span<const ObjectRef> objects) const;
 
   // What the registry tells.
   void added(const DescribedObject& object) { noteChange(object); }
@@ -79,7 +91,6 @@ class ReferenceIndex {
  private:
   class Collector;
 
-  using Key = std::uint64_t;                   // of an object or an identifier
   using Holders = std::vector<std::uint64_t>;  // numbers of the registry
 
   struct Reference {
@@ -90,6 +101,7 @@ class ReferenceIndex {
 
   static Key keyOf(const std::string& guid);
   static Key keyOf(const DescribedObject& object);
+  static Keys keysOf(const DescribedObject& object);
 
   void noteChange(const DescribedObject& object);
   void forgetAll();
