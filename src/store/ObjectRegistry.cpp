@@ -11,7 +11,7 @@ namespace velra {
 
 namespace {
 
-constexpr std::size_t kFewStale = 1024;
+constexpr std::size_t kFewStale = 16;
 
 }  // namespace
 
