@@ -181,7 +181,7 @@ bool ObjectRegistry::isAt(PathKey key, std::uint64_t number) const {
 }
 
 void ObjectRegistry::dropStaleKeys() {
-  if (byKey_.size() < 2 * objects_.size() + kFewStale) return;
+  if (byKey_.size() < 3 * objects_.size() + kFewStale) return;  // a Save As doubles them
   std::erase_if(byKey_, [this](const auto& entry) { return !isAt(entry.first, entry.second); });
 }
 
