@@ -71,15 +71,24 @@ PlannedSave::PlannedSave(IOManager& io, const RegisteredList& objects,
   if (rescue_ && !planned_) known_.forget();
 }
 
-PlannedSave::PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made)
+PlannedSave::PlannedSave(IOManager& io, const std::string& documentPath, std::vector<MadeFile> made)
     : rescue_(storeOf(io)), known_(io.plannedRemovals()), copies_(true) {
+  const std::string path = strAbsolutePath(documentPath);
+  if (rescue_ && !made.empty()) tell({{path, {}, fileStamp(path), {}}, std::move(made)});
+}
+
+void PlannedSave::tell(IOManager& io, const AVDocument& document, std::vector<MadeFile> made) {
   if (!rescue_) return;
   try {
-    planned_ = rescue_->plan(CopyPlan{plannedFile(document, io), std::move(made)}).empty();
-    if (!planned_) known_.forget();
+    tell({plannedFile(document, io), std::move(made)});
   } catch (const RunTimeError&) {
     return;  // as above
   }
+}
+
+void PlannedSave::tell(const CopyPlan& plan) {
+  planned_ = rescue_->plan(plan).empty();
+  if (!planned_) known_.forget();
 }
 
 PlannedSave::~PlannedSave() {

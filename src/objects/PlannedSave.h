@@ -23,18 +23,23 @@ class PlannedSave {
   /// The objects that will be written, the document among them, and what changes in the files that
   /// go when it is closed.
   PlannedSave(IOManager& io, const RegisteredList& objects, PlannedRemovals::Change removals);
-  /// A save under another name, by which the document goes already, and what it makes beside it.
-  PlannedSave(IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
+  /// A save under another name, and what it makes before it comes to the document.
+  PlannedSave(IOManager& io, const std::string& documentPath, std::vector<MadeFile> made);
   PlannedSave(const PlannedSave&) = delete;
   PlannedSave& operator=(const PlannedSave&) = delete;
   /// A save that was not finished has failed, and the person was told. One that an error ends, and
   /// most likely the program with it, is finished by the next opening.
   ~PlannedSave();
 
+  /// All that a save under another name makes, when the document goes by that name.
+  void tell(IOManager& io, const AVDocument& document, std::vector<MadeFile> made);
+
   /// All is on the disk.
   void finished();
 
  private:
+  void tell(const CopyPlan& plan);
+
   DocumentRescue* rescue_;  // null: nothing is to be told any more
   PlannedRemovals& known_;
   PlannedRemovals::Change change_;

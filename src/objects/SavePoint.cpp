@@ -15,6 +15,8 @@ namespace velra {
 
 namespace {
 
+constexpr std::size_t kKeptGroup = 512;  // objects, which take a millisecond or two
+
 bool holdsNames(const SchemaElement& field, const ClassRules& rules) {
   const std::string& name = field.strLowerName();
   const auto& single = rules.singleReferences;
@@ -25,8 +27,11 @@ bool holdsNames(const SchemaElement& field, const ClassRules& rules) {
 
 }  // namespace
 
-SavePoint::SavePoint(const RegisteredList& objects) : objects_(objects) {
+SavePoint::SavePoint(const RegisteredList& objects, const std::function<void()>& meanwhile)
+    : objects_(objects) {
+  std::size_t place = 0;
   for (const RegisteredRef& object : objects_) {
+    if (++place % kKeptGroup == 0) meanwhile();
     const std::string guid = object->strGUID();
     if (const auto io = object->io(); io && io->names().isPromised(guid)) promised_.push_back(guid);
     if (auto picture = as<MediaObject>(object); picture && picture->bChanged()) {

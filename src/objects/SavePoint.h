@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,7 +18,10 @@ class MediaObject;
 /// of objects and pictures, the references to them, and what counts as changed.
 class SavePoint {
  public:
-  explicit SavePoint(const RegisteredList& objects);
+  /// Of many objects that takes a while: `meanwhile` is called then, many times in a tenth of a
+  /// second.
+  explicit SavePoint(
+      const RegisteredList& objects, const std::function<void()>& meanwhile = [] {});
 
   /// To be told of each new name, and of each picture that was brought to another place.
   void named(const std::string& newGUID) { newNames_.push_back(newGUID); }

@@ -38,7 +38,9 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
   }
   // Each object is renamed, and then all but the document are saved in turn.
   const LongWork work(app_.gMainForm, 2 * objects_.described().size() - 1);
-  SavePoint before(objects_.all());
+  SavePoint before(objects_.all(), [this] {
+    if (app_.gMainForm) app_.gMainForm->workWaits();
+  });
   const Outcome outcome = saveAsFrom(before, strAVDocPathName);
   if (outcome == Outcome::Done) return true;
   before.restore(io_, outcome == Outcome::NotSynced);
@@ -48,15 +50,7 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
 
 SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
                                                  const std::string& strAVDocPathName) {
-  if (!bNamedAnew(before, strAVDocPathName)) {
-    bRefused(app_, {});
-    return Outcome::NotWritten;
-  }
-  document_.setStrSchemaPath(app_.strXSDPath());
-  document_.setStrGUID(strAVDocPathName);
-  io_.guard().setChosen(strAbsolutePath(strAVDocPathName));
-  paintedWait(app_.gMainForm, [&] { planned_.emplace(io_, document_, std::move(made_)); });
-  if (!bSaveAllObjectsAs(before)) {
+  if (!bMakeFiles(before, strAVDocPathName)) {
     bRefused(app_, {});
     return Outcome::NotWritten;
   }
@@ -76,26 +70,48 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   return Outcome::Done;
 }
 
-// A folder that cannot be written or a disk that is full ends the command and not the program.
-bool SaveUnderName::bNamedAnew(SavePoint& before, const std::string& strAVDocPathName) {
+// A sentence has been shown when the result is false. A folder that cannot be written or a disk
+// that is full ends the command and not the program.
+bool SaveUnderName::bHandOverAll(SavePoint& before, const std::string& strAVDocPathName) {
   try {
-    return bRename(before, strAVDocPathName);
+    if (!bFolderMade(strAVDocPathName)) return false;
+    const NewFileNames::Listing listing(io_.names(), objects_, strAVDocPathName);
+    handOverPictures(before, strAVDocPathName);
+    renameObjects(before, strAVDocPathName);
   } catch (const RunTimeError& error) {
     app_.ui.messageBox(error.description());
     return false;
   }
+  document_.setStrSchemaPath(app_.strXSDPath());
+  document_.setStrGUID(strAVDocPathName);
+  io_.guard().setChosen(strAbsolutePath(strAVDocPathName));
+  paintedWait(app_.gMainForm, [&] { planned_->tell(io_, document_, made_); });
+  return bSaveInDependencyOrder(app_, objects_, document_);
 }
 
-bool SaveUnderName::bRename(SavePoint& before, const std::string& strAVDocPathName) {
-  // The folder comes before the first name: what tells that there is none must not become one.
-  if (objects_.Count() > 1) {
-    const std::string message = io_.strMakeDataFolder(strAVDocPathName);
-    if (!message.empty()) {
-      app_.ui.messageBox(message);
-      return false;
-    }
+// The folder comes before the first name: what tells that there is none must not become one.
+bool SaveUnderName::bFolderMade(const std::string& strAVDocPathName) {
+  if (objects_.Count() <= 1) return true;
+  const std::string message = io_.strMakeDataFolder(strAVDocPathName);
+  if (!message.empty()) app_.ui.messageBox(message);
+  return message.empty();
+}
+
+// Pictures are a third of the files, and have numbers of their own. They are copied while the
+// objects get their names.
+void SaveUnderName::handOverPictures(SavePoint& before, const std::string& strAVDocPathName) {
+  for (const ObjectRef& object : objects_.described()) {
+    auto* video = as<VideoExpression>(object.get());
+    if (video && io_.bFileSystem()) renameKeyFrame(*video, before, strAVDocPathName);
   }
-  const NewFileNames::Listing listing(io_.names(), objects_, strAVDocPathName);
+  paintedWait(app_.gMainForm, [&] { planned_.emplace(io_, strAVDocPathName, made_); });
+  for (const auto& [video, from, to] : relocations_) {
+    video->UpdateLocationKeyFrameObject(from, to);
+    if (app_.gMainForm) app_.gMainForm->workWaits();
+  }
+}
+
+void SaveUnderName::renameObjects(SavePoint& before, const std::string& strAVDocPathName) {
   const std::string schemaPath = app_.strXSDPath();
   ReferenceIndex& references = objects_.references();
   ReferenceIndex::Batch batch(references);
@@ -112,10 +128,7 @@ bool SaveUnderName::bRename(SavePoint& before, const std::string& strAVDocPathNa
       holder->RenameAllRelativesGUID(oldGUID, newGUID);
     }
     batch.renamed(oldGUID, newGUID);
-    auto* video = as<VideoExpression>(object.get());
-    if (video && io_.bFileSystem()) renameKeyFrame(*video, before, strAVDocPathName);
   }
-  return true;
 }
 
 // The picture of a segment goes with its Video to the new place, when all that goes there is known.
@@ -134,28 +147,14 @@ void SaveUnderName::renameKeyFrame(VideoExpression& video, SavePoint& before,
   relocations_.push_back({&video, oldGUID, newGUID});
 }
 
-// A sentence has been shown when the result is false.
-bool SaveUnderName::bHandOverAll() {
-  try {
-    for (const auto& [video, from, to] : relocations_) {
-      video->UpdateLocationKeyFrameObject(from, to);
-      if (app_.gMainForm) app_.gMainForm->workWaits();
-    }
-  } catch (const RunTimeError& error) {
-    app_.ui.messageBox(error.description());
-    return false;
-  }
-  return bSaveInDependencyOrder(app_, objects_, document_);
-}
-
 // All of a new document is brought to the disk, which takes seconds.
 std::string SaveUnderName::strFlush() {
   return paintedWait(app_.gMainForm, [&] { return io_.strFlush(); });
 }
 
-bool SaveUnderName::bSaveAllObjectsAs(SavePoint& before) {
+bool SaveUnderName::bMakeFiles(SavePoint& before, const std::string& strAVDocPathName) {
   io_.makeFilesBehind();
-  const bool handedOver = bHandOverAll();
+  const bool handedOver = bHandOverAll(before, strAVDocPathName);
   const auto [made, failed] = paintedWait(app_.gMainForm, [&] { return io_.filesMade(); });
   for (std::size_t i = 0; i < relocations_.size(); ++i) {
     const auto& [video, from, to] = relocations_[i];

@@ -18,8 +18,9 @@ class SavePoint;
 class VideoExpression;
 
 /// How a document is saved with all of its objects under another name, and what is taken back when
-/// that fails. All names are given first, so that the store knows what will be made before the
-/// first file is. One instance is made for one command.
+/// that fails. The store knows what will be made before the first file is: of the pictures first,
+/// which are copied while the objects get their names, and then of all. One instance is made for
+/// one command.
 class SaveUnderName {
  public:
   SaveUnderName(ApplicationModule& app, AVDocument& document);
@@ -37,13 +38,14 @@ class SaveUnderName {
   };
 
   Outcome saveAsFrom(SavePoint& before, const std::string& strAVDocPathName);
-  bool bNamedAnew(SavePoint& before, const std::string& strAVDocPathName);
-  bool bRename(SavePoint& before, const std::string& strAVDocPathName);
+  bool bMakeFiles(SavePoint& before, const std::string& strAVDocPathName);
+  bool bHandOverAll(SavePoint& before, const std::string& strAVDocPathName);
+  bool bFolderMade(const std::string& strAVDocPathName);
+  void handOverPictures(SavePoint& before, const std::string& strAVDocPathName);
+  void renameObjects(SavePoint& before, const std::string& strAVDocPathName);
   void renameKeyFrame(VideoExpression& video, SavePoint& before,
                       const std::string& strAVDocPathName);
-  bool bHandOverAll();
   std::string strFlush();
-  bool bSaveAllObjectsAs(SavePoint& before);
 
   ApplicationModule& app_;
   AVDocument& document_;

@@ -112,7 +112,9 @@ std::string CutOffSave::carryOut(const CopyPlan& plan) {
   const std::string& path = plan.document.path;
   if (!bFolderExists(folderOf(path))) return folderOf(path) + texts_.isNotThere;
   if (isOpen(store_, path)) return path + texts_.isOpen;
-  std::string failure = strStateOf(plan.document, document.state, document.bytes);
+  const bool mayBeWritten = !plan.document.bytes.empty();
+  std::string failure =
+      mayBeWritten ? strStateOf(plan.document, document.state, document.bytes) : std::string();
   if (failure.empty() && document.state == FileState::Untouched) failure = undo(plan);
   if (failure.empty() && document.state == FileState::Torn) failure = writeFiles({document});
   if (!failure.empty()) return failure + " (" + path + ")";

@@ -67,7 +67,8 @@ bool FilesBehind::atRest() const {
 void FilesBehind::add(File file) {
   if (threads_.empty()) return addNow(std::move(file));
   Lock lock(mutex_);
-  if (files_.size() - next_ >= kMostWaiting) {
+  // A copy is two names until it is made.
+  if (file.kind == Kind::Write && files_.size() - next_ >= kMostWaiting) {
     done_.wait(lock, [this] { return files_.size() - next_ <= kFewWaiting || failed_; });
   }
   files_.push_back(std::move(file));

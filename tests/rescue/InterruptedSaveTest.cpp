@@ -150,6 +150,19 @@ TEST_F(InterruptedSave, OneUnderAnotherNameIsUndoneUntilItsDocumentIsTouched) {
     EXPECT_EQ(files(), done == steps.size() ? cutOff : before) << done;
     EXPECT_EQ(store_.plans().open(session).index(), 0U);
   }
+  // Before the bytes of the document are known, somebody else has written there.
+  for (const auto& [name, bytes] : before) put(name, bytes);
+  put(data + "mediaobject3.bmp", "");
+  auto after = files();
+  store_.plans().planCopy(
+      store_.begin(document_, process()),
+      {planned("copy.xml", "old", ""),
+       {{folder_ / (data + "mediaobject3.bmp"), folder_ / (data + "mediaobject1.bmp")}}});
+  steps.front()();
+  put("copy.xml", "<torn");
+  finishInterruptedSaves(store_, document_);
+  after["copy.xml"] = "<torn";
+  EXPECT_EQ(files(), after);
 }
 
 TEST_F(InterruptedSave, OnlyTheDocumentsOwnFilesAreRemovedAndOnlyAsTheyWere) {
