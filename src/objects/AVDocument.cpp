@@ -73,9 +73,10 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   app().gAVDoc = sharedOf(*this);
   const FolderScans::Opening opening(io->scans());
   std::string told = io->strFinishCutOffSaves(guid);
+  LongWork work(app().gMainForm, 1, Leaving::AtOnce);
   // Each file is read, and an object is made of it.
   const std::size_t files = io->scans().filesIn(dataFolderOf(guid));
-  const LongWork work(app().gMainForm, 2 * files, Leaving::AtOnce);
+  work.setParts(2 * files);
   collObjects_.reserve(files);
   io->guard().reserve(files);
   std::string message = LadderObject::strOpen(guid, form, io);

@@ -13,8 +13,8 @@ class LongWork {
  public:
   /// The window, which outlives it, may be null.
   LongWork(MainWindow* window, std::size_t parts, Leaving leaving = Leaving::NotBefore)
-      : window_(window) {
-    if (window_) window_->workBegins(parts, leaving);
+      : window_(window), leaving_(leaving) {
+    setParts(parts);
   }
   ~LongWork() {
     if (window_) window_->workEnds();
@@ -22,8 +22,14 @@ class LongWork {
   LongWork(const LongWork&) = delete;
   LongWork& operator=(const LongWork&) = delete;
 
+  /// For a work that learns late how many they are; none is done then.
+  void setParts(std::size_t parts) {
+    if (window_) window_->workBegins(parts, leaving_);
+  }
+
  private:
   MainWindow* window_;
+  Leaving leaving_;
 };
 
 }  // namespace velra

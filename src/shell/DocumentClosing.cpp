@@ -21,8 +21,8 @@ bool DocumentClosing::saveQuestionAnswered() {
 }
 
 bool DocumentClosing::CloseDocument(bool bNoPrompt) {
-  const bool changed = !app_.gAVDoc->collObjects().changedObjects().empty();
-  if (changed && !bNoPrompt && !saveQuestionAnswered()) return false;
+  const bool asks = !bNoPrompt && !app_.gAVDoc->collObjects().changedObjects().empty();
+  if (asks && !saveQuestionAnswered()) return false;
   releaseDocument();
   trees_.ResetListImageExpression();
   return true;

@@ -7,6 +7,7 @@
 #include "objects/AVDocument.h"
 #include "platform/UserInterface.h"
 #include "platform/files/Files.h"
+#include "protocol/LongWork.h"
 #include "shell/DocumentClosing.h"
 #include "shell/OpenCommands.h"
 #include "shell/OpenedDocument.h"
@@ -41,6 +42,12 @@ std::string SaveCommands::GetFileName(const std::string& proposed) {
   return free ? path : GetFileName(path);
 }
 
+// What a Save As held goes behind it, and then a large document goes.
+void SaveCommands::paint() {
+  const LongWork work(&window_, 1);
+  window_.workSteps();
+}
+
 void SaveCommands::SaveDocumentAs() {
   std::string folder;
   const std::string former = app_.gAVDoc->strGUID();
@@ -59,6 +66,7 @@ void SaveCommands::SaveDocumentAs() {
     app_.gAVDoc->setStrTitle(title);
     return;
   }
+  paint();
   closing_.CloseDocument(true);
   removeFolderIfEmpty(dataFolderOf(former));
   app_.gNotFound.clear();

@@ -25,6 +25,7 @@ class SaveCommands {
   std::string GetFileName(const std::string& proposed);
 
  private:
+  void paint();
   void SaveDocumentAs();
 
   ApplicationModule& app_;
