@@ -69,8 +69,10 @@ void changeCurrentFolder(const std::string& folder) {
 
 std::string strAbsolutePath(std::string_view path, const std::string& baseFolder) {
   std::string result;
-  result.reserve(current().path.size() + path.size() + 1);
-  if (path.empty() || path.front() != '/') {
+  const bool relative = path.empty() || path.front() != '/';
+  // An absolute one may be asked on a thread while another one changes the current folder.
+  result.reserve((relative ? current().path.size() : 0) + path.size() + 1);
+  if (relative) {
     if (!baseFolder.empty() && baseFolder.front() == '/') {
       appendParts(result, baseFolder);
     } else {

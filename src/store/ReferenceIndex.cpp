@@ -55,6 +55,7 @@ ReferenceIndex::Keys ReferenceIndex::keysOf(const DescribedObject& object) {
 }
 
 void ReferenceIndex::noteChange(const DescribedObject& object) {
+  await();
   if (built_) changed_.insert(&object);
 }
 

@@ -31,8 +31,10 @@ std::string DocumentSession::open(const std::string& path) {
   const auto document = std::make_shared<AVDocument>(app);
   factory.objects.push_back(document);
   changeCurrentFolder(folderOf(path));
-  return document->strOpen(path, factory.createForm(ObjectKind::AVDocument),
-                           std::make_shared<IOManager>(app));
+  const std::string message = document->strOpen(path, factory.createForm(ObjectKind::AVDocument),
+                                                std::make_shared<IOManager>(app));
+  document->collObjects().references().await();
+  return message;
 }
 
 void DocumentSession::create() {
