@@ -33,9 +33,9 @@ class AVDocument : public LadderObject, public OpenDocument {
   RegisteredRef loadedObject(const std::string& guid) override { return collObjects_.find(guid); }
 
   /// Becomes the open document first, in place of what was: all that is read below it joins the
-  /// registry of that one and is read by its schema. It stays so when the opening fails. With a main
-  /// window the index of references is still being built: whoever opens waits for it (`references`)
-  /// before an object is changed.
+  /// registry of that one and is read by its schema. It stays so when the opening fails. With a
+  /// main window the index of references is still being built: whoever opens waits for it
+  /// (`references`) before an object is changed.
   std::string strOpen(const std::string& guid, const std::shared_ptr<ObjectForm>& form,
                       const std::shared_ptr<IOManager>& io) override;
 

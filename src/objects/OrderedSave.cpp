@@ -11,6 +11,7 @@
 #include "app/ApplicationModule.h"
 #include "protocol/DescribedObject.h"
 #include "protocol/MainWindow.h"
+#include "protocol/PaintedWait.h"
 #include "store/ObjectRegistry.h"
 
 namespace velra {
@@ -85,7 +86,8 @@ bool saveOne(ApplicationModule& app, RegisteredObject& object, int counter) {
 
 bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
                             const RegisteredObject& document) {
-  const std::vector<Waiting> changed = withPasses(changedObjects(objects, document));
+  const std::vector<Waiting> changed = paintedWait(
+      app.gMainForm, [&] { return withPasses(changedObjects(objects, document)); });
   std::vector<std::size_t> left(changed.size());  // places, from the last to the first
   std::iota(left.rbegin(), left.rend(), std::size_t{0});
   for (int pass = 1; !left.empty(); ++pass) {

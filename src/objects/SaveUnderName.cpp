@@ -67,6 +67,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   io_.removed().keepFilesOf(objects_);
   planned_->finished();
   document_.unsavedWork().saved(objects_);
+  if (app_.gMainForm) app_.gMainForm->workWaits();  // what was put aside goes, which takes a while
   return Outcome::Done;
 }
 
@@ -101,6 +102,7 @@ bool SaveUnderName::bFolderMade(const std::string& strAVDocPathName) {
 // objects get their names.
 void SaveUnderName::handOverPictures(SavePoint& before, const std::string& strAVDocPathName) {
   for (const ObjectRef& object : objects_.described()) {
+    if (app_.gMainForm) app_.gMainForm->workWaits();
     auto* video = as<VideoExpression>(object.get());
     if (video && io_.bFileSystem()) renameKeyFrame(*video, before, strAVDocPathName);
   }

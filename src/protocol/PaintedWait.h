@@ -15,7 +15,7 @@ namespace velra {
 /// may touch what the work touches; painting reads the nodes of the trees alone.
 template <class Work>
 auto paintedWait(MainWindow* window, Work work) {
-  constexpr std::chrono::milliseconds kBetweenPaintings{40};
+  constexpr std::chrono::milliseconds kBetweenPaintings{20};
   std::future<decltype(work())> result;
   try {
     if (window) result = std::async(std::launch::async, std::ref(work));

@@ -4,6 +4,8 @@
 #include "app/ApplicationModule.h"
 #include "objects/UnsavedPictures.h"
 #include "platform/UserInterface.h"
+#include "protocol/LongWork.h"
+#include "protocol/MainWindow.h"
 #include "protocol/OpenDocument.h"
 #include "shell/MainTrees.h"
 #include "store/ObjectRegistry.h"
@@ -34,6 +36,9 @@ void DocumentClosing::releaseDocument() {
     while (app_.gAVDoc->keepUnsavedWork()) {
     }
     dropUnsavedPictures(*app_.gAVDoc, true);
+    // The objects of a large document go in one piece.
+    const LongWork work(app_.gMainForm, 1);
+    app_.gMainForm->workSteps();
   }
   app_.gAVDoc.reset();
 }

@@ -25,7 +25,7 @@ TEST(Progress, OfAnOpeningASearchAndASaveAsComesToItsEnd) {
   program.ui.filesToSave = {program.folder / "copy.xml"};
   program.mainForm.mnuFileSaveAs();
   program.mainForm.setFace(nullptr);
-  EXPECT_EQ(face.works, std::vector<std::string>(9, "100%"));
+  EXPECT_EQ(face.works, std::vector<std::string>(10, "100%"));
 }
 
 }  // namespace
