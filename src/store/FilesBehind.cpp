@@ -2,6 +2,7 @@
 #include "store/FilesBehind.h"
 
 #include <algorithm>
+#include <chrono>
 #include <exception>
 #include <system_error>
 #include <utility>
@@ -23,10 +24,12 @@ constexpr int kThreads = 2;
 // to be woken for each single one would cost more than the file.
 constexpr std::size_t kMostWaiting = 64;
 constexpr std::size_t kFewWaiting = 16;
+constexpr std::chrono::milliseconds kBetweenCalls{40};
 
 }  // namespace
 
-FilesBehind::FilesBehind(NewFileNames& names, GuardedFiles& guard) : names_(names), guard_(guard) {
+FilesBehind::FilesBehind(NewFileNames& names, GuardedFiles& guard, std::function<void()> waits)
+    : names_(names), guard_(guard), waits_(std::move(waits)) {
   try {
     for (int i = 0; i < kThreads; ++i) threads_.emplace_back([this] { work(); });
   } catch (const std::system_error&) {
@@ -69,11 +72,20 @@ void FilesBehind::add(File file) {
   Lock lock(mutex_);
   // A copy is two names until it is made.
   if (file.kind == Kind::Write && files_.size() - next_ >= kMostWaiting) {
-    done_.wait(lock, [this] { return files_.size() - next_ <= kFewWaiting || failed_; });
+    waitForRoom(lock);
   }
   files_.push_back(std::move(file));
   lock.unlock();
   handed_.notify_one();
+}
+
+void FilesBehind::waitForRoom(Lock& lock) {
+  const auto hasRoom = [this] { return files_.size() - next_ <= kFewWaiting || failed_; };
+  while (!done_.wait_for(lock, kBetweenCalls, hasRoom)) {
+    lock.unlock();
+    waits_();
+    lock.lock();
+  }
 }
 
 void FilesBehind::work() {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -20,7 +21,9 @@ class NewFileNames;
 /// thread of the document.
 class FilesBehind {
  public:
-  FilesBehind(NewFileNames& names, GuardedFiles& guard);
+  /// `waits` is called some ten times in a second while a file cannot be handed over yet.
+  FilesBehind(
+      NewFileNames& names, GuardedFiles& guard, std::function<void()> waits = [] {});
   FilesBehind(const FilesBehind&) = delete;
   FilesBehind& operator=(const FilesBehind&) = delete;
   /// Waits for what was begun.
@@ -65,6 +68,7 @@ class FilesBehind {
 
   void add(File file);
   void addNow(File file);
+  void waitForRoom(Lock& lock);
   void work();
   bool atRest() const;
   static void make(File& file);
@@ -73,6 +77,7 @@ class FilesBehind {
 
   NewFileNames& names_;
   GuardedFiles& guard_;
+  std::function<void()> waits_;
   std::mutex mutex_;
   std::condition_variable handed_;  // a file, or the last one
   std::condition_variable done_;    // enough for the thread of the document to go on

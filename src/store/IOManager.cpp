@@ -129,7 +129,9 @@ std::string IOManager::strSaveBehind(const std::string& bytes, const std::string
 }
 
 void IOManager::makeFilesBehind() {
-  behind_ = std::make_unique<FilesBehind>(names_, guard_);
+  behind_ = std::make_unique<FilesBehind>(names_, guard_, [this] {
+    if (app_.gMainForm) app_.gMainForm->workWaits();
+  });
 }
 
 FilesBehind::Outcome IOManager::filesMade() {
