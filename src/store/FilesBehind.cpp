@@ -24,7 +24,7 @@ constexpr int kThreads = 2;
 // to be woken for each single one would cost more than the file.
 constexpr std::size_t kMostWaiting = 64;
 constexpr std::size_t kFewWaiting = 16;
-constexpr std::chrono::milliseconds kBetweenCalls{40};
+constexpr std::chrono::milliseconds kBetweenWaits{40};
 
 }  // namespace
 
@@ -81,7 +81,7 @@ void FilesBehind::add(File file) {
 
 void FilesBehind::waitForRoom(Lock& lock) {
   const auto hasRoom = [this] { return files_.size() - next_ <= kFewWaiting || failed_; };
-  while (!done_.wait_for(lock, kBetweenCalls, hasRoom)) {
+  while (!done_.wait_for(lock, kBetweenWaits, hasRoom)) {
     lock.unlock();
     waits_();
     lock.lock();

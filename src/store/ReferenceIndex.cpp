@@ -105,8 +105,8 @@ void ReferenceIndex::beginBeside() {
 }
 
 void ReferenceIndex::awaitWith(const std::function<void()>& meanwhile) {
-  constexpr std::chrono::milliseconds kBetweenCalls{20};
-  while (beside_.valid() && beside_.wait_for(kBetweenCalls) == std::future_status::timeout) {
+  constexpr std::chrono::milliseconds kBetweenLooks{20};
+  while (beside_.valid() && beside_.wait_for(kBetweenLooks) == std::future_status::timeout) {
     meanwhile();
   }
   await();
