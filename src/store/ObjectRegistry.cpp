@@ -132,7 +132,8 @@ RegisteredRef ObjectRegistry::find(const std::string& guid) {
 bool ObjectRegistry::isTaken(PathKey key) {
   rekeyAfterFolderChange();
   const auto [first, last] = byKey_.equal_range(key);
-  return std::any_of(first, last, [&](const auto& entry) { return isAt(key, entry.second); });
+  return std::any_of(first, last,
+                     [this](const auto& entry) { return objects_.contains(entry.second); });
 }
 
 void ObjectRegistry::departed(PathKey key) {
@@ -164,25 +165,23 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   const PathKey key = pathKey(strAbsolutePath(object.strGUID()));
   const PathKey old = object.place_.key;
   if (key == old) return;
-  const std::uint64_t number = object.place_.number;
+  unindex(object);
   object.place_.key = key;
-  const auto [first, last] = byKey_.equal_range(key);
-  const bool wasHere =
-      std::any_of(first, last, [number](const auto& entry) { return entry.second == number; });
-  if (!wasHere) byKey_.emplace(key, number);
+  byKey_.emplace(key, object.place_.number);
   ++arrivals_;
   departed(old);
-  dropStaleKeys();
 }
 
-bool ObjectRegistry::isAt(PathKey key, std::uint64_t number) const {
-  const RegisteredRef object = objects_.find(number);
-  return object && object->place_.key == key;
+void ObjectRegistry::unindex(const RegisteredObject& object) {
+  const auto [first, last] = byKey_.equal_range(object.place_.key);
+  const auto at = std::find_if(
+      first, last, [&](const auto& entry) { return entry.second == object.place_.number; });
+  if (at != last) byKey_.erase(at);
 }
 
 void ObjectRegistry::dropStaleKeys() {
-  if (byKey_.size() < 3 * objects_.size() + kFewStale) return;  // a Save As doubles them
-  std::erase_if(byKey_, [this](const auto& entry) { return !isAt(entry.first, entry.second); });
+  if (byKey_.size() < 2 * objects_.size() + kFewStale) return;
+  std::erase_if(byKey_, [this](const auto& entry) { return !objects_.contains(entry.second); });
 }
 
 void ObjectRegistry::rekeyAfterFolderChange() {

@@ -88,15 +88,15 @@ class ObjectRegistry : private ObjectListener {
   void rekeyAfterFolderChange();
   /// Gives the object the key of its identifier; the one that it had goes out of use.
   void rekey(RegisteredObject& object);
-  bool isAt(PathKey key, std::uint64_t number) const;
+  void unindex(const RegisteredObject& object);
   void dropStaleKeys();
   void departed(PathKey key);
   RegisteredRef firstAt(const std::string& path) const;
   bool holds(const RegisteredObject& object) const;
 
   ObjectSequence objects_;
-  // Numbers. One that has gone, or has another key now, stays a while: to take it out at once is to
-  // wait for memory that no cache holds.
+  // Numbers. That of an object that has gone stays a while: to take it out at once is to wait for
+  // memory that no cache holds.
   std::unordered_multimap<PathKey, std::uint64_t> byKey_;
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since

@@ -34,6 +34,11 @@ RegisteredRef ObjectSequence::find(std::uint64_t number) const {
   return offset < entries_.size() ? entries_[offset].object : nullptr;
 }
 
+bool ObjectSequence::contains(std::uint64_t number) const {
+  const std::size_t offset = offsetOf(number);
+  return offset < entries_.size() && entries_[offset].object;
+}
+
 void ObjectSequence::remove(std::uint64_t number) {
   const std::size_t offset = offsetOf(number);
   if (offset == entries_.size() || !entries_[offset].object) return;

@@ -49,6 +49,8 @@ class ObjectSequence {
   std::uint64_t add(const RegisteredRef& object);
   /// Null when there is none of the number.
   RegisteredRef find(std::uint64_t number) const;
+  /// The same without a look at the object, which may be in no cache.
+  bool contains(std::uint64_t number) const;
   void remove(std::uint64_t number);
 
  private:
