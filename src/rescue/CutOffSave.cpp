@@ -112,9 +112,15 @@ std::string CutOffSave::carryOut(const CopyPlan& plan) {
   const std::string& path = plan.document.path;
   if (!bFolderExists(folderOf(path))) return folderOf(path) + texts_.isNotThere;
   if (isOpen(store_, path)) return path + texts_.isOpen;
-  const bool mayBeWritten = !plan.document.bytes.empty();
-  std::string failure =
-      mayBeWritten ? strStateOf(plan.document, document.state, document.bytes) : std::string();
+  std::string failure;
+  if (!plan.document.bytes.empty()) {
+    failure = strStateOf(plan.document, document.state, document.bytes);
+  } else if (keptStamp(path) != plan.document.stamp) {
+    // The whole plan never came here, so that nobody knows whether it was this save that wrote it:
+    // what it has made stays, and what was kept as well.
+    store_.plans().abandon(work_.session);
+    return {};
+  }
   if (failure.empty() && document.state == FileState::Untouched) failure = undo(plan);
   if (failure.empty() && document.state == FileState::Torn) failure = writeFiles({document});
   if (!failure.empty()) return failure + " (" + path + ")";

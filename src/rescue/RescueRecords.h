@@ -72,7 +72,7 @@ struct MadeFile {
 /// All that a save under another name will do. The files that are made are on the disk before that
 /// of the document, the only one that may be written over, is touched.
 struct CopyPlan {
-  PlannedFile document;  // without bytes as long as these are not known: then it is not written
+  PlannedFile document;  // without bytes as long as these are not known
   std::vector<MadeFile> made;
 };
 
