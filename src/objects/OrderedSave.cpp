@@ -86,8 +86,8 @@ bool saveOne(ApplicationModule& app, RegisteredObject& object, int counter) {
 
 bool bSaveInDependencyOrder(ApplicationModule& app, ObjectRegistry& objects,
                             const RegisteredObject& document) {
-  const std::vector<Waiting> changed = paintedWait(
-      app.gMainForm, [&] { return withPasses(changedObjects(objects, document)); });
+  const std::vector<Waiting> changed =
+      paintedWait(app.gMainForm, [&] { return withPasses(changedObjects(objects, document)); });
   std::vector<std::size_t> left(changed.size());  // places, from the last to the first
   std::iota(left.rbegin(), left.rend(), std::size_t{0});
   for (int pass = 1; !left.empty(); ++pass) {
