@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 #include "base/Paths.h"
@@ -131,10 +132,13 @@ void KnownFolder::listAnew() {
 }
 
 void KnownFolder::askWhoIsLoaded(ObjectRegistry& objects) {
-  const std::uint64_t before = std::exchange(departures_, objects.departures());
-  const bool gone = departures_ != before;
+  const std::vector<PathKey>& all = objects.movements();
+  const auto before = static_cast<std::ptrdiff_t>(std::exchange(movements_, all.size()));
+  const std::unordered_set<PathKey> moved(all.begin() + before, all.end());
   for (File& file : files_) {
-    if (!file.loaded || gone) file.loaded = objects.isTaken(file.key);
+    if (file.asked && !moved.contains(file.key)) continue;
+    file.loaded = objects.isTaken(file.key);
+    file.asked = true;
   }
 }
 

@@ -30,7 +30,7 @@ void ObjectRegistry::Add(const RegisteredRef& object) {
   const PathKey key = pathKey(strAbsolutePath(object->strGUID()));
   object->place_ = {objects_.add(object), key};
   byKey_.emplace(key, object->place_.number);
-  ++arrivals_;
+  arrived(key);
   object->setObjectListener(this);
   if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
   if (object->bChanged()) markedChanged(*object);
@@ -136,8 +136,18 @@ bool ObjectRegistry::isTaken(PathKey key) {
                      [this](const auto& entry) { return objects_.contains(entry.second); });
 }
 
+const std::vector<PathKey>& ObjectRegistry::movements() {
+  rekeyAfterFolderChange();
+  return movements_;
+}
+
+void ObjectRegistry::arrived(PathKey key) {
+  ++arrivals_;
+  movements_.push_back(key);
+}
+
 void ObjectRegistry::departed(PathKey key) {
-  ++departures_;
+  movements_.push_back(key);
   numbers_.freed(key);
 }
 
@@ -168,7 +178,7 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   unindex(object);
   object.place_.key = key;
   byKey_.emplace(key, object.place_.number);
-  ++arrivals_;
+  arrived(key);
   departed(old);
 }
 
