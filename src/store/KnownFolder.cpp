@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 
 #include "base/Paths.h"
@@ -132,13 +131,10 @@ void KnownFolder::listAnew() {
 }
 
 void KnownFolder::askWhoIsLoaded(ObjectRegistry& objects) {
-  const std::vector<PathKey>& all = objects.movements();
-  const auto before = static_cast<std::ptrdiff_t>(std::exchange(movements_, all.size()));
-  const std::unordered_set<PathKey> moved(all.begin() + before, all.end());
+  const std::uint64_t before = std::exchange(departures_, objects.departures());
+  const bool gone = departures_ != before;
   for (File& file : files_) {
-    if (file.asked && !moved.contains(file.key)) continue;
-    file.loaded = objects.isTaken(file.key);
-    file.asked = true;
+    if (!file.loaded || gone) file.loaded = objects.isTaken(file.key);
   }
 }
 

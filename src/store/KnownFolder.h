@@ -74,7 +74,6 @@ class KnownFolder {
     PathKey key = 0;
     FileStamp stamp;  // when it was read; of no file when nothing is known of it
     std::uint32_t name = 0;
-    bool asked = false;      // whether one does
     bool loaded = false;     // an object answers for it
     bool unchanged = false;  // since it was read, as far as was told
     bool told = false;       // what it said is in `told_`, else its relations are in `related_`
@@ -102,7 +101,7 @@ class KnownFolder {
   std::vector<KnownRelation>
       related_;  // sorted by the numbers of what they point at; files are keys
   ToldFiles told_;
-  std::size_t movements_ = 0;         // of the registry when it was asked last
+  std::uint64_t departures_ = 0;      // of the registry when it was asked last
   std::vector<ScannedFile> holders_;  // of the last answer
 };
 

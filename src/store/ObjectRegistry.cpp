@@ -30,7 +30,7 @@ void ObjectRegistry::Add(const RegisteredRef& object) {
   const PathKey key = pathKey(strAbsolutePath(object->strGUID()));
   object->place_ = {objects_.add(object), key};
   byKey_.emplace(key, object->place_.number);
-  arrived(key);
+  ++arrivals_;
   object->setObjectListener(this);
   if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
   if (object->bChanged()) markedChanged(*object);
@@ -136,18 +136,8 @@ bool ObjectRegistry::isTaken(PathKey key) {
                      [this](const auto& entry) { return objects_.contains(entry.second); });
 }
 
-const std::vector<PathKey>& ObjectRegistry::movements() {
-  rekeyAfterFolderChange();
-  return movements_;
-}
-
-void ObjectRegistry::arrived(PathKey key) {
-  ++arrivals_;
-  movements_.push_back(key);
-}
-
 void ObjectRegistry::departed(PathKey key) {
-  movements_.push_back(key);
+  ++departures_;
   numbers_.freed(key);
 }
 
@@ -178,7 +168,7 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   unindex(object);
   object.place_.key = key;
   byKey_.emplace(key, object.place_.number);
-  arrived(key);
+  ++arrivals_;
   departed(old);
 }
 

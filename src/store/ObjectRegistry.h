@@ -5,7 +5,6 @@
 #include <set>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 #include "protocol/DescribedObject.h"
 #include "store/NumberSource.h"
@@ -52,9 +51,8 @@ class ObjectRegistry : private ObjectListener {
 
   /// Whether an object has an identifier with this number; one that shares the number counts.
   bool isTaken(PathKey key);
-  /// The numbers of identifiers to which objects came and which they left, by a removal or a new
-  /// name, in order; it only grows, so that a place in it stands for a time.
-  const std::vector<PathKey>& movements();
+  /// How often an identifier has gone out of use, by a removal or a new name.
+  std::uint64_t departures() const { return departures_; }
 
   /// Its position from 1; 0 when there is none.
   std::size_t positionOf(const std::string& guid);
@@ -92,7 +90,6 @@ class ObjectRegistry : private ObjectListener {
   void rekey(RegisteredObject& object);
   void unindex(const RegisteredObject& object);
   void dropStaleKeys();
-  void arrived(PathKey key);
   void departed(PathKey key);
   RegisteredRef firstAt(const std::string& path) const;
   bool holds(const RegisteredObject& object) const;
@@ -105,7 +102,7 @@ class ObjectRegistry : private ObjectListener {
   std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since
   ReferenceIndex references_{*this};
   NumberSource numbers_{*this};
-  std::vector<PathKey> movements_;
+  std::uint64_t departures_ = 0;
   unsigned folderGeneration_ = 0;
   std::uint64_t arrivals_ = 0;
 };
