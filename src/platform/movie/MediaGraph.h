@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <stop_token>
 #include <string>
-#include <vector>
+
+#include "platform/movie/PixelBytes.h"
 
 namespace velra {
 
@@ -14,7 +14,7 @@ namespace velra {
 struct PictureFrame {
   int width = 0;
   int height = 0;
-  std::vector<std::uint8_t> pixels;
+  PixelBytes pixels;
 };
 
 /// A movie that plays: the operations that the expression tool needs and no others. Called on the
