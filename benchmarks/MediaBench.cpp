@@ -169,27 +169,38 @@ void addPlayStarts(std::vector<Measure>& measures, const std::string& path) {
   measures.push_back({"stop, worst", stops.at(1), "ms", 50});
 }
 
-void addPlay(std::vector<Measure>& measures, const std::string& name, const std::string& path) {
-  const double memory = residentMegabytes();
-  Watched movie(path);
-  const int before = movie.pictures;
-  const double processor = processorSeconds();
-  const auto start = Clock::now();
-  movie.graph->setCurrentPosition(5);
-  movie.graph->Run();
-  while (movie.graph->CurrentPosition() < 5 + kPlaySeconds &&
-         Clock::now() < start + std::chrono::seconds(20)) {
+// Until the position is reached and its notice has come, or for so long at most.
+void playUntil(const Watched& movie, double position) {
+  const auto stop = Clock::now() + std::chrono::seconds(20);
+  while (movie.graph->CurrentPosition() < position && Clock::now() < stop) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
-  movie.graph->Stop();
+  std::this_thread::sleep_for(std::chrono::milliseconds(5));
+}
+
+// What goes before, the seek and the first pictures, counts on neither side.
+void addPlay(std::vector<Measure>& measures, const std::string& name, const std::string& path) {
+  constexpr double kFrom = 5;
+  const double memory = residentMegabytes();
+  Watched movie(path);
+  movie.graph->setCurrentPosition(kFrom);
+  movie.graph->Run();
+  playUntil(movie, kFrom + kPlayStart);
+  const int before = movie.pictures;
+  const double first = movie.graph->CurrentPosition();
+  const double processor = processorSeconds();
+  const auto start = Clock::now();
+  playUntil(movie, first + kPlaySeconds);
   const double spent = std::chrono::duration<double>(Clock::now() - start).count();
   const double used = (processorSeconds() - processor) / spent * 100;
-  const long expected = std::lround((movie.graph->CurrentPosition() - 5) / kBenchFrame);
-  const long missed = std::max(0L, expected - (movie.pictures - before));
+  const int shown = movie.pictures - before;
+  const double last = movie.graph->CurrentPosition();
+  movie.graph->Stop();
+  const long missed = std::max(0L, std::lround((last - first) / kBenchFrame) - shown);
   measures.push_back({"play, " + name + ", pictures missed", static_cast<double>(missed), "", 0});
   measures.push_back({"play, " + name + ", of one core", used, "%", 20});
   const double added = residentMegabytes() - memory;
-  if (const auto other = mpvPlayWork(path, 5, kPlaySeconds)) {
+  if (const auto other = mpvPlayWork(path, kFrom, kPlaySeconds)) {
     measures.push_back({"play, " + name + ", of one core / mpv's", used / 100 / *other, "", 0.8});
   }
   measures.push_back({"play, " + name + ", memory added", added, "MB", 200});

@@ -106,9 +106,8 @@ std::optional<double> played(const std::string& movie, double from, double secon
 }  // namespace
 
 std::optional<double> mpvPlayWork(const std::string& movie, double from, double seconds) {
-  constexpr double kStart = 0.5;
-  const auto start = played(movie, from, kStart);
-  const auto all = played(movie, from, kStart + seconds);
+  const auto start = played(movie, from, kPlayStart);
+  const auto all = played(movie, from, kPlayStart + seconds);
   if (!start || !all) return std::nullopt;
   return std::max(*all - *start, 0.0) / seconds;
 }

@@ -18,9 +18,12 @@ struct OtherPlayer {
 std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
                                       const std::string& folder);
 
-/// The share of one core that mpv takes to play so many seconds of a movie from a time on, without
-/// its start; it decodes in software, and makes the pictures as a screen takes them. Nothing when
-/// it is not installed.
+/// Seconds of play after which it is measured: the seek before it and the first pictures are over.
+inline constexpr double kPlayStart = 0.5;
+
+/// The share of one core that mpv takes to play so many seconds of a movie, `kPlayStart` behind a
+/// time, without its start; it decodes in software, and makes the pictures as a screen takes them.
+/// Nothing when it is not installed.
 std::optional<double> mpvPlayWork(const std::string& movie, double from, double seconds);
 
 }  // namespace velra::bench
