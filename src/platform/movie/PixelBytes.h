@@ -9,22 +9,18 @@
 
 namespace velra {
 
-/// Leaves bytes as the memory has them when a vector is made longer without a value for them.
-struct UnsetBytes : std::allocator<std::uint8_t> {
-  template <class Other>
-  struct rebind {
-    using other = UnsetBytes;
-  };
-
-  static void construct(std::uint8_t* byte) { ::new (static_cast<void*>(byte)) std::uint8_t; }
+/// Leaves what a vector is made longer by as the memory has it, unless a value is given.
+template <class T>
+struct UnsetMemory : std::allocator<T> {
+  static void construct(T* place) { ::new (static_cast<void*>(place)) T; }
   template <class... Values>
-  static void construct(std::uint8_t* byte, Values&&... values) {
-    ::new (static_cast<void*>(byte)) std::uint8_t(std::forward<Values>(values)...);
+  static void construct(T* place, Values&&... values) {
+    ::new (static_cast<void*>(place)) T(std::forward<Values>(values)...);
   }
 };
 
 /// The bytes of a picture. `resize` does not clear them: whoever asks for some writes all, and to
 /// write megabytes twice for each picture of a movie is a twentieth of what its play costs.
-using PixelBytes = std::vector<std::uint8_t, UnsetBytes>;
+using PixelBytes = std::vector<std::uint8_t, UnsetMemory<std::uint8_t>>;
 
 }  // namespace velra
