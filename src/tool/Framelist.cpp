@@ -123,7 +123,7 @@ void Framelist::colour() {
 }
 
 void Framelist::layOut() {
-  images_.placeAll(iCellX_);
+  images_.setCellWidth(iCellX_);
   if (iSelectedStart_ != -1) {
     images_.showStretch(iSelectedStart_, iSelectedEnd_);
     colour();
@@ -180,7 +180,7 @@ void Framelist::DoubleClick(std::int16_t position) {
 std::int16_t Framelist::iImageAt(double x, double y) const {
   if (y < kMargin || y >= kMargin + ImageY_) return 0;
   for (std::int16_t i = Count(); i >= 1; --i) {
-    const double left = images_.at(i)->left + kMargin;
+    const double left = images_.left(i) + kMargin;
     if (x >= left && x < left + ImageX_) return i;
   }
   return 0;

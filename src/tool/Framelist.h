@@ -83,6 +83,8 @@ class Framelist {
   const Image& image(std::int16_t position) const { return *images_.at(position); }
   const ScrollBar& scrollBar() const { return HScroll1_; }
   double panelLeft() const { return -HScroll1_.value; }
+  /// Of a picture's cell, on the panel.
+  double left(std::int16_t position) const { return images_.left(position); }
   /// The picture at a place on the panel; 0 for none.
   std::int16_t iImageAt(double x, double y) const;
   /// The picture next on the strip to the one at the selection's end; 0 for none. Without a

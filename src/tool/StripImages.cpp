@@ -28,11 +28,14 @@ const std::shared_ptr<StripImage>& StripImages::at(std::int16_t position) const 
 
 void StripImages::add(const StripImage& image) {
   const auto atPlace = [&](const auto& other) { return other->tag == image.tag; };
-  if (std::any_of(images_.begin(), images_.end(), atPlace)) {
+  // A strip is filled from its beginning, so that nothing is looked at for most of its pictures.
+  if (image.tag <= highest_ && std::any_of(images_.begin(), images_.end(), atPlace)) {
     for (const auto& other : images_) {
       if (other->tag >= image.tag) other->tag = addInt16(other->tag, 1);
     }
+    ++highest_;
   }
+  highest_ = std::max<int>(highest_, image.tag);
   images_.Add(std::make_shared<StripImage>(image));
 }
 
@@ -41,6 +44,7 @@ void StripImages::remove(std::int16_t position) {
   for (const auto& other : images_) {
     if (other->tag > removed->tag) --other->tag;
   }
+  if (removed->tag <= highest_) --highest_;
   images_.Remove(static_cast<std::size_t>(position));
 }
 
@@ -56,8 +60,8 @@ void StripImages::removeStretch(std::int16_t a, std::int16_t b) {
   }
 }
 
-void StripImages::placeAll(double cellWidth) {
-  for (const auto& image : images_) image->left = (image->tag - 1) * cellWidth;
+double StripImages::left(std::int16_t position) const {
+  return (at(position)->tag - 1) * cellWidth_;
 }
 
 void StripImages::colourAll(std::int32_t colour) {

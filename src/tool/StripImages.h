@@ -15,7 +15,6 @@ struct StripImage {
   Picture picture;
   std::string caption;
   std::int16_t tag = 0;  // the place on the strip, from 1
-  double left = 0;       // of the cell, on the panel
   bool squareVisible = false;
   std::int32_t squareColour = 0;
 };
@@ -36,7 +35,11 @@ class StripImages {
   /// Removes all that stand from the one picture to the other.
   void removeStretch(std::int16_t a, std::int16_t b);
 
-  void placeAll(double cellWidth);
+  /// All are placed by cells of this width, also those that come.
+  void setCellWidth(double twips) { cellWidth_ = twips; }
+  /// Of the cell of a picture, on the panel.
+  double left(std::int16_t position) const;
+
   void colourAll(std::int32_t colour);
   /// Shows the square of one picture, and no other.
   void showOne(std::int16_t position);
@@ -53,6 +56,8 @@ class StripImages {
   void hideSquares();
 
   Collection<std::shared_ptr<StripImage>> images_;
+  double cellWidth_ = 0;
+  int highest_ = INT16_MIN;  // no picture stands behind this place; no two stand at one
 };
 
 }  // namespace velra

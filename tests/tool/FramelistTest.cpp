@@ -38,16 +38,16 @@ TEST_F(FramelistTest, ANewcomerPushesItsWayIn) {
   for (const std::int16_t place : Tags{1, 2, 3}) add(place);
   add(2);
   EXPECT_EQ(tags(), (Tags{1, 3, 4, 2}));
-  EXPECT_EQ(strip.image(4).left, 1100);
+  EXPECT_EQ(strip.left(4), 1100);
   add(0);  // a segment that its chain does not reach
-  EXPECT_EQ(strip.image(5).left, -1100);
+  EXPECT_EQ(strip.left(5), -1100);
 }
 
 TEST_F(FramelistTest, RemovalClosesTheGap) {
   for (const std::int16_t place : Tags{1, 1, 3}) add(place);  // tags 2, 1, 3
   strip.RemoveImage(1);
   EXPECT_EQ(tags(), (Tags{1, 2}));
-  EXPECT_EQ(strip.image(2).left, 1100);
+  EXPECT_EQ(strip.left(2), 1100);
   EXPECT_THROW(strip.RemoveImage(3), RunTimeError);
 }
 

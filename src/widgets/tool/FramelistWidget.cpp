@@ -86,9 +86,8 @@ int FramelistWidget::partCount() const {
 }
 
 QRect FramelistWidget::partRect(int part) const {
-  const Framelist::Image& image = strip_.image(positionOf(part));
-  return {pixelsFromTwips(image.left + strip_.panelLeft()), 0, pixelsFromTwips(strip_.iCellX()),
-          pixelsFromTwips(strip_.iCellY())};
+  return {pixelsFromTwips(strip_.left(positionOf(part)) + strip_.panelLeft()), 0,
+          pixelsFromTwips(strip_.iCellX()), pixelsFromTwips(strip_.iCellY())};
 }
 
 QString FramelistWidget::partName(int part) const {
