@@ -49,6 +49,15 @@ void appendParts(std::string& result, std::string_view path) {
   }
 }
 
+std::string_view lastPart(std::string_view path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string_view::npos ? path : path.substr(slash + 1);
+}
+
+bool isName(std::string_view part) {
+  return !part.empty() && part != "." && part != "..";
+}
+
 }  // namespace
 
 const std::string& currentFolder() {
@@ -86,7 +95,12 @@ std::string strAbsolutePath(std::string_view path, const std::string& baseFolder
 }
 
 bool bSamePath(std::string_view a, std::string_view b) {
-  return a == b || strAbsolutePath(a) == strAbsolutePath(b);
+  if (a == b) return true;
+  const std::string_view nameA = lastPart(a);
+  const std::string_view nameB = lastPart(b);
+  // The last part of a path is that of its normal form, unless it is one that the form leaves out.
+  if (nameA != nameB && isName(nameA) && isName(nameB)) return false;
+  return strAbsolutePath(a) == strAbsolutePath(b);
 }
 
 std::string strSplitPath(std::string_view path, std::string& folder, std::string* extension) {

@@ -13,6 +13,12 @@ namespace {
 
 constexpr std::size_t kFewStale = 16;
 
+// Whether the normal form of its identifier is this path, which is one already.
+bool isAt(const RegisteredObject& object, const std::string& path) {
+  const std::string guid = object.strGUID();
+  return guid == path || strAbsolutePath(guid) == path;
+}
+
 }  // namespace
 
 ObjectRegistry::~ObjectRegistry() {
@@ -119,7 +125,7 @@ RegisteredRef ObjectRegistry::firstAt(const std::string& path) const {
   for (auto at = first; at != last; ++at) {
     RegisteredRef object = objects_.find(at->second);
     const bool earlier = object && (!found || at->second < found->place_.number);
-    if (earlier && strAbsolutePath(object->strGUID()) == path) found = std::move(object);
+    if (earlier && isAt(*object, path)) found = std::move(object);
   }
   return found;
 }

@@ -60,6 +60,8 @@ TEST(Paths, AbsoluteFormDecidesTheCorners) {
   for (const auto& one : cases)
     EXPECT_EQ(strAbsolutePath(one.path, one.base), one.form) << one.path;
   EXPECT_TRUE(bSamePath("/a/./b", "/a//b/"));
+  EXPECT_TRUE(bSamePath("/a/b", "/a/b/c/.."));
+  EXPECT_TRUE(bSamePath("/a", "/a/."));
   EXPECT_FALSE(bSamePath("/a/B", "/a/b"));
   EXPECT_FALSE(bSamePath("/\xC3\xA9", "/e\xCC\x81")) << "names are bytes";
 }
