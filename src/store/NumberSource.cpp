@@ -54,7 +54,7 @@ std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix
                                        const std::string& suffix) {
   for (auto gap = family.gaps.begin(); gap != family.gaps.end();) {
     std::string path = prefix + std::to_string(*gap) + suffix;
-    if (objects_.find(path)) {
+    if (objects_.isTaken(keyOf(family, *gap, suffix))) {
       gap = family.gaps.erase(gap);
     } else if (fileTaken(path)) {
       // Within a listing files neither come nor go, so the gap is closed for good.
@@ -73,11 +73,14 @@ std::string NumberSource::take(const std::string& prefix, const std::string& suf
   if (listedFolder_.empty()) takeNews(family);
   std::string path = takeFromGaps(family, prefix, suffix);
   if (!path.empty()) return path;
-  for (; family.frontier <= kHighestNumber; pass(family, suffix)) {
-    path = prefix + std::to_string(family.frontier) + suffix;
-    if (objects_.find(path)) continue;
-    if (!fileTaken(path)) return path;
-    if (listedFolder_.empty()) family.gaps.insert(family.frontier);
+  for (; family.frontier <= kHighestNumber; ++family.frontier) {
+    const PathKey key = keyOf(family, family.frontier, suffix);
+    if (!objects_.isTaken(key)) {
+      path = prefix + std::to_string(family.frontier) + suffix;
+      if (!fileTaken(path)) return path;
+      if (listedFolder_.empty()) family.gaps.insert(family.frontier);
+    }
+    family.passed.emplace(key, family.frontier);
   }
   raise(kOverflow);
 }
@@ -95,9 +98,8 @@ void NumberSource::takeNews(const Family& family) {
   for (auto& [name, any] : families_) any.gaps.merge(any.filled);
 }
 
-void NumberSource::pass(Family& family, const std::string& suffix) {
-  const int number = family.frontier++;
-  family.passed.emplace(pathKey(family.key + std::to_string(number) + suffix), number);
+PathKey NumberSource::keyOf(const Family& family, int number, const std::string& suffix) {
+  return pathKey(family.key + std::to_string(number) + suffix);
 }
 
 void NumberSource::freed(PathKey key) {

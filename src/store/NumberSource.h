@@ -63,7 +63,7 @@ class NumberSource {
 
   bool fileTaken(const std::string& path) const;
   void takeNews(const Family& family);
-  static void pass(Family& family, const std::string& suffix);
+  static PathKey keyOf(const Family& family, int number, const std::string& suffix);
   std::string takeFromGaps(Family& family, const std::string& prefix, const std::string& suffix);
 
   ObjectRegistry& objects_;
