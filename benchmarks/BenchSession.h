@@ -29,6 +29,7 @@ class BenchSession {
     mainForm.tvwMainTree.clear();
     mainForm.tvwExpression.clear();
     app.gAVDoc.reset();
+    app.lateRelease.await();
   }
   std::shared_ptr<AVDocument> document() const {
     return std::dynamic_pointer_cast<AVDocument>(app.gAVDoc);

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/LateRelease.h"
 #include "app/MessageCatalogue.h"
 
 namespace velra {
@@ -42,6 +43,7 @@ class ApplicationModule {
   MachineSettings& machineSettings;
   UserSettings& userSettings;
 
+  LateRelease lateRelease;  ///< of what a document leaves, so that it outlives the open one
   std::shared_ptr<OpenDocument> gAVDoc;  ///< the open document; at most one
   MainWindow* gMainForm = nullptr;       ///< set by the main window for its life
   ObjectFactory* objectFactory = nullptr;

@@ -42,16 +42,18 @@ AVDocument::AVDocument(ApplicationModule& app)
     : LadderObject(app, ObjectKind::AVDocument), shared_(app) {}
 
 AVDocument::~AVDocument() {
-  collObjects_.clear();
+  app().lateRelease.take(collObjects_.takeAll());
 }
 
 OpenDocument& AVDocument::document() const {
   return const_cast<AVDocument&>(*this);
 }
 
-// The registry is a part of the document: an entry that held it would keep both alive for ever.
+// The registry is a part of the document: an entry that held it would keep both alive for ever. The
+// entry may outlive it, with all others that the registry held, and must not look at it then.
 void AVDocument::registerSelf() {
-  collObjects_.Add(ObjectRef(this, [](DescribedObject*) {}));
+  DescribedObject* self = this;
+  collObjects_.Add(ObjectRef(self, [](DescribedObject*) {}));
 }
 
 void AVDocument::initFields() {

@@ -52,6 +52,7 @@ class MediaObject : public RegisteredObject {
   bool bChanged() const override { return bChanged_; }
   bool bSave() override;
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
+  void documentCloses() override { io_.reset(); }
 
  private:
   SchemaElement* ownerField() const;

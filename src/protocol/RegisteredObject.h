@@ -53,6 +53,10 @@ class RegisteredObject {
   /// Null ends the listening.
   virtual void setObjectListener(ObjectListener* listener) = 0;
 
+  /// Nobody will ask it for anything any more. It lets go of all but memory, since its end may come
+  /// later and on another thread.
+  virtual void documentCloses() = 0;
+
  private:
   friend class ObjectRegistry;
 

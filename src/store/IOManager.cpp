@@ -39,6 +39,10 @@ IOManager::~IOManager() {
   if (strDeleteAll().empty() && rescue_) rescue_->removalsDone();
   const std::string notes = guard_.strTakeNotes(app_.messages);
   if (!notes.empty() && app_.gMainForm) app_.gMainForm->setStrStatusBarText(notes);
+  // What is known of tens of thousands of files.
+  app_.lateRelease.take(std::move(guard_));
+  app_.lateRelease.take(std::move(names_));
+  app_.lateRelease.take(std::move(scans_));
 }
 
 std::string IOManager::strFinishCutOffSaves(const std::string& strAVDocPathName) {

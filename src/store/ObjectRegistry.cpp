@@ -22,7 +22,7 @@ bool isAt(const RegisteredObject& object, const std::string& path) {
 }  // namespace
 
 ObjectRegistry::~ObjectRegistry() {
-  clear();
+  static_cast<void>(takeAll());
 }
 
 bool ObjectRegistry::holds(const RegisteredObject& object) const {
@@ -196,17 +196,17 @@ void ObjectRegistry::rekeyAfterFolderChange() {
   for (const auto& [number, object] : objects_) rekey(*object);
 }
 
-void ObjectRegistry::clear() {
+// An object may take others with it, and none of them may meet a list in the middle of its end.
+ObjectRegistry::Contents ObjectRegistry::takeAll() {
   references_.clear();
   for (const auto& [number, object] : objects_) {
     object->setObjectListener(nullptr);
+    object->documentCloses();
     object->place_ = {};
   }
-  byKey_.clear();
   changed_.clear();
   written_.clear();
-  // An object may take others with it, and none of them may meet a list in the middle of its end.
-  const ObjectSequence gone = std::exchange(objects_, {});
+  return {std::exchange(objects_, {}), std::exchange(byKey_, {})};
 }
 
 bool ObjectRegistry::checkConsistency() const {

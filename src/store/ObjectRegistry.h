@@ -76,7 +76,13 @@ class ObjectRegistry : private ObjectListener {
   /// The numbers of new files; it hears of every identifier that goes out of use.
   NumberSource& numbers() { return numbers_; }
 
-  void clear();
+  /// All that it held, for who gives it back later: the objects have left their document, and
+  /// this is as if it were new.
+  struct Contents {
+    ObjectSequence objects;
+    std::unordered_multimap<PathKey, std::uint64_t> byKey;
+  };
+  Contents takeAll();
 
   /// True when the index gives what the objects say of themselves; for tests.
   bool checkConsistency() const;

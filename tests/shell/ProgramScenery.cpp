@@ -127,6 +127,7 @@ void ProgramActor::watch() {
 
 /// How many objects live, and whose key frames have an icon.
 void ProgramActor::showWatched() {
+  program_.app.lateRelease.await();
   int living = 0;
   std::string icons;
   for (const auto& [key, object] : watched_) {

@@ -42,7 +42,10 @@ class DocumentSession {
   std::string open(const std::string& path);
   /// A document in memory alone, in `folder`.
   void create();
-  void close() { app.gAVDoc.reset(); }
+  void close() {
+    app.gAVDoc.reset();
+    app.lateRelease.await();
+  }
 
   std::shared_ptr<AVDocument> document() const;
   /// The registered object whose file is of that name, as in "version1"; null when there is none.

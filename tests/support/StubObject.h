@@ -63,6 +63,7 @@ class StubObject : public virtual DescribedObject {
     for (const ObjectRef& other : below) visitor.object(*other);
   }
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
+  void documentCloses() override {}
   const ObjectList& colChilds() const override { return below; }
 
  private:
