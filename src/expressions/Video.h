@@ -38,8 +38,8 @@ class Video : public ExpressionBase, public VideoExpression {
   std::shared_ptr<MediaObject> objKeyframeObject() const override {
     return keyFrame_.objKeyframeObject();
   }
-  Picture picKeyFrame() const override { return keyFrame_.picKeyFrame(); }
-  Picture picKeyFrameSmall() const override { return keyFrame_.picKeyFrameSmall(); }
+  const Picture& picKeyFrame() const override { return keyFrame_.picKeyFrame(); }
+  const Picture& picKeyFrameSmall() const override { return keyFrame_.picKeyFrameSmall(); }
   double dGetKeyFrameTime() const override { return keyFrame_.dGetKeyFrameTime(); }
   void SetKeyFrameTime(double seconds) override { keyFrame_.SetKeyFrameTime(seconds); }
   /// Segments that are made of this one, and of these, take their pictures from there while it

@@ -22,8 +22,8 @@ class VideoExpression : public virtual Expression {
 
   /// The key-frame picture as an object of the document; null when there is none.
   virtual std::shared_ptr<MediaObject> objKeyframeObject() const = 0;
-  virtual Picture picKeyFrame() const = 0;
-  virtual Picture picKeyFrameSmall() const = 0;
+  virtual const Picture& picKeyFrame() const = 0;
+  virtual const Picture& picKeyFrameSmall() const = 0;
   /// Seconds; -1 when it is not assigned.
   virtual double dGetKeyFrameTime() const = 0;
   virtual void SetKeyFrameTime(double seconds) = 0;

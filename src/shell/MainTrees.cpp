@@ -22,8 +22,15 @@ constexpr std::uint64_t kIconGroup = 512;
 }  // namespace
 
 void MainTrees::clear() {
-  tvwMainTree_.clear();
-  tvwExpression_.clear();
+  emptyTree(TreeId::tvwMainTree);
+  emptyTree(TreeId::tvwExpression);
+}
+
+void MainTrees::emptyTree(TreeId id) {
+  std::unique_ptr<TreeNode> nodes = tree(id).take();
+  if (!nodes) return;
+  LetObjectsGo(*nodes);
+  app_.lateRelease.take(std::move(nodes));
 }
 
 void MainTrees::showDocument() {
@@ -39,12 +46,9 @@ void MainTrees::showVersion(const ObjectRef& version, std::unique_ptr<TreeNode> 
 }
 
 void MainTrees::ResetTree(TreeId id, const ObjectRef& version) {
-  std::unique_ptr<TreeNode> former = tree(id).take();
-  if (id == TreeId::tvwMainTree) {
-    showDocument();
-  } else if (version) {
-    showVersion(version, std::move(former));
-  }
+  if (id == TreeId::tvwExpression && version) return showVersion(version, tree(id).take());
+  emptyTree(id);
+  if (id == TreeId::tvwMainTree) showDocument();
 }
 
 void MainTrees::UpdateNodeTitle(const DescribedObject& object) {
@@ -62,7 +66,9 @@ void MainTrees::RemoveIcon(const std::string& key) {
 }
 
 void MainTrees::addIcon(const VideoExpression& video) {
-  icons_.addKeyFrame(video.strGUID(), video.picKeyFrameSmall(), video.stateNumber());
+  const std::uint64_t state = video.stateNumber();
+  if (icons_.hasKeyFrame(state, video.picKeyFrameSmall())) return;
+  icons_.addKeyFrame(video.strGUID(), video.picKeyFrameSmall(), state);
 }
 
 void MainTrees::AddSmallKeyFrame(const VideoExpression& video) {
@@ -81,8 +87,14 @@ void MainTrees::AddAllSmallKeyFrames() {
   face_.iconsChanged();
 }
 
+// As if all were removed and added: most are right as they are.
+void MainTrees::UpdateSmallKeyFrames() {
+  const TreeIcons::Renewal renewal(icons_);
+  AddAllSmallKeyFrames();
+}
+
 void MainTrees::ResetListImageExpression() {
-  icons_.removeKeyFrames();
+  app_.lateRelease.take(icons_.takeKeyFrames());
   face_.iconsChanged();
 }
 

@@ -36,9 +36,11 @@ class MainTrees {
   /// The icons of all segments of the open document, if there is one.
   void AddAllSmallKeyFrames();
   void ResetListImageExpression();
+  void UpdateSmallKeyFrames();
 
  private:
   void addIcon(const VideoExpression& video);
+  void emptyTree(TreeId id);
 
   ApplicationModule& app_;
   MainWindowFace& face_;

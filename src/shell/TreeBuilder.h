@@ -22,4 +22,9 @@ std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
                                         const TreeIcons& icons,
                                         std::unique_ptr<TreeNode> former = nullptr);
 
+/// For nodes that stand in no tree any more: an object that was removed must not live on in them,
+/// since a damaged chain would still lead to it. What a node stood for is known by its place in
+/// memory alone from here on.
+void LetObjectsGo(TreeNode& node);
+
 }  // namespace velra

@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "protocol/DescribedObject.h"
 
@@ -57,8 +58,23 @@ void TreeIcons::addKeyFrame(std::string key, Picture picture, std::uint64_t stat
   remove(key);
   auto icon = std::make_shared<TreeIcon>(TreeIcon{std::move(key), std::move(picture)});
   const std::string_view name = icon->key;
-  const KeyFrame& kept = keyFrames_.emplace(name, KeyFrame{std::move(icon), state}).first->second;
+  KeyFrame& kept = keyFrames_.emplace(name, KeyFrame{std::move(icon), state, round_}).first->second;
   if (state != 0) byState_[state] = &kept;
+}
+
+bool TreeIcons::hasKeyFrame(std::uint64_t state, const Picture& picture) {
+  const auto known = byState_.find(state);
+  if (known == byState_.end() || known->second->icon->picture != picture) return false;
+  known->second->round = round_;
+  return true;
+}
+
+void TreeIcons::removeOld() {
+  std::vector<std::string> old;
+  for (const auto& [key, frame] : keyFrames_) {
+    if (frame.round != round_) old.emplace_back(key);
+  }
+  for (const std::string& key : old) remove(key);
 }
 
 void TreeIcons::remove(const std::string& key) {
@@ -70,10 +86,10 @@ void TreeIcons::remove(const std::string& key) {
   keyFrames_.erase(found);
 }
 
-void TreeIcons::removeKeyFrames() {
+TreeIcons::KeyFrames TreeIcons::takeKeyFrames() {
   for (const auto& [key, frame] : keyFrames_) frame.icon->listed = false;
   byState_.clear();
-  keyFrames_.clear();
+  return std::exchange(keyFrames_, {});
 }
 
 }  // namespace velra

@@ -41,18 +41,41 @@ class TreeIcons {
   /// The key is the identifier of an object whose fields had this state number; 0 for an unknown
   /// one.
   void addKeyFrame(std::string key, Picture picture, std::uint64_t state = 0);
+  /// True when the icon that was added with this state number, which is not 0, has this picture.
+  bool hasKeyFrame(std::uint64_t state, const Picture& picture);
   void remove(const std::string& key);
-  void removeKeyFrames();
+
+  /// Makes all anew: removes what is neither added nor found by `hasKeyFrame` while it lives.
+  class Renewal {
+   public:
+    explicit Renewal(TreeIcons& icons) : icons_(icons) { ++icons_.round_; }
+    ~Renewal() { icons_.removeOld(); }
+    Renewal(const Renewal&) = delete;
+    Renewal& operator=(const Renewal&) = delete;
+
+   private:
+    TreeIcons& icons_;
+  };
 
  private:
   struct KeyFrame {
     std::shared_ptr<TreeIcon> icon;
     std::uint64_t state;
+    std::uint64_t round;  // in which it was added or found last
   };
+  using KeyFrames = std::unordered_map<std::string_view, KeyFrame>;
 
-  std::unordered_map<std::string_view, KeyFrame> keyFrames_;  // by the keys that stand in the icons
+ public:
+  /// Removes all and hands them over, for who gives them back later.
+  KeyFrames takeKeyFrames();
+
+ private:
+  void removeOld();
+
+  KeyFrames keyFrames_;  // by the keys that stand in the icons
   // An object that was not written to since has its icon here, and need not say its identifier.
-  std::unordered_map<std::uint64_t, const KeyFrame*> byState_;
+  std::unordered_map<std::uint64_t, KeyFrame*> byState_;
+  std::uint64_t round_ = 0;
 };
 
 }  // namespace velra

@@ -64,8 +64,7 @@ void frmMain::dropFile(const std::string& path, const ObjectRef& onto) {
 }
 
 void frmMain::UpdateSmallKeyFrames() {
-  trees_.ResetListImageExpression();
-  trees_.AddAllSmallKeyFrames();
+  trees_.UpdateSmallKeyFrames();
 }
 
 }  // namespace velra

@@ -13,6 +13,7 @@ struct Picture {
   int height = 0;
 
   bool empty() const { return path.empty(); }
+  bool operator==(const Picture& other) const = default;
 };
 
 }  // namespace velra

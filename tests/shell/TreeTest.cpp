@@ -86,7 +86,7 @@ TEST(TreeIcons, KeyFramesStandBesideTheNamedIcons) {
   EXPECT_EQ(icons.keyFrame("Video"), nullptr);
   icons.remove("a.xml");
   EXPECT_FALSE(icons.holds("a.xml"));
-  icons.removeKeyFrames();
+  icons.takeKeyFrames();
   EXPECT_FALSE(icons.holds("b.xml"));
   EXPECT_TRUE(icons.holds("Video"));
 }

@@ -33,7 +33,8 @@ class ScriptedExpression : public StubObject, public VideoExpression, public Tra
   ExpressionList children;
   double frameRate = 0;
   double keyFrameTime = -1;
-  Picture keyFrame;                 // the benchmark of the strip gives some
+  Picture keyFrame;
+  Picture keyFrameSmall;
   bool refusesNewSegments = false;  // as when a new object cannot be initialised
   std::shared_ptr<SEColl> fields;
   std::shared_ptr<ObjectForm> form;
@@ -89,8 +90,8 @@ class ScriptedExpression : public StubObject, public VideoExpression, public Tra
   std::shared_ptr<WordColl> WordList() const override { return words; }
   double dFrameRate() const override { return frameRate; }
   void setDFrameRate(double framesPerSecond) override { frameRate = framesPerSecond; }
-  Picture picKeyFrame() const override { return keyFrame; }
-  Picture picKeyFrameSmall() const override { return {}; }
+  const Picture& picKeyFrame() const override { return keyFrame; }
+  const Picture& picKeyFrameSmall() const override { return keyFrameSmall; }
   double dGetKeyFrameTime() const override { return keyFrameTime; }
   void SetKeyFrameTime(double seconds) override { keyFrameTime = seconds; }
   std::shared_ptr<MediaObject> objKeyframeObject() const override { return nullptr; }
