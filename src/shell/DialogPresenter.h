@@ -18,6 +18,7 @@ class DialogPresenter {
   virtual ~DialogPresenter() = default;
 
   virtual void showSearchDialog(FormOwner& owner, SearchDialog& dialog) = 0;
+  /// Has the dialog search on while it is shown.
   virtual void showSearchResults(FormOwner& owner, SearchResultDialog& dialog) = 0;
   virtual void showConnectionDialog(FormOwner& owner, ConnectionDialog& dialog) = 0;
   virtual void showRecoverDialog(FormOwner& owner, RecoverDialog& dialog) = 0;

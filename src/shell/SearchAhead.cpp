@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <system_error>
+#include <thread>
+#include <utility>
 
 #include "schema/SEColl.h"
 
@@ -16,6 +18,8 @@ constexpr std::size_t kGroup = 256;
 // Beyond that the memory gives no more.
 constexpr std::size_t kMostThreads = 8;
 
+constexpr std::int16_t kFailed = -1;
+
 std::size_t helpersFor(std::size_t groups) {
   const std::size_t processors = std::thread::hardware_concurrency();
   return std::min({processors, kMostThreads, groups}) - (processors && groups ? 1 : 0);
@@ -23,56 +27,56 @@ std::size_t helpersFor(std::size_t groups) {
 
 }  // namespace
 
-SearchAhead::SearchAhead(const ObjectList& objects, const std::string& text, bool matchCase)
-    : objects_(objects),
-      search_(text, matchCase),
-      hits_(objects.size()),
-      groups_((objects.size() + kGroup - 1) / kGroup) {
-  try {
-    for (std::size_t i = helpersFor(groups_.size()); i > 0; --i) {
-      threads_.emplace_back([this] {
-        while (countNext()) {
-        }
-      });
+SearchAhead::SearchAhead(ObjectList objects, const std::string& text, bool matchCase)
+    : objects_(std::move(objects)), search_(text, matchCase), hits_(objects_.size()) {}
+
+std::size_t SearchAhead::groups() const {
+  return (objects_.size() + kGroup - 1) / kGroup;
+}
+
+void SearchAhead::countOn(std::size_t place, std::chrono::milliseconds time) {
+  const auto work = [this, place, end = Clock::now() + time] {
+    while (countNext(place, end)) {
     }
+  };
+  std::vector<std::jthread> helpers;
+  try {
+    for (std::size_t i = helpersFor(groups() - next_); i > 0; --i) helpers.emplace_back(work);
   } catch (const std::system_error&) {
     // Where the system refuses one more, those that there are do the work, and who asks.
   }
+  work();
 }
 
-SearchAhead::~SearchAhead() {
-  next_ = groups_.size();
-  for (std::thread& thread : threads_) thread.join();
+std::size_t SearchAhead::counted() const {
+  return std::min(objects_.size(), next_ * kGroup);
 }
 
-std::int16_t SearchAhead::hitsIn(std::size_t place) {
-  std::atomic<State>& group = groups_[place / kGroup];
-  while (group == State::Waiting && countNext()) {
-  }
-  group.wait(State::Waiting);
-  if (group == State::Counted) return hits_[place];
+std::int16_t SearchAhead::hitsIn(std::size_t place) const {
+  if (hits_[place] != kFailed) return hits_[place];
   // Counted once more, to fail where whoever asks can hear of it.
   return objects_[place]->secol().iHits(search_);
 }
 
-bool SearchAhead::countNext() {
-  const std::size_t group = next_++;
-  if (group >= groups_.size()) return false;
-  groups_[group] = count(group);
-  groups_[group].notify_all();
+bool SearchAhead::countNext(std::size_t place, Clock::time_point end) {
+  std::size_t group = next_;
+  do {
+    if (group == groups()) return false;
+    if (group * kGroup >= place && Clock::now() >= end) return false;
+  } while (!next_.compare_exchange_weak(group, group + 1));
+  count(group);
   return true;
 }
 
-SearchAhead::State SearchAhead::count(std::size_t group) {
+void SearchAhead::count(std::size_t group) {
   const std::size_t end = std::min(objects_.size(), (group + 1) * kGroup);
-  try {
-    for (std::size_t i = group * kGroup; i < end; ++i) {
+  for (std::size_t i = group * kGroup; i < end; ++i) {
+    try {
       hits_[i] = objects_[i]->secol().iHits(search_);
+    } catch (...) {
+      // No error may end on a thread of its own: whoever asks for the object gets it.
+      hits_[i] = kFailed;
     }
-    return State::Counted;
-  } catch (...) {
-    // No error may end on a thread of its own: whoever asks for the object gets it.
-    return State::Failed;
   }
 }
 

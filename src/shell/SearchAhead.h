@@ -2,10 +2,10 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "protocol/DescribedObject.h"
@@ -13,34 +13,37 @@
 
 namespace velra {
 
-/// The hits of a text in each of many objects, counted by several threads ahead of who asks. While
-/// it lives, nobody may change the objects.
+/// The hits of a text in each of many objects, counted by several threads for a while at a time.
+/// The threads end with each call: between two of them nobody reads the objects, and whoever
+/// writes to one changes what is found in it if it has not been counted yet.
 class SearchAhead {
  public:
-  /// `objects` outlives it.
-  SearchAhead(const ObjectList& objects, const std::string& text, bool matchCase);
-  SearchAhead(const SearchAhead&) = delete;
-  SearchAhead& operator=(const SearchAhead&) = delete;
-  /// Leaves what has not been asked for.
-  ~SearchAhead();
+  SearchAhead(ObjectList objects, const std::string& text, bool matchCase);
 
-  /// As `iSearchText` of the object at this place, with its run-time errors. Called by one thread,
-  /// in the order of the objects.
-  std::int16_t hitsIn(std::size_t place);
+  const ObjectList& objects() const { return objects_; }
+
+  /// Counts on, in the order of the objects, at least those before this place, and others until so
+  /// much time has passed since the call. Nobody may change the objects meanwhile.
+  void countOn(std::size_t place, std::chrono::milliseconds time);
+
+  /// How many have been counted, from the first on.
+  std::size_t counted() const;
+
+  /// As `iSearchText` of an object that has been counted, with its run-time errors.
+  std::int16_t hitsIn(std::size_t place) const;
 
  private:
-  enum class State { Waiting, Counted, Failed };
+  using Clock = std::chrono::steady_clock;
 
-  /// Takes the next group that nobody has taken; false when there is none.
-  bool countNext();
-  State count(std::size_t group);
+  std::size_t groups() const;
+  /// Counts the next group that nobody has taken; false when none is left or it is time to end.
+  bool countNext(std::size_t place, Clock::time_point end);
+  void count(std::size_t group);
 
-  const ObjectList& objects_;
+  const ObjectList objects_;
   const FieldSearch search_;
   std::vector<std::int16_t> hits_;
-  std::vector<std::atomic<State>> groups_;
-  std::atomic<std::size_t> next_ = 0;
-  std::vector<std::thread> threads_;  // last: they use the others
+  std::atomic<std::size_t> next_ = 0;  // group
 };
 
 }  // namespace velra

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 
 #include "base/RunTimeError.h"
 #include "schema/SEColl.h"
@@ -12,6 +13,8 @@
 
 namespace velra::test {
 namespace {
+
+using namespace std::chrono_literals;
 
 TEST(SearchAhead, CountsAsEachObjectDoesAndFailsWhereItIsAsked) {
   Program program;
@@ -24,6 +27,12 @@ TEST(SearchAhead, CountsAsEachObjectDoesAndFailsWhereItIsAsked) {
   }
   {
     SearchAhead search(objects, "the", false);
+    EXPECT_EQ(search.counted(), 0U);
+    for (std::size_t place = 1; search.counted() < objects.size(); place = search.counted() + 1) {
+      search.countOn(place, 0ms);
+      EXPECT_GE(search.counted(), place);
+      EXPECT_LT(search.counted(), place + 256) << "more than it was asked for";
+    }
     for (std::size_t i = 0; i < objects.size(); ++i) {
       EXPECT_EQ(search.hitsIn(i), objects[i]->secol().iSearchText("the", false));
     }
@@ -35,6 +44,7 @@ TEST(SearchAhead, CountsAsEachObjectDoesAndFailsWhereItIsAsked) {
   ASSERT_NE(set, fields.end());
   set->assign(StringList(40'000, "the"));
   SearchAhead search(objects, "the", false);
+  search.countOn(1000, 0ms);
   for (std::size_t i = 0; i < 1000; ++i) {
     if (objects[i] == program.version(1)) {
       EXPECT_THROW(search.hitsIn(i), RunTimeError) << "more than 16 bits";

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -19,10 +20,12 @@
 #include "shell/SearchDialog.h"
 #include "shell/SearchResultDialog.h"
 #include "shell/ShotsDialog.h"
+#include "store/ObjectRegistry.h"
 #include "support/FormObject.h"
 #include "widgets/AccessibilityWalk.h"
 #include "widgets/ModalAnswer.h"
 #include "widgets/QtText.h"
+#include "widgets/dialogs/SearchResultWindow.h"
 #include "widgets/forms/QtFormPresenter.h"
 #include "widgets/main/TreeIconPainter.h"
 
@@ -262,6 +265,47 @@ TEST(SearchResults, IconsAreThoseOfTheTrees) {
     press(window, "CancelButton");
   });
   dialog.ShowDialog(presenter, program.mainForm, "hundred and twelve", false, false);
+}
+
+TEST(SearchResults, RowsThatComeLaterLeaveThePersonWhereSheIs) {
+  test::Program program;
+  program.mainForm.OpenFile(program.sample());
+  for (int i = 0; i < 1000; ++i) {
+    const auto object = std::make_shared<test::FormObject>(program.app, ObjectKind::Version);
+    object->add(tyType::String, "Field1", i < 999 ? "a whale" : "a whale, and a walrus");
+    program.document()->collObjects().Add(object);
+  }
+  SearchResultDialog dialog(program.app, program.mainForm.imlTreeIcons(), {300, {}});
+  const auto rowsOf = [&](const char* text, const std::function<void(QTreeView&)>& before) {
+    QList<int> rows;  // in all, the current one, how many are selected
+    program.presenter.onResults = [&](SearchResultDialog&) {
+      SearchResultWindow window(program.app, dialog, nullptr);
+      window.show();
+      QTreeView& list = child<QTreeView>(window, "ListView1");
+      EXPECT_TRUE(dialog.bSearching());
+      EXPECT_EQ(window.cursor().shape(), Qt::BusyCursor);
+      before(list);
+      const int scrolled = list.verticalScrollBar()->value();
+      while (dialog.bSearching()) QCoreApplication::processEvents();
+      EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+      EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+      const auto selected = list.selectionModel()->selectedRows().size();
+      rows = {list.model()->rowCount(), list.currentIndex().row(), static_cast<int>(selected)};
+    };
+    dialog.ShowDialog(program.presenter, program.mainForm, text, false, false);
+    return rows;
+  };
+  EXPECT_EQ(rowsOf("whale",
+                   [](QTreeView& list) {
+                     EXPECT_EQ(list.currentIndex().row(), 0);
+                     EXPECT_LT(list.model()->rowCount(), 600);
+                     list.setCurrentIndex(list.model()->index(90, 0));
+                     EXPECT_GT(list.verticalScrollBar()->value(), 0);
+                   }),
+            (QList<int>{1000, 90, 1}));
+  EXPECT_EQ(rowsOf("walrus", [](QTreeView& list) { EXPECT_FALSE(list.currentIndex().isValid()); }),
+            (QList<int>{1, 0, 1}))
+      << "the first row is the current one as soon as it comes";
 }
 
 }  // namespace

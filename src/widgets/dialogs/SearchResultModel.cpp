@@ -6,11 +6,22 @@
 
 namespace velra {
 
+namespace {
+
+int rowsOf(const SearchResultDialog& dialog) {
+  return static_cast<int>(dialog.rows().size());
+}
+
+}  // namespace
+
 SearchResultModel::SearchResultModel(const SearchResultDialog& dialog, QObject* parent)
-    : QAbstractTableModel(parent), dialog_(dialog), icons_(dialog.icons()) {}
+    : QAbstractTableModel(parent),
+      dialog_(dialog),
+      shown_(rowsOf(dialog)),
+      icons_(dialog.icons()) {}
 
 int SearchResultModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(dialog_.rows().size());
+  return parent.isValid() ? 0 : shown_;
 }
 
 int SearchResultModel::columnCount(const QModelIndex& parent) const {
@@ -30,6 +41,14 @@ QVariant SearchResultModel::data(const QModelIndex& index, int role) const {
 QVariant SearchResultModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
   return QLatin1String(SearchResultDialog::kColumns[static_cast<std::size_t>(section)]);
+}
+
+void SearchResultModel::showFound() {
+  const int found = rowsOf(dialog_);
+  if (found == shown_) return;
+  beginInsertRows({}, shown_, found - 1);
+  shown_ = found;
+  endInsertRows();
 }
 
 }  // namespace velra

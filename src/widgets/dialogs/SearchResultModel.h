@@ -9,7 +9,8 @@ namespace velra {
 
 class SearchResultDialog;
 
-/// The rows of a search for a view: an icon is made when its row is first drawn.
+/// The rows of a search for a view, which may come one after the other: an icon is made when its
+/// row is first drawn.
 class SearchResultModel : public QAbstractTableModel {
  public:
   SearchResultModel(const SearchResultDialog& dialog, QObject* parent);
@@ -19,8 +20,12 @@ class SearchResultModel : public QAbstractTableModel {
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+  /// Shows the rows that the dialog has found since.
+  void showFound();
+
  private:
   const SearchResultDialog& dialog_;
+  int shown_;  // rows
   mutable TreeIconPainter icons_;
 };
 

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <chrono>
 #include <vector>
 
 #include "app/ApplicationModule.h"
@@ -19,6 +20,9 @@ namespace velra {
 namespace {
 
 constexpr QSize kFirstSize(640, 400);  // logical pixels
+
+// So short that nobody feels a key or a click wait for it.
+constexpr std::chrono::milliseconds kSlice{5};
 
 bool isOpeningKey(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) return false;
@@ -37,7 +41,10 @@ bool isLeftRelease(const QEvent& event) {
 
 SearchResultWindow::SearchResultWindow(const ApplicationModule& app, SearchResultDialog& dialog,
                                        QWidget* owner)
-    : QDialog(owner), dialog_(dialog), ListView1_(new QTreeView(this)) {
+    : QDialog(owner),
+      dialog_(dialog),
+      ListView1_(new QTreeView(this)),
+      rows_(new SearchResultModel(dialog, this)) {
   setObjectName(QStringLiteral("SearchResultDialog"));
   setWindowTitle(titleFromCaption(app.LoadResString(Message::Find)));
   auto* column = new QVBoxLayout(this);
@@ -46,10 +53,19 @@ SearchResultWindow::SearchResultWindow(const ApplicationModule& app, SearchResul
   addButtons(app);
   resize(kFirstSize);
   dialog_.onUnload = [this] { done(Accepted); };
+  dialog_.onSearched = [this] { showFound(); };
+  // The timer comes behind all events that wait, and is set anew after each slice alone: when one
+  // fails, none follows.
+  searching_.setSingleShot(true);
+  connect(&searching_, &QTimer::timeout, this, &SearchResultWindow::searchOn);
+  if (!dialog_.bSearching()) return;
+  setCursor(Qt::BusyCursor);
+  searching_.start(0);
 }
 
 SearchResultWindow::~SearchResultWindow() {
   dialog_.onUnload = nullptr;
+  dialog_.onSearched = nullptr;
 }
 
 void SearchResultWindow::makeList() {
@@ -59,8 +75,8 @@ void SearchResultWindow::makeList() {
   ListView1_->setUniformRowHeights(true);
   ListView1_->setAllColumnsShowFocus(true);
   ListView1_->setIconSize(TreeIconPainter::iconSize());
-  ListView1_->setModel(new SearchResultModel(dialog_, this));
-  ListView1_->setCurrentIndex(ListView1_->model()->index(0, 0));
+  ListView1_->setModel(rows_);
+  showCurrent();
   ListView1_->header()->setStretchLastSection(false);
   ListView1_->installEventFilter(this);
   ListView1_->viewport()->installEventFilter(this);
@@ -71,6 +87,21 @@ void SearchResultWindow::addButtons(const ApplicationModule& app) {
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { dialog_.OKButton_Click(); });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { dialog_.CancelButton_Click(); });
   layout()->addWidget(buttons);
+}
+
+void SearchResultWindow::searchOn() {
+  if (dialog_.searchOn(kSlice)) searching_.start(0);
+}
+
+void SearchResultWindow::showFound() {
+  rows_->showFound();
+  showCurrent();
+  if (!dialog_.bSearching()) unsetCursor();
+}
+
+// The first row is where the keys begin.
+void SearchResultWindow::showCurrent() {
+  if (!ListView1_->currentIndex().isValid()) ListView1_->setCurrentIndex(rows_->index(0, 0));
 }
 
 void SearchResultWindow::reject() {

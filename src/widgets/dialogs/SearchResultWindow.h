@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 class QTreeView;
 
@@ -9,8 +10,10 @@ namespace velra {
 
 class ApplicationModule;
 class SearchResultDialog;
+class SearchResultModel;
 
-/// The list of the objects that a search has found.
+/// The list of the objects that a search has found, and of those that it still finds: the search
+/// goes on between the events, with the cursor of work behind the scenes.
 class SearchResultWindow : public QDialog {
  public:
   /// The dialog must outlive the window.
@@ -28,12 +31,17 @@ class SearchResultWindow : public QDialog {
  private:
   void makeList();
   void addButtons(const ApplicationModule& app);
+  void searchOn();
+  void showFound();
+  void showCurrent();
   void clickSoon();
   void ListView1_Click();
   void shareWidths();
 
   SearchResultDialog& dialog_;
   QTreeView* ListView1_;
+  SearchResultModel* rows_;
+  QTimer searching_;
 };
 
 }  // namespace velra
