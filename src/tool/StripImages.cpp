@@ -11,6 +11,10 @@ namespace velra {
 
 namespace {
 
+std::size_t bitOf(std::int16_t place) {
+  return static_cast<std::uint16_t>(place);
+}
+
 bool between(std::int16_t tag, std::int16_t a, std::int16_t b) {
   return tag >= std::min(a, b) && tag <= std::max(a, b);
 }
@@ -27,16 +31,19 @@ const std::shared_ptr<StripImage>& StripImages::at(std::int16_t position) const 
 }
 
 void StripImages::add(const StripImage& image) {
-  const auto atPlace = [&](const auto& other) { return other->tag == image.tag; };
-  // A strip is filled from its beginning, so that nothing is looked at for most of its pictures.
-  if (image.tag <= highest_ && std::any_of(images_.begin(), images_.end(), atPlace)) {
+  if (taken_.test(bitOf(image.tag))) {
     for (const auto& other : images_) {
       if (other->tag >= image.tag) other->tag = addInt16(other->tag, 1);
     }
-    ++highest_;
+    noteTaken();
   }
-  highest_ = std::max<int>(highest_, image.tag);
   images_.Add(std::make_shared<StripImage>(image));
+  taken_.set(bitOf(image.tag));
+}
+
+void StripImages::noteTaken() {
+  taken_.reset();
+  for (const auto& image : images_) taken_.set(bitOf(image->tag));
 }
 
 void StripImages::remove(std::int16_t position) {
@@ -44,8 +51,8 @@ void StripImages::remove(std::int16_t position) {
   for (const auto& other : images_) {
     if (other->tag > removed->tag) --other->tag;
   }
-  if (removed->tag <= highest_) --highest_;
   images_.Remove(static_cast<std::size_t>(position));
+  noteTaken();
 }
 
 void StripImages::removeStretch(std::int16_t a, std::int16_t b) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <bitset>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -54,10 +56,11 @@ class StripImages {
 
  private:
   void hideSquares();
+  void noteTaken();
 
   Collection<std::shared_ptr<StripImage>> images_;
   double cellWidth_ = 0;
-  int highest_ = INT16_MIN;  // no picture stands behind this place; no two stand at one
+  std::bitset<std::size_t{UINT16_MAX} + 1> taken_;  // the places where pictures stand
 };
 
 }  // namespace velra
