@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <future>
+#include <condition_variable>
 #include <memory>
+#include <mutex>
+#include <stop_token>
+#include <thread>
 #include <utility>
+#include <vector>
 
 namespace velra {
 
@@ -18,7 +22,7 @@ class LateRelease {
   /// Waits until all is given back.
   ~LateRelease() = default;
 
-  /// Takes a thing over, to end it behind those that came before.
+  /// Takes a thing over, to end it a moment later and behind those that came before.
   template <class Thing>
   void take(Thing thing) {
     add(std::make_shared<Thing>(std::move(thing)));
@@ -29,8 +33,14 @@ class LateRelease {
 
  private:
   void add(std::shared_ptr<void> piece);
+  void release(const std::stop_token& stop);
 
-  std::future<void> last_;  // of a thread, which it waits for when it goes
+  std::mutex mutex_;
+  std::condition_variable_any changed_;
+  std::vector<std::shared_ptr<void>> waiting_;
+  bool releasing_ = false;
+  bool awaited_ = false;
+  std::jthread thread_;  // last: it uses the others, and ends when nothing waits
 };
 
 }  // namespace velra

@@ -16,6 +16,8 @@
 #include "objects/Version.h"
 #include "platform/UserInterface.h"
 #include "protocol/LongWork.h"
+#include "protocol/MainWindow.h"
+#include "protocol/PaintedWait.h"
 #include "protocol/VideoExpression.h"
 #include "schema/SEColl.h"
 #include "store/DataFolder.h"
@@ -77,13 +79,15 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   std::string told = io->strFinishCutOffSaves(guid);
   LongWork work(app().gMainForm, 1, Leaving::AtOnce);
   // Each file is read, and an object is made of it.
-  const std::size_t files = io->scans().filesIn(dataFolderOf(guid));
+  MainWindow* window = app().gMainForm;
+  const std::size_t files =
+      paintedWait(window, [&] { return io->scans().filesIn(dataFolderOf(guid)); });
   work.setParts(2 * files);
   collObjects_.reserve(files);
   io->guard().reserve(files);
   std::string message = LadderObject::strOpen(guid, form, io);
   // Who opens a document waits anyway; who removes the first node of it should not.
-  if (message.empty() && app().gMainForm) collObjects_.references().beginBeside();
+  if (message.empty() && window) collObjects_.references().beginBeside();
   unlisted_ = io->scans().unlisted();
   if (message.empty() && !unlisted_.empty()) {
     app().ui.messageBox(unlisted_ + ": the expressions in it are not opened.",
@@ -91,11 +95,13 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   }
   if (message.empty()) {
     io->joinStore(guid);
+    if (window) window->workWaits();
     copied_ = copiedFolderOf(collObjects_, *this, io->scans());
+    if (window) window->workWaits();
     for (const std::string& more : {strCopyTold(), io->strLeftOut()}) {
       told += (told.empty() || more.empty() ? "" : " ") + more;
     }
-    if (!told.empty() && app().gMainForm) app().gMainForm->setStrStatusBarText(told);
+    if (!told.empty() && window) window->setStrStatusBarText(told);
   }
   return message;
 }

@@ -65,6 +65,7 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
     return Outcome::NotSynced;
   }
   io_.removed().keepFilesOf(objects_);
+  if (app_.gMainForm) app_.gMainForm->workWaits();
   planned_->finished();
   document_.unsavedWork().saved(objects_);
   if (app_.gMainForm) app_.gMainForm->workWaits();  // what was put aside goes, which takes a while

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/UnsavedWork.h"
 
-#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -72,7 +71,7 @@ bool UnsavedWork::keepChanged(ObjectRegistry& objects, const IOManager& io, Cloc
 
 void UnsavedWork::saved(ObjectRegistry& objects) {
   removed_.clear();
-  objects.takeWritten(std::numeric_limits<std::size_t>::max());
+  objects.forgetWritten();
 }
 
 }  // namespace velra

@@ -25,19 +25,21 @@ bool DocumentClosing::saveQuestionAnswered() {
 bool DocumentClosing::CloseDocument(bool bNoPrompt) {
   const bool asks = !bNoPrompt && !app_.gAVDoc->collObjects().changedObjects().empty();
   if (asks && !saveQuestionAnswered()) return false;
-  releaseDocument();
+  trees_.clear();
   trees_.ResetListImageExpression();
+  releaseDocument();
   return true;
 }
 
 void DocumentClosing::releaseDocument() {
   trees_.clear();
   if (app_.gAVDoc) {
+    // In a large document each of these takes a while in which nothing is painted.
+    const LongWork work(app_.gMainForm, 2);
     while (app_.gAVDoc->keepUnsavedWork()) {
     }
+    app_.gMainForm->workSteps();
     dropUnsavedPictures(*app_.gAVDoc, true);
-    // The objects of a large document go in one piece.
-    const LongWork work(app_.gMainForm, 1);
     app_.gMainForm->workSteps();
   }
   app_.gAVDoc.reset();

@@ -38,57 +38,58 @@ IconRef TreeIcons::named(std::string_view name) {
 }
 
 bool TreeIcons::holds(const std::string& key) const {
-  return named(key) || keyFrames_.contains(key);
+  return named(key) || keyFrames_.byKey.contains(key);
 }
 
 const Picture* TreeIcons::keyFrame(const std::string& key) const {
-  const auto found = keyFrames_.find(key);
-  return found == keyFrames_.end() ? nullptr : &found->second.icon->picture;
+  const auto found = keyFrames_.byKey.find(key);
+  return found == keyFrames_.byKey.end() ? nullptr : &found->second.icon->picture;
 }
 
 IconRef TreeIcons::iconOf(const DescribedObject& object) const {
-  const auto known = byState_.find(object.stateNumber());
-  if (known != byState_.end()) return known->second->icon;
+  const auto known = keyFrames_.byState.find(object.stateNumber());
+  if (known != keyFrames_.byState.end()) return known->second->icon;
   const std::string key = object.strGUID();
-  const auto found = keyFrames_.find(key);
-  return found == keyFrames_.end() ? named(key) : found->second.icon;
+  const auto found = keyFrames_.byKey.find(key);
+  return found == keyFrames_.byKey.end() ? named(key) : found->second.icon;
 }
 
 void TreeIcons::addKeyFrame(std::string key, Picture picture, std::uint64_t state) {
   remove(key);
   auto icon = std::make_shared<TreeIcon>(TreeIcon{std::move(key), std::move(picture)});
   const std::string_view name = icon->key;
-  KeyFrame& kept = keyFrames_.emplace(name, KeyFrame{std::move(icon), state, round_}).first->second;
-  if (state != 0) byState_[state] = &kept;
+  KeyFrame& kept =
+      keyFrames_.byKey.emplace(name, KeyFrame{std::move(icon), state, round_}).first->second;
+  if (state != 0) keyFrames_.byState[state] = &kept;
 }
 
 bool TreeIcons::hasKeyFrame(std::uint64_t state, const Picture& picture) {
-  const auto known = byState_.find(state);
-  if (known == byState_.end() || known->second->icon->picture != picture) return false;
+  const auto known = keyFrames_.byState.find(state);
+  if (known == keyFrames_.byState.end() || known->second->icon->picture != picture) return false;
   known->second->round = round_;
   return true;
 }
 
 void TreeIcons::removeOld() {
   std::vector<std::string> old;
-  for (const auto& [key, frame] : keyFrames_) {
+  for (const auto& [key, frame] : keyFrames_.byKey) {
     if (frame.round != round_) old.emplace_back(key);
   }
   for (const std::string& key : old) remove(key);
 }
 
 void TreeIcons::remove(const std::string& key) {
-  const auto found = keyFrames_.find(key);
-  if (found == keyFrames_.end()) return;
-  const auto known = byState_.find(found->second.state);
-  if (known != byState_.end() && known->second == &found->second) byState_.erase(known);
+  const auto found = keyFrames_.byKey.find(key);
+  if (found == keyFrames_.byKey.end()) return;
+  const auto known = keyFrames_.byState.find(found->second.state);
+  if (known != keyFrames_.byState.end() && known->second == &found->second)
+    keyFrames_.byState.erase(known);
   found->second.icon->listed = false;
-  keyFrames_.erase(found);
+  keyFrames_.byKey.erase(found);
 }
 
 TreeIcons::KeyFrames TreeIcons::takeKeyFrames() {
-  for (const auto& [key, frame] : keyFrames_) frame.icon->listed = false;
-  byState_.clear();
+  for (const auto& [key, frame] : keyFrames_.byKey) frame.icon->listed = false;
   return std::exchange(keyFrames_, {});
 }
 

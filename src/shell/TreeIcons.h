@@ -63,7 +63,11 @@ class TreeIcons {
     std::uint64_t state;
     std::uint64_t round;  // in which it was added or found last
   };
-  using KeyFrames = std::unordered_map<std::string_view, KeyFrame>;
+  struct KeyFrames {
+    std::unordered_map<std::string_view, KeyFrame> byKey;  // which stands in the icon
+    // An object that was not written to since has its icon here, and need not say its identifier.
+    std::unordered_map<std::uint64_t, KeyFrame*> byState;
+  };
 
  public:
   /// Removes all and hands them over, for who gives them back later.
@@ -72,9 +76,7 @@ class TreeIcons {
  private:
   void removeOld();
 
-  KeyFrames keyFrames_;  // by the keys that stand in the icons
-  // An object that was not written to since has its icon here, and need not say its identifier.
-  std::unordered_map<std::uint64_t, KeyFrame*> byState_;
+  KeyFrames keyFrames_;
   std::uint64_t round_ = 0;
 };
 

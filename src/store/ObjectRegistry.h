@@ -69,6 +69,8 @@ class ObjectRegistry : private ObjectListener {
   /// Described objects with something to save that were written to since they were taken last: so
   /// many at most, in order of registration.
   ObjectList takeWritten(std::size_t most);
+  /// As if all had been taken.
+  void forgetWritten() { written_.clear(); }
   bool anyWritten() const { return !written_.empty(); }
 
   ReferenceIndex& references() { return references_; }
