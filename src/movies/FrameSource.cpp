@@ -188,7 +188,7 @@ double FrameSource::duration() {
 }
 
 // Container lengths are wrong by up to three pictures. The packets know it without decoding, unless
-// one at the end has no time of its own.
+// one at the end has no time of its own, or one before the first picture's: stamps that fall.
 double FrameSource::measure() {
   if (index_.known()) return index_.length(frameTime_);
   const double first = line_.offsetAt(0);
@@ -196,10 +196,10 @@ double FrameSource::measure() {
       findTail(reader_.input(), static_cast<std::int64_t>(std::llround(first / reader_.tick())));
   reader_.forget();
   const double last = tail.any ? static_cast<double>(tail.last) * reader_.tick() - first : 0;
-  if (tail.any && !tail.missing) return last + frameTime_;
+  if (tail.any && !tail.missing && last >= 0) return last + frameTime_;
   duration_ = std::max(reader_.input().claimedLength() - 1, last);  // for the search
   const Found picture = seekTo(kInfinite, 0);
-  return picture ? picture->time + frameTime_ : 0;
+  return picture ? std::max(picture->time, 0.0) + frameTime_ : 0;
 }
 
 }  // namespace velra

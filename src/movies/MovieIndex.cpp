@@ -66,7 +66,7 @@ class MovieIndexer {
     const auto read = [&](milliseconds limit) {
       return input_.toStart(ticks, [&] {
         readFromHere(kLeapOfPictures, limit);
-        index_.sure = index_.sure && !(index_.line.offsetAt(0) > first + frameTime_ / 2);
+        index_.sure = index_.sure && holds(first);
         return index_.sure || limit == kWholeLimit;
       });
     };
@@ -78,8 +78,16 @@ class MovieIndexer {
     const bool told = index_.known() && !index_.lost && index_.line.rises();
     if (index_.line.leaps() && !told) return kNoSureTimes;
     if (index_.known()) index_.leap = kLeapOfPictures;
-    index_.first = index_.known() ? first - index_.line.offsetAt(0) : 0;
+    index_.first = index_.known() ? index_.line.timeOf(first) : 0;
     return {};
+  }
+
+  // Where stamps fall, as in a file that was put together badly, a way to its start may end behind
+  // all that is shown from there on.
+  bool holds(double first) const {
+    const double slack = frameTime_ / 2;
+    const bool begunInTime = index_.line.offsetAt(0) <= first + slack;  // not with no stamp at all
+    return begunInTime && index_.line.timeOf(first) <= index_.last + slack;
   }
 
   bool mayLeapFartherOn() {
@@ -128,10 +136,9 @@ class MovieIndexer {
   }
 
   void findFirst() {
-    const double stamp = reader_.firstStamp();
-    const double offset = index_.line.offsetAt(0);
-    if (!std::isnan(stamp) && !std::isnan(offset)) {
-      index_.first = stamp - offset;
+    const double byStamp = reader_.firstStamp() - index_.line.offsetAt(0);
+    if (byStamp <= index_.last) {  // not where one of them is unknown
+      index_.first = byStamp;
       return;
     }
     const auto key = std::find_if(index_.keys.begin(), index_.keys.end(),

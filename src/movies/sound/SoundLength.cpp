@@ -19,8 +19,11 @@ double soundLength(const std::string& path) {
   const std::int64_t start =
       first->best_effort_timestamp == kNoTime ? 0 : first->best_effort_timestamp;
   const PacketTail tail = findTail(input, start);
-  if (!tail.any || tail.missing) return input.claimedLength();
-  return static_cast<double>(tail.last + tail.duration - start) * av_q2d(stream->time_base);
+  const double ticks = static_cast<double>(tail.last) + static_cast<double>(tail.duration) -
+                       static_cast<double>(start);
+  // Stamps that fall end before they began.
+  if (!tail.any || tail.missing || ticks < 0) return input.claimedLength();
+  return ticks * av_q2d(stream->time_base);
 }
 
 }  // namespace velra
