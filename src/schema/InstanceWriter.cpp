@@ -69,6 +69,9 @@ void writeField(const SchemaElement& element, XmlWriter& domDoc) {
     case tyType::WordList:
       return writeWords(element, domDoc);
     default:
+      if (const auto text = element.vContent().text()) {
+        return domDoc.addElement(element.strName(), *text);
+      }
       return domDoc.addElement(element.strName(), toText(element.vContent()));
   }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/xml/XmlChecks.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <optional>
@@ -33,15 +34,15 @@ std::string characterName(std::uint32_t value, const char* format) {
 
 }  // namespace
 
-void checkText(const std::string& text, const std::string& owner) {
-  std::string_view rest = text;
-  while (!rest.empty()) {
-    const auto byte = static_cast<unsigned char>(rest.front());
-    if (byte >= 0x20 && byte < 0x80) {
-      rest.remove_prefix(1);
-      continue;
-    }
-    const auto point = byte < 0x80 ? CodePoint{1, byte} : firstCodePoint(rest);
+void checkText(std::string_view text, const std::string& owner) {
+  // Most texts are plain ASCII from end to end.
+  const auto isPlain = [](char c) { return static_cast<signed char>(c) >= 0x20; };
+  for (;;) {
+    const auto* odd = std::find_if_not(text.begin(), text.end(), isPlain);
+    if (odd == text.end()) return;
+    text.remove_prefix(static_cast<std::size_t>(odd - text.begin()));
+    const auto byte = static_cast<unsigned char>(text.front());
+    const auto point = byte < 0x80 ? CodePoint{1, byte} : firstCodePoint(text);
     if (!point) {
       raise(kInvalidArgument, owner + ": the byte " + characterName(byte, "%02X") + " is no text");
     }
@@ -49,7 +50,7 @@ void checkText(const std::string& text, const std::string& owner) {
       raise(kInvalidArgument,
             owner + ": a file cannot hold the character " + characterName(point->value, "U+%04X"));
     }
-    rest.remove_prefix(point->length);
+    text.remove_prefix(point->length);
   }
 }
 

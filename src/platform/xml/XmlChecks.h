@@ -2,13 +2,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 /// What a document can hold. For the files of this folder alone.
 namespace velra::xml {
 
 /// kInvalidArgument for a text that XML cannot hold: it would make a file that nobody can open
 /// again. The message names its owner, an element or an attribute.
-void checkText(const std::string& text, const std::string& owner);
+void checkText(std::string_view text, const std::string& owner);
 
 /// kInvalidArgument for what is no name of an element or attribute.
 void checkName(const std::string& name);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/xml/XmlWriter.h"
 
+#include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "base/RunTimeError.h"
@@ -10,8 +12,23 @@
 namespace velra {
 namespace {
 
-constexpr std::string_view kInText = "<>&\r";
-constexpr std::string_view kInAttribute = "<>&\"\t\n\r";
+/// Tells in one step whether a character would not come back as it is.
+class SpecialCharacters {
+ public:
+  explicit constexpr SpecialCharacters(std::string_view characters) {
+    for (const char one : characters) special_[static_cast<unsigned char>(one)] = true;
+  }
+
+  constexpr bool has(char character) const {
+    return special_[static_cast<unsigned char>(character)];
+  }
+
+ private:
+  std::array<bool, 256> special_{};
+};
+
+constexpr SpecialCharacters kInText("<>&\r");
+constexpr SpecialCharacters kInAttribute("<>&\"\t\n\r");
 
 std::string_view reference(char character) {
   switch (character) {
@@ -33,17 +50,17 @@ std::string_view reference(char character) {
 }
 
 /// Appends a text with references in place of the characters that would not come back.
-void appendEscaped(std::string& target, std::string_view text, std::string_view special) {
+void appendEscaped(std::string& target, std::string_view text, const SpecialCharacters& special) {
   for (;;) {
-    const std::size_t at = text.find_first_of(special);
-    target += text.substr(0, at);
-    if (at == std::string_view::npos) return;
-    target += reference(text[at]);
-    text.remove_prefix(at + 1);
+    const auto* at = std::find_if(text.begin(), text.end(), [&](char c) { return special.has(c); });
+    target.append(text.begin(), at);
+    if (at == text.end()) return;
+    target += reference(*at);
+    text.remove_prefix(static_cast<std::size_t>(at - text.begin()) + 1);
   }
 }
 
-void check(const std::string& name, const std::string& text, const XmlAttributes& attributes) {
+void check(const std::string& name, std::string_view text, const XmlAttributes& attributes) {
   xml::checkName(name);
   xml::checkText(text, name);
   for (const auto& [attribute, value] : attributes) {
@@ -84,7 +101,7 @@ void XmlWriter::endElement(std::string& target) const {
   }
 }
 
-void XmlWriter::addElement(const std::string& name, const std::string& text,
+void XmlWriter::addElement(const std::string& name, std::string_view text,
                            const XmlAttributes& attributes) {
   check(name, text, attributes);
   endElement(content_);
@@ -96,7 +113,7 @@ void XmlWriter::addElement(const std::string& name, const std::string& text,
   appendEscaped(content_, text, kInText);
 }
 
-void XmlWriter::addChild(const std::string& name, const std::string& text,
+void XmlWriter::addChild(const std::string& name, std::string_view text,
                          const XmlAttributes& attributes) {
   if (element_.empty()) raise(kNoObject);
   check(name, text, attributes);

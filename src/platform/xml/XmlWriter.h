@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -20,9 +21,9 @@ class XmlWriter {
   explicit XmlWriter(const XmlShell& shell);
 
   /// Appends an element to the root, and makes it the one that `addChild` adds to.
-  void addElement(const std::string& name, const std::string& text,
+  void addElement(const std::string& name, std::string_view text,
                   const XmlAttributes& attributes = {});
-  void addChild(const std::string& name, const std::string& text,
+  void addChild(const std::string& name, std::string_view text,
                 const XmlAttributes& attributes = {});
 
   /// The whole file in UTF-8.
