@@ -24,6 +24,8 @@ constexpr int kThreads = 2;
 // to be woken for each single one would cost more than the file.
 constexpr std::size_t kMostWaiting = 64;
 constexpr std::size_t kFewWaiting = 16;
+// A thread sleeps until there are so many, for the same reason.
+constexpr std::size_t kWorthWaking = 16;
 constexpr std::chrono::milliseconds kBetweenWaits{40};
 
 }  // namespace
@@ -55,6 +57,8 @@ void FilesBehind::move(const std::string& from, const std::string& to, std::stri
 
 void FilesBehind::addNow(File file) {
   Lock lock(mutex_);
+  wanted_ = files_.size();
+  handed_.notify_all();
   done_.wait(lock, [this] { return atRest(); });
   files_.push_back(std::move(file));
   if (failed_) return;
@@ -75,6 +79,8 @@ void FilesBehind::add(File file) {
     waitForRoom(lock);
   }
   files_.push_back(std::move(file));
+  if ((files_.size() - next_) % kWorthWaking != 0) return;
+  wanted_ = files_.size();
   lock.unlock();
   handed_.notify_one();
 }
@@ -91,17 +97,21 @@ void FilesBehind::waitForRoom(Lock& lock) {
 void FilesBehind::work() {
   Lock lock(mutex_);
   while (true) {
-    handed_.wait(lock, [this] { return complete_ || failed_ || next_ < files_.size(); });
+    handed_.wait(lock, [this] { return complete_ || failed_ || next_ < wanted_; });
     if (failed_ || next_ == files_.size()) return;
-    File& file = files_[next_++];  // a deque leaves it in its place
-    ++busy_;
-    lock.unlock();
-    make(file);
-    lock.lock();
-    --busy_;
-    failed_ = failed_ || !file.made;
-    if (failed_ || atRest() || files_.size() - next_ <= kFewWaiting) done_.notify_one();
+    while (!failed_ && next_ < files_.size()) makeNext(lock);
   }
+}
+
+void FilesBehind::makeNext(Lock& lock) {
+  File& file = files_[next_++];  // a deque leaves it in its place
+  ++busy_;
+  lock.unlock();
+  make(file);
+  lock.lock();
+  --busy_;
+  failed_ = failed_ || !file.made;
+  if (failed_ || atRest() || files_.size() - next_ <= kFewWaiting) done_.notify_one();
 }
 
 void FilesBehind::make(File& file) {

@@ -70,6 +70,7 @@ class FilesBehind {
   void addNow(File file);
   void waitForRoom(Lock& lock);
   void work();
+  void makeNext(Lock& lock);
   bool atRest() const;
   static void make(File& file);
   void join();
@@ -83,6 +84,7 @@ class FilesBehind {
   std::condition_variable done_;    // enough for the thread of the document to go on
   std::deque<File> files_;          // what was handed over, none taken out
   std::size_t next_ = 0;            // which is to be begun
+  std::size_t wanted_ = 0;          // for so many of them the threads are woken
   int busy_ = 0;                    // threads with a file
   bool complete_ = false;           // no more will be handed over
   bool failed_ = false;
