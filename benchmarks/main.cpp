@@ -8,6 +8,7 @@
 
 #include "DayBench.h"
 #include "DocumentBench.h"
+#include "HostShare.h"
 #include "MediaBench.h"
 #include "PieceBench.h"
 #include "RescueBench.h"
@@ -53,7 +54,9 @@ int main(int count, char** arguments) {
   bool good = true;
   for (const Part& part : kParts) {
     if (only.empty() || only == part.name) {
+      const HostShare share;
       good = report(part.title, part.measure(folder)) && good;
+      share.print();
     }
   }
   return good ? 0 : 1;
