@@ -7,6 +7,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg LinguistTools)
 find_package(SQLite3 REQUIRED)
 find_package(PostgreSQL REQUIRED)
 find_package(nlohmann_json REQUIRED)
+find_package(tsl-robin-map REQUIRED)
 find_package(Threads REQUIRED)
 
 pkg_check_modules(LIBAV REQUIRED IMPORTED_TARGET libavformat libavcodec libavutil libswscale

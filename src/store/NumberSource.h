@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <tsl/robin_map.h>
+
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 
 #include "platform/files/FolderWatch.h"
@@ -58,7 +59,7 @@ class NumberSource {
     int frontier = 1;      // every number below is taken by an object, but for the gaps
     std::set<int> gaps;    // numbers to be asked for again
     std::set<int> filled;  // by files, as far as the watch has told
-    std::unordered_map<PathKey, int> passed;  // the numbers below, by their paths
+    tsl::robin_map<PathKey, int, PathKeyHash> passed;  // the numbers below, by their paths
   };
 
   bool fileTaken(const std::string& path) const;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/ObjectRegistry.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "base/Paths.h"
@@ -35,7 +34,7 @@ void ObjectRegistry::Add(const RegisteredRef& object) {
   if (holds(*object)) return;
   const PathKey key = pathKey(strAbsolutePath(object->strGUID()));
   object->place_ = {objects_.add(object), key};
-  byKey_.emplace(key, object->place_.number);
+  byKey_.add(key, object->place_.number);
   ++arrivals_;
   object->setObjectListener(this);
   if (const auto* described = as<DescribedObject>(object.get())) references_.added(*described);
@@ -120,13 +119,13 @@ ObjectList ObjectRegistry::described() const {
 }
 
 RegisteredRef ObjectRegistry::firstAt(const std::string& path) const {
-  const auto [first, last] = byKey_.equal_range(pathKey(path));
   RegisteredRef found;
-  for (auto at = first; at != last; ++at) {
-    RegisteredRef object = objects_.find(at->second);
-    const bool earlier = object && (!found || at->second < found->place_.number);
+  byKey_.any(pathKey(path), [&](PathIndex::Number number) {
+    RegisteredRef object = objects_.find(number);
+    const bool earlier = object && (!found || number < found->place_.number);
     if (earlier && isAt(*object, path)) found = std::move(object);
-  }
+    return false;
+  });
   return found;
 }
 
@@ -137,9 +136,7 @@ RegisteredRef ObjectRegistry::find(const std::string& guid) {
 
 bool ObjectRegistry::isTaken(PathKey key) {
   rekeyAfterFolderChange();
-  const auto [first, last] = byKey_.equal_range(key);
-  return std::any_of(first, last,
-                     [this](const auto& entry) { return objects_.contains(entry.second); });
+  return byKey_.any(key, [this](PathIndex::Number number) { return objects_.contains(number); });
 }
 
 void ObjectRegistry::departed(PathKey key) {
@@ -171,23 +168,16 @@ void ObjectRegistry::rekey(RegisteredObject& object) {
   const PathKey key = pathKey(strAbsolutePath(object.strGUID()));
   const PathKey old = object.place_.key;
   if (key == old) return;
-  unindex(object);
+  byKey_.remove(old, object.place_.number);
   object.place_.key = key;
-  byKey_.emplace(key, object.place_.number);
+  byKey_.add(key, object.place_.number);
   ++arrivals_;
   departed(old);
 }
 
-void ObjectRegistry::unindex(const RegisteredObject& object) {
-  const auto [first, last] = byKey_.equal_range(object.place_.key);
-  const auto at = std::find_if(
-      first, last, [&](const auto& entry) { return entry.second == object.place_.number; });
-  if (at != last) byKey_.erase(at);
-}
-
 void ObjectRegistry::dropStaleKeys() {
   if (byKey_.size() < 2 * objects_.size() + kFewStale) return;
-  std::erase_if(byKey_, [this](const auto& entry) { return !objects_.contains(entry.second); });
+  byKey_.removeIf([this](PathIndex::Number number) { return !objects_.contains(number); });
 }
 
 void ObjectRegistry::rekeyAfterFolderChange() {
@@ -216,9 +206,7 @@ bool ObjectRegistry::checkConsistency() const {
     if (object->place_.number != number) return false;
     const bool fresh = folderGeneration_ == currentFolderGeneration();
     if (fresh && key != pathKey(strAbsolutePath(object->strGUID()))) return false;
-    const auto [first, last] = byKey_.equal_range(key);
-    bool indexed = false;
-    for (auto at = first; at != last; ++at) indexed = indexed || at->second == number;
+    const bool indexed = byKey_.any(key, [&](PathIndex::Number any) { return any == number; });
     if (!indexed || (object->bChanged() && !changed_.contains(number))) return false;
   }
   return numbers_.checkConsistency();

@@ -4,12 +4,11 @@
 #include <cstdint>
 #include <set>
 #include <string>
-#include <unordered_map>
 
 #include "protocol/DescribedObject.h"
 #include "store/NumberSource.h"
 #include "store/ObjectSequence.h"
-#include "store/PathKey.h"
+#include "store/PathIndex.h"
 #include "store/ReferenceIndex.h"
 
 namespace velra {
@@ -82,7 +81,7 @@ class ObjectRegistry : private ObjectListener {
   /// this is as if it were new.
   struct Contents {
     ObjectSequence objects;
-    std::unordered_multimap<PathKey, std::uint64_t> byKey;
+    PathIndex byKey;
   };
   Contents takeAll();
 
@@ -96,16 +95,15 @@ class ObjectRegistry : private ObjectListener {
   void rekeyAfterFolderChange();
   /// Gives the object the key of its identifier; the one that it had goes out of use.
   void rekey(RegisteredObject& object);
-  void unindex(const RegisteredObject& object);
   void dropStaleKeys();
   void departed(PathKey key);
   RegisteredRef firstAt(const std::string& path) const;
   bool holds(const RegisteredObject& object) const;
 
   ObjectSequence objects_;
-  // Numbers. That of an object that has gone stays a while: to take it out at once is to wait for
+  // The number of an object that has gone stays a while: to take it out at once is to wait for
   // memory that no cache holds.
-  std::unordered_multimap<PathKey, std::uint64_t> byKey_;
+  PathIndex byKey_;
   std::set<std::uint64_t> changed_;  // every object with something to save, and perhaps others
   std::set<std::uint64_t> written_;  // those of them that takeWritten has not given since
   ReferenceIndex references_{*this};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -14,5 +15,10 @@ using PathKey = std::uint64_t;
 inline PathKey pathKey(std::string_view normalForm) {
   return std::hash<std::string_view>{}(normalForm);
 }
+
+/// A hash already.
+struct PathKeyHash {
+  std::size_t operator()(PathKey key) const { return key; }
+};
 
 }  // namespace velra
