@@ -72,8 +72,10 @@ bool DocumentSave::bWriteAll() {
     if (io_.names().isPromised(guid) && bSomethingAt(guid)) renumber(*object);
   }
   const std::size_t files = objects_.changedObjects().size();
+  const bool removedMany =
+      document_.colObjRemoved().size() > io_.removed().all().size() + kManyFiles;
   std::optional<LongWork> work;
-  if (files > kManyFiles) work.emplace(app_.gMainForm, files);
+  if (files > kManyFiles || removedMany) work.emplace(app_.gMainForm, files);
   SavePoint before(objects_.changedObjects());
   std::optional<PlannedSave> planned;
   const auto plan = [&] { planned.emplace(io_, objects_.changedObjects(), removals()); };
