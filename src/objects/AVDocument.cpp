@@ -45,6 +45,7 @@ AVDocument::AVDocument(ApplicationModule& app)
 
 AVDocument::~AVDocument() {
   app().lateRelease.take(collObjects_.takeAll());
+  app().lateRelease.take(std::move(colObjRemoved_));
 }
 
 OpenDocument& AVDocument::document() const {

@@ -42,6 +42,7 @@ IOManager::~IOManager() {
   // What is known of tens of thousands of files.
   app_.lateRelease.take(std::move(guard_));
   app_.lateRelease.take(std::move(names_));
+  app_.lateRelease.take(std::move(removed_));
   app_.lateRelease.take(std::move(scans_));
 }
 

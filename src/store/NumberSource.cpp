@@ -88,7 +88,7 @@ std::string NumberSource::take(const std::string& prefix, const std::string& suf
 // The files of removed objects lie in their gaps by the thousand.
 void NumberSource::takeNews(const Family& family) {
   const std::string folder = folderOf(family.key);
-  if (folder != watchedFolder_) watch_.emplace(folder);
+  if (folder != watchedFolder_) watch_ = std::make_unique<FolderWatch>(folder);
   const auto news = folder == watchedFolder_ ? watch_->take() : std::nullopt;
   watchedFolder_ = folder;
   if (news) {
@@ -109,6 +109,11 @@ void NumberSource::freed(PathKey key) {
     family.filled.erase(number->second);
     family.gaps.insert(number->second);
   }
+}
+
+std::unique_ptr<FolderWatch> NumberSource::takeWatch() {
+  watchedFolder_.clear();
+  return std::move(watch_);
 }
 
 bool NumberSource::checkConsistency() const {

@@ -4,7 +4,7 @@
 #include <tsl/robin_map.h>
 
 #include <map>
-#include <optional>
+#include <memory>
 #include <set>
 #include <string>
 #include <unordered_set>
@@ -32,6 +32,9 @@ class NumberSource {
 
   /// The registry tells of every identifier that went out of use.
   void freed(PathKey key);
+
+  /// The watch of a folder, for who ends it later: the system throws away all that it has to tell.
+  std::unique_ptr<FolderWatch> takeWatch();
 
   /// True when nothing is taken for used that is free; for tests.
   bool checkConsistency() const;
@@ -70,7 +73,7 @@ class NumberSource {
   ObjectRegistry& objects_;
   std::map<std::pair<std::string, std::string>, Family> families_;
   std::string watchedFolder_;  // of the watch
-  std::optional<FolderWatch> watch_;
+  std::unique_ptr<FolderWatch> watch_;
   std::string listedFolder_;
   std::unordered_set<std::string> listedNames_;
 };

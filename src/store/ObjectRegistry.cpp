@@ -196,7 +196,7 @@ ObjectRegistry::Contents ObjectRegistry::takeAll() {
   }
   changed_.clear();
   written_.clear();
-  return {std::exchange(objects_, {}), std::exchange(byKey_, {})};
+  return {std::exchange(objects_, {}), std::exchange(byKey_, {}), numbers_.takeWatch()};
 }
 
 bool ObjectRegistry::checkConsistency() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <set>
 #include <string>
 
@@ -82,6 +83,7 @@ class ObjectRegistry : private ObjectListener {
   struct Contents {
     ObjectSequence objects;
     PathIndex byKey;
+    std::unique_ptr<FolderWatch> watch;
   };
   Contents takeAll();
 
