@@ -18,9 +18,12 @@ namespace {
 constexpr std::size_t kFewFresh = 1024;
 constexpr std::uint64_t kReferenceGroup = 512;  // objects, which are asked in some milliseconds
 
+// The first ones, so many, are in order already.
 template <class T>
-void sortAndDropDoubles(std::vector<T>& list) {
-  std::sort(list.begin(), list.end());
+void sortAndDropDoubles(std::vector<T>& list, std::size_t inOrder = 0) {
+  const auto behind = list.begin() + static_cast<std::ptrdiff_t>(inOrder);
+  std::sort(behind, list.end());
+  std::inplace_merge(list.begin(), behind, list.end());
   list.erase(std::unique(list.begin(), list.end()), list.end());
 }
 
@@ -91,7 +94,7 @@ void ReferenceIndex::build(const std::function<void()>& meanwhile) {
     described->visitReferences(collector);
   }
   meanwhile();
-  order();
+  order(0);
   settled_.shrink_to_fit();
   built_ = true;
   folderGeneration_ = currentFolderGeneration();
@@ -132,16 +135,17 @@ void ReferenceIndex::add(Key key, std::uint64_t holder) {
 
 // An object that changes often is asked often and told of as often; here it is counted once again.
 void ReferenceIndex::settle() {
+  const std::size_t inOrder = settled_.size();
   for (const auto& [key, holders] : fresh_) {
     for (const std::uint64_t holder : holders) settled_.push_back({key, holder});
   }
-  order();
+  order(inOrder);
   fresh_.clear();
   freshCount_ = 0;
 }
 
-void ReferenceIndex::order() {
-  sortAndDropDoubles(settled_);
+void ReferenceIndex::order(std::size_t inOrder) {
+  sortAndDropDoubles(settled_, inOrder);
   slots_.set(settled_);
 }
 

@@ -110,8 +110,8 @@ class ReferenceIndex {
   std::vector<Reference> referencesOf(const DescribedObject& object) const;
   void add(Key key, std::uint64_t holder);
   void settle();
-  /// Puts the settled references in order, each once.
-  void order();
+  /// Puts the settled references in order, each once; the first ones, so many, are already.
+  void order(std::size_t inOrder);
   void appendHolders(Key key, Holders& holders) const;
   ObjectRef livingOf(std::uint64_t holder) const;
   ObjectList listOf(Holders holders) const;

@@ -10,7 +10,7 @@ namespace velra {
 namespace {
 
 constexpr int kUnnoticedWork = 500;  // milliseconds
-constexpr int kRepaintMilliseconds = 60;
+constexpr int kRepaintMilliseconds = 45;
 constexpr int kBarWidth = 100;  // pixels
 constexpr int kFull = 1000;
 
