@@ -11,8 +11,22 @@ namespace velra::bench {
 
 namespace {
 
-constexpr double kPauseBudget = 50;  // milliseconds: a longer one is felt
+// Milliseconds. A pause longer than the first is felt.
+constexpr double kPauseBudget = 50;
+constexpr double kBulkBudget = 300;
 constexpr double kUnpaintedBudget = 100;
+
+const char* nameOf(Day::Kind kind) {
+  switch (kind) {
+    case Day::Kind::Usual:
+      return "";
+    case Day::Kind::Bulk:
+      return "  thousands at once";
+    case Day::Kind::Long:
+      return "  long work";
+  }
+  return "";
+}
 
 }  // namespace
 
@@ -41,16 +55,19 @@ void Day::end() {
   const Stall& longest = watch_.longest();
   const double unpainted = watch_.longestUnpainted();
   std::printf("  %-52s %10.1f %10.1f %10.1f %10.1f%s\n", name_, longest.clock, longest.alone,
-              longest.processor, unpainted, kind_ == Kind::Long ? "  long work" : "");
+              longest.processor, unpainted, nameOf(kind_));
   std::fflush(stdout);
-  double& worst = kind_ == Kind::Long ? worstUnpainted_ : worst_;
-  worst = std::max(worst, kind_ == Kind::Long ? unpainted : longest.alone);
+  if (kind_ == Kind::Usual) worst_ = std::max(worst_, longest.alone);
+  if (kind_ == Kind::Bulk) worstBulk_ = std::max(worstBulk_, longest.alone);
+  if (kind_ != Kind::Usual) worstUnpainted_ = std::max(worstUnpainted_, unpainted);
 }
 
 std::vector<Measure> Day::measures() const {
   return {
       {"the longest pause", worst_, "ms", kPauseBudget},
-      {"the longest without a painting in long work", worstUnpainted_, "ms", kUnpaintedBudget},
+      {"the longest pause for thousands at once", worstBulk_, "ms", kBulkBudget},
+      {"the longest without a painting in these and long work", worstUnpainted_, "ms",
+       kUnpaintedBudget},
   };
 }
 

@@ -18,6 +18,7 @@ class Day {
  public:
   enum class Kind {
     Usual,
+    Bulk,  // one command over thousands of objects or files: it may be felt, and has to paint
     Long,  // lasts, and shows how far it has come: no pause, but it has to paint
   };
 
@@ -41,7 +42,8 @@ class Day {
   const char* name_ = "";  // of the step that has begun
   Kind kind_ = Kind::Usual;
   double worst_ = 0;           // milliseconds of a usual step
-  double worstUnpainted_ = 0;  // of a long one
+  double worstBulk_ = 0;       // of one over thousands
+  double worstUnpainted_ = 0;  // of these and of long ones
 };
 
 /// The steps at the forms and at the trees, and those at the tool, over a document that shows its

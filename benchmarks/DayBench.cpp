@@ -63,8 +63,9 @@ void find(Day& day, const char* name, const char* text, Day::Kind kind) {
       kind);
 }
 
-void save(Day& day, const char* name) {
-  day.step(name, [&] { choose(day.program.window, "mnuFileSave"); });
+void save(Day& day, const char* name, Day::Kind kind) {
+  day.step(
+      name, [&] { choose(day.program.window, "mnuFileSave"); }, kind);
 }
 
 // As a large import leaves them.
@@ -76,19 +77,22 @@ void changeMany(Day& day) {
 }
 
 void endTheDay(Day& day, RunFolder& run, const std::string& path) {
-  save(day, "save what was cut and removed");
+  save(day, "save what was cut and removed", Day::Kind::Bulk);
   day.program.app.gAVDoc->setStrTitle("one change");
-  save(day, "save one change");
+  save(day, "save one change", Day::Kind::Usual);
   day.step("keep 2,000 changes", [&] {
     changeMany(day);
     pause(2000);
   });
-  save(day, "save 2,000 changes");
+  save(day, "save 2,000 changes", Day::Kind::Bulk);
   day.step("open the File menu", [&] { day.program.rules.mnuFile_Click(); });
-  day.step("export as a table", [&] {
-    willMeet({choosingFile(run.path() + "/film.csv", 0)});
-    choose(day.program.window, "mnuFileExportAs");
-  });
+  day.step(
+      "export as a table",
+      [&] {
+        willMeet({choosingFile(run.path() + "/film.csv", 0)});
+        choose(day.program.window, "mnuFileExportAs");
+      },
+      Day::Kind::Bulk);
   day.step(
       "Save As",
       [&] {

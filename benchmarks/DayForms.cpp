@@ -65,13 +65,17 @@ void appendChildren(Day& day, const std::string& movie) {
   }
 }
 
-void removeNode(Day& day, const char* name, TreeId tree, TreeNode& node) {
+void removeNode(Day& day, const char* name, TreeId tree, TreeNode& node,
+                Day::Kind kind = Day::Kind::Usual) {
   clickNode(day.view(tree), node);
-  day.step(name, [&] {
-    willMeet({pressing("cmdYes")});
-    strikeAndWait(day.view(tree), Qt::Key_Delete);
-    pause(1000);  // the store takes what goes
-  });
+  day.step(
+      name,
+      [&] {
+        willMeet({pressing("cmdYes")});
+        strikeAndWait(day.view(tree), Qt::Key_Delete);
+        pause(1000);  // the store takes what goes
+      },
+      kind);
 }
 
 }  // namespace
@@ -84,7 +88,8 @@ void workOnForms(Day& day, const std::string& movie) {
   removeNode(day, "remove a segment", kExpressions, day.nodeOf(kExpressions, "Video 7"));
   removeNode(day, "remove one with three below", kExpressions, day.nodeOf(kExpressions, "Video 9"));
   TreeNode& document = *day.program.rules.tvwMainTree.root();
-  removeNode(day, "remove a Version with 12,000 below", kMain, *document.children[1]);
+  removeNode(day, "remove a Version with 12,000 below", kMain, *document.children[1],
+             Day::Kind::Bulk);
   clickNode(day.view(kMain), day.nodeOf(kMain, "Cut 1"));
 }
 

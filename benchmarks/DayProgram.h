@@ -6,6 +6,7 @@
 
 #include "app/ApplicationModule.h"
 #include "platform/movie/MediaGraph.h"
+#include "platform/movie/MovieLibrary.h"
 #include "platform/settings/MachineSettings.h"
 #include "platform/settings/UserSettings.h"
 #include "rescue/RescueWriter.h"
@@ -42,6 +43,7 @@ class DayProgram {
 
   void start() {
     Main(app, rules, "", {[this] { window.show(); }, [] {}});
+    loadMoviesAhead();  // as the program does when its window stands
   }
 
  private:
