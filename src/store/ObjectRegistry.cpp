@@ -206,7 +206,8 @@ bool ObjectRegistry::checkConsistency() const {
     if (object->place_.number != number) return false;
     const bool fresh = folderGeneration_ == currentFolderGeneration();
     if (fresh && key != pathKey(strAbsolutePath(object->strGUID()))) return false;
-    const bool indexed = byKey_.any(key, [&](PathIndex::Number any) { return any == number; });
+    const bool indexed =
+        byKey_.any(key, [own = number](PathIndex::Number any) { return any == own; });
     if (!indexed || (object->bChanged() && !changed_.contains(number))) return false;
   }
   return numbers_.checkConsistency();
