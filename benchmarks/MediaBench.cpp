@@ -26,6 +26,7 @@ constexpr int kSeeks = 80;
 constexpr int kSteps = 200;
 constexpr int kRounds = 3;
 constexpr double kPlaySeconds = 10;
+constexpr std::chrono::milliseconds kBetweenSeeks{20};  // as the other player has, in its script
 
 class RandomTimes {
  public:
@@ -103,7 +104,10 @@ void addBeside(std::vector<Measure>& measures, const std::string& name, const st
     const auto other = measureMpv(path, targets, folder);
     if (!other) return;
     Times seeks;
-    for (const double t : targets) seeks.take([&] { source.at(t); });
+    for (const double t : targets) {
+      seeks.take([&] { source.at(t); });
+      std::this_thread::sleep_for(kBetweenSeeks);
+    }
     const auto less = [&](double& least, double one) {
       least = round == 0 ? one : std::min(least, one);
     };

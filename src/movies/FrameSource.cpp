@@ -27,8 +27,8 @@ constexpr double kMostOnTheWay = 300;
 
 // So many pictures before the one that is sought are decoded all, if the cache has room, since
 // people step back; who does so by no more than two pictures does it again.
-constexpr double kFewestWhole = 4;
-constexpr double kWholeBefore = 4;
+constexpr double kFewestWhole = 2;
+constexpr double kWholeBefore = 2;
 constexpr double kStepBack = 2;
 constexpr double kWholeBeforeSteps = 30;
 
