@@ -26,6 +26,13 @@ std::optional<CodePoint> firstCodePoint(std::string_view text) {
   return CodePoint{static_cast<std::size_t>(length), static_cast<std::uint32_t>(value)};
 }
 
+/// Most names are; the library's own check decodes each character.
+bool isPlainName(std::string_view name) {
+  const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+  const auto isPlain = [&](char c) { return isLetter(c) || (c >= '0' && c <= '9'); };
+  return !name.empty() && isLetter(name.front()) && std::all_of(name.begin(), name.end(), isPlain);
+}
+
 std::string characterName(std::uint32_t value, const char* format) {
   char buffer[16];
   std::snprintf(buffer, sizeof buffer, format, value);
@@ -34,7 +41,7 @@ std::string characterName(std::uint32_t value, const char* format) {
 
 }  // namespace
 
-void checkText(std::string_view text, const std::string& owner) {
+void checkText(std::string_view text, std::string_view owner) {
   // Most texts are plain ASCII from end to end.
   const auto isPlain = [](char c) { return static_cast<signed char>(c) >= 0x20; };
   for (;;) {
@@ -44,17 +51,20 @@ void checkText(std::string_view text, const std::string& owner) {
     const auto byte = static_cast<unsigned char>(text.front());
     const auto point = byte < 0x80 ? CodePoint{1, byte} : firstCodePoint(text);
     if (!point) {
-      raise(kInvalidArgument, owner + ": the byte " + characterName(byte, "%02X") + " is no text");
+      raise(kInvalidArgument,
+            std::string(owner) + ": the byte " + characterName(byte, "%02X") + " is no text");
     }
     if (!isXmlCharacter(point->value)) {
-      raise(kInvalidArgument,
-            owner + ": a file cannot hold the character " + characterName(point->value, "U+%04X"));
+      raise(kInvalidArgument, std::string(owner) + ": a file cannot hold the character " +
+                                  characterName(point->value, "U+%04X"));
     }
     text.remove_prefix(point->length);
   }
 }
 
-void checkName(const std::string& name) {
+void checkName(std::string_view text) {
+  if (isPlainName(text)) return;
+  const std::string name(text);
   const bool whole = name.find('\0') == std::string::npos;
   if (!whole || xmlValidateName(bytesOf(name), 0) != 0) {
     raise(kInvalidArgument, "\"" + name + "\" is no name of an element or attribute");

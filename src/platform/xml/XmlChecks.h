@@ -9,9 +9,9 @@ namespace velra::xml {
 
 /// kInvalidArgument for a text that XML cannot hold: it would make a file that nobody can open
 /// again. The message names its owner, an element or an attribute.
-void checkText(std::string_view text, const std::string& owner);
+void checkText(std::string_view text, std::string_view owner);
 
 /// kInvalidArgument for what is no name of an element or attribute.
-void checkName(const std::string& name);
+void checkName(std::string_view name);
 
 }  // namespace velra::xml

@@ -27,6 +27,8 @@ class SpecialCharacters {
   std::array<bool, 256> special_{};
 };
 
+constexpr std::size_t kUsualContent = 4096;  // bytes of an instance file and more
+
 constexpr SpecialCharacters kInText("<>&\r");
 constexpr SpecialCharacters kInAttribute("<>&\"\t\n\r");
 
@@ -60,7 +62,7 @@ void appendEscaped(std::string& target, std::string_view text, const SpecialChar
   }
 }
 
-void check(const std::string& name, std::string_view text, const XmlAttributes& attributes) {
+void check(const std::string& name, std::string_view text, XmlAttributeViews attributes) {
   xml::checkName(name);
   xml::checkText(text, name);
   for (const auto& [attribute, value] : attributes) {
@@ -75,7 +77,7 @@ void appendEnd(std::string& target, const std::string& name) {
   target += '>';
 }
 
-void appendStart(std::string& target, const std::string& name, const XmlAttributes& attributes) {
+void appendStart(std::string& target, const std::string& name, XmlAttributeViews attributes) {
   target += '<';
   target += name;
   for (const auto& [attribute, value] : attributes) {
@@ -90,7 +92,9 @@ void appendStart(std::string& target, const std::string& name, const XmlAttribut
 }  // namespace
 
 XmlWriter::XmlWriter(const XmlShell& shell)
-    : before_(shell.parts().before), behind_(shell.parts().behind) {}
+    : before_(shell.parts().before), behind_(shell.parts().behind) {
+  content_.reserve(kUsualContent);
+}
 
 void XmlWriter::endElement(std::string& target) const {
   if (element_.empty()) return;
@@ -102,7 +106,7 @@ void XmlWriter::endElement(std::string& target) const {
 }
 
 void XmlWriter::addElement(const std::string& name, std::string_view text,
-                           const XmlAttributes& attributes) {
+                           XmlAttributeViews attributes) {
   check(name, text, attributes);
   endElement(content_);
   appendStart(content_, name, attributes);
@@ -114,7 +118,7 @@ void XmlWriter::addElement(const std::string& name, std::string_view text,
 }
 
 void XmlWriter::addChild(const std::string& name, std::string_view text,
-                         const XmlAttributes& attributes) {
+                         XmlAttributeViews attributes) {
   if (element_.empty()) raise(kNoObject);
   check(name, text, attributes);
   if (isEmpty_) content_ += '>';
@@ -130,13 +134,14 @@ void XmlWriter::addChild(const std::string& name, std::string_view text,
 }
 
 std::string XmlWriter::bytes() const {
-  std::string bytes = before_;
+  std::string bytes;
+  bytes.reserve(before_.size() + content_.size() + element_.size() + behind_.size() + 3);
+  bytes += before_;
   if (element_.empty()) {
     bytes.back() = '/';  // an empty root is one tag
     bytes += behind_.substr(behind_.find('>'));
     return bytes;
   }
-  bytes.reserve(before_.size() + content_.size() + element_.size() + behind_.size() + 3);
   bytes += content_;
   endElement(bytes);
   return bytes += behind_;
