@@ -105,11 +105,11 @@ std::string IOManager::strOpen(XmlDocument& objDOMDocument, const std::string& s
 std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::string& strGUID) {
   saveFailure_.clear();
   if (!bFileSystem_) return {};
-  const std::string& bytes = objDOMDocument.bytes();
+  std::string bytes = objDOMDocument.bytes();
   const std::string path = strAbsolutePath(strGUID);
   // A file that came under a promised name since is another program's.
   if (names_.isPromised(strGUID)) {
-    if (behind_) return saveFailure_ = strSaveBehind(bytes, strGUID);
+    if (behind_) return saveFailure_ = strSaveBehind(std::move(bytes), strGUID);
     saveFailure_ = writeNewFile(strGUID, bytes);
     unflushed_.made();
   } else if ((saveFailure_ = guard_.strWhyNotWrite(path)).empty()) {
@@ -124,10 +124,10 @@ std::string IOManager::strSave(const XmlWriter& objDOMDocument, const std::strin
   return {};
 }
 
-std::string IOManager::strSaveBehind(const std::string& bytes, const std::string& strGUID) {
+std::string IOManager::strSaveBehind(std::string bytes, const std::string& strGUID) {
   const FilesBehind::Failure soFar = behind_->failure();
   if (!soFar.reason.empty()) return strSentence(soFar);
-  behind_->write(strGUID, bytes, strStatus());
+  behind_->write(strGUID, std::move(bytes), strStatus());
   unflushed_.made();
   unflushed_.written(strGUID);
   return {};

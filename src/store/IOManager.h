@@ -133,7 +133,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   std::string strDeleteFile(const std::string& strGUID);
   std::string strDeleteAll();
   std::string strDeleteRemoved(const std::string& strGUID);
-  std::string strSaveBehind(const std::string& bytes, const std::string& strGUID);
+  std::string strSaveBehind(std::string bytes, const std::string& strGUID);
   std::string strStatus() const;
 
   ApplicationModule& app_;

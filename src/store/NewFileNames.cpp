@@ -8,26 +8,45 @@
 
 namespace velra {
 
-std::string NewFileNames::give(ObjectRegistry& objects, ObjectKind kind,
-                               const std::string& extension, const std::string& strAVDocPathName) {
+namespace {
+
+std::string prefixOf(ObjectKind kind, const std::string& strAVDocPathName) {
   std::string folder;
   const std::string base = strSplitPath(strAVDocPathName, folder);
-  if (kind == ObjectKind::AVDocument) return withSeparator(strAbsolutePath(folder)) + base + ".xml";
+  return dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(classNameOf(kind));
+}
+
+}  // namespace
+
+std::string NewFileNames::give(ObjectRegistry& objects, ObjectKind kind,
+                               const std::string& extension, const std::string& strAVDocPathName) {
+  if (kind == ObjectKind::AVDocument) {
+    std::string folder;
+    const std::string base = strSplitPath(strAVDocPathName, folder);
+    return withSeparator(strAbsolutePath(folder)) + base + ".xml";
+  }
   // Whoever has it listed has made it.
   std::string message = listing_ ? std::string() : strMakeDataFolder(app_, strAVDocPathName);
   if (!message.empty()) return message;
-  const std::string prefix =
-      dataFolderOf(strAVDocPathName) + base + "_" + asciiLower(classNameOf(kind));
+  const std::string prefix = prefixFor(kind, strAVDocPathName);
   return *promised_.insert(objects.numbers().take(prefix, "." + extension)).first;
 }
 
+// A Save As asks for tens of thousands.
+std::string NewFileNames::prefixFor(ObjectKind kind, const std::string& strAVDocPathName) const {
+  if (!listing_ || listing_->document_ != strAVDocPathName) return prefixOf(kind, strAVDocPathName);
+  std::string& prefix = listing_->prefixes_[kind];
+  if (prefix.empty()) prefix = prefixOf(kind, strAVDocPathName);
+  return prefix;
+}
+
 void NewFileNames::came(const std::string& path) {
-  if (listing_) listing_->fileCame(path);
+  if (listing_) listing_->listing_.fileCame(path);
   promised_.erase(path);
 }
 
 void NewFileNames::went(const std::string& path) {
-  if (listing_) listing_->fileWent(path);
+  if (listing_) listing_->listing_.fileWent(path);
 }
 
 void NewFileNames::withdrawn(const std::string& path) {
@@ -37,8 +56,14 @@ void NewFileNames::withdrawn(const std::string& path) {
 
 NewFileNames::Listing::Listing(NewFileNames& names, ObjectRegistry& objects,
                                const std::string& strAVDocPathName)
-    : names_(names), listing_(objects.numbers(), dataFolderOf(strAVDocPathName)) {
-  names_.listing_ = &listing_;
+    : names_(names),
+      listing_(objects.numbers(), dataFolderOf(strAVDocPathName)),
+      document_(strAVDocPathName) {
+  names_.listing_ = this;
+}
+
+NewFileNames::Listing::~Listing() {
+  names_.listing_ = nullptr;
 }
 
 }  // namespace velra

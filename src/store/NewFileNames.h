@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <map>
 #include <string>
 #include <unordered_set>
 
@@ -37,23 +38,29 @@ class NewFileNames {
   void withdrawn(const std::string& path);
 
   /// While an object of this kind lives, one listing of the document's data folder serves all new
-  /// names.
+  /// names. The process does not change its folder meanwhile.
   class Listing {
    public:
     Listing(NewFileNames& names, ObjectRegistry& objects, const std::string& strAVDocPathName);
-    ~Listing() { names_.listing_ = nullptr; }
+    ~Listing();
     Listing(const Listing&) = delete;
     Listing& operator=(const Listing&) = delete;
 
    private:
+    friend class NewFileNames;
+
     NewFileNames& names_;
     NumberSource::Listing listing_;
+    std::string document_;
+    std::map<ObjectKind, std::string> prefixes_;  // of the names of this document
   };
 
  private:
+  std::string prefixFor(ObjectKind kind, const std::string& strAVDocPathName) const;
+
   const ApplicationModule& app_;
   std::unordered_set<std::string> promised_;
-  NumberSource::Listing* listing_ = nullptr;  // the one that stands now
+  Listing* listing_ = nullptr;  // the one that stands now
 };
 
 }  // namespace velra

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/NumberSource.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Paths.h"
@@ -50,11 +51,19 @@ bool NumberSource::fileTaken(const std::string& path) const {
   return bSomethingAt(path);
 }
 
-std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix,
-                                       const std::string& suffix) {
+NumberSource::Family& NumberSource::familyOf(const std::string& prefix, const std::string& suffix) {
+  const auto known = std::find_if(families_.begin(), families_.end(), [&](const Family& one) {
+    return one.prefix == prefix && one.suffix == suffix;
+  });
+  if (known != families_.end()) return *known;
+  families_.push_back({prefix, suffix, strAbsolutePath(prefix), 1, {}, {}, {}});
+  return families_.back();
+}
+
+std::string NumberSource::takeFromGaps(Family& family) {
   for (auto gap = family.gaps.begin(); gap != family.gaps.end();) {
-    std::string path = prefix + std::to_string(*gap) + suffix;
-    if (objects_.isTaken(keyOf(family, *gap, suffix))) {
+    std::string path = pathOf(family, *gap);
+    if (objects_.isTaken(keyOf(family, *gap))) {
       gap = family.gaps.erase(gap);
     } else if (fileTaken(path)) {
       // Within a listing files neither come nor go, so the gap is closed for good.
@@ -68,15 +77,14 @@ std::string NumberSource::takeFromGaps(Family& family, const std::string& prefix
 }
 
 std::string NumberSource::take(const std::string& prefix, const std::string& suffix) {
-  Family& family = families_[{prefix, suffix}];
-  if (family.key.empty()) family.key = strAbsolutePath(prefix);
+  Family& family = familyOf(prefix, suffix);
   if (listedFolder_.empty()) takeNews(family);
-  std::string path = takeFromGaps(family, prefix, suffix);
+  std::string path = takeFromGaps(family);
   if (!path.empty()) return path;
   for (; family.frontier <= kHighestNumber; ++family.frontier) {
-    const PathKey key = keyOf(family, family.frontier, suffix);
+    const PathKey key = keyOf(family, family.frontier);
     if (!objects_.isTaken(key)) {
-      path = prefix + std::to_string(family.frontier) + suffix;
+      path = pathOf(family, family.frontier);
       if (!fileTaken(path)) return path;
       if (listedFolder_.empty()) family.gaps.insert(family.frontier);
     }
@@ -95,15 +103,19 @@ void NumberSource::takeNews(const Family& family) {
     for (const std::string& name : *news) freed(pathKey(folder + name));
     return;
   }
-  for (auto& [name, any] : families_) any.gaps.merge(any.filled);
+  for (Family& any : families_) any.gaps.merge(any.filled);
 }
 
-PathKey NumberSource::keyOf(const Family& family, int number, const std::string& suffix) {
-  return pathKey(family.key + std::to_string(number) + suffix);
+PathKey NumberSource::keyOf(const Family& family, int number) {
+  return pathKey(family.key + std::to_string(number) + family.suffix);
+}
+
+std::string NumberSource::pathOf(const Family& family, int number) {
+  return family.prefix + std::to_string(number) + family.suffix;
 }
 
 void NumberSource::freed(PathKey key) {
-  for (auto& [name, family] : families_) {
+  for (Family& family : families_) {
     const auto number = family.passed.find(key);
     if (number == family.passed.end()) continue;
     family.filled.erase(number->second);
@@ -117,9 +129,9 @@ std::unique_ptr<FolderWatch> NumberSource::takeWatch() {
 }
 
 bool NumberSource::checkConsistency() const {
-  for (const auto& [name, family] : families_) {
+  for (const Family& family : families_) {
     for (int number = 1; number < family.frontier; ++number) {
-      const std::string path = name.first + std::to_string(number) + name.second;
+      const std::string path = pathOf(family, number);
       const bool taken = objects_.find(path) || (!listedFolder_.empty() && fileTaken(path));
       const bool asked = family.gaps.contains(number) || family.filled.contains(number);
       if (!taken && !asked) return false;

@@ -3,11 +3,11 @@
 
 #include <tsl/robin_map.h>
 
-#include <map>
 #include <memory>
 #include <set>
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 #include "platform/files/FolderWatch.h"
 #include "store/PathKey.h"
@@ -58,6 +58,8 @@ class NumberSource {
 
  private:
   struct Family {
+    std::string prefix;
+    std::string suffix;
     std::string key;       // the normal form of the prefix
     int frontier = 1;      // every number below is taken by an object, but for the gaps
     std::set<int> gaps;    // numbers to be asked for again
@@ -65,14 +67,16 @@ class NumberSource {
     tsl::robin_map<PathKey, int, PathKeyHash> passed;  // the numbers below, by their paths
   };
 
+  Family& familyOf(const std::string& prefix, const std::string& suffix);
   bool fileTaken(const std::string& path) const;
   void takeNews(const Family& family);
-  static PathKey keyOf(const Family& family, int number, const std::string& suffix);
-  std::string takeFromGaps(Family& family, const std::string& prefix, const std::string& suffix);
+  static PathKey keyOf(const Family& family, int number);
+  static std::string pathOf(const Family& family, int number);
+  std::string takeFromGaps(Family& family);
 
   ObjectRegistry& objects_;
-  std::map<std::pair<std::string, std::string>, Family> families_;
-  std::string watchedFolder_;  // of the watch
+  std::vector<Family> families_;  // some for each kind of file
+  std::string watchedFolder_;     // of the watch
   std::unique_ptr<FolderWatch> watch_;
   std::string listedFolder_;
   std::unordered_set<std::string> listedNames_;
