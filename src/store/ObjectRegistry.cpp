@@ -12,6 +12,12 @@ namespace {
 
 constexpr std::size_t kFewStale = 16;
 
+// Objects are told of in their order, and each of them several times in a row.
+void insertNearEnd(std::set<std::uint64_t>& numbers, std::uint64_t number) {
+  if (!numbers.empty() && *numbers.rbegin() == number) return;
+  numbers.insert(numbers.end(), number);
+}
+
 // Whether the normal form of its identifier is this path, which is one already.
 bool isAt(const RegisteredObject& object, const std::string& path) {
   const std::string guid = object.strGUID();
@@ -89,8 +95,8 @@ void ObjectRegistry::referencesAdded(const DescribedObject& object) {
 void ObjectRegistry::markedChanged(const RegisteredObject& object) {
   const std::uint64_t number = numberOf(object);
   if (number == 0) return;
-  changed_.insert(number);
-  written_.insert(number);
+  insertNearEnd(changed_, number);
+  insertNearEnd(written_, number);
 }
 
 ObjectList ObjectRegistry::takeWritten(std::size_t most) {
@@ -188,15 +194,14 @@ void ObjectRegistry::rekeyAfterFolderChange() {
 
 // An object may take others with it, and none of them may meet a list in the middle of its end.
 ObjectRegistry::Contents ObjectRegistry::takeAll() {
-  references_.clear();
+  ReferenceIndex::Contents references = references_.takeAll();
   for (const auto& [number, object] : objects_) {
     object->setObjectListener(nullptr);
     object->documentCloses();
     object->place_ = {};
   }
-  changed_.clear();
-  written_.clear();
-  return {std::exchange(objects_, {}), std::exchange(byKey_, {}), numbers_.takeWatch()};
+  return {std::exchange(objects_, {}), std::exchange(byKey_, {}),   numbers_.takeWatch(),
+          std::move(references),       std::exchange(changed_, {}), std::exchange(written_, {})};
 }
 
 bool ObjectRegistry::checkConsistency() const {

@@ -84,6 +84,9 @@ class ObjectRegistry : private ObjectListener {
     ObjectSequence objects;
     PathIndex byKey;
     std::unique_ptr<FolderWatch> watch;
+    ReferenceIndex::Contents references;
+    std::set<std::uint64_t> changed;
+    std::set<std::uint64_t> written;
   };
   Contents takeAll();
 

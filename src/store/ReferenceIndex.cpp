@@ -62,18 +62,16 @@ void ReferenceIndex::noteChange(const DescribedObject& object) {
   if (built_) changed_.insert(&object);
 }
 
-void ReferenceIndex::clear() {
+ReferenceIndex::Contents ReferenceIndex::takeAll() {
   beside_ = {};  // which waits; what it raised nobody asks for any more
-  forgetAll();
+  return forgetAll();
 }
 
-void ReferenceIndex::forgetAll() {
+ReferenceIndex::Contents ReferenceIndex::forgetAll() {
   built_ = false;
-  changed_.clear();
-  settled_ = {};
   slots_.clear();
-  fresh_.clear();
   freshCount_ = 0;
+  return {std::exchange(changed_, {}), std::exchange(settled_, {}), std::exchange(fresh_, {})};
 }
 
 std::vector<ReferenceIndex::Reference> ReferenceIndex::referencesOf(

@@ -63,7 +63,24 @@ class ReferenceIndex {
   void added(const DescribedObject& object) { noteChange(object); }
   void changed(const DescribedObject& object) { noteChange(object); }
   void removed(const DescribedObject& object) { changed_.erase(&object); }
-  void clear();
+
+ private:
+  using Holders = std::vector<std::uint64_t>;  // numbers of the registry
+
+  struct Reference {
+    Key key;
+    std::uint64_t holder;
+    auto operator<=>(const Reference&) const = default;  // NOLINT(modernize-use-nullptr)
+  };
+
+ public:
+  /// All that it knew, for who gives it back later; it is as if it were new.
+  struct Contents {
+    std::unordered_set<const DescribedObject*> changed;
+    std::vector<Reference> settled;
+    std::unordered_map<Key, Holders> fresh;
+  };
+  Contents takeAll();
 
   /// While an object of this kind lives, no changed object is asked again: one operation over many
   /// objects changes long lists once for each of them. It tells of its renames and removals itself.
@@ -91,20 +108,12 @@ class ReferenceIndex {
  private:
   class Collector;
 
-  using Holders = std::vector<std::uint64_t>;  // numbers of the registry
-
-  struct Reference {
-    Key key;
-    std::uint64_t holder;
-    auto operator<=>(const Reference&) const = default;  // NOLINT(modernize-use-nullptr)
-  };
-
   static Key keyOf(const std::string& guid);
   static Key keyOf(const DescribedObject& object);
   static Keys keysOf(const DescribedObject& object);
 
   void noteChange(const DescribedObject& object);
-  void forgetAll();
+  Contents forgetAll();
   void build(const std::function<void()>& meanwhile);
   void awaitWith(const std::function<void()>& meanwhile);
   std::vector<Reference> referencesOf(const DescribedObject& object) const;
