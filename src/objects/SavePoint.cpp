@@ -29,6 +29,7 @@ bool holdsNames(const SchemaElement& field, const ClassRules& rules) {
 
 SavePoint::SavePoint(const RegisteredList& objects, const std::function<void()>& meanwhile)
     : objects_(objects) {
+  FieldRules known;
   std::size_t place = 0;
   for (const RegisteredRef& object : objects_) {
     if (++place % kKeptGroup == 0) meanwhile();
@@ -37,14 +38,19 @@ SavePoint::SavePoint(const RegisteredList& objects, const std::function<void()>&
     if (auto picture = as<MediaObject>(object); picture && picture->bChanged()) {
       newPictures_.push_back(std::move(picture));
     }
-    if (const auto* described = as<DescribedObject>(object.get())) keepFields(*described);
+    if (const auto* described = as<DescribedObject>(object.get())) keepFields(*described, known);
   }
 }
 
-void SavePoint::keepFields(const DescribedObject& object) {
+void SavePoint::keepFields(const DescribedObject& object, FieldRules& known) {
   const ClassRules& rules = rulesOf(object.kind());
+  std::vector<FieldRule>& ofClass = known[object.kind()];
+  std::size_t place = 0;
   for (SchemaElement& field : object.secol()) {
-    const bool names = holdsNames(field, rules);
+    if (place == ofClass.size()) ofClass.push_back({nullptr, false});
+    FieldRule& rule = ofClass[place++];
+    if (rule.name != &field.strName()) rule = {&field.strName(), holdsNames(field, rules)};
+    const bool names = rule.holdsNames;
     if (!names && !field.bChanged()) continue;
     const auto span = asChunk(field.vContent());
     fields_.push_back({&field, field.bChanged(), names, names ? field.vContent() : Value(),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -48,7 +49,15 @@ class SavePoint {
     std::string to;
   };
 
-  void keepFields(const DescribedObject& object);
+  // Whether fields of a class hold names, by their places; a field is known by where its name
+  // stands, which all objects of the class share.
+  struct FieldRule {
+    const std::string* name;
+    bool holdsNames;
+  };
+  using FieldRules = std::map<ObjectKind, std::vector<FieldRule>>;
+
+  void keepFields(const DescribedObject& object, FieldRules& known);
   bool bringBack(IOManager& io, const Relocation& one, bool filesStay);
   void restoreFields();
 

@@ -37,7 +37,8 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
     return false;
   }
   // Each object is renamed, and then all but the document are saved in turn.
-  const LongWork work(app_.gMainForm, 2 * objects_.described().size() - 1);
+  described_ = objects_.described();
+  const LongWork work(app_.gMainForm, 2 * described_.size() - 1);
   SavePoint before(objects_.all(), [this] {
     if (app_.gMainForm) app_.gMainForm->workWaits();
   });
@@ -68,6 +69,10 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   if (app_.gMainForm) app_.gMainForm->workWaits();
   planned_->finished();
   document_.unsavedWork().saved(objects_);
+  if (app_.gMainForm) app_.gMainForm->workWaits();
+  // The registry lets go here of those that have nothing to save any more, and not in one piece
+  // with the closing of the document.
+  static_cast<void>(objects_.changedObjects());
   if (app_.gMainForm) app_.gMainForm->workWaits();  // what was put aside goes, which takes a while
   return Outcome::Done;
 }
@@ -102,7 +107,7 @@ bool SaveUnderName::bFolderMade(const std::string& strAVDocPathName) {
 // Pictures are a third of the files, and have numbers of their own. They are copied while the
 // objects get their names.
 void SaveUnderName::handOverPictures(SavePoint& before, const std::string& strAVDocPathName) {
-  for (const ObjectRef& object : objects_.described()) {
+  for (const ObjectRef& object : described_) {
     if (app_.gMainForm) app_.gMainForm->workWaits();
     auto* video = as<VideoExpression>(object.get());
     if (video && io_.bFileSystem()) renameKeyFrame(*video, before, strAVDocPathName);
@@ -118,7 +123,7 @@ void SaveUnderName::renameObjects(SavePoint& before, const std::string& strAVDoc
   const std::string schemaPath = app_.strXSDPath();
   ReferenceIndex& references = objects_.references();
   ReferenceIndex::Batch batch(references);
-  for (const ObjectRef& object : objects_.described()) {
+  for (const ObjectRef& object : described_) {
     if (app_.gMainForm) app_.gMainForm->workSteps();
     if (object.get() == &document_) continue;
     const std::string newGUID = io_.strCreateGUID(objects_, *object, strAVDocPathName);

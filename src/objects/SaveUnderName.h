@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "objects/PlannedSave.h"
+#include "protocol/DescribedObject.h"
 #include "rescue/RescueRecords.h"
 
 namespace velra {
@@ -51,6 +52,7 @@ class SaveUnderName {
   AVDocument& document_;
   ObjectRegistry& objects_;
   IOManager& io_;
+  ObjectList described_;
   std::vector<MadeFile> made_;
   std::vector<Relocation> relocations_;
   std::optional<PlannedSave> planned_;  // until all is done, or taken back
