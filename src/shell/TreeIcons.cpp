@@ -48,7 +48,7 @@ const Picture* TreeIcons::keyFrame(const std::string& key) const {
 
 IconRef TreeIcons::iconOf(const DescribedObject& object) const {
   const auto known = keyFrames_.byState.find(object.stateNumber());
-  if (known != keyFrames_.byState.end()) return known->second->icon;
+  if (known != keyFrames_.byState.end()) return known->second.icon;
   const std::string key = object.strGUID();
   const auto found = keyFrames_.byKey.find(key);
   return found == keyFrames_.byKey.end() ? named(key) : found->second.icon;
@@ -60,13 +60,13 @@ void TreeIcons::addKeyFrame(std::string key, Picture picture, std::uint64_t stat
   const std::string_view name = icon->key;
   KeyFrame& kept =
       keyFrames_.byKey.emplace(name, KeyFrame{std::move(icon), state, round_}).first->second;
-  if (state != 0) keyFrames_.byState[state] = &kept;
+  if (state != 0) keyFrames_.byState[state] = {kept.icon, &kept};
 }
 
 bool TreeIcons::hasKeyFrame(std::uint64_t state, const Picture& picture) {
   const auto known = keyFrames_.byState.find(state);
-  if (known == keyFrames_.byState.end() || known->second->icon->picture != picture) return false;
-  known->second->round = round_;
+  if (known == keyFrames_.byState.end() || known->second.icon->picture != picture) return false;
+  known->second.frame->round = round_;
   return true;
 }
 
@@ -82,7 +82,7 @@ void TreeIcons::remove(const std::string& key) {
   const auto found = keyFrames_.byKey.find(key);
   if (found == keyFrames_.byKey.end()) return;
   const auto known = keyFrames_.byState.find(found->second.state);
-  if (known != keyFrames_.byState.end() && known->second == &found->second)
+  if (known != keyFrames_.byState.end() && known->second.frame == &found->second)
     keyFrames_.byState.erase(known);
   found->second.icon->listed = false;
   keyFrames_.byKey.erase(found);

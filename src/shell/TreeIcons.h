@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <tsl/robin_map.h>
+
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -65,8 +67,13 @@ class TreeIcons {
   };
   struct KeyFrames {
     std::unordered_map<std::string_view, KeyFrame> byKey;  // which stands in the icon
+    struct OfState {
+      IconRef icon;  // here as well, since a way over its key frame is in no cache
+      KeyFrame* frame;
+    };
     // An object that was not written to since has its icon here, and need not say its identifier.
-    std::unordered_map<std::uint64_t, KeyFrame*> byState;
+    // Numbers that follow each other stand beside each other.
+    tsl::robin_map<std::uint64_t, OfState> byState;
   };
 
  public:
