@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kUnnoticedWork = 500;  // milliseconds
 constexpr int kRepaintMilliseconds = 45;
+// The first one comes sooner: what was before, as the end of a dialog, has painted nothing either.
+constexpr int kFirstRepaintMilliseconds = 20;
 constexpr int kBarWidth = 100;  // pixels
 constexpr int kFull = 1000;
 
@@ -35,9 +37,10 @@ void WorkBar::follow(std::size_t done, std::size_t total) {
   if (!sinceBegun_.isValid()) {
     sinceBegun_.start();
     sinceDrawn_.start();
+    untilDrawn_ = kFirstRepaintMilliseconds;
     setValue(0);
   }
-  if (sinceDrawn_.elapsed() < kRepaintMilliseconds) return;
+  if (sinceDrawn_.elapsed() < untilDrawn_) return;
   // Work that follows on other work does not begin anew for the eye.
   if (done > 0) setValue(static_cast<int>(kFull * done / total));
   if (isHidden() && sinceBegun_.elapsed() >= kUnnoticedWork) {
@@ -46,6 +49,7 @@ void WorkBar::follow(std::size_t done, std::size_t total) {
   }
   window()->repaint();
   sinceDrawn_.start();
+  untilDrawn_ = kRepaintMilliseconds;
 }
 
 }  // namespace velra

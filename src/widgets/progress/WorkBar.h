@@ -23,6 +23,7 @@ class WorkBar : public QProgressBar {
   QTimer hiding_;
   QElapsedTimer sinceBegun_;
   QElapsedTimer sinceDrawn_;
+  int untilDrawn_ = 0;  // milliseconds, from then to the next painting
 };
 
 }  // namespace velra
