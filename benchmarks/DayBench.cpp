@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kSegments = 19'000;  // of the first Version, in Videos and in Audios
 constexpr int kSegmentsOfAnother = 6'000;
+constexpr int kLookMilliseconds = 1000;  // which a person needs to see what has come
 constexpr int kRows = 200;
 constexpr int kChanges = 2'000;
 
@@ -36,6 +37,7 @@ void open(Day& day, const char* name, const std::string& path, const std::vector
 
 void lookAround(Day& day) {
   QTreeView& view = day.view(TreeId::tvwExpression);
+  pause(kLookMilliseconds);
   day.step("select a Version of 38,000 objects", [&] {
     clickNode(day.view(TreeId::tvwMainTree), day.nodeOf(TreeId::tvwMainTree, "Cut 1"));
   });

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/LargePages.h"
 #include "app/LateRelease.h"
 #include "app/MessageCatalogue.h"
 
@@ -43,6 +44,7 @@ class ApplicationModule {
   MachineSettings& machineSettings;
   UserSettings& userSettings;
 
+  LargePages largePages;    ///< for what a large document holds
   LateRelease lateRelease;  ///< of what a document leaves, so that it outlives the open one
   std::shared_ptr<OpenDocument> gAVDoc;  ///< the open document; at most one
   MainWindow* gMainForm = nullptr;       ///< set by the main window for its life

@@ -84,9 +84,10 @@ QString MainFormWindow::text(Message message) const {
   return toQString(app_.LoadResString(message));
 }
 
+// Both go on in small pieces when nothing else is to be done.
 void MainFormWindow::keepUnsavedWork() {
   const bool more = app_.gAVDoc && app_.gAVDoc->keepUnsavedWork();
-  keeper_.start(more ? 0 : kKeepMilliseconds);
+  keeper_.start(more || app_.largePages.gatherSome() ? 0 : kKeepMilliseconds);
 }
 
 void MainFormWindow::connectTree(NodeTreeView& view, TreeId id) {
