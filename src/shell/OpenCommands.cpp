@@ -119,6 +119,7 @@ void OpenCommands::openWithWantedObject(const std::string& wanted, const std::st
 
 // Icons come before the nodes that refer to them.
 void OpenCommands::show() {
+  const auto busy = app_.ui.showBusy();
   {
     const LongWork work(&window_, 1);
     window_.workSteps();
