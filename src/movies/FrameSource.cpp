@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "movies/FrameTime.h"
-#include "movies/IndexMemory.h"
 #include "movies/MovieInput.h"
+#include "movies/MovieMemory.h"
 #include "movies/PacketTail.h"
 #include "values/TimeCode.h"
 
@@ -59,15 +59,16 @@ void FrameSource::cancel() {
 std::string FrameSource::open(const std::string& path, const std::stop_token& stop) {
   const std::stop_callback stopping(stop, [this] { cancel(); });
   const FileStamp stamp = fileStamp(path);
-  if (std::string reason = reader_.open(path); !reason.empty()) return reason;
-  if (const auto known = IndexMemory::ofProcess().find(stamp)) {
-    index_ = *known;
-    reader_.forget();
+  const auto known = MovieMemory::ofProcess().find(stamp);
+  std::string reason = reader_.open(path, known ? &known->first : nullptr);
+  if (known) {
+    index_ = known->index;
   } else {
-    if (std::string reason = indexMovie(reader_, firstLook_, index_); !reason.empty())
-      return reason;
-    if (index_.tookLong) IndexMemory::ofProcess().add(stamp, index_);
+    if (reason.empty()) reason = indexMovie(reader_, firstLook_, index_);
+    const bool whole = reason.empty() && !reader_.input().cancelled();
+    if (whole) MovieMemory::ofProcess().add(stamp, {reader_.first(), index_});
   }
+  if (!reason.empty()) return reason;
   setTimes();
   reader_.input().settle();
   return {};

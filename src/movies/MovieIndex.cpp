@@ -92,7 +92,6 @@ class MovieIndexer {
 
   bool mayLeapFartherOn() {
     if (index_.complete) return false;
-    index_.tookLong = true;
     if (index_.line.leaps()) return true;
     return !input_.countsPictures() && !tableShowsNoLeap(reader_, frameTime_, kLeapOfPictures);
   }
@@ -107,7 +106,6 @@ class MovieIndexer {
     if (!input_.seekByte(0)) return;
     readFromHere(kLeapOfBytes, firstLook_);
     if (index_.complete) return;
-    index_.tookLong = true;
     if (mayTrustStamps() && trustsStamps()) return;
     if (input_.seekByte(0)) readFromHere(kLeapOfBytes, kWholeLimit);
   }

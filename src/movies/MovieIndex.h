@@ -17,7 +17,6 @@ struct MovieIndex : PictureIndex {
   bool byKeys = false;  // a key of the index is where decoding for a time begins
   double leap = std::numeric_limits<double>::infinity();  // see `PictureClock`
   double stampedLength = -1;  // in seconds, when the end is known without the whole index
-  bool tookLong = false;      // to make; most of the time of an opening
 
   /// Whether the length is known.
   bool known() const { return (complete && sure) || stampedLength >= 0; }

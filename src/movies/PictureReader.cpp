@@ -53,10 +53,14 @@ PictureReader::PictureReader()
 
 PictureReader::~PictureReader() = default;
 
-std::string PictureReader::open(const std::string& path) {
+std::string PictureReader::open(const std::string& path, const FirstPicture* known) {
   if (std::string reason = input_->open(path); !reason.empty()) return reason;
   if (!input_->choose(MovieTrack::Pictures)) return kNoPicture;
   if (std::string reason = decoder_->open(*input_->stream()); !reason.empty()) return reason;
+  if (known != nullptr) {
+    first_ = *known;
+    return {};
+  }
   if (takeFirst()) return {};
   return input_->statesTooLarge() ? "Its pictures are larger than 8192 x 4320 pixels." : kNoPicture;
 }
@@ -64,20 +68,21 @@ std::string PictureReader::open(const std::string& path) {
 bool PictureReader::takeFirst() {
   AvFrame first = decoder_->first(*input_);
   if (!first) return false;
-  firstTicks_ = ticksOf(*first, *input_);
-  firstPosition_ = first->pkt_pos;
-  firstBytes_ = first->pkt_size;
-  firstStamp_ = stampOf(*first);
-  ownStamps_ = hasOwnStamp(*first);
-  size_ = {first->width, first->height};
-  shownSize_ = inSquarePixels(
-      size_, av_q2d(av_guess_sample_aspect_ratio(nullptr, input_->stream(), first.get())));
-  clock_.restart(0, firstStamp_);
+  const AVRational shape = av_guess_sample_aspect_ratio(nullptr, input_->stream(), first.get());
+  first_.ticks = ticksOf(*first, *input_);
+  first_.stamp = stampOf(*first);
+  first_.position = first->pkt_pos;
+  first_.bytes = first->pkt_size;
+  first_.ownStamps = hasOwnStamp(*first);
+  first_.statedFrameTime = tellFrameTime();
+  first_.size = {first->width, first->height};
+  first_.shownSize = inSquarePixels(first_.size, av_q2d(shape));
+  clock_.restart(0, first_.stamp);
   current_ = std::make_unique<Current>(Current{std::move(first), 0});
   return true;
 }
 
-double PictureReader::statedFrameTime() const {
+double PictureReader::tellFrameTime() const {
   AVRational rate = input_->stream()->avg_frame_rate;
   // Without a container that average is guessed, and wrong where fields repeat.
   if (input_->hasBareStamps() && decoder_->rate().num > 0) rate = decoder_->rate();
@@ -92,7 +97,7 @@ double PictureReader::tick() const {
 }
 
 bool PictureReader::isFirst(const KeyPlace& key) const {
-  return key.size == firstBytes_ && (key.behind > 0 || key.position == firstPosition_);
+  return key.size == first_.bytes && (key.behind > 0 || key.position == first_.position);
 }
 
 double PictureReader::stampOf(const AVFrame& frame) const {
@@ -124,7 +129,7 @@ void PictureReader::forget() {
 
 bool PictureReader::rewind() {
   current_.reset();
-  return input_->toStart(firstTicks_ == kNoTime ? 0 : firstTicks_,
+  return input_->toStart(first_.ticks == kNoTime ? 0 : first_.ticks,
                          [this] { return decodesFirst(); });
 }
 
@@ -132,9 +137,9 @@ bool PictureReader::decodesFirst() {
   ++starts_;
   decoder_->flush();
   AvFrame frame = decoder_->next(*input_);
-  if (!frame || frame->pkt_size != firstBytes_) return false;
-  if (ticksOf(*frame, *input_) != firstTicks_) return false;
-  clock_.restart(0, firstStamp_);
+  if (!frame || frame->pkt_size != first_.bytes) return false;
+  if (ticksOf(*frame, *input_) != first_.ticks) return false;
+  clock_.restart(0, first_.stamp);
   take(*frame);
   current_ = std::make_unique<Current>(Current{std::move(frame), 0});
   return true;
@@ -150,7 +155,7 @@ bool PictureReader::startBehind(double seconds) {
   while (AvFrame frame = decoder_->next(*input_)) {
     whole = whole || isKey(*frame) || input_->hidesKey();
     const double stamp = stampOf(*frame);
-    if (!whole || std::isnan(stamp) || (ownStamps_ && !hasOwnStamp(*frame))) continue;
+    if (!whole || std::isnan(stamp) || (first_.ownStamps && !hasOwnStamp(*frame))) continue;
     const double start = line_.timeOf(stamp);
     clock_.restart(start, stamp - start);
     const double time = take(*frame);

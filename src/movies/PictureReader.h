@@ -17,6 +17,18 @@ class MovieInput;
 class TrackDecoder;
 struct KeyPlace;
 
+/// What the first picture of a movie that comes out of the decoder tells of it.
+struct FirstPicture {
+  std::int64_t ticks = 0;                 // its stamp, in those of the track
+  double stamp = PictureClock::kUnknown;  // the same in seconds
+  std::int64_t position = 0;              // where its packet stands, in bytes
+  int bytes = 0;                          // of its packet, by which it is known
+  bool ownStamps = false;                 // the file gives stamps to pictures, if not to all
+  double statedFrameTime = 0;             // see `PictureReader`
+  PixelSize size;
+  PixelSize shownSize;
+};
+
 /// Decodes the pictures of a movie one after the other, from any place on, with the times at which
 /// they are shown: 0 is the first picture that comes out of the decoder. One thread, but for
 /// `MovieInput::cancel`.
@@ -29,28 +41,32 @@ class PictureReader {
   PictureReader(const PictureReader&) = delete;
   PictureReader& operator=(const PictureReader&) = delete;
 
-  /// "" on success, else one sentence that tells why not. Called once.
-  std::string open(const std::string& path);
+  /// "" on success, else one sentence that tells why not. `known` is what an earlier opening of the
+  /// same file found, which then need not be decoded; null without one. Called once.
+  std::string open(const std::string& path, const FirstPicture* known = nullptr);
+
+  /// What was decoded or known when it was opened.
+  const FirstPicture& first() const { return first_; }
 
   MovieInput& input() { return *input_; }
   const MovieInput& input() const { return *input_; }
-  PixelSize size() const { return size_; }
+  PixelSize size() const { return first_.size; }
 
   /// The size in square pixels, as the file tells their shape: no side is smaller than the coded
   /// one.
-  PixelSize shownSize() const { return shownSize_; }
+  PixelSize shownSize() const { return first_.shownSize; }
 
   /// Seconds a picture as the file tells it; 0 when that cannot be true.
-  double statedFrameTime() const;
+  double statedFrameTime() const { return first_.statedFrameTime; }
 
   /// Seconds of a tick of the track.
   double tick() const;
 
   /// The stamp of the first picture in seconds; not a number when it has none.
-  double firstStamp() const { return firstStamp_; }
+  double firstStamp() const { return first_.stamp; }
 
   /// Where the packet of the first picture stands, in bytes.
-  std::int64_t firstPosition() const { return firstPosition_; }
+  std::int64_t firstPosition() const { return first_.position; }
 
   /// True when a key is the first picture.
   bool isFirst(const KeyPlace& key) const;
@@ -95,6 +111,7 @@ class PictureReader {
   struct Current;
 
   bool takeFirst();
+  double tellFrameTime() const;
   bool decodesFirst();
   double stampOf(const AVFrame& frame) const;
   bool hasOwnStamp(const AVFrame& frame) const;
@@ -107,13 +124,7 @@ class PictureReader {
   std::unique_ptr<Current> current_;  // came out last; its end is not known yet
   PictureClock clock_;
   StampLine line_;
-  std::int64_t firstTicks_ = 0;
-  std::int64_t firstPosition_ = 0;
-  int firstBytes_ = 0;
-  double firstStamp_ = PictureClock::kUnknown;
-  bool ownStamps_ = false;  // the file gives stamps to pictures, if not to all
-  PixelSize size_;
-  PixelSize shownSize_;
+  FirstPicture first_;
   int starts_ = 0;
 };
 
