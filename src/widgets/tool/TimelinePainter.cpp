@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QWidget>
 #include <algorithm>
+#include <utility>
 
 #include "widgets/QtText.h"
 #include "widgets/RuleColours.h"
@@ -43,8 +44,11 @@ void TimelinePainter::paint(const AdvancedSlider& advsld) {
   paintGround(advsld);
   painter_.save();
   painter_.setClipRect(0, 0, widget_.width(), kMarkRowHeight);
-  for (const AdvancedSlider::Mark& mark : advsld.marks()) paintMark(mark);
-  paintTitles(advsld.marks());
+  Placed placed;
+  placed.reserve(advsld.marks().size());
+  for (const AdvancedSlider::Mark& mark : advsld.marks()) placed.push_back({markRect(mark), &mark});
+  for (const PlacedMark& one : placed) paintMark(one.body, *one.mark);
+  paintTitles(std::move(placed));
   if (advsld.blinkLine().visible) paintBlinkLine(advsld.blinkLine());
   painter_.restore();
 }
@@ -55,8 +59,7 @@ void TimelinePainter::paintGround(const AdvancedSlider& advsld) {
   painter_.drawRect(0, 1, widget_.width() - 1, kMarkRowHeight - 3);
 }
 
-void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
-  const QRect body = markRect(mark);
+void TimelinePainter::paintMark(const QRect& body, const AdvancedSlider::Mark& mark) {
   const QColor colour = colourOf(mark.colour);
   const int end = std::min(2, body.width());
   if (body.width() <= 2 * end) {
@@ -72,32 +75,35 @@ void TimelinePainter::paintMark(const AdvancedSlider::Mark& mark) {
     painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
     painter_.fillRect(body.right() + 1 - end, body.top(), end, body.height(), colour);
   }
-  if (mark.borderWidth != AdvancedSlider::kSelectedBorder) return;
-  painter_.setPen(kOutline);
-  painter_.setBrush(Qt::NoBrush);
-  painter_.drawRect(body.adjusted(0, 0, -1, -1));
+  if (mark.borderWidth == AdvancedSlider::kSelectedBorder) paintOutline(body);
+}
+
+// Thousands may be selected, and lines of a pen take several times as long.
+void TimelinePainter::paintOutline(const QRect& body) {
+  painter_.fillRect(body.left(), body.top(), body.width(), 1, kOutline);
+  painter_.fillRect(body.left(), body.bottom(), body.width(), 1, kOutline);
+  painter_.fillRect(body.left(), body.top(), 1, body.height(), kOutline);
+  painter_.fillRect(body.right(), body.top(), 1, body.height(), kOutline);
 }
 
 // Ranges may overlap, and titles that do cannot be read: each ends where the next range begins.
-void TimelinePainter::paintTitles(const std::vector<AdvancedSlider::Mark>& marks) {
+void TimelinePainter::paintTitles(Placed inOrder) {
   const QFont font = titleFont(widget_.font());
   const QFontMetrics metrics(font);
   const int least = metrics.horizontalAdvance(QStringLiteral("MMM"));
-  std::vector<const AdvancedSlider::Mark*> inOrder;
-  for (const AdvancedSlider::Mark& mark : marks) inOrder.push_back(&mark);
   std::stable_sort(inOrder.begin(), inOrder.end(),
-                   [](const auto* a, const auto* b) { return a->left < b->left; });
+                   [](const auto& a, const auto& b) { return a.mark->left < b.mark->left; });
   painter_.setFont(font);
   painter_.setPen(kOutline);
   for (std::size_t i = 0; i < inOrder.size(); ++i) {
-    QRect room = markRect(*inOrder[i]);
+    QRect room = inOrder[i].body;
     if (i + 1 < inOrder.size()) {
-      room.setRight(std::min(room.right(), markRect(*inOrder[i + 1]).left()));
+      room.setRight(std::min(room.right(), inOrder[i + 1].body.left()));
     }
     room.adjust(kBesideTitle, 0, -kBesideTitle, -AdvancedSlider::kSelectedBorder);
     if (room.width() < least) continue;
-    const QString title =
-        metrics.elidedText(lineText(inOrder[i]->title).simplified(), Qt::ElideRight, room.width());
+    const QString title = metrics.elidedText(lineText(inOrder[i].mark->title).simplified(),
+                                             Qt::ElideRight, room.width());
     painter_.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
   }
 }

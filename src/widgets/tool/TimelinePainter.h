@@ -26,9 +26,16 @@ class TimelinePainter {
   static QRect markRect(const AdvancedSlider::Mark& mark);
 
  private:
+  struct PlacedMark {
+    QRect body;
+    const AdvancedSlider::Mark* mark;
+  };
+  using Placed = std::vector<PlacedMark>;
+
   void paintGround(const AdvancedSlider& advsld);
-  void paintMark(const AdvancedSlider::Mark& mark);
-  void paintTitles(const std::vector<AdvancedSlider::Mark>& marks);
+  void paintMark(const QRect& body, const AdvancedSlider::Mark& mark);
+  void paintOutline(const QRect& body);
+  void paintTitles(Placed inOrder);
   void paintBlinkLine(const BlinkLine& line);
 
   QPainter& painter_;
