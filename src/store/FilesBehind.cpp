@@ -26,7 +26,8 @@ constexpr std::size_t kMostWaiting = 64;
 constexpr std::size_t kFewWaiting = 16;
 // A thread sleeps until there are so many, for the same reason.
 constexpr std::size_t kWorthWaking = 16;
-constexpr std::chrono::milliseconds kBetweenWaits{40};
+// The window paints 45 ms after it did last: waits of such a length would make that twice as long.
+constexpr std::chrono::milliseconds kBetweenWaits{15};
 
 }  // namespace
 
