@@ -125,6 +125,7 @@ void measureOpen(BenchSession& session, const std::string& path, int turns, Figu
   session.open(path);
   const std::string place = fs::path(path).parent_path();
   const double files = plainBytes(place);
+  session.app.lateRelease.await();
   figures.memory = (heapBytes() - before) / files;
   session.close();
   figures.kept = (heapBytes() - before) / files;

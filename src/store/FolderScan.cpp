@@ -92,10 +92,7 @@ std::vector<std::string> FolderScan::relativesOfRest() const {
 }
 
 std::unique_ptr<KnownFolder> FolderScan::handOver() {
-  byName_.clear();
-  unreadable_.clear();
-  slots_.clear();
-  KnownFolder::Start start{std::exchange(files_, {}), std::exchange(related_, {}), reason_};
+  KnownFolder::Start start{files_, std::exchange(related_, {}), reason_};
   return std::make_unique<KnownFolder>(folder_, std::move(watch_), std::move(start));
 }
 

@@ -50,7 +50,8 @@ class FolderScan {
   /// The normal forms of what those files refer to of which no object was made.
   std::vector<std::string> relativesOfRest() const;
 
-  /// What stays of it for the searches after the opening. The scan is empty then.
+  /// What stays of it for the searches after the opening. The scan is of no use then, and what is
+  /// left in it takes a while to go.
   std::unique_ptr<KnownFolder> handOver();
 
   /// True when each file is found by its name and by what it points at; for tests.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/FolderScans.h"
 
+#include <utility>
+
 #include "app/ApplicationModule.h"
 #include "base/Paths.h"
 #include "base/RunTimeError.h"
@@ -21,7 +23,10 @@ FolderScans::Opening::~Opening() {
   if (--scans_.depth_ > 0) return;
   for (auto& [path, folder] : scans_.folders_) {
     if (folder.known) folder.known->endSearch();
-    if (folder.scan && folder.scan->isRead()) folder.known = folder.scan->handOver();
+    if (folder.scan && folder.scan->isRead()) {
+      folder.known = folder.scan->handOver();
+      scans_.app_.lateRelease.take(std::move(folder.scan));
+    }
     folder.scan.reset();
   }
   scans_.pictures_ = {};

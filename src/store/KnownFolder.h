@@ -40,7 +40,7 @@ class KnownFolder {
   /// What an opening has read, in the order of the listing; the files of the relations, which are
   /// sorted, are offsets in it. The folder has been listed since the watch began.
   struct Start {
-    std::vector<ScannedFile> files;
+    std::vector<ScannedFile>& files;  // gives what is kept of it; the rest is the caller's to end
     std::vector<KnownRelation> related;
     std::string reason;
   };
