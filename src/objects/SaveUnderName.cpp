@@ -165,6 +165,7 @@ bool SaveUnderName::bMakeFiles(SavePoint& before, const std::string& strAVDocPat
   const bool handedOver = bHandOverAll(before, strAVDocPathName);
   const auto [made, failed] = paintedWait(app_.gMainForm, [&] { return io_.filesMade(); });
   for (std::size_t i = 0; i < relocations_.size(); ++i) {
+    if (app_.gMainForm) app_.gMainForm->workWaits();
     const auto& [video, from, to] = relocations_[i];
     // The pictures came first.
     if (i < made.size() && made[i]) before.relocated(video->objKeyframeObject(), from, to);

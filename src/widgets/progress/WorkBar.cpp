@@ -11,8 +11,9 @@ namespace {
 
 constexpr int kUnnoticedWork = 500;  // milliseconds
 constexpr int kRepaintMilliseconds = 45;
-// The first one comes sooner: what was before, as the end of a dialog, has painted nothing either.
-constexpr int kFirstRepaintMilliseconds = 20;
+// The first and the last one come sooner: what is before and behind a work, as the end of a dialog,
+// paints nothing either.
+constexpr int kOuterRepaintMilliseconds = 20;
 constexpr int kBarWidth = 100;  // pixels
 constexpr int kFull = 1000;
 
@@ -32,12 +33,12 @@ WorkBar::WorkBar(QWidget* parent) : QProgressBar(parent) {
 }
 
 void WorkBar::follow(std::size_t done, std::size_t total) {
-  if (total == 0) return hiding_.start(0);
+  if (total == 0) return end();
   hiding_.stop();
   if (!sinceBegun_.isValid()) {
     sinceBegun_.start();
     sinceDrawn_.start();
-    untilDrawn_ = kFirstRepaintMilliseconds;
+    untilDrawn_ = kOuterRepaintMilliseconds;
     setValue(0);
   }
   if (sinceDrawn_.elapsed() < untilDrawn_) return;
@@ -47,6 +48,15 @@ void WorkBar::follow(std::size_t done, std::size_t total) {
     show();
     parentWidget()->layout()->activate();  // its place, which comes by an event otherwise
   }
+  paintWindow();
+}
+
+void WorkBar::end() {
+  if (sinceBegun_.isValid() && sinceDrawn_.elapsed() >= kOuterRepaintMilliseconds) paintWindow();
+  hiding_.start(0);
+}
+
+void WorkBar::paintWindow() {
   window()->repaint();
   sinceDrawn_.start();
   untilDrawn_ = kRepaintMilliseconds;

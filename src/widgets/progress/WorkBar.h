@@ -20,6 +20,9 @@ class WorkBar : public QProgressBar {
   void follow(std::size_t done, std::size_t total);
 
  private:
+  void end();
+  void paintWindow();
+
   QTimer hiding_;
   QElapsedTimer sinceBegun_;
   QElapsedTimer sinceDrawn_;
