@@ -43,11 +43,6 @@ void ObjectBase::setStrGUID(const std::string& guid) {
   setTextField(rules_.identityField, guid);
 }
 
-void ObjectBase::documentCloses() {
-  io_.reset();
-  objForm_.reset();
-}
-
 void ObjectBase::setStrTitle(const std::string& title) {
   setTextField(rules_.titleField, title);
 }

@@ -52,7 +52,7 @@ class ObjectBase : public virtual DescribedObject, private ContentWatcher {
   /// The bytes that bSave would write; kInvalidArgument when it would fail for a value.
   std::string fileBytes() const;
   void setObjectListener(ObjectListener* listener) override { listener_ = listener; }
-  void documentCloses() override;
+  void documentCloses() override { io_.reset(); }
 
  protected:
   ObjectBase(ApplicationModule& app, ObjectKind kind);

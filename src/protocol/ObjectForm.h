@@ -13,7 +13,8 @@ class FormOwner {
   virtual ~FormOwner() = default;
 };
 
-/// The form of one object, made with it and kept by it. It is built anew each time it shows.
+/// The form of one object, made with it and kept by it. It is built anew each time it shows, and is
+/// memory alone between two showings: it ends with its object, which may be on another thread.
 class ObjectForm {
  public:
   virtual ~ObjectForm() = default;
