@@ -10,19 +10,25 @@ namespace velra {
 
 namespace {
 
+/// From the start on, to the end or to where the chain runs into itself.
 template <class Step>
-ExpressionList walk(const ExpressionRef& start, const Step& step) {
+ExpressionList walk(const ExpressionRef& start, std::size_t members, const Step& step) {
   ExpressionList passed;
+  passed.reserve(members);
+  ExpressionRef at = start;
+  for (; at && passed.size() < members; at = step(at)) passed.push_back(at);
+  if (!at) return passed;
+  // Longer than its members are many: only such a one may have no end.
+  passed.clear();
   std::unordered_set<const Expression*> seen;
-  for (ExpressionRef at = start; at && seen.insert(at.get()).second; at = step(at)) {
-    passed.push_back(at);
-  }
+  for (at = start; at && seen.insert(at.get()).second; at = step(at)) passed.push_back(at);
   return passed;
 }
 
 }  // namespace
 
-SegmentChain::SegmentChain(const ExpressionList& children) {
+SegmentChain::SegmentChain(const ExpressionList& children) : members_(children.size()) {
+  predecessors_.reserve(members_);
   for (const ExpressionRef& child : children) {
     const ExpressionRef follower = child->objFollowedBy();
     if (!follower && !tail_) tail_ = child;
@@ -41,14 +47,15 @@ ExpressionRef SegmentChain::predecessorOf(const ExpressionRef& child) const {
 }
 
 ExpressionList SegmentChain::forward() const {
-  return walk(head_, [](const ExpressionRef& at) { return at->objFollowedBy(); });
+  return walk(head_, members_, [](const ExpressionRef& at) { return at->objFollowedBy(); });
 }
 
 ExpressionList SegmentChain::backward() const {
-  return walk(tail_, [&](const ExpressionRef& at) { return predecessorOf(at); });
+  return walk(tail_, members_, [&](const ExpressionRef& at) { return predecessorOf(at); });
 }
 
 ChainPositions::ChainPositions(const ExpressionList& children) {
+  places_.reserve(children.size());
   std::int16_t place = 0;
   for (const ExpressionRef& segment : SegmentChain(children).forward()) {
     place = addInt16(place, 1);

@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <tsl/robin_map.h>
+
+#include <cstddef>
 #include <cstdint>
-#include <unordered_map>
 
 #include "protocol/Expression.h"
 
 namespace velra {
+
+/// A table in one row: a walk from node to node waits for memory at every step. Addresses are their
+/// own hashes and all even, so the size is a prime number.
+template <class Value>
+using OfSegment = tsl::robin_pg_map<const Expression*, Value>;
 
 /// The children of an expression in order of time, as `objFollowedBy` links them. Made for one call
 /// and never kept, since the children change; each child is read once, so that a walk is linear. A
@@ -24,7 +31,8 @@ class SegmentChain {
  private:
   ExpressionRef predecessorOf(const ExpressionRef& child) const;
 
-  std::unordered_map<const Expression*, ExpressionRef> predecessors_;
+  std::size_t members_;
+  OfSegment<ExpressionRef> predecessors_;
   ExpressionRef head_;
   ExpressionRef tail_;
 };
@@ -38,7 +46,7 @@ class ChainPositions {
   std::int16_t iChainPosition(const ExpressionRef& child) const;
 
  private:
-  std::unordered_map<const Expression*, std::int16_t> places_;
+  OfSegment<std::int16_t> places_;
 };
 
 }  // namespace velra
