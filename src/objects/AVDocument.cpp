@@ -97,7 +97,7 @@ std::string AVDocument::strOpen(const std::string& guid, const std::shared_ptr<O
   if (message.empty()) {
     io->joinStore(guid);
     if (window) window->workWaits();
-    copied_ = copiedFolderOf(collObjects_, *this, io->scans());
+    copied_ = copiedFolderOf(collObjects_, *this, io->scans(), window);
     if (window) window->workWaits();
     for (const std::string& more : {strCopyTold(), io->strLeftOut()}) {
       told += (told.empty() || more.empty() ? "" : " ") + more;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/CopiedFolder.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <set>
@@ -9,6 +10,7 @@
 #include "platform/files/Files.h"
 #include "platform/xml/XmlDocument.h"
 #include "protocol/DescribedObject.h"
+#include "protocol/MainWindow.h"
 #include "store/DataFolder.h"
 #include "store/FolderScans.h"
 #include "store/ObjectRegistry.h"
@@ -16,6 +18,8 @@
 namespace velra {
 
 namespace {
+
+constexpr std::uint64_t kPaintedTogether = 2048;  // objects, some two milliseconds
 
 bool isOneFolder(const std::string& a, const std::string& b) {
   const FileStamp one = fileStamp(a);
@@ -90,9 +94,10 @@ class MissingObjects : public ReferenceVisitor {
 }  // namespace
 
 CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document,
-                            const FolderScans& scans) {
+                            const FolderScans& scans, MainWindow* window) {
   OwnFolder own(objects, document.strGUID());
   for (const auto& [number, registered] : objects.sequence()) {
+    if (window && number % kPaintedTogether == 0) window->workWaits();
     const auto* object = as<const DescribedObject>(registered.get());
     if (!object || object == &document) continue;
     const std::string path = strAbsolutePath(object->strGUID());

@@ -7,6 +7,7 @@ namespace velra {
 
 class DescribedObject;
 class FolderScans;
+class MainWindow;
 class ObjectRegistry;
 
 /// Where the objects of a document lie when they should lie in its own data folder: the document
@@ -18,8 +19,9 @@ struct CopiedFolder {
 
 /// Looks through the objects of a document that has just been opened, and through the files of its
 /// folder of which none was made: a copy's own segments belong to an expression of the first place.
-/// Texts are compared first: only what leads elsewhere has the disk asked.
+/// Texts are compared first: only what leads elsewhere has the disk asked. The window, which may be
+/// null, is told meanwhile that work waits; LeftInWork passes.
 CopiedFolder copiedFolderOf(ObjectRegistry& objects, const DescribedObject& document,
-                            const FolderScans& scans);
+                            const FolderScans& scans, MainWindow* window);
 
 }  // namespace velra
