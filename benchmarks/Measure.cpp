@@ -31,6 +31,13 @@ void Times::takeWork(const std::function<void()>& action) {
   add(now() - start);
 }
 
+void Times::again(const Times& other) {
+  if (values_.empty()) values_ = other.values_;
+  for (std::size_t i = 0; i < std::min(count(), other.count()); ++i) {
+    values_[i] = std::min(values_[i], other.values_[i]);
+  }
+}
+
 double Times::at(double share) const {
   if (values_.empty()) return 0;
   std::vector<double> sorted = values_;

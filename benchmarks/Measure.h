@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <utility>
@@ -27,6 +28,9 @@ class Times {
   /// not count. For work that waits for nothing.
   void takeWork(const std::function<void()>& action);
   void add(double milliseconds) { values_.push_back(milliseconds); }
+  /// The same actions were taken again: the shorter time of each counts.
+  void again(const Times& other);
+  std::size_t count() const { return values_.size(); }
 
   /// The value below which a share (0 to 1) of them lies; 0 when there are none.
   double at(double share) const;

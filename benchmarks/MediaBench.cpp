@@ -96,38 +96,35 @@ Measure steps(const std::string& name, const std::string& path, double step) {
   return {(step > 0 ? "step +1, " : "step -1, ") + name + ", p95", times.p95(), "ms", 25};
 }
 
-// Both go to the same times, in turns, and convert or paint nothing; the better of three. Nothing
-// without the other.
+// Both go to the same times, in turns, and convert or paint nothing; of each seek the better of
+// three, since others disturb now one of them and now another. Nothing without the other.
 void addBeside(std::vector<Measure>& measures, const std::string& name, const std::string& path,
                const std::string& folder) {
   const std::vector<double> targets = randomTimes();
-  double seek = 0;
-  double otherSeek = 0;
-  double otherStep = 0;
+  Times seeks;
+  OtherPlayer others;
   FrameSource source;
   source.open(path);
   for (int round = 0; round < kRounds; ++round) {
     const auto other = measureMpv(path, targets, folder);
     if (!other) return;
-    Times seeks;
+    Times own;
     for (const double t : targets) {
-      seeks.take([&] { source.at(t); });
+      own.take([&] { source.at(t); });
       std::this_thread::sleep_for(kBetweenSeeks);
     }
-    const auto less = [&](double& least, double one) {
-      least = round == 0 ? one : std::min(least, one);
-    };
-    less(seek, seeks.p95());
-    less(otherSeek, other->seek);
-    less(otherStep, other->stepBack);
+    seeks.again(own);
+    others.seeks.again(other->seeks);
+    others.stepsBack.again(other->stepsBack);
   }
   Times steps;
   for (int i = 0; i < kSteps; ++i) {
     const double t = kBenchSeconds / 2 - i * kBenchFrame;
     steps.take([&] { source.at(t); });
   }
-  measures.push_back({"exact seek, " + name + ", p95 / mpv's", seek / otherSeek, "", 1});
-  const double step = steps.p95() / otherStep;
+  const double seek = seeks.p95() / others.seeks.p95();
+  measures.push_back({"exact seek, " + name + ", p95 / mpv's", seek, "", 1});
+  const double step = steps.p95() / others.stepsBack.p95();
   measures.push_back({"step -1, " + name + ", p95 / mpv's", step, "", 0.2});
 }
 

@@ -20,12 +20,6 @@ const std::string kMpv =
 // Each act begins a moment after the one before has ended, as a person's would.
 constexpr char kScript[] = R"(
 local spent, begun, farthest = {}, nil, 0
-local function p95()
-  table.sort(spent)
-  local value = spent[math.max(1, math.ceil(#spent * 0.95))]
-  spent = {}
-  return value * 1000
-end
 local function act(...)
   begun = mp.get_time()
   mp.commandv(...)
@@ -33,20 +27,19 @@ end
 local acts = 0
 local function next()
   acts = acts + 1
-  if acts == #times + 1 then seek = p95() end
   if acts <= #times then
     act("seek", times[acts], "absolute+exact")
   elseif acts <= #times + steps then
     act("frame-back-step")
   else
     local file = io.open(target, "w")
-    file:write(seek, " ", p95(), " ", farthest, "\n")
+    file:write(farthest, " ", table.concat(spent, " "), "\n")
     file:close()
     mp.command("quit")
   end
 end
 mp.register_event("playback-restart", function()
-  if begun then table.insert(spent, mp.get_time() - begun) end
+  if begun then table.insert(spent, (mp.get_time() - begun) * 1000) end
   if begun and acts <= #times then
     farthest = math.max(farthest, math.abs(mp.get_property_number("time-pos") - times[acts]))
   end
@@ -77,9 +70,13 @@ std::optional<OtherPlayer> measureWith(double earlier, const std::string& movie,
   if (std::system(command.c_str()) != 0) return std::nullopt;
   OtherPlayer found;
   std::ifstream answer(target);
-  double farthest = 0;
-  if (!(answer >> found.seek >> found.stepBack >> farthest)) return std::nullopt;
-  return farthest < kExact ? std::optional(found) : std::nullopt;
+  double farthest = kExact;
+  answer >> farthest;
+  for (double spent = 0; answer >> spent;) {
+    (found.seeks.count() < times.size() ? found.seeks : found.stepsBack).add(spent);
+  }
+  const bool all = found.seeks.count() == times.size() && found.stepsBack.count() == kStepsBack;
+  return all && farthest < kExact ? std::optional(found) : std::nullopt;
 }
 
 // Processor time of the programs that were started and have ended, in seconds.

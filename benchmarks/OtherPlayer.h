@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "Measure.h"
+
 namespace velra::bench {
 
-/// What mpv takes in a movie, in milliseconds, 95th percentiles.
+/// What mpv takes in a movie, in the order in which it did so.
 struct OtherPlayer {
-  double seek = 0;
-  double stepBack = 0;
+  Times seeks;
+  Times stepsBack;
 };
 
 /// Has mpv go to the times of a movie, and then step back; it decodes in software and paints
