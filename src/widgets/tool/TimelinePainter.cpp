@@ -16,6 +16,7 @@ namespace {
 
 constexpr double kBodyTwips = 375;
 constexpr int kLeastWidth = 3;
+constexpr int kEndWidth = 2;
 constexpr int kBlinkLineHalf = 100;  // twips above and below the row's middle
 const QColor kGround(248, 248, 246);
 const QColor kGroundDisabled(214, 214, 212);
@@ -61,24 +62,27 @@ void TimelinePainter::paintGround(const AdvancedSlider& advsld) {
 
 void TimelinePainter::paintMark(const QRect& body, const AdvancedSlider::Mark& mark) {
   const QColor colour = colourOf(mark.colour);
-  const int end = std::min(2, body.width());
-  if (body.width() <= 2 * end) {
-    painter_.fillRect(body, colour);  // the two ends are all of it
-  } else {
-    QColor inside = colour;
-    inside.setAlpha(mark.borderWidth == AdvancedSlider::kSelectedBorder ? 70 : 25);
-    painter_.fillRect(body, inside);
-    // The line of the span, as thick as its border, and an end at each side of it; the title has
-    // the room above.
-    painter_.fillRect(body.left(), body.bottom() + 1 - mark.borderWidth, body.width(),
-                      mark.borderWidth, colour);
-    painter_.fillRect(body.left(), body.top(), end, body.height(), colour);
-    painter_.fillRect(body.right() + 1 - end, body.top(), end, body.height(), colour);
+  const bool selected = mark.borderWidth == AdvancedSlider::kSelectedBorder;
+  if (body.width() <= 2 * kEndWidth) {
+    // The two ends are all of it. Thousands may be selected: their outline is what stays around
+    // the inside.
+    if (selected) painter_.fillRect(body, kOutline);
+    painter_.fillRect(selected ? body.adjusted(1, 1, -1, -1) : body, colour);
+    return;
   }
-  if (mark.borderWidth == AdvancedSlider::kSelectedBorder) paintOutline(body);
+  QColor inside = colour;
+  inside.setAlpha(selected ? 70 : 25);
+  painter_.fillRect(body, inside);
+  // The line of the span, as thick as its border, and an end at each side of it; the title has the
+  // room above.
+  painter_.fillRect(body.left(), body.bottom() + 1 - mark.borderWidth, body.width(),
+                    mark.borderWidth, colour);
+  painter_.fillRect(body.left(), body.top(), kEndWidth, body.height(), colour);
+  painter_.fillRect(body.right() + 1 - kEndWidth, body.top(), kEndWidth, body.height(), colour);
+  if (selected) paintOutline(body);
 }
 
-// Thousands may be selected, and lines of a pen take several times as long.
+// Lines of a pen take several times as long.
 void TimelinePainter::paintOutline(const QRect& body) {
   painter_.fillRect(body.left(), body.top(), body.width(), 1, kOutline);
   painter_.fillRect(body.left(), body.bottom(), body.width(), 1, kOutline);
