@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <random>
 #include <thread>
 
@@ -27,7 +28,8 @@ constexpr int kSeeks = 80;
 constexpr int kSteps = 200;
 constexpr int kRounds = 3;
 constexpr double kPlaySeconds = 10;
-constexpr std::chrono::milliseconds kBetweenSeeks{20};  // as the other player has, in its script
+constexpr int kStepsBeside = 40;
+constexpr std::chrono::milliseconds kBetweenSeeks{20};  // an act begins as a person's would
 
 class RandomTimes {
  public:
@@ -96,36 +98,69 @@ Measure steps(const std::string& name, const std::string& path, double step) {
   return {(step > 0 ? "step +1, " : "step -1, ") + name + ", p95", times.p95(), "ms", 25};
 }
 
-// Both go to the same times, in turns, and convert or paint nothing; of each seek the better of
-// three, since others disturb now one of them and now another. Nothing without the other.
+/// What both players took for the same acts, each in the same order.
+struct Beside {
+  Times own;
+  Times other;
+};
+
+// Seek by seek in turns, since the machine changes its pace within seconds; nothing is converted or
+// painted. Nothing when the other did not show a picture that was sought.
+std::optional<Beside> seeksBeside(FrameSource& source, OtherPlayer& player) {
+  Beside seeks;
+  for (const double t : randomTimes()) {
+    std::this_thread::sleep_for(kBetweenSeeks);
+    seeks.own.take([&] { source.at(t); });
+    std::this_thread::sleep_for(kBetweenSeeks);
+    const auto other = player.seek(t);
+    if (!other) return std::nullopt;
+    seeks.other.add(*other);
+  }
+  return seeks;
+}
+
+// Of each seek the better of three counts, since others disturb now one player and now the other.
+std::optional<Beside> bestSeeksBeside(FrameSource& source, OtherPlayer& player) {
+  Beside best;
+  for (int round = 0; round < kRounds; ++round) {
+    const auto seeks = seeksBeside(source, player);
+    if (!seeks) return std::nullopt;
+    best.own.again(seeks->own);
+    best.other.again(seeks->other);
+  }
+  return best;
+}
+
+std::optional<Beside> stepsBeside(FrameSource& source, OtherPlayer& player) {
+  Beside steps;
+  source.at(kBenchSeconds / 2);
+  for (int i = 1; i <= kStepsBeside; ++i) {
+    const double t = kBenchSeconds / 2 - i * kBenchFrame;
+    steps.own.take([&] { source.at(t); });
+    const auto other = player.stepBack();
+    if (!other) return std::nullopt;
+    steps.other.add(*other);
+  }
+  return steps;
+}
+
+// With a player that begins to decode early enough for this movie. Nothing without the other.
 void addBeside(std::vector<Measure>& measures, const std::string& name, const std::string& path,
                const std::string& folder) {
-  const std::vector<double> targets = randomTimes();
-  Times seeks;
-  OtherPlayer others;
   FrameSource source;
   source.open(path);
-  for (int round = 0; round < kRounds; ++round) {
-    const auto other = measureMpv(path, targets, folder);
-    if (!other) return;
-    Times own;
-    for (const double t : targets) {
-      own.take([&] { source.at(t); });
-      std::this_thread::sleep_for(kBetweenSeeks);
-    }
-    seeks.again(own);
-    others.seeks.again(other->seeks);
-    others.stepsBack.again(other->stepsBack);
+  for (const double earlier : {0.0, 0.75, 1.5}) {
+    const auto player = OtherPlayer::start(path, folder, earlier);
+    if (!player) return;
+    const auto seeks = bestSeeksBeside(source, *player);
+    const auto steps = seeks ? stepsBeside(source, *player) : std::nullopt;
+    if (!steps) continue;
+    const double seek = seeks->own.p95() / seeks->other.p95();
+    measures.push_back({"exact seek, " + name + ", p95 / mpv's", seek, "", 1});
+    const double step = steps->own.p95() / steps->other.p95();
+    measures.push_back({"step -1, " + name + ", p95 / mpv's", step, "", 0.2});
+    return;
   }
-  Times steps;
-  for (int i = 0; i < kSteps; ++i) {
-    const double t = kBenchSeconds / 2 - i * kBenchFrame;
-    steps.take([&] { source.at(t); });
-  }
-  const double seek = seeks.p95() / others.seeks.p95();
-  measures.push_back({"exact seek, " + name + ", p95 / mpv's", seek, "", 1});
-  const double step = steps.p95() / others.stepsBack.p95();
-  measures.push_back({"step -1, " + name + ", p95 / mpv's", step, "", 0.2});
 }
 
 // Of a file that seems to be another one each time, since what was read of the last is kept.

@@ -2,10 +2,12 @@
 #include "OtherPlayer.h"
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
-#include <fstream>
+#include <filesystem>
 
 #include "BenchMovies.h"
 
@@ -13,71 +15,24 @@ namespace velra::bench {
 
 namespace {
 
-constexpr int kStepsBack = 40;
 const std::string kMpv =
-    "timeout 120 mpv --no-config --really-quiet --vo=null --ao=null --hwdec=no";
+    "timeout 300 mpv --no-config --really-quiet --vo=null --ao=null --hwdec=no";
 
-// Each act begins a moment after the one before has ended, as a person's would.
+// It times itself, so that the way to it and back does not count.
 constexpr char kScript[] = R"(
-local spent, begun, farthest = {}, nil, 0
-local function act(...)
-  begun = mp.get_time()
-  mp.commandv(...)
-end
-local acts = 0
-local function next()
-  acts = acts + 1
-  if acts <= #times then
-    act("seek", times[acts], "absolute+exact")
-  elseif acts <= #times + steps then
-    act("frame-back-step")
-  else
-    local file = io.open(target, "w")
-    file:write(farthest, " ", table.concat(spent, " "), "\n")
-    file:close()
-    mp.command("quit")
-  end
-end
+local requests, begun = io.open(path), nil
 mp.register_event("playback-restart", function()
-  if begun then table.insert(spent, (mp.get_time() - begun) * 1000) end
-  if begun and acts <= #times then
-    farthest = math.max(farthest, math.abs(mp.get_property_number("time-pos") - times[acts]))
-  end
-  begun = nil
-  mp.add_timeout(0.02, next)
+  local spent = begun and (mp.get_time() - begun) * 1000 or 0
+  io.write(spent, " ", mp.get_property_number("time-pos"), "\n")
+  io.flush()
+  local request = requests:read("*l")
+  begun = mp.get_time()
+  mp.command(request or "quit")
 end)
 )";
 
 // What is more than that from the time that was sought is another picture.
 constexpr double kExact = 1.5 * kBenchFrame;
-
-// With mpv's own cure for files in which it begins to decode too late. Nothing for a seek that was
-// not exact.
-std::optional<OtherPlayer> measureWith(double earlier, const std::string& movie,
-                                       const std::vector<double>& times,
-                                       const std::string& folder) {
-  const std::string script = folder + "/mpv.lua";
-  const std::string target = folder + "/mpv.txt";
-  std::ofstream lua(script);
-  lua << "times, steps, target = {";
-  for (const double t : times) lua << t << ",";
-  lua << "}, " << kStepsBack << ", '" << target << "'\n" << kScript;
-  lua.close();
-  std::ofstream(target).close();
-  const std::string command = kMpv +
-                              " --pause --hr-seek-demuxer-offset=" + std::to_string(earlier) +
-                              " --script='" + script + "' '" + movie + "' > /dev/null 2>&1";
-  if (std::system(command.c_str()) != 0) return std::nullopt;
-  OtherPlayer found;
-  std::ifstream answer(target);
-  double farthest = kExact;
-  answer >> farthest;
-  for (double spent = 0; answer >> spent;) {
-    (found.seeks.count() < times.size() ? found.seeks : found.stepsBack).add(spent);
-  }
-  const bool all = found.seeks.count() == times.size() && found.stepsBack.count() == kStepsBack;
-  return all && farthest < kExact ? std::optional(found) : std::nullopt;
-}
 
 // Processor time of the programs that were started and have ended, in seconds.
 double spentByOthers() {
@@ -109,12 +64,49 @@ std::optional<double> mpvPlayWork(const std::string& movie, double from, double 
   return std::max(*all - *start, 0.0) / seconds;
 }
 
-std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
-                                      const std::string& folder) {
-  for (const double earlier : {0.0, 0.75, 1.5}) {
-    if (const auto found = measureWith(earlier, movie, times, folder)) return found;
-  }
-  return std::nullopt;
+std::unique_ptr<OtherPlayer> OtherPlayer::start(const std::string& movie, const std::string& folder,
+                                                double earlier) {
+  const std::string requests = folder + "/mpv.fifo";
+  const std::string script = folder + "/mpv.lua";
+  std::filesystem::remove(requests);
+  if (::mkfifo(requests.c_str(), 0600) != 0) return nullptr;
+  std::ofstream(script) << "local path = '" << requests << "'" << kScript;
+  const std::string command = kMpv +
+                              " --pause --hr-seek-demuxer-offset=" + std::to_string(earlier) +
+                              " --script='" + script + "' '" + movie + "' 2> /dev/null";
+  std::unique_ptr<OtherPlayer> player(new OtherPlayer(command, requests));
+  return player->answer() ? std::move(player) : nullptr;
+}
+
+// Open for reading as well, the pipe waits for nobody at its other end.
+OtherPlayer::OtherPlayer(const std::string& command, const std::string& requests)
+    : requests_(requests), program_(::popen(command.c_str(), "r"), ::pclose) {}
+
+OtherPlayer::~OtherPlayer() {
+  requests_ << "quit" << std::endl;
+}
+
+std::optional<OtherPlayer::Answer> OtherPlayer::answer() {
+  Answer found;
+  const bool whole =
+      program_ && std::fscanf(program_.get(), "%lf %lf", &found.spent, &found.position) == 2;
+  return whole ? std::optional(found) : std::nullopt;
+}
+
+std::optional<OtherPlayer::Answer> OtherPlayer::act(const std::string& request) {
+  requests_ << request << std::endl;
+  return answer();
+}
+
+std::optional<double> OtherPlayer::seek(double time) {
+  const auto done = act("seek " + std::to_string(time) + " absolute+exact");
+  return done && std::abs(done->position - time) < kExact ? std::optional(done->spent)
+                                                          : std::nullopt;
+}
+
+std::optional<double> OtherPlayer::stepBack() {
+  const auto done = act("frame-back-step");
+  return done ? std::optional(done->spent) : std::nullopt;
 }
 
 }  // namespace velra::bench

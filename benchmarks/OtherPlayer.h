@@ -1,24 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdio>
+#include <fstream>
+#include <memory>
 #include <optional>
 #include <string>
-#include <vector>
-
-#include "Measure.h"
 
 namespace velra::bench {
 
-/// What mpv takes in a movie, in the order in which it did so.
-struct OtherPlayer {
-  Times seeks;
-  Times stepsBack;
-};
+/// mpv with a movie, paused, which takes one act at a time, so that both players can go in turns.
+/// It decodes in software and paints nothing.
+class OtherPlayer {
+ public:
+  /// `earlier`: seconds before each time that is sought at which it begins to decode, its own cure
+  /// for files in which it begins too late. Nothing when it is not installed or plays no movie.
+  static std::unique_ptr<OtherPlayer> start(const std::string& movie, const std::string& folder,
+                                            double earlier);
+  ~OtherPlayer();
+  OtherPlayer(const OtherPlayer&) = delete;
+  OtherPlayer& operator=(const OtherPlayer&) = delete;
 
-/// Has mpv go to the times of a movie, and then step back; it decodes in software and paints
-/// nothing. Nothing when it is not installed, or does not reach the pictures that were sought.
-std::optional<OtherPlayer> measureMpv(const std::string& movie, const std::vector<double>& times,
-                                      const std::string& folder);
+  /// Milliseconds until the picture is there. Nothing when it shows another one.
+  std::optional<double> seek(double time);
+  /// The same for one picture back.
+  std::optional<double> stepBack();
+
+ private:
+  struct Answer {
+    double spent = 0;     // milliseconds
+    double position = 0;  // seconds
+  };
+
+  OtherPlayer(const std::string& command, const std::string& requests);
+  std::optional<Answer> answer();
+  std::optional<Answer> act(const std::string& request);
+
+  std::fstream requests_;
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> program_;
+};
 
 /// Seconds of play after which it is measured: the seek before it and the first pictures are over.
 inline constexpr double kPlayStart = 0.5;
