@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "objects/SaveUnderName.h"
 
+#include <future>
 #include <utility>
 
 #include "app/ApplicationModule.h"
@@ -69,10 +70,6 @@ SaveUnderName::Outcome SaveUnderName::saveAsFrom(SavePoint& before,
   if (app_.gMainForm) app_.gMainForm->workWaits();
   planned_->finished();
   document_.unsavedWork().saved(objects_);
-  if (app_.gMainForm) app_.gMainForm->workWaits();
-  // The registry lets go here of those that have nothing to save any more, and not in one piece
-  // with the closing of the document.
-  static_cast<void>(objects_.changedObjects());
   if (app_.gMainForm) app_.gMainForm->workWaits();  // what was put aside goes, which takes a while
   return Outcome::Done;
 }
@@ -160,24 +157,43 @@ std::string SaveUnderName::strFlush() {
   return paintedWait(app_.gMainForm, [&] { return io_.strFlush(); });
 }
 
-bool SaveUnderName::bMakeFiles(SavePoint& before, const std::string& strAVDocPathName) {
-  io_.makeFilesBehind();
-  const bool handedOver = bHandOverAll(before, strAVDocPathName);
-  const auto [made, failed] = paintedWait(app_.gMainForm, [&] { return io_.filesMade(); });
+// While the disk takes the new files, the program notes what they hold, and the registry lets go of
+// the objects that have nothing to save any more, not in one piece with the closing of the
+// document.
+std::string SaveUnderName::strFlushNewFiles() {
+  return paintedWait(app_.gMainForm, [this] {
+    constexpr auto kBesideIfItCan = std::launch::async | std::launch::deferred;
+    std::future<std::string> flushed =
+        std::async(kBesideIfItCan, [this] { return io_.strFlush(); });
+    io_.noteFilesMade();
+    static_cast<void>(objects_.changedObjects());
+    return flushed.get();
+  });
+}
+
+void SaveUnderName::tellOfRelocated(SavePoint& before, const std::vector<bool>& made) const {
   for (std::size_t i = 0; i < relocations_.size(); ++i) {
     if (app_.gMainForm) app_.gMainForm->workWaits();
     const auto& [video, from, to] = relocations_[i];
     // The pictures came first.
     if (i < made.size() && made[i]) before.relocated(video->objKeyframeObject(), from, to);
   }
-  if (!failed.reason.empty()) {
+}
+
+bool SaveUnderName::bMakeFiles(SavePoint& before, const std::string& strAVDocPathName) {
+  io_.makeFilesBehind();
+  const bool handedOver = bHandOverAll(before, strAVDocPathName);
+  const auto [made, failed] = paintedWait(app_.gMainForm, [&] { return io_.filesMade(); });
+  tellOfRelocated(before, made);
+  if (!handedOver || !failed.reason.empty()) {
+    paintedWait(app_.gMainForm, [&] { io_.noteFilesMade(); });
+    if (failed.reason.empty()) return false;
     if (app_.gMainForm) app_.gMainForm->setStrStatusBarText(failed.status);
     if (handedOver) app_.ui.messageBox(io_.strSentence(failed));
     return false;
   }
-  if (!handedOver) return false;
   // The document must never be there before what it names.
-  const std::string failure = strFlush();
+  const std::string failure = strFlushNewFiles();
   if (!failure.empty()) app_.ui.messageBox(failure + " (" + document_.strGUID() + ")");
   return failure.empty();
 }

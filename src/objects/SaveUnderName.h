@@ -46,6 +46,8 @@ class SaveUnderName {
   void renameObjects(SavePoint& before, const std::string& strAVDocPathName);
   void renameKeyFrame(VideoExpression& video, SavePoint& before,
                       const std::string& strAVDocPathName);
+  void tellOfRelocated(SavePoint& before, const std::vector<bool>& made) const;
+  std::string strFlushNewFiles();
   std::string strFlush();
 
   ApplicationModule& app_;

@@ -156,11 +156,14 @@ void FilesBehind::join() {
 FilesBehind::Outcome FilesBehind::finish() {
   join();
   Outcome outcome{{}, failure()};
+  for (const File& file : files_) outcome.made.push_back(file.made);
+  return outcome;
+}
+
+void FilesBehind::note() {
   for (const File& file : files_) {
-    outcome.made.push_back(file.made);
     if (file.made) note(file);
   }
-  return outcome;
 }
 
 void FilesBehind::note(const File& file) {

@@ -49,8 +49,10 @@ class FilesBehind {
     std::vector<bool> made;  // of each that was handed over
     Failure failure;
   };
-  /// Waits for all, and tells the names and the guard of those that were made.
+  /// Waits for all.
   Outcome finish();
+  /// Tells the names and the guard of those that were made. To be called behind `finish`.
+  void note();
 
  private:
   enum class Kind { Write, Copy, Move };

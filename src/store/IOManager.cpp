@@ -139,8 +139,8 @@ void IOManager::makeFilesBehind() {
   });
 }
 
-FilesBehind::Outcome IOManager::filesMade() {
-  return std::exchange(behind_, nullptr)->finish();
+void IOManager::noteFilesMade() {
+  std::exchange(behind_, nullptr)->note();
 }
 
 std::string IOManager::strSentence(const FilesBehind::Failure& failure) const {

@@ -72,9 +72,11 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   const std::string& strSaveFailure() const { return saveFailure_; }
 
   /// From now on files come under promised names by threads of their own, so that what fails is
-  /// told by a later strSave or here. To be called in pairs.
+  /// told by a later strSave or by `filesMade`, which waits for all of them. What came is known
+  /// here behind `noteFilesMade`, which touches nothing that a flush does. To be called in turn.
   void makeFilesBehind();
-  FilesBehind::Outcome filesMade();
+  FilesBehind::Outcome filesMade() { return behind_->finish(); }
+  void noteFilesMade();
   /// The sentence for a person; "" for no failure.
   std::string strSentence(const FilesBehind::Failure& failure) const;
 
