@@ -42,7 +42,6 @@ struct Figures {
 
 constexpr int kSlowObjects = 1000;  // a second and more is waited for these
 constexpr int kManyObjects = 50'000;
-constexpr int kSaveTurns = 5;
 
 // By the clock, where several threads are at work.
 double leastTime(int repeats, const std::function<void()>& action) {
@@ -159,16 +158,16 @@ void plainCopy(const fs::path& from, const fs::path& to) {
   ::sync();
 }
 
-// Both with what the system has to do to bring all to the disk, in turns; the middle of five, since
-// the disk gives each side its lucky moment, which the best would be. What is told to the store of
-// unsaved work is part of it, as in the program.
-void measureSaveAs(BenchSession& session, const std::string& path, RunFolder& run,
+// Both with what the system has to do to bring all to the disk, in turns; the middle of five or
+// more, since the disk gives each side its lucky moment, which the best would be. What is told to
+// the store of unsaved work is part of it, as in the program.
+void measureSaveAs(BenchSession& session, const std::string& path, RunFolder& run, int turns,
                    Figures& figures) {
   Times saves;
   Times copies;
   RescueWriter store(run.make("state") + "/rescue.sqlite");
   session.app.rescue = &store;
-  for (int i = 0; i < kSaveTurns; ++i) {
+  for (int i = 0; i < turns; ++i) {
     session.close();
     session.open(path);
     const std::string saved = run.make("saved");
@@ -196,7 +195,7 @@ Figures measureDocument(RunFolder& run, const std::string& schema, int objects) 
   figures.search = measureSearch(session);
   figures.textPass = measureTextPass(session);
   figures.removeEach = measureRemoval(session, path);
-  measureSaveAs(session, path, run, figures);
+  measureSaveAs(session, path, run, objects > 10000 ? 5 : 15, figures);
   return figures;
 }
 

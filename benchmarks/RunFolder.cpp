@@ -31,36 +31,45 @@ void spreadFoldersBelow(const std::string& path) {
   ::ioctl(folder.number(), FS_IOC_SETFLAGS, &flags);
 }
 
-// True for the folder of a run that has ended.
-bool isLeftOver(const std::string& name) {
+// A number for each folder, of all parts.
+int nextNumber() {
+  static int made = 0;
+  return ++made;
+}
+
+// True for a folder of this run, or of one that has ended.
+bool isOver(const std::string& name) {
   constexpr std::string_view kRun = kPrefix;
   if (!name.starts_with(kRun)) return false;
   const int process = std::atoi(name.c_str() + kRun.size());
-  return process > 0 && ::kill(process, 0) != 0;
+  return process == ::getpid() || (process > 0 && ::kill(process, 0) != 0);
 }
 
 }  // namespace
 
 RunFolder::RunFolder(const std::string& parent)
-    : path_(parent + "/" + kPrefix + std::to_string(::getpid())), before_(currentFolder()) {
-  for (const auto& entry : fs::directory_iterator(parent)) {
-    std::error_code failed;  // another run may be at it
-    if (isLeftOver(entry.path().filename())) fs::remove_all(entry.path(), failed);
-  }
+    : path_(parent + "/" + kPrefix + std::to_string(::getpid()) + "-" +
+            std::to_string(nextNumber())),
+      before_(currentFolder()) {
   fs::create_directories(path_);
   spreadFoldersBelow(path_);
 }
 
 RunFolder::~RunFolder() {
   changeCurrentFolder(before_);
-  std::error_code failed;  // what is left goes at the next run
-  fs::remove_all(path_, failed);
+}
+
+void RunFolder::removeAll(const std::string& parent) {
+  for (const auto& entry : fs::directory_iterator(parent)) {
+    std::error_code failed;  // another run may be at it; what is left goes at the next
+    if (isOver(entry.path().filename())) fs::remove_all(entry.path(), failed);
+  }
 }
 
 std::string RunFolder::make(const std::string& name) {
   // The name decides on the group, so it is another one in each run.
   const std::string folder =
-      path_ + "/" + name + " " + std::to_string(::getpid()) + "-" + std::to_string(++made_);
+      path_ + "/" + name + " " + std::to_string(::getpid()) + "-" + std::to_string(nextNumber());
   fs::create_directories(folder);
   return folder;
 }

@@ -5,15 +5,14 @@
 
 namespace velra::bench {
 
-/// A folder for the files of one run, removed at its end.
+/// A folder for the files of one part of a run.
 ///
 /// What was deleted a minute ago slows the making of new files: ext4 does not take their numbers
 /// again so soon and looks past all of them each time, which made a Save As ten times slower in a
-/// group of blocks that an earlier run had emptied. So nothing is deleted while measures are taken,
-/// and the file system is asked to put each folder of this one into a group of its own.
+/// group of blocks that an earlier run had emptied. So nothing is deleted before the whole run has
+/// ended, and the file system is asked to put each folder of this one into a group of its own.
 class RunFolder {
  public:
-  /// Folders that an interrupted run has left in the parent go first.
   explicit RunFolder(const std::string& parent);
   ~RunFolder();
   RunFolder(const RunFolder&) = delete;
@@ -21,13 +20,15 @@ class RunFolder {
 
   const std::string& path() const { return path_; }
 
+  /// Removes the folders of this run below the parent, and what an interrupted one has left.
+  static void removeAll(const std::string& parent);
+
   /// A new folder below it.
   std::string make(const std::string& name);
 
  private:
   std::string path_;
   std::string before_;  // the current folder, which a document changes
-  int made_ = 0;
 };
 
 }  // namespace velra::bench

@@ -12,6 +12,7 @@
 #include "MediaBench.h"
 #include "PieceBench.h"
 #include "RescueBench.h"
+#include "RunFolder.h"
 #include "StartBench.h"
 #include "StripBench.h"
 #include "ToolBench.h"
@@ -59,5 +60,6 @@ int main(int count, char** arguments) {
       share.print();
     }
   }
+  RunFolder::removeAll(folder);
   return good ? 0 : 1;
 }
