@@ -19,11 +19,15 @@ namespace {
 
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
 
-// Closer than this many pictures ahead it is cheaper to decode on than to seek.
+// Closer than this many pictures ahead it is cheaper to decode on than to seek, where nothing is
+// known of the keys.
 constexpr double kDecodeOnPictures = 40;
 
 // Nor is it dearer for so many when no key lies on the way.
 constexpr double kMostOnTheWay = 300;
+
+// To begin at a key takes as long as so many pictures.
+constexpr double kSeekPictures = 3;
 
 // So many pictures before the one that is sought are decoded all, if the cache has room, since
 // people step back; who does so by no more than two pictures does it again.
@@ -85,6 +89,7 @@ void FrameSource::setTimes() {
   const double usual = stampedPictures ? index_.usualDistance() * reader_.tick() : 0;
   frameTime_ = chooseFrameTime(reader_.statedFrameTime(), usual, reader_.tick(), index_.pictures);
   reader_.setClock(frameTime_ > 0 ? frameTime_ : kUsualFrame, index_.leap, line_);
+  group_ = index_.longestGroup();
   if (frameTime_ <= 0) frameTime_ = medianDistance(reader_).value_or(kUsualFrame);
 }
 
@@ -110,13 +115,20 @@ FrameSource::Found FrameSource::find(double target) {
   const double back = std::exchange(lastTarget_, target) - target;
   if (Found known = cache_.find(target)) return known;
   const double ahead = target - reader_.time().value_or(kInfinite);
-  const double near = (reader_.leadsTo(target) ? kMostOnTheWay : kDecodeOnPictures) * frameTime_;
   const bool stepsBack = back > 0 && back < kStepBack * frameTime_;
   const double most = stepsBack ? kWholeBeforeSteps : kWholeBefore;
   whole_ = std::clamp(0.9 * cache_.room(), kFewestWhole, most) * frameTime_;
-  if (ahead >= 0 && ahead < near) return decodeOn(target);
+  if (ahead >= 0 && ahead < worthDecoding(target)) return decodeOn(target);
   const double lead = stepsBack ? whole_ : 0;
   return index_.byKeys ? seekByKeys(target, lead) : seekTo(target, lead);
+}
+
+// Seconds ahead. Of files with bare stamps the library knows the keys alone at which it has been.
+double FrameSource::worthDecoding(double target) const {
+  const bool noKeyBetween = reader_.leadsTo(target) && !reader_.input().hasBareStamps();
+  if (noKeyBetween) return kMostOnTheWay * frameTime_;
+  const double most = kDecodeOnPictures * frameTime_;
+  return group_ > 0 ? std::min(most, group_ + kSeekPictures * frameTime_) : most;
 }
 
 FrameSource::Found FrameSource::step(bool& ended) {

@@ -70,6 +70,7 @@ class FrameSource {
   void setTimes();
   void setLine();
   Found find(double target);
+  double worthDecoding(double target) const;
   Found step(bool& ended);
   Found decodeOn(double target);
   void leaveOut(double target, double start);
@@ -84,6 +85,7 @@ class FrameSource {
   StampLine line_;
   PictureCache cache_;
   double frameTime_ = 0;
+  double group_ = 0;  // seconds from key to key at most, as far as is known; 0: it is not
   double lastTarget_ = 0;
   double whole_ = 0;          // seconds before a target in which none are left out
   bool mayLeaveOut_ = false;  // pictures on the way to another

@@ -81,6 +81,14 @@ const KeyPlace* PictureIndex::keyBefore(double time) const {
   return behind == keys.begin() ? nullptr : &*std::prev(behind);
 }
 
+double PictureIndex::longestGroup() const {
+  double longest = 0;
+  for (std::size_t i = 1; i < keys.size(); ++i) {
+    longest = std::max(longest, keys[i].time - keys[i - 1].time);
+  }
+  return longest;
+}
+
 double PictureIndex::usualDistance() const {
   std::int64_t count = 0;
   for (const auto& [ticks, times] : distances) count += times;

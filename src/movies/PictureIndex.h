@@ -41,6 +41,10 @@ struct PictureIndex {
   /// The last key that is shown at a time or before it; null when there is none.
   const KeyPlace* keyBefore(double time) const;
 
+  /// The greatest distance from key to key in seconds, as far as the file was read; 0 when fewer
+  /// than two are known.
+  double longestGroup() const;
+
   /// The distance in ticks that most pictures have: the mean of those that differ from the median
   /// by no more than the rounding to ticks. 0 when these are not most.
   double usualDistance() const;
