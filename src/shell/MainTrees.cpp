@@ -42,7 +42,13 @@ void MainTrees::showDocument() {
 void MainTrees::showVersion(const ObjectRef& version, std::unique_ptr<TreeNode> former) {
   const auto object = as<Version>(version);
   if (!object) raise(kTypeMismatch);
+  const std::uint64_t shown = std::exchange(departuresShown_, departures());
+  if (former && shown != departuresShown_) LetObjectsGo(*former);
   tvwExpression_.replace(BuildExprTree(object, icons_, std::move(former)));
+}
+
+std::uint64_t MainTrees::departures() const {
+  return app_.gAVDoc ? app_.gAVDoc->collObjects().departures() : 0;
 }
 
 void MainTrees::ResetTree(TreeId id, const ObjectRef& version) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -41,12 +42,14 @@ class MainTrees {
  private:
   void addIcon(const VideoExpression& video);
   void emptyTree(TreeId id);
+  std::uint64_t departures() const;
 
   ApplicationModule& app_;
   MainWindowFace& face_;
   TreeIcons icons_;
   Tree tvwMainTree_;
   Tree tvwExpression_;
+  std::uint64_t departuresShown_ = 0;  // an object of this tree has gone only when there are more
 };
 
 }  // namespace velra

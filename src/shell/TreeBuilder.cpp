@@ -121,7 +121,7 @@ ExpressionList chainOf(const ExpressionList& members) {
 
 void showSegment(TreeNode& node, const ExpressionRef& segment, const TreeIcons& icons) {
   if (shows(node, *segment)) {
-    node.Tag = segment;
+    if (node.Tag.use_count() == 0) node.Tag = segment;  // it was let go
     return;
   }
   const bool ofVideo = segment->kind() == ObjectKind::Video;
@@ -163,7 +163,6 @@ std::unique_ptr<TreeNode> BuildMainTree(const ObjectRef& document) {
 
 std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
                                         const TreeIcons& icons, std::unique_ptr<TreeNode> former) {
-  if (former) LetObjectsGo(*former);
   auto root = former ? std::move(former) : std::make_unique<TreeNode>();
   const IconRef versionIcon = TreeIcons::named("Version");
   show(*root, version, versionIcon, versionIcon);

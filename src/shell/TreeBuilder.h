@@ -17,7 +17,7 @@ std::unique_ptr<TreeNode> BuildMainTree(const ObjectRef& document);
 /// The right tree: a Version, its main expressions and their segments in the order of time. The
 /// icon of each segment must be in the list: kInvalidArgument. The nodes of a former tree are used
 /// again where they stand for the same objects, which is a matter of time alone: the tree is the
-/// same as without them.
+/// same as without them. They must have let their objects go if one of these has been removed.
 std::unique_ptr<TreeNode> BuildExprTree(const std::shared_ptr<Version>& version,
                                         const TreeIcons& icons,
                                         std::unique_ptr<TreeNode> former = nullptr);

@@ -100,10 +100,14 @@ std::string missingIn(const std::string& description) {
 /// A tree as it was built, or the error in its place.
 struct Built {
   std::unique_ptr<TreeNode> root;
+  std::uint64_t departures = 0;
   Texts texts;
 
-  Built(const std::shared_ptr<Version>& version, const TreeIcons& icons,
-        std::unique_ptr<TreeNode> former) {
+  Built(test::Program& program, const std::shared_ptr<Version>& version, Built* before)
+      : departures(program.document()->collObjects().departures()) {
+    auto former = before ? std::move(before->root) : nullptr;
+    if (former && before->departures != departures) LetObjectsGo(*former);
+    const TreeIcons& icons = program.mainForm.imlTreeIcons();
     try {
       root = BuildExprTree(version, icons, std::move(former));
       addNodes(*root, "", texts);
@@ -184,11 +188,11 @@ TEST(TreeBuilder, NodesStandByThePlainRulesNewAndAfterEdits) {
     RandomEdits edits(program, random);
     for (const ObjectRef& each : ObjectList(program.document()->colChilds())) {
       const auto version = as<Version>(each);
-      Built built(version, icons, nullptr);
+      Built built(program, version, nullptr);
       EXPECT_EQ(test::firstDifference(built.texts, PlainTree(*version, icons).texts()), "");
       for (int step = 0; step < 15 && !HasFailure(); ++step) {
         edits.step();
-        built = Built(version, icons, std::move(built.root));
+        built = Built(program, version, &built);
         EXPECT_EQ(test::firstDifference(built.texts, PlainTree(*version, icons).texts()), "");
         compared += built.texts.size();
       }
