@@ -101,6 +101,24 @@ TEST_P(Pictures, ComeFromTheCacheWhenSteppedBack) {
   EXPECT_LE(source_.seeks() - before, eachIsKey ? 12 : 4);
 }
 
+TEST(FrameSource, BeginsAtAKeyThatIsNearerThanThePictureBefore) {
+  const double frame = 1001.0 / 24000;
+  FrameSource source;
+  ASSERT_EQ(source.open(test::moviePath("mpeg2-23976.mpg")), "");  // a key every 15
+  struct Way {
+    double pictures;
+    int starts;
+  };
+  double position = 20;
+  source.at(position * frame);
+  for (const Way& way : {Way{10, 0}, {30, 1}, {17, 0}, {25, 1}}) {
+    const int before = source.seeks();
+    position += way.pictures;
+    ASSERT_NE(source.at(position * frame), nullptr);
+    EXPECT_EQ(source.seeks() - before, way.starts) << position;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Movies, Pictures, ::testing::ValuesIn(test::numberedMovies()),
                          [](const auto& movie) {
                            std::string name = movie.param.name;
