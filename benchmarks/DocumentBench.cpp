@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <utility>
 
 #include "BenchSchema.h"
 #include "BenchSession.h"
@@ -179,6 +180,10 @@ void measureSaveAs(BenchSession& session, const std::string& path, RunFolder& ru
   for (const std::string& box : session.ui.takeShown()) std::puts(box.c_str());
   session.close();
   session.app.rescue = nullptr;
+  for (const auto& [name, times] : {std::pair("save as", &saves), {"plain copy", &copies}}) {
+    std::printf("%s: %.0f ms, from %.0f to %.0f\n", name, times->at(0.5), times->at(0),
+                times->at(1));
+  }
   figures.saveAs = saves.at(0.5);
   figures.copy = copies.at(0.5);
 }
