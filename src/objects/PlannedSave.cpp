@@ -71,16 +71,20 @@ PlannedSave::PlannedSave(IOManager& io, const RegisteredList& objects,
   if (rescue_ && !planned_) known_.forget();
 }
 
-PlannedSave::PlannedSave(IOManager& io, const std::string& documentPath, std::vector<MadeFile> made)
-    : rescue_(storeOf(io)), known_(io.plannedRemovals()), copies_(true) {
+PlannedSave::PlannedSave(IOManager& io, const std::string& documentPath, std::vector<MadeFile> made,
+                         std::string hiddenFolder)
+    : rescue_(storeOf(io)),
+      known_(io.plannedRemovals()),
+      hidden_(std::move(hiddenFolder)),
+      copies_(true) {
   const std::string path = strAbsolutePath(documentPath);
-  if (rescue_ && !made.empty()) tell({{path, {}, fileStamp(path), {}}, std::move(made)});
+  if (rescue_ && !made.empty()) tell({{path, {}, fileStamp(path), {}}, std::move(made), hidden_});
 }
 
 void PlannedSave::tell(IOManager& io, const AVDocument& document, std::vector<MadeFile> made) {
   if (!rescue_) return;
   try {
-    tell({plannedFile(document, io), std::move(made)});
+    tell({plannedFile(document, io), std::move(made), hidden_});
   } catch (const RunTimeError&) {
     return;  // as above
   }

@@ -24,7 +24,8 @@ class PlannedSave {
   /// go when it is closed.
   PlannedSave(IOManager& io, const RegisteredList& objects, PlannedRemovals::Change removals);
   /// A save under another name, and what it makes before it comes to the document.
-  PlannedSave(IOManager& io, const std::string& documentPath, std::vector<MadeFile> made);
+  PlannedSave(IOManager& io, const std::string& documentPath, std::vector<MadeFile> made,
+              std::string hiddenFolder);
   PlannedSave(const PlannedSave&) = delete;
   PlannedSave& operator=(const PlannedSave&) = delete;
   /// A save that was not finished has failed, and the person was told. One that an error ends, and
@@ -43,6 +44,7 @@ class PlannedSave {
   DocumentRescue* rescue_;  // null: nothing is to be told any more
   PlannedRemovals& known_;
   PlannedRemovals::Change change_;
+  std::string hidden_;  // where a save under another name makes its files; "" for their own folder
   // A store that fails does not keep the files from being written.
   bool planned_ = false;
   bool copies_ = false;

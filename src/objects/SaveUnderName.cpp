@@ -18,6 +18,7 @@
 #include "protocol/PaintedWait.h"
 #include "protocol/VideoExpression.h"
 #include "store/DataFolder.h"
+#include "store/HiddenFolder.h"
 #include "store/IOManager.h"
 #include "store/ReferenceIndex.h"
 
@@ -32,7 +33,10 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
     app_.ui.messageBox(unlisted + app_.LoadResString(Message::CopyWithoutThese));
     return false;
   }
-  const bool hadFolder = bFolderExists(dataFolderOf(strAVDocPathName));
+  const std::string folder = dataFolderOf(strAVDocPathName);
+  const bool hadFolder = bFolderExists(folder);
+  // One that somebody has made keeps what he gave it.
+  if (!hadFolder) hidden_ = HiddenFolder::pathBeside(folder);
   if (document_.secol().begin() == document_.secol().end()) {
     app_.ui.messageBox(app_.LoadResString(Message::CopyWithoutSchema));
     return false;
@@ -46,7 +50,7 @@ bool SaveUnderName::bSaveAs(const std::string& strAVDocPathName) {
   const Outcome outcome = saveAsFrom(before, strAVDocPathName);
   if (outcome == Outcome::Done) return true;
   before.restore(io_, outcome == Outcome::NotSynced);
-  if (!hadFolder) removeFolderIfEmpty(dataFolderOf(strAVDocPathName));
+  if (!hadFolder) removeFolderIfEmpty(folder);
   return false;
 }
 
@@ -109,7 +113,7 @@ void SaveUnderName::handOverPictures(SavePoint& before, const std::string& strAV
     auto* video = as<VideoExpression>(object.get());
     if (video && io_.bFileSystem()) renameKeyFrame(*video, before, strAVDocPathName);
   }
-  paintedWait(app_.gMainForm, [&] { planned_.emplace(io_, strAVDocPathName, made_); });
+  paintedWait(app_.gMainForm, [&] { planned_.emplace(io_, strAVDocPathName, made_, hidden_); });
   for (const auto& [video, from, to] : relocations_) {
     video->UpdateLocationKeyFrameObject(from, to);
     if (app_.gMainForm) app_.gMainForm->workWaits();
@@ -181,7 +185,7 @@ void SaveUnderName::tellOfRelocated(SavePoint& before, const std::vector<bool>& 
 }
 
 bool SaveUnderName::bMakeFiles(SavePoint& before, const std::string& strAVDocPathName) {
-  io_.makeFilesBehind();
+  io_.makeFilesBehind({dataFolderOf(strAVDocPathName), hidden_});
   const bool handedOver = bHandOverAll(before, strAVDocPathName);
   const auto [made, failed] = paintedWait(app_.gMainForm, [&] { return io_.filesMade(); });
   tellOfRelocated(before, made);

@@ -57,6 +57,7 @@ class SaveUnderName {
   ObjectList described_;
   std::vector<MadeFile> made_;
   std::vector<Relocation> relocations_;
+  std::string hidden_;                  // where files of a new data folder are made; "" for none
   std::optional<PlannedSave> planned_;  // until all is done, or taken back
 };
 

@@ -112,7 +112,8 @@ std::string CutOffSave::carryOut(const CopyPlan& plan) {
   const std::string& path = plan.document.path;
   if (!bFolderExists(folderOf(path))) return folderOf(path) + texts_.isNotThere;
   if (isOpen(store_, path)) return path + texts_.isOpen;
-  std::string failure;
+  std::string failure = emptyHidden(plan);
+  if (!failure.empty()) return failure + " (" + path + ")";
   if (!plan.document.bytes.empty()) {
     failure = strStateOf(plan.document, document.state, document.bytes);
   } else if (keptStamp(path) != plan.document.stamp) {
@@ -133,18 +134,36 @@ std::string CutOffSave::carryOut(const CopyPlan& plan) {
   return {};
 }
 
+// Moves a file that was made back to where it came from, or deletes it.
+std::string CutOffSave::takeBack(const std::string& place, const MadeFile& file) {
+  const std::string& from = file.movedFrom;
+  try {
+    if (!from.empty() && !bFileExists(from)) MoveFileTo(place, from);
+  } catch (const RunTimeError& error) {
+    return error.description();
+  }
+  return bFileExists(place) ? deleteFile(place) : std::string();
+}
+
+// What is still in the hidden folder never came to the document.
+std::string CutOffSave::emptyHidden(const CopyPlan& plan) {
+  if (plan.hidden.empty() || !bFolderExists(plan.hidden)) return {};
+  for (const MadeFile& file : plan.made) {
+    const std::string place = plan.hidden + file.path.substr(folderOf(file.path).size());
+    if (!bPlainFileExists(place)) continue;
+    const std::string reason = takeBack(place, file);
+    if (!reason.empty()) return reason;
+  }
+  removeFolderIfEmpty(plan.hidden);
+  return {};
+}
+
 // Backward, since a file may have taken the name that an earlier one left.
 std::string CutOffSave::undo(const CopyPlan& plan) {
   const OwnFiles own(plan.document.path);
   const std::vector<const MadeFile*> made = madeSoFar(plan, own);
   for (auto at = made.rbegin(); at != made.rend(); ++at) {
-    const auto& [path, movedFrom] = **at;
-    try {
-      if (!movedFrom.empty() && !bFileExists(movedFrom)) MoveFileTo(path, movedFrom);
-    } catch (const RunTimeError& error) {
-      return error.description();
-    }
-    std::string reason = bFileExists(path) ? deleteFile(path) : std::string();
+    std::string reason = takeBack((*at)->path, **at);
     if (!reason.empty()) return reason;
   }
   removeFolderIfEmpty(own.folder());

@@ -38,6 +38,8 @@ class CutOffSave {
   std::string writeFiles(const std::vector<FoundFile>& files);
   std::string bringTo(const FoundFile& file);
   void keepAsWork(const std::vector<FoundFile>& files);
+  static std::string takeBack(const std::string& place, const MadeFile& file);
+  static std::string emptyHidden(const CopyPlan& plan);
   std::string undo(const CopyPlan& plan);
   void removeFiles();
 

@@ -74,6 +74,8 @@ struct MadeFile {
 struct CopyPlan {
   PlannedFile document;  // without bytes as long as these are not known
   std::vector<MadeFile> made;
+  /// A folder, with a separator at its end, in which they are until all are there; "" for none.
+  std::string hidden = {};
 };
 
 }  // namespace velra

@@ -27,7 +27,8 @@ constexpr const char* kWorkTables = R"(
 // `blocks` tells what a planned file writes over. Removals are due, or of a save that has not been
 // finished, or not to be due any more when it is (`RemovalRows`). A file that is made has
 // been moved, or comes from nowhere. All removals and all files made of a save stand in one row,
-// each path with a zero byte behind it, and without the folder when it is in that.
+// each path with a zero byte behind it, and without the folder when it is in that. The last path of
+// files made ends in a separator when it is the hidden folder in which they are at first.
 constexpr const char* kPlanTables = R"(
   DROP TABLE IF EXISTS planned;
   DROP TABLE IF EXISTS removal;

@@ -32,14 +32,16 @@ void SavePlans::insert(SessionId session, const std::vector<PlannedFile>& files)
   }
 }
 
-void SavePlans::insert(SessionId session, const std::vector<MadeFile>& made) {
-  if (made.empty()) return;
+void SavePlans::insertMade(SessionId session, const CopyPlan& plan) {
+  if (plan.made.empty()) return;
   PathRow row;
   std::string movedFrom;
-  for (const MadeFile& file : made) {
+  const auto add = [&](const MadeFile& file) {
     row.add(file.path);
     (movedFrom += file.movedFrom) += '\0';
-  }
+  };
+  for (const MadeFile& file : plan.made) add(file);
+  if (!plan.hidden.empty()) add({plan.hidden, {}});
   database_.prepare("INSERT INTO made VALUES(?1, ?2, ?3, ?4)")
       .number(1, session)
       .text(2, row.folder)
@@ -60,7 +62,7 @@ void SavePlans::planCopy(SessionId session, const CopyPlan& plan) {
   Transaction transaction(database_);
   drop(session);
   insert(session, {plan.document});
-  insert(session, plan.made);
+  insertMade(session, plan);
   transaction.commit();
 }
 
@@ -87,7 +89,8 @@ void SavePlans::abandon(SessionId session) {
 
 SavePlans::Open SavePlans::open(SessionId session) {
   SavePlan plan{files(session), RemovalRows(database_).dueThen(session)};
-  CopyPlan copy{{}, made(session)};
+  CopyPlan copy;
+  findMade(session, copy);
   if (!copy.made.empty() && !plan.files.empty()) {
     copy.document = std::move(plan.files.front());
     return copy;
@@ -112,18 +115,19 @@ std::vector<PlannedRemoval> SavePlans::dueRemovals(SessionId session) {
   return RemovalRows(database_).due(session);
 }
 
-std::vector<MadeFile> SavePlans::made(SessionId session) {
-  std::vector<MadeFile> found;
+void SavePlans::findMade(SessionId session, CopyPlan& plan) {
   Statement row =
       database_.prepare("SELECT folder, paths, moved_from FROM made WHERE session = ?1");
   row.number(1, session);
-  if (!row.next()) return found;
+  if (!row.next()) return;
   const std::vector<std::string> paths = PathRow{row.text(0), row.text(1)}.list();
   const std::vector<std::string> movedFrom = split(row.text(2), '\0');
   for (std::size_t i = 0; i < paths.size() && i < movedFrom.size(); ++i) {
-    found.push_back({paths[i], movedFrom[i]});
+    plan.made.push_back({paths[i], movedFrom[i]});
   }
-  return found;
+  if (plan.made.empty() || !plan.made.back().path.ends_with('/')) return;
+  plan.hidden = std::move(plan.made.back().path);
+  plan.made.pop_back();
 }
 
 void SavePlans::removalsDone(SessionId session) {

@@ -43,9 +43,9 @@ class SavePlans {
 
  private:
   void insert(SessionId session, const std::vector<PlannedFile>& files);
-  void insert(SessionId session, const std::vector<MadeFile>& made);
+  void insertMade(SessionId session, const CopyPlan& plan);
   std::vector<PlannedFile> files(SessionId session);
-  std::vector<MadeFile> made(SessionId session);
+  void findMade(SessionId session, CopyPlan& plan);
   void runAll(SessionId session, std::initializer_list<const char*> statements);
 
   Database& database_;

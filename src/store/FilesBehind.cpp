@@ -31,8 +31,9 @@ constexpr std::chrono::milliseconds kBetweenWaits{15};
 
 }  // namespace
 
-FilesBehind::FilesBehind(NewFileNames& names, GuardedFiles& guard, std::function<void()> waits)
-    : names_(names), guard_(guard), waits_(std::move(waits)) {
+FilesBehind::FilesBehind(NewFileNames& names, GuardedFiles& guard, HiddenFolder hidden,
+                         std::function<void()> waits)
+    : names_(names), guard_(guard), hidden_(std::move(hidden)), waits_(std::move(waits)) {
   try {
     for (int i = 0; i < kThreads; ++i) threads_.emplace_back([this] { work(); });
   } catch (const std::system_error&) {
@@ -53,6 +54,7 @@ void FilesBehind::copy(const std::string& from, const std::string& to, std::stri
 }
 
 void FilesBehind::move(const std::string& from, const std::string& to, std::string status) {
+  if (files_.empty()) hidden_.make();
   addNow({Kind::Move, to, from, {}, std::move(status)});
 }
 
@@ -73,6 +75,7 @@ bool FilesBehind::atRest() const {
 }
 
 void FilesBehind::add(File file) {
+  if (files_.empty()) hidden_.make();
   if (threads_.empty()) return addNow(std::move(file));
   Lock lock(mutex_);
   // A copy is two names until it is made.
@@ -115,18 +118,20 @@ void FilesBehind::makeNext(Lock& lock) {
   if (failed_ || atRest() || files_.size() - next_ <= kFewWaiting) done_.notify_one();
 }
 
-void FilesBehind::make(File& file) {
+void FilesBehind::make(File& file) const {
+  const NewFileIs seen = hidden_.bMade() ? NewFileIs::SeenAtOnce : NewFileIs::SeenWhole;
+  const std::string place = hidden_.placeOf(file.to);
   try {
     if (file.kind == Kind::Write) {
       file.print = contentPrint(file.bytes);
-      file.failure = writeNewFile(file.to, std::exchange(file.bytes, {}));
+      file.failure = writeNewFile(place, std::exchange(file.bytes, {}), seen);
     } else if (file.kind == Kind::Move) {
-      MoveFileTo(file.from, file.to);
+      MoveFileTo(file.from, place);
     } else {
-      CopyToNewFile(file.from, file.to);
+      CopyToNewFile(file.from, place, seen);
     }
   } catch (const RunTimeError& error) {
-    file.failure = error.description();
+    file.failure = hidden_.strTold(error.description());
   } catch (const std::exception& error) {
     file.failure = error.what();
   }
@@ -139,7 +144,9 @@ FilesBehind::Failure FilesBehind::failure() {
   done_.wait(lock, [this] { return atRest(); });
   const auto file = std::find_if(files_.begin(), files_.end(),
                                  [](const File& one) { return !one.failure.empty(); });
-  return {file->failure, file->kind == Kind::Write ? file->to : std::string(), file->status};
+  const bool toTell =
+      file->kind == Kind::Write && file->failure.find(file->to) == std::string::npos;
+  return {file->failure, toTell ? file->to : std::string(), file->status};
 }
 
 void FilesBehind::join() {
@@ -153,8 +160,51 @@ void FilesBehind::join() {
   }
 }
 
+// What has failed comes over as well, to be taken back from where it was to be.
+void FilesBehind::bringOver() {
+  if (hidden_.bTakesPlace()) return;
+  for (File& file : files_) {
+    if (file.made) bringOver(file);
+  }
+  takeBackLeft();
+}
+
+// One for which there is no room any more is not made.
+void FilesBehind::bringOver(File& file) {
+  try {
+    MoveFileTo(hidden_.placeOf(file.to), file.to);
+  } catch (const RunTimeError& error) {
+    file.made = false;
+    file.failure = error.description();
+    failed_ = true;
+  }
+}
+
+void FilesBehind::takeBackLeft() {
+  for (const File& file : files_) {
+    if (!file.made) takeBack(file);
+  }
+  hidden_.remove();
+}
+
+// A picture that was moved goes back, now or later.
+void FilesBehind::takeBack(const File& file) const {
+  const std::string place = hidden_.placeOf(file.to);
+  if (!bFileExists(place)) return;
+  if (file.kind != Kind::Move) {
+    deleteFile(place);
+    return;
+  }
+  try {
+    MoveFileTo(place, file.from);
+  } catch (const RunTimeError&) {
+    return;  // the person has been told of the first failure
+  }
+}
+
 FilesBehind::Outcome FilesBehind::finish() {
   join();
+  bringOver();
   Outcome outcome{{}, failure()};
   for (const File& file : files_) outcome.made.push_back(file.made);
   return outcome;

@@ -11,19 +11,21 @@
 #include <thread>
 #include <vector>
 
+#include "store/HiddenFolder.h"
+
 namespace velra {
 
 class GuardedFiles;
 class NewFileNames;
 
 /// Makes new files on threads of its own while the bytes of the next ones are made. After one that
-/// fails none is begun any more. Nothing may lie at the paths to which they come. To be used by the
-/// thread of the document.
+/// fails none is begun any more. Nothing may lie at the paths to which they come. Those of a hidden
+/// folder come there when all are made. To be used by the thread of the document.
 class FilesBehind {
  public:
   /// `waits` is called some ten times in a second while a file cannot be handed over yet.
-  FilesBehind(
-      NewFileNames& names, GuardedFiles& guard, std::function<void()> waits = [] {});
+  FilesBehind(NewFileNames& names, GuardedFiles& guard, HiddenFolder hidden,
+              std::function<void()> waits);
   FilesBehind(const FilesBehind&) = delete;
   FilesBehind& operator=(const FilesBehind&) = delete;
   /// Waits for what was begun.
@@ -39,7 +41,7 @@ class FilesBehind {
   /// What has failed, the first in the order of handing over.
   struct Failure {
     std::string reason;     // "" when nothing has
-    std::string unwritten;  // the path, when it was to be written
+    std::string unwritten;  // the path, when it was to be written and is not in the reason
     std::string status;     // what was handed over with it
   };
   /// Of what has been done so far.
@@ -53,6 +55,10 @@ class FilesBehind {
   Outcome finish();
   /// Tells the names and the guard of those that were made. To be called behind `finish`.
   void note();
+  /// Whether a disk that fails has left some in the hidden folder, which go from there by another
+  /// try.
+  bool bHiddenLeft() const { return hidden_.bMade(); }
+  void takeBackLeft();
 
  private:
   enum class Kind { Write, Copy, Move };
@@ -74,12 +80,16 @@ class FilesBehind {
   void work();
   void makeNext(Lock& lock);
   bool atRest() const;
-  static void make(File& file);
+  void make(File& file) const;
+  void bringOver();
+  void bringOver(File& file);
+  void takeBack(const File& file) const;
   void join();
   void note(const File& file);
 
   NewFileNames& names_;
   GuardedFiles& guard_;
+  HiddenFolder hidden_;  // made with the first file
   std::function<void()> waits_;
   std::mutex mutex_;
   std::condition_variable handed_;  // a file, or the last one

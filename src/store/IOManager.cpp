@@ -35,6 +35,7 @@ IOManager::IOManager(ApplicationModule& app)
     : app_(app), names_(app), scans_(app), expressions_(app, scans_) {}
 
 IOManager::~IOManager() {
+  takeBackLeft();
   // What could not be deleted now is tried again when the document is opened next.
   if (strDeleteAll().empty() && rescue_) rescue_->removalsDone();
   const std::string notes = guard_.strTakeNotes(app_.messages);
@@ -133,14 +134,22 @@ std::string IOManager::strSaveBehind(std::string bytes, const std::string& strGU
   return {};
 }
 
-void IOManager::makeFilesBehind() {
-  behind_ = std::make_unique<FilesBehind>(names_, guard_, [this] {
+void IOManager::makeFilesBehind(HiddenFolder hidden) {
+  takeBackLeft();
+  behind_ = std::make_unique<FilesBehind>(names_, guard_, std::move(hidden), [this] {
     if (app_.gMainForm) app_.gMainForm->workWaits();
   });
 }
 
 void IOManager::noteFilesMade() {
-  std::exchange(behind_, nullptr)->note();
+  behind_->note();
+  if (behind_->bHiddenLeft()) left_.push_back(std::move(behind_));
+  behind_ = nullptr;
+}
+
+void IOManager::takeBackLeft() {
+  for (const auto& files : left_) files->takeBackLeft();
+  std::erase_if(left_, [](const auto& files) { return !files->bHiddenLeft(); });
 }
 
 std::string IOManager::strSentence(const FilesBehind::Failure& failure) const {

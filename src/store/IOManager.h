@@ -74,7 +74,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// From now on files come under promised names by threads of their own, so that what fails is
   /// told by a later strSave or by `filesMade`, which waits for all of them. What came is known
   /// here behind `noteFilesMade`, which touches nothing that a flush does. To be called in turn.
-  void makeFilesBehind();
+  void makeFilesBehind(HiddenFolder hidden);
   FilesBehind::Outcome filesMade() { return behind_->finish(); }
   void noteFilesMade();
   /// The sentence for a person; "" for no failure.
@@ -137,6 +137,7 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   std::string strDeleteRemoved(const std::string& strGUID);
   std::string strSaveBehind(std::string bytes, const std::string& strGUID);
   std::string strStatus() const;
+  void takeBackLeft();
 
   ApplicationModule& app_;
   bool bFileSystem_ = true;
@@ -145,7 +146,8 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   RemovedFiles removed_;
   PlannedRemovals planned_;
   GuardedFiles guard_;
-  std::unique_ptr<FilesBehind> behind_;  // null when files are made at once
+  std::unique_ptr<FilesBehind> behind_;             // null when files are made at once
+  std::vector<std::unique_ptr<FilesBehind>> left_;  // those that could not take all back
   FolderScans scans_;
   ExpressionFinder expressions_;
   std::string leftOut_;

@@ -150,8 +150,13 @@ std::string FaultRun::found() {
   return all + UserSettings(at_.settingsPath).read("Window", "Place", "");
 }
 
+bool isHidden(const std::string& name) {
+  return name.starts_with('.');
+}
+
 // When a failure was told, each file is as it was or as it was to be. Where no call works any more,
-// a shorter content keeps line ends behind its root, and what was to replace a file lies beside it.
+// a shorter content keeps line ends behind its root, and what was to replace a file, or to come
+// into a new folder, lies beside it.
 void FaultRun::checkFiles() {
   const auto holds = [](const Files& files, const auto& file) {
     const auto at = files.find(file.first);
@@ -159,6 +164,7 @@ void FaultRun::checkFiles() {
   };
   for (const auto& file : at_.session.folder.snapshot()) {
     if (file.first.starts_with("state/") || file.first.ends_with(".new")) continue;
+    if (isHidden(file.first)) continue;
     if (holds(at_.filesAtFirst(), file)) continue;
     if (!holds(filesAfter_, file)) report_->complain(file.first + " is neither old nor new");
   }
@@ -191,6 +197,9 @@ bool FaultRun::passed(const Fault& fault) {
   report_->trouble[0] = '\0';
   const bool lives = Experiment::ended(at_.start(*report_, [&] { perform(fault); }));
   const std::string now = found();
+  for (const auto& file : at_.session.folder.snapshot()) {
+    if (isHidden(file.first)) report_->complain(file.first + " is left");
+  }
   const bool sound = now == new_ || (!lives && now == old_) || (work_.inParts && isPart(now, new_));
   if (sound && report_->trouble[0] == '\0') return true;
   std::printf("%s, %s\n  %s\n", work_.name, nameOf(fault).c_str(), report_->trouble);

@@ -111,8 +111,12 @@ TEST(SaveAs, GivesTheWholeLayoutAndLeavesTheOldFilesAlone) {
   ASSERT_EQ(session.open(session.files.documentPath()), "");
   const auto before = session.folder.snapshot();
   const std::string target = session.folder / "other place/copy.xml";
-  fs::create_directory(session.folder / "other place");
+  // What somebody gave to a folder that he has made stays.
+  const std::string folder = session.folder / "other place/copy_files";
+  fs::create_directories(folder);
+  fs::permissions(folder, fs::perms::owner_all);
   EXPECT_TRUE(session.document()->bSaveAs(target));
+  EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
   session.close();
   auto after = session.folder.snapshot();
   std::vector<std::string> made;

@@ -169,6 +169,32 @@ TEST_F(InterruptedSave, OneUnderAnotherNameIsUndoneUntilItsDocumentIsTouched) {
   }
 }
 
+TEST_F(InterruptedSave, WhatIsStillInTheHiddenFolderOfACopyGoesBackWhateverTheDocumentIs) {
+  put("film_files/film_mediaobject1.bmp", "new");
+  const auto before = files();
+  const std::string hidden = folder_ / ".copy_files.1/";
+  const std::string data = folder_ / "copy_files/copy_";
+  for (const bool written : {false, true}) {
+    const SessionId session = store_.begin(document_, process());
+    store_.plans().planCopy(
+        session, {planned("copy.xml", "", ""),
+                  {{data + "mediaobject1.bmp", folder_ / "film_files/film_mediaobject1.bmp"},
+                   {data + "mediaobject2.bmp", {}},
+                   {data + "mediaobject3.bmp", {}}},
+                  hidden});
+    std::filesystem::create_directory(hidden);
+    rename("film_files/film_mediaobject1.bmp", ".copy_files.1/copy_mediaobject1.bmp");
+    put(".copy_files.1/copy_mediaobject2.bmp", "half");
+    if (written) put("copy.xml", "<theirs/>");
+    finishInterruptedSaves(store_, document_);
+    auto expected = before;
+    if (written) expected["copy.xml"] = "<theirs/>";
+    EXPECT_EQ(files(), expected);
+    put("copy.xml", "");
+    EXPECT_FALSE(std::filesystem::exists(hidden));
+  }
+}
+
 TEST_F(InterruptedSave, OnlyTheDocumentsOwnFilesAreRemovedAndOnlyAsTheyWere) {
   const std::string foreign = folder_.write("other_files/other_media1.xml", "x");
   const std::vector<std::string> stay = {

@@ -71,11 +71,12 @@ TEST_F(RescueStoreTest, ASaveEmptiesWhatItSavedAndAFailedOneDoesNot) {
   EXPECT_EQ(plans.open(session).index(), 0U);
   EXPECT_EQ(keptWork(store_, "").size(), 1U);
 
-  plans.planCopy(session, {{"copy", kBytes, {}, {}}, {{"/d/made", "/from"}, {"/e/made", ""}}});
+  plans.planCopy(session,
+                 {{"copy", kBytes, {}, {}}, {{"/d/made", "/from"}, {"/e/made", ""}}, "/d/h/"});
   const auto copy = std::get<CopyPlan>(plans.open(session));
   EXPECT_EQ(copy.document.path + copy.made.at(0).path + copy.made.at(0).movedFrom,
             "copy/d/made/from");
-  EXPECT_EQ(copy.made.at(1).path + copy.made.at(1).movedFrom, "/e/made");
+  EXPECT_EQ(copy.made.back().path + copy.made.back().movedFrom + copy.hidden, "/e/made/d/h/");
   plans.planSave(session, plan);
   EXPECT_EQ(open().files.size(), 1U) << "one whose end was not written is out of date";
   EXPECT_EQ(open().files[0].bytes + open().files[0].blocks, kBytes + "blocks");

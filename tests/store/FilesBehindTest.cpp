@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,7 +31,7 @@ TEST_F(FilesBehindTest, AfterAFailureTheOthersAreStillPromisedAndAForeignFileSta
   const std::string foreign = session_.folder.write("new100", "foreign");
   std::vector<std::string> names;
   for (int i = 0; i < 300; ++i) names.push_back(promised(i));
-  io_->makeFilesBehind();
+  io_->makeFilesBehind({});
   for (const std::string& name : names) io_->CopyObject(picture, name);
   const auto [made, failed] = io_->filesMade();
   io_->noteFilesMade();
@@ -48,7 +49,7 @@ TEST_F(FilesBehindTest, AfterAFailureTheOthersAreStillPromisedAndAForeignFileSta
 TEST_F(FilesBehindTest, APathThatIsMovedFromCanBeTheNextOnesToComeTo) {
   const std::string picture = session_.folder.write("picture", "copied");
   std::string from = session_.folder.write("new0", "moved");
-  io_->makeFilesBehind();
+  io_->makeFilesBehind({});
   for (int i = 1; i <= 50; ++i) {
     const std::string to = promised(i);
     io_->MoveObject(from, to);
@@ -58,6 +59,40 @@ TEST_F(FilesBehindTest, APathThatIsMovedFromCanBeTheNextOnesToComeTo) {
   }
   EXPECT_EQ(io_->filesMade().failure.reason, "");
   EXPECT_EQ(session_.folder.read("new49") + session_.folder.read("new50"), "copiedmoved");
+}
+
+TEST_F(FilesBehindTest, AHiddenFolderTakesThePlaceOfTheNewOneOrIsBroughtOverFileByFile) {
+  const std::string data = session_.folder / "new_files/";
+  const std::string picture = session_.folder.write("picture", "copied");
+  const std::string moved = session_.folder.write("moved", "moved");
+  const std::string toMove = data + "moved";
+  for (const std::string foreign : {"", "other", "copied", "moved"}) {
+    SCOPED_TRACE(foreign);
+    std::filesystem::create_directory(data);
+    const auto before = session_.folder.snapshot();
+    const std::string hidden = HiddenFolder::pathBeside(data);
+    for (const std::string& path : {data + "copied", toMove}) io_->names().promise(path);
+    io_->makeFilesBehind({data, hidden});
+    io_->CopyObject(picture, data + "copied");
+    io_->MoveObject(moved, toMove);
+    EXPECT_EQ(session_.folder.read("new_files/moved"), "") << "seen before all are there";
+    if (!foreign.empty()) session_.folder.write("new_files/" + foreign, "foreign");
+    const auto [made, failed] = io_->filesMade();
+    io_->noteFilesMade();
+
+    EXPECT_FALSE(bFolderExists(hidden));
+    const bool inTheWay = foreign == "copied" || foreign == "moved";
+    EXPECT_EQ(made, (std::vector<bool>{foreign != "copied", foreign != "moved"}));
+    EXPECT_EQ(failed.reason.find(data + foreign) != std::string::npos, inTheWay);
+    auto expected = before;
+    expected["new_files/copied"] = "copied";
+    expected["new_files/moved"] = "moved";
+    if (foreign != "moved") expected.erase("moved");
+    if (!foreign.empty()) expected["new_files/" + foreign] = "foreign";
+    EXPECT_EQ(session_.folder.snapshot(), expected);
+    if (foreign != "moved") std::filesystem::rename(toMove, moved);
+    std::filesystem::remove_all(data);
+  }
 }
 
 }  // namespace

@@ -122,9 +122,9 @@ void CopyFileTo(const std::string& source, const std::string& destination) {
   if (error) raiseFor(error, destination);
 }
 
-void CopyToNewFile(const std::string& source, const std::string& destination) {
+void CopyToNewFile(const std::string& source, const std::string& destination, NewFileIs seen) {
   checkSource(source);
-  const int error = writeNew(destination, bytesToCopy(source));
+  const int error = writeNew(destination, bytesToCopy(source), seen);
   if (error) raiseFor(error, destination);
 }
 

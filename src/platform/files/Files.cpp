@@ -159,8 +159,8 @@ std::string writeFileInPlace(const std::string& path, std::string_view bytes) {
   return error ? systemReason(error) : std::string();
 }
 
-std::string writeNewFile(const std::string& path, std::string_view bytes) {
-  const int error = writeNew(path, bytes);
+std::string writeNewFile(const std::string& path, std::string_view bytes, NewFileIs seen) {
+  const int error = writeNew(path, bytes, seen);
   return error ? systemReason(error) : std::string();
 }
 

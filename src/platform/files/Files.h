@@ -55,9 +55,14 @@ FileBytes readStart(const std::string& path, std::uint64_t most);
 /// the disk at the next syncFolder or syncFile. A file that is made appears when it is whole.
 std::string writeFileInPlace(const std::string& path, std::string_view bytes);
 
+/// When others see a new file: when it is whole, or as soon as it is begun, which costs half and is
+/// for a folder that nobody looks into.
+enum class NewFileIs { SeenWhole, SeenAtOnce };
+
 /// Makes a file that is not there yet and refuses one that is, whoever made it; a file that cannot
 /// be written whole is removed again. The failure's description, "" on success.
-std::string writeNewFile(const std::string& path, std::string_view bytes);
+std::string writeNewFile(const std::string& path, std::string_view bytes,
+                         NewFileIs seen = NewFileIs::SeenWhole);
 
 /// Asks the system to bring what was written to the disk; the failure's description or "".
 std::string syncFile(const std::string& path);

@@ -83,7 +83,6 @@ int replaceContent(const FileHandle& file, std::string_view bytes) {
 
 constexpr int kOpening = O_RDWR | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 
-/// For where files without a name cannot be made.
 int createAndWrite(const std::string& path, std::string_view bytes) {
   FileHandle file(::open(path.c_str(), kOpening | O_CREAT | O_EXCL, 0666));
   if (!file) return errno;
@@ -100,16 +99,17 @@ int createAndWrite(const std::string& path, std::string_view bytes) {
 int writeInPlace(const std::string& path, std::string_view bytes) {
   ignoreSizeSignal();
   FileHandle file(::open(path.c_str(), kOpening));
-  if (!file) return errno == ENOENT ? writeNew(path, bytes) : errno;
+  if (!file) return errno == ENOENT ? writeNew(path, bytes, NewFileIs::SeenWhole) : errno;
   const int error = replaceContent(file, bytes);
   const int closeError = file.close();
   return error ? error : closeError;
 }
 
-// The file appears when it is whole, so that neither a program that dies nor a disk that fails
-// leaves a part of it.
-int writeNew(const std::string& path, std::string_view bytes) {
+// A file that appears when it is whole is one without a name at first, so that neither a program
+// that dies nor a disk that fails leaves a part of it. Not every file system can make one.
+int writeNew(const std::string& path, std::string_view bytes, NewFileIs seen) {
   ignoreSizeSignal();
+  if (seen == NewFileIs::SeenAtOnce) return createAndWrite(path, bytes);
   FileHandle file(::open(folderOf(path).c_str(), O_RDWR | O_CLOEXEC | O_TMPFILE, 0666));
   const bool unknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
   if (!file) return unknown ? createAndWrite(path, bytes) : errno;
