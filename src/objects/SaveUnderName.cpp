@@ -24,6 +24,13 @@
 
 namespace velra {
 
+namespace {
+
+// Fewer pictures reach the disk with all else in no longer time.
+constexpr std::size_t kWorthTheDisk = 1000;
+
+}  // namespace
+
 SaveUnderName::SaveUnderName(ApplicationModule& app, AVDocument& document)
     : app_(app), document_(document), objects_(document.collObjects()), io_(*document.io()) {}
 
@@ -105,8 +112,8 @@ bool SaveUnderName::bFolderMade(const std::string& strAVDocPathName) {
   return message.empty();
 }
 
-// Pictures are a third of the files, and have numbers of their own. They are copied while the
-// objects get their names.
+// Pictures are a third of the files, and have numbers of their own. They are copied, and brought to
+// the disk, while the objects get their names.
 void SaveUnderName::handOverPictures(SavePoint& before, const std::string& strAVDocPathName) {
   for (const ObjectRef& object : described_) {
     if (app_.gMainForm) app_.gMainForm->workWaits();
@@ -118,6 +125,7 @@ void SaveUnderName::handOverPictures(SavePoint& before, const std::string& strAV
     video->UpdateLocationKeyFrameObject(from, to);
     if (app_.gMainForm) app_.gMainForm->workWaits();
   }
+  if (relocations_.size() >= kWorthTheDisk) io_.bringToDiskBehind(dataFolderOf(strAVDocPathName));
 }
 
 void SaveUnderName::renameObjects(SavePoint& before, const std::string& strAVDocPathName) {

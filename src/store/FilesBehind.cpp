@@ -58,6 +58,10 @@ void FilesBehind::move(const std::string& from, const std::string& to, std::stri
   addNow({Kind::Move, to, from, {}, std::move(status)});
 }
 
+void FilesBehind::bringToDisk(const std::string& folder, std::string status) {
+  add({Kind::ToDisk, folder, {}, {}, std::move(status)});
+}
+
 void FilesBehind::addNow(File file) {
   Lock lock(mutex_);
   wanted_ = files_.size();
@@ -127,8 +131,10 @@ void FilesBehind::make(File& file) const {
       file.failure = writeNewFile(place, std::exchange(file.bytes, {}), seen);
     } else if (file.kind == Kind::Move) {
       MoveFileTo(file.from, place);
-    } else {
+    } else if (file.kind == Kind::Copy) {
       CopyToNewFile(file.from, place, seen);
+    } else {
+      file.failure = syncFolder(file.to);
     }
   } catch (const RunTimeError& error) {
     file.failure = hidden_.strTold(error.description());
@@ -164,7 +170,7 @@ void FilesBehind::join() {
 void FilesBehind::bringOver() {
   if (hidden_.bTakesPlace()) return;
   for (File& file : files_) {
-    if (file.made) bringOver(file);
+    if (file.made && file.kind != Kind::ToDisk) bringOver(file);
   }
   takeBackLeft();
 }
@@ -182,7 +188,7 @@ void FilesBehind::bringOver(File& file) {
 
 void FilesBehind::takeBackLeft() {
   for (const File& file : files_) {
-    if (!file.made) takeBack(file);
+    if (!file.made && file.kind != Kind::ToDisk) takeBack(file);
   }
   hidden_.remove();
 }
@@ -212,7 +218,7 @@ FilesBehind::Outcome FilesBehind::finish() {
 
 void FilesBehind::note() {
   for (const File& file : files_) {
-    if (file.made) note(file);
+    if (file.made && file.kind != Kind::ToDisk) note(file);
   }
 }
 

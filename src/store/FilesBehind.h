@@ -37,6 +37,8 @@ class FilesBehind {
   void write(const std::string& guid, std::string bytes, std::string status);
   void copy(const std::string& from, const std::string& to, std::string status);
   void move(const std::string& from, const std::string& to, std::string status);
+  /// Has what was handed over brought to the disk of a folder, beside what comes next.
+  void bringToDisk(const std::string& folder, std::string status);
 
   /// What has failed, the first in the order of handing over.
   struct Failure {
@@ -48,7 +50,7 @@ class FilesBehind {
   Failure failure();
 
   struct Outcome {
-    std::vector<bool> made;  // of each that was handed over
+    std::vector<bool> made;  // of each that was handed over, what is brought to the disk among them
     Failure failure;
   };
   /// Waits for all.
@@ -61,7 +63,7 @@ class FilesBehind {
   void takeBackLeft();
 
  private:
-  enum class Kind { Write, Copy, Move };
+  enum class Kind { Write, Copy, Move, ToDisk };
   struct File {
     Kind kind;
     std::string to;

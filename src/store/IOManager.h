@@ -75,6 +75,8 @@ class IOManager : public ObjectFiles, public std::enable_shared_from_this<IOMana
   /// told by a later strSave or by `filesMade`, which waits for all of them. What came is known
   /// here behind `noteFilesMade`, which touches nothing that a flush does. To be called in turn.
   void makeFilesBehind(HiddenFolder hidden);
+  /// Has what was made so far brought to the disk of a folder meanwhile.
+  void bringToDiskBehind(const std::string& folder) { behind_->bringToDisk(folder, strStatus()); }
   FilesBehind::Outcome filesMade() { return behind_->finish(); }
   void noteFilesMade();
   /// The sentence for a person; "" for no failure.
