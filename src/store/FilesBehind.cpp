@@ -19,7 +19,9 @@ namespace velra {
 
 namespace {
 
-constexpr int kThreads = 2;
+// On a disk of this machine one thread makes the files of a folder sooner than two, which wait for
+// each other at the folder.
+constexpr std::size_t kMostThreads = 4;
 // So many at most, to stay small; the thread of the document then waits until there are few, since
 // to be woken for each single one would cost more than the file.
 constexpr std::size_t kMostWaiting = 64;
@@ -34,10 +36,14 @@ constexpr std::chrono::milliseconds kBetweenWaits{15};
 FilesBehind::FilesBehind(NewFileNames& names, GuardedFiles& guard, HiddenFolder hidden,
                          std::function<void()> waits)
     : names_(names), guard_(guard), hidden_(std::move(hidden)), waits_(std::move(waits)) {
+  startThread();
+}
+
+void FilesBehind::startThread() {
   try {
-    for (int i = 0; i < kThreads; ++i) threads_.emplace_back([this] { work(); });
+    if (threads_.size() < kMostThreads) threads_.emplace_back([this] { work(); });
   } catch (const std::system_error&) {
-    // Where the system refuses threads one does, or the files are made at once.
+    // Where the system refuses threads those that are there do, or the files are made at once.
   }
 }
 
@@ -96,7 +102,9 @@ void FilesBehind::add(File file) {
 void FilesBehind::waitForRoom(Lock& lock) {
   const auto hasRoom = [this] { return files_.size() - next_ <= kFewWaiting || failed_; };
   while (!done_.wait_for(lock, kBetweenWaits, hasRoom)) {
+    const bool slowFolder = !toDisk_;
     lock.unlock();
+    if (slowFolder) startThread();
     waits_();
     lock.lock();
   }
@@ -114,10 +122,12 @@ void FilesBehind::work() {
 void FilesBehind::makeNext(Lock& lock) {
   File& file = files_[next_++];  // a deque leaves it in its place
   ++busy_;
+  if (file.kind == Kind::ToDisk) toDisk_ = true;
   lock.unlock();
   make(file);
   lock.lock();
   --busy_;
+  if (file.kind == Kind::ToDisk) toDisk_ = false;
   failed_ = failed_ || !file.made;
   if (failed_ || atRest() || files_.size() - next_ <= kFewWaiting) done_.notify_one();
 }

@@ -18,9 +18,10 @@ namespace velra {
 class GuardedFiles;
 class NewFileNames;
 
-/// Makes new files on threads of its own while the bytes of the next ones are made. After one that
-/// fails none is begun any more. Nothing may lie at the paths to which they come. Those of a hidden
-/// folder come there when all are made. To be used by the thread of the document.
+/// Makes new files on a thread of its own while the bytes of the next ones are made, and on more of
+/// them where each file takes long, as on a shelf behind a network. After one that fails none is
+/// begun any more. Nothing may lie at the paths to which they come. Those of a hidden folder come
+/// there when all are made. To be used by the thread of the document.
 class FilesBehind {
  public:
   /// `waits` is called some ten times in a second while a file cannot be handed over yet.
@@ -79,6 +80,7 @@ class FilesBehind {
   void add(File file);
   void addNow(File file);
   void waitForRoom(Lock& lock);
+  void startThread();
   void work();
   void makeNext(Lock& lock);
   bool atRest() const;
@@ -100,6 +102,7 @@ class FilesBehind {
   std::size_t next_ = 0;            // which is to be begun
   std::size_t wanted_ = 0;          // for so many of them the threads are woken
   int busy_ = 0;                    // threads with a file
+  bool toDisk_ = false;             // one of them waits for the disk
   bool complete_ = false;           // no more will be handed over
   bool failed_ = false;
   std::vector<std::thread> threads_;  // last: they use the others
