@@ -18,10 +18,16 @@ constexpr std::chrono::milliseconds kFirstLimit{80};
 constexpr int kVainPackets = 100;
 constexpr int kVainKeys = 3;
 
-// Each one works at a picture of its own, which takes its memory and is waited for after a seek.
-// There is one more than cores, since each waits at times for the rows of another.
 constexpr int kFewestThreads = 2;
 constexpr int kMostThreads = 8;
+
+// Where each one works at a picture of its own, which takes its memory and is waited for after a
+// seek, there is one more than cores, since each waits at times for the rows of another. Where all
+// work at one picture, each at as many rows, one more would begin when the others have ended.
+int threadsOf(const AVCodec& decoder) {
+  const bool ownPictures = (decoder.capabilities & AV_CODEC_CAP_FRAME_THREADS) != 0;
+  return std::clamp(av_cpu_count() + (ownPictures ? 1 : 0), kFewestThreads, kMostThreads);
+}
 
 }  // namespace
 
@@ -32,7 +38,7 @@ std::string TrackDecoder::open(const AVStream& stream) {
   packet_.reset(av_packet_alloc());
   avcodec_parameters_to_context(codec_.get(), stream.codecpar);
   codec_->pkt_timebase = stream.time_base;
-  codec_->thread_count = std::clamp(av_cpu_count() + 1, kFewestThreads, kMostThreads);
+  codec_->thread_count = threadsOf(*decoder);
   codec_->max_pixels = MovieFile::kMostPixels;
   draining_ = false;
   if (avcodec_open2(codec_.get(), decoder, nullptr) < 0) return "The decoder refuses it.";
