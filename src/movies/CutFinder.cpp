@@ -45,7 +45,9 @@ class CutFinder {
     for (std::size_t i = 0; i < starts_.size(); ++i) {
       const double end = i + 1 < starts_.size() ? starts_[i + 1].time : end_;
       auto picture = converter_.convert(*starts_[i].small);
-      if (picture) shots.push_back({starts_[i].time, end, std::move(picture)});
+      if (!picture) continue;
+      shots.push_back(
+          {static_cast<int>(shots.size()) + 1, starts_[i].time, end, std::move(picture)});
     }
     return shots;
   }

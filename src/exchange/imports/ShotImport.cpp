@@ -33,7 +33,7 @@ Proposal proposalOf(const std::vector<FoundShot>& shots) {
   int number = 0;
   for (const FoundShot& shot : shots) {
     ++number;
-    proposal.segments.push_back({number,
+    proposal.segments.push_back({shot.number,
                                  inWholeMilliseconds(shot.start),
                                  inWholeMilliseconds(shot.end),
                                  "Shot " + std::to_string(number),

@@ -21,7 +21,8 @@ struct ShotTask {
 /// Raises ExchangeFailure when that is not there, or has no movie.
 ShotTask shotTask(AVDocument& document, const ImportOptions& options);
 
-/// Shots as segments "Shot 1", "Shot 2" ...
+/// Shots, of all that were found or some of them, as segments "Shot 1", "Shot 2" ... What is told
+/// of one names its row in the list of all.
 Proposal proposalOf(const std::vector<FoundShot>& shots);
 
 }  // namespace velra

@@ -25,6 +25,7 @@ struct ShotSearch {
 
 /// What lies between two cuts, in seconds.
 struct FoundShot {
+  int number = 0;  // among all that were found, from 1
   double start = 0;
   double end = 0;
   std::shared_ptr<const PictureFrame> picture;  // its first one, small; never null
