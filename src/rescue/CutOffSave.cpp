@@ -151,7 +151,7 @@ std::string CutOffSave::emptyHidden(const CopyPlan& plan) {
   for (const MadeFile& file : plan.made) {
     const std::string place = plan.hidden + file.path.substr(folderOf(file.path).size());
     if (!bPlainFileExists(place)) continue;
-    const std::string reason = takeBack(place, file);
+    std::string reason = takeBack(place, file);
     if (!reason.empty()) return reason;
   }
   removeFolderIfEmpty(plan.hidden);
