@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QDesktopServices>
 #include <QMenu>
@@ -213,6 +214,26 @@ TEST_F(MainFormWindowTest, ASplashThatComesLateGoesAllTheSame) {
     timer->setInterval(0);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return window.findChild<QWidget*>(QStringLiteral("frmSplash")) == nullptr; }));
+  }
+}
+
+TEST_F(MainFormWindowTest, TheFirstPaintingOfAWorkTakesOffTheTreesWhatADialogHasLeft) {
+  struct PaintCount : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+      if (event->type() == QEvent::Paint) ++count;
+      return false;
+    }
+  } paintings;
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  QCoreApplication::processEvents();
+  window.findChild<QAbstractItemView*>()->viewport()->installEventFilter(&paintings);
+  window.showProgress(0, 10);
+  for (const std::size_t done : {1U, 2U}) {
+    QTest::qSleep(60);
+    window.showProgress(done, 10);
+    EXPECT_EQ(paintings.count, 1) << "they do not change meanwhile";
   }
 }
 

@@ -2,6 +2,7 @@
 #include "widgets/progress/WorkBar.h"
 
 #include <QLayout>
+#include <utility>
 
 #include "widgets/Texts.h"
 
@@ -40,6 +41,7 @@ void WorkBar::follow(std::size_t done, std::size_t total) {
     sinceDrawn_.start();
     untilDrawn_ = kOuterRepaintMilliseconds;
     setValue(0);
+    allToDraw_ = true;
   }
   if (sinceDrawn_.elapsed() < untilDrawn_) return;
   // Work that follows on other work does not begin anew for the eye.
@@ -56,7 +58,12 @@ void WorkBar::end() {
   hiding_.start(0);
 }
 
+// The toolkit leaves out what covers its place wholly, as the trees do, unless it is told. What a
+// dialog has left on them goes with the first painting; they do not change while work lasts.
 void WorkBar::paintWindow() {
+  if (std::exchange(allToDraw_, false)) {
+    for (QWidget* part : window()->findChildren<QWidget*>()) part->update();
+  }
   window()->repaint();
   sinceDrawn_.start();
   untilDrawn_ = kRepaintMilliseconds;

@@ -27,6 +27,7 @@ class WorkBar : public QProgressBar {
   QElapsedTimer sinceBegun_;
   QElapsedTimer sinceDrawn_;
   int untilDrawn_ = 0;  // milliseconds, from then to the next painting
+  bool allToDraw_ = false;
 };
 
 }  // namespace velra
